@@ -1,0 +1,12 @@
+# The package "axm": find_package(axm) brings axm::co, axm::ut, axm::ap, axm::axm and, where built, axm::axs.
+
+include(CMakePackageConfigHelpers)
+
+set(axm_package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/axm)
+
+configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/axmConfig.cmake.in ${PROJECT_BINARY_DIR}/axmConfig.cmake
+  INSTALL_DESTINATION ${axm_package_folder})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/axmConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/axmConfig.cmake ${PROJECT_BINARY_DIR}/axmConfigVersion.cmake
+  DESTINATION ${axm_package_folder})
+install(EXPORT axmTargets NAMESPACE axm:: DESTINATION ${axm_package_folder})

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <CLI/App.hpp>
+
+/// The exit codes of the command.
+enum ExitCode : int
+{
+  exit_good = 0,
+  exit_bad_input = 1,
+  exit_usage = 2
+};
+
+/// A verb of the command: what adds itself to the command line as a subcommand whose callback does the work and stores
+/// its exit code in `exit_code`. One file a verb.
+using Verb = void (*)(CLI::App& app, int& exit_code);

@@ -1,0 +1,3 @@
+#include <charcoDynArr.h>
+
+template class coDynArr<char>;

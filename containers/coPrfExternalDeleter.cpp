@@ -1,0 +1,3 @@
+#include <coPrfExternalDeleter.h>
+
+void coPrfExternalDeleter::operator()(void const*) const noexcept {}

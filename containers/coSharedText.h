@@ -1,0 +1,105 @@
+#pragma once
+
+#include <atomic>
+#include <climits>
+#include <cstddef>
+#include <cstdlib>
+#include <cstring>
+#include <new>
+#include <utility>
+
+/// The storage of a text: characters with a length, closed by a NUL that does not count, or nothing at all.
+///
+/// Copies share one block of memory, which goes with the last of them. The count is atomic, so copies may be made, used
+/// and dropped by several threads, while one and the same object belongs to one thread at a time. The characters are
+/// written once, before the first copy is made. Running out of memory is std::bad_alloc.
+template <class C>
+class coSharedText
+{
+public:
+  /// No storage.
+  coSharedText() noexcept = default;
+
+  /// Room for `length` characters (0 or more) that the caller writes through writable().
+  explicit coSharedText(int length) : block(Block::make(length)) {}
+
+  /// A copy of the `length` characters (0 or more) at `text`.
+  coSharedText(C const* text, int length) : coSharedText(length)
+  {
+    std::memcpy(block->text(), text, static_cast<std::size_t>(length) * sizeof(C));
+  }
+
+  coSharedText(coSharedText const& other) noexcept : block(other.block) { keep(block); }
+  coSharedText(coSharedText&& other) noexcept : block(std::exchange(other.block, nullptr)) {}
+
+  coSharedText& operator=(coSharedText const& other) noexcept
+  {
+    keep(other.block);
+    drop(std::exchange(block, other.block));
+    return *this;
+  }
+
+  coSharedText& operator=(coSharedText&& other) noexcept
+  {
+    if (this != &other)
+      drop(std::exchange(block, std::exchange(other.block, nullptr)));
+    return *this;
+  }
+
+  ~coSharedText() { drop(block); }
+
+  bool has_storage() const noexcept { return block != nullptr; }
+
+  int length() const noexcept { return block == nullptr ? 0 : block->length; }
+
+  /// The characters and the closing NUL; never null.
+  C const* data() const noexcept
+  {
+    static C const nothing{};
+    return block == nullptr ? &nothing : block->text();
+  }
+
+  /// The characters, to be written before the first copy is made.
+  C* writable() noexcept { return block->text(); }
+
+  /// The length of a text of `characters`; throws std::bad_alloc where that is more than a length can say.
+  static int checked_length(std::size_t characters)
+  {
+    if (characters > static_cast<std::size_t>(INT_MAX) / sizeof(C) - sizeof(Block))
+      throw std::bad_alloc();
+    return static_cast<int>(characters);
+  }
+
+private:
+  struct Block
+  {
+    std::atomic<int> owners;
+    int length;
+
+    C* text() noexcept { return reinterpret_cast<C*>(this + 1); }
+
+    static Block* make(int length)
+    {
+      void* const memory = std::malloc(sizeof(Block) + (static_cast<std::size_t>(length) + 1) * sizeof(C));
+      if (memory == nullptr)
+        throw std::bad_alloc();
+      Block* const made = new (memory) Block{{1}, length};
+      made->text()[length] = C();
+      return made;
+    }
+  };
+
+  static void keep(Block* block) noexcept
+  {
+    if (block != nullptr)
+      block->owners.fetch_add(1, std::memory_order_relaxed);
+  }
+
+  static void drop(Block* block) noexcept
+  {
+    if (block != nullptr && block->owners.fetch_sub(1, std::memory_order_acq_rel) == 1)
+      std::free(block);
+  }
+
+  Block* block = nullptr;
+};

@@ -1,0 +1,3 @@
+#include <utAnycoPageArrINTERNALcoDynArr.h>
+
+template class coDynArr<void*>;

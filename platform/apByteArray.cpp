@@ -1,0 +1,59 @@
+#include <apByteArray.h>
+
+apByteArray::apByteArray() noexcept = default;
+apByteArray::apByteArray(apByteArray const&) = default;
+apByteArray::apByteArray(apByteArray&&) noexcept = default;
+apByteArray& apByteArray::operator=(apByteArray const&) = default;
+apByteArray& apByteArray::operator=(apByteArray&&) noexcept = default;
+apByteArray::~apByteArray() = default;
+
+apByteArray::apByteArray(void const* bytes, std::size_t size)
+  : contents(static_cast<char const*>(bytes), static_cast<char const*>(bytes) + size)
+{
+}
+
+char const* apByteArray::data() const noexcept
+{
+  return contents.data();
+}
+
+char* apByteArray::data() noexcept
+{
+  return contents.data();
+}
+
+std::size_t apByteArray::size() const noexcept
+{
+  return contents.size();
+}
+
+bool apByteArray::empty() const noexcept
+{
+  return contents.empty();
+}
+
+void apByteArray::resize(std::size_t size)
+{
+  contents.resize(size);
+}
+
+void apByteArray::append(void const* bytes, std::size_t size)
+{
+  auto const* const first = static_cast<char const*>(bytes);
+  contents.insert(contents.end(), first, first + size);
+}
+
+void apByteArray::clear() noexcept
+{
+  std::vector<char>().swap(contents);
+}
+
+bool apByteArray::operator==(apByteArray const& other) const noexcept
+{
+  return contents == other.contents;
+}
+
+bool apByteArray::operator!=(apByteArray const& other) const noexcept
+{
+  return !(*this == other);
+}

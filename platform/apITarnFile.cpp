@@ -1,0 +1,4 @@
+#include <apITarnFile.h>
+
+apITarnFile::apITarnFile() = default;
+apITarnFile::~apITarnFile() = default;

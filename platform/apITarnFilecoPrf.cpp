@@ -1,0 +1,3 @@
+#include <apITarnFilecoPrf.h>
+
+template class coPrf<apITarnFile>;

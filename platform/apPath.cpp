@@ -1,0 +1,63 @@
+#include <apPath.h>
+
+#include "apNativeFile.h"
+
+apPath::apPath() noexcept = default;
+
+apPath::apPath(char const* utf8) : name(utf8) {}
+
+apPath::apPath(utString const& utf8) : name(utf8) {}
+
+apPath::apPath(wchar_t const* wide) : apPath(apString(wide)) {}
+
+apPath::apPath(apString const& wide) : name(wide.to_utf8()) {}
+
+utString apPath::path() const noexcept
+{
+  return name;
+}
+
+bool apPath::empty() const noexcept
+{
+  return name.length() == 0;
+}
+
+bool apPath::exists() const
+{
+  return apNativeFile::exists(name);
+}
+
+bool apPath::delete_file() const
+{
+  return apNativeFile::remove(name) || !exists();
+}
+
+std::FILE* apPath::file_open(char const* mode) const
+{
+  return apNativeFile::open(name, mode);
+}
+
+char const* apPath::read_mode() noexcept
+{
+  return "rb";
+}
+
+char const* apPath::write_mode() noexcept
+{
+  return "wb";
+}
+
+bool apPath::replace(apPath const& target) const
+{
+  return apNativeFile::replace(name, target.name);
+}
+
+bool apPath::operator==(apPath const& other) const noexcept
+{
+  return apString(name) == apString(other.name);
+}
+
+bool apPath::operator!=(apPath const& other) const noexcept
+{
+  return !(*this == other);
+}

@@ -1,0 +1,288 @@
+#include <apString.h>
+
+#include <algorithm>
+#include <cstring>
+#include <cwchar>
+#include <utility>
+
+namespace
+{
+using Storage = coSharedText<wchar_t>;
+
+char32_t const replacement_character = 0xFFFD;
+
+bool is_surrogate(char32_t c)
+{
+  return c >= 0xD800 && c <= 0xDFFF;
+}
+
+// Reads one code point of UTF-8 at `at`, or the longest beginning of one that can be, and moves `at` behind it.
+char32_t read_utf8(unsigned char const*& at, unsigned char const* end)
+{
+  unsigned char const first = *at++;
+  if (first < 0x80)
+    return first;
+
+  int more = 0;
+  char32_t c = 0;
+  unsigned char low = 0x80;
+  unsigned char high = 0xBF;
+  if (first >= 0xC2 && first <= 0xDF)
+  {
+    more = 1;
+    c = first & 0x1Fu;
+  }
+  else if (first >= 0xE0 && first <= 0xEF)
+  {
+    more = 2;
+    c = first & 0x0Fu;
+    if (first == 0xE0)
+      low = 0xA0; // what is below has a shorter form
+    if (first == 0xED)
+      high = 0x9F; // what is above is a surrogate
+  }
+  else if (first >= 0xF0 && first <= 0xF4)
+  {
+    more = 3;
+    c = first & 0x07u;
+    if (first == 0xF0)
+      low = 0x90; // what is below has a shorter form
+    if (first == 0xF4)
+      high = 0x8F; // what is above is beyond U+10FFFF
+  }
+  else
+    return replacement_character;
+
+  for (; more > 0; --more)
+  {
+    if (at == end || *at < low || *at > high)
+      return replacement_character;
+    c = (c << 6) | (*at++ & 0x3Fu);
+    low = 0x80;
+    high = 0xBF;
+  }
+  return c;
+}
+
+// Reads one code point of wide text at `at` and moves `at` behind it.
+char32_t read_wide(wchar_t const*& at, wchar_t const* end)
+{
+  auto const first = static_cast<char32_t>(*at++);
+  if constexpr (sizeof(wchar_t) == 2)
+  {
+    char32_t const unit = first & 0xFFFFu;
+    if (unit >= 0xD800 && unit <= 0xDBFF && at != end)
+    {
+      char32_t const second = static_cast<char32_t>(*at) & 0xFFFFu;
+      if (second >= 0xDC00 && second <= 0xDFFF)
+      {
+        ++at;
+        return 0x10000 + ((unit - 0xD800) << 10) + (second - 0xDC00);
+      }
+    }
+    return is_surrogate(unit) ? replacement_character : unit;
+  }
+  return is_surrogate(first) || first > 0x10FFFF ? replacement_character : first;
+}
+
+int wide_units(char32_t c)
+{
+  return sizeof(wchar_t) == 2 && c > 0xFFFF ? 2 : 1;
+}
+
+wchar_t* write_wide(wchar_t* to, char32_t c)
+{
+  if (wide_units(c) == 2)
+  {
+    *to++ = static_cast<wchar_t>(0xD800 + ((c - 0x10000) >> 10));
+    *to++ = static_cast<wchar_t>(0xDC00 + ((c - 0x10000) & 0x3FF));
+  }
+  else
+    *to++ = static_cast<wchar_t>(c);
+  return to;
+}
+
+std::size_t utf8_bytes(char32_t c)
+{
+  return c < 0x80 ? 1 : c < 0x800 ? 2 : c < 0x10000 ? 3 : 4;
+}
+
+char* write_utf8(char* to, char32_t c)
+{
+  auto const tail = [&](int shift) { *to++ = static_cast<char>(0x80 | ((c >> shift) & 0x3F)); };
+  switch (utf8_bytes(c))
+  {
+  case 1:
+    *to++ = static_cast<char>(c);
+    break;
+  case 2:
+    *to++ = static_cast<char>(0xC0 | (c >> 6));
+    tail(0);
+    break;
+  case 3:
+    *to++ = static_cast<char>(0xE0 | (c >> 12));
+    tail(6);
+    tail(0);
+    break;
+  default:
+    *to++ = static_cast<char>(0xF0 | (c >> 18));
+    tail(12);
+    tail(6);
+    tail(0);
+  }
+  return to;
+}
+
+Storage stored(std::wstring_view wide)
+{
+  return wide.empty() ? Storage() : Storage(wide.data(), Storage::checked_length(wide.size()));
+}
+}
+
+apString::apString() noexcept = default;
+apString::apString(apString const& other) noexcept = default;
+apString::apString(apString&& other) noexcept = default;
+apString& apString::operator=(apString const& other) noexcept = default;
+apString& apString::operator=(apString&& other) noexcept = default;
+apString::~apString() = default;
+
+apString::apString(Storage owned) noexcept : text(std::move(owned)) {}
+
+apString::apString(wchar_t const* wide) : text(wide == nullptr ? Storage() : stored(wide)) {}
+
+apString::apString(wchar_t const* wide, int length)
+  : text(wide == nullptr ? Storage() : stored({wide, static_cast<std::size_t>(std::max(length, 0))}))
+{
+}
+
+apString::apString(std::wstring_view wide) : text(stored(wide)) {}
+
+apString::apString(char const* utf8) : apString(utf8 == nullptr ? apString() : from_utf8(utf8)) {}
+
+apString::apString(utString const& utf8) : apString(from_utf8({utf8.c_str(), static_cast<std::size_t>(utf8.length())}))
+{
+}
+
+apString apString::from_utf8(std::string_view utf8)
+{
+  if (utf8.empty())
+    return apString();
+
+  auto const* const begin = reinterpret_cast<unsigned char const*>(utf8.data());
+  auto const* const end = begin + utf8.size();
+  if (std::all_of(begin, end, [](unsigned char c) { return c < 0x80; }))
+  {
+    Storage ascii(Storage::checked_length(utf8.size()));
+    std::copy(begin, end, ascii.writable());
+    return apString(std::move(ascii));
+  }
+
+  std::size_t length = 0;
+  for (auto const* at = begin; at != end;)
+    length += static_cast<std::size_t>(wide_units(read_utf8(at, end)));
+
+  Storage made(Storage::checked_length(length));
+  wchar_t* to = made.writable();
+  for (auto const* at = begin; at != end;)
+    to = write_wide(to, read_utf8(at, end));
+  return apString(std::move(made));
+}
+
+utString apString::to_utf8() const
+{
+  wchar_t const* const end = c_str() + length();
+  std::size_t bytes = 0;
+  for (wchar_t const* at = c_str(); at != end;)
+    bytes += utf8_bytes(read_wide(at, end));
+
+  return utString::written(coSharedText<char>::checked_length(bytes),
+    [&](char* to)
+    {
+      for (wchar_t const* at = c_str(); at != end;)
+        to = write_utf8(to, read_wide(at, end));
+    });
+}
+
+wchar_t const* apString::c_str() const noexcept
+{
+  return text.data();
+}
+
+int apString::length() const noexcept
+{
+  return text.length();
+}
+
+bool apString::empty() const noexcept
+{
+  return length() == 0;
+}
+
+std::wstring_view apString::view() const noexcept
+{
+  return {c_str(), static_cast<std::size_t>(length())};
+}
+
+bool apString::operator==(apString const& other) const noexcept
+{
+  return view() == other.view();
+}
+
+bool apString::operator!=(apString const& other) const noexcept
+{
+  return view() != other.view();
+}
+
+bool apString::operator<(apString const& other) const noexcept
+{
+  return view() < other.view();
+}
+
+int apString::find(apString const& wanted, int from) const noexcept
+{
+  std::size_t const found = view().find(wanted.view(), static_cast<std::size_t>(std::max(from, 0)));
+  return found == std::wstring_view::npos ? -1 : static_cast<int>(found);
+}
+
+int apString::replace_all(apString const& wanted, apString const& replacement)
+{
+  if (wanted.empty())
+    return 0;
+  int occurrences = 0;
+  for (int at = find(wanted); at >= 0; at = find(wanted, at + wanted.length()))
+    ++occurrences;
+  if (occurrences == 0)
+    return 0;
+
+  std::size_t const replaced = static_cast<std::size_t>(occurrences);
+  Storage made(
+    Storage::checked_length(view().size() - replaced * wanted.view().size() + replaced * replacement.view().size()));
+  wchar_t* to = made.writable();
+  std::wstring_view rest = view();
+  for (int i = 0; i < occurrences; ++i)
+  {
+    std::size_t const at = rest.find(wanted.view());
+    to = std::copy_n(rest.data(), at, to);
+    to = std::copy_n(replacement.c_str(), replacement.view().size(), to);
+    rest.remove_prefix(at + wanted.view().size());
+  }
+  std::copy_n(rest.data(), rest.size(), to);
+  text = std::move(made);
+  return occurrences;
+}
+
+apString& apString::operator+=(apString const& other)
+{
+  return *this = *this + other;
+}
+
+apString operator+(apString const& left, apString const& right)
+{
+  if (left.empty())
+    return right;
+  if (right.empty())
+    return left;
+  Storage made(Storage::checked_length(left.view().size() + right.view().size()));
+  std::copy_n(right.c_str(), right.view().size(), std::copy_n(left.c_str(), left.view().size(), made.writable()));
+  return apString(std::move(made));
+}

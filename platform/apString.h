@@ -1,0 +1,84 @@
+#pragma once
+
+#include <apExport.h>
+#include <coSharedText.h>
+#include <utString.h>
+
+#include <string_view>
+
+/// Wide text: Unicode in `wchar_t` (UTF-16 where that has 16 bits, UTF-32 where it has 32), closed by a NUL that does
+/// not count.
+///
+/// A value type that cannot be changed in place except where an operation says so. Copies share the storage; the count is
+/// atomic, so copies may be made, used and dropped by several threads, while one and the same object belongs to one
+/// thread at a time. Lengths and positions are counted in `wchar_t`, positions from 0. Operations that make a text throw
+/// std::bad_alloc when memory runs out and leave their object as it was.
+class AP_API apString
+{
+public:
+  /// The empty text.
+  apString() noexcept;
+
+  /// A copy of the NUL-terminated `wide` text; empty if it is null.
+  apString(wchar_t const* wide);
+
+  /// A copy of the `length` characters at `wide`; a negative length counts as 0.
+  apString(wchar_t const* wide, int length);
+
+  explicit apString(std::wstring_view wide);
+
+  /// The text of NUL-terminated UTF-8; empty if it is null. See from_utf8().
+  apString(char const* utf8);
+
+  apString(utString const& utf8);
+
+  apString(apString const& other) noexcept;
+  apString(apString&& other) noexcept;
+  apString& operator=(apString const& other) noexcept;
+  apString& operator=(apString&& other) noexcept;
+  ~apString();
+
+  /// The text of `utf8`. Each longest beginning of a sequence that is not UTF-8 (an overlong form, a surrogate or a
+  /// number beyond U+10FFFF included) becomes one U+FFFD (The Unicode Standard, "Substitution of Maximal Subparts").
+  static apString from_utf8(std::string_view utf8);
+
+  /// The text as UTF-8; what is not Unicode (an unpaired surrogate, a number beyond U+10FFFF) becomes U+FFFD.
+  utString to_utf8() const;
+
+  /// The characters, with a NUL behind the last one; never null. They live as long as this object or a copy of it and
+  /// neither is changed.
+  wchar_t const* c_str() const noexcept;
+
+  int length() const noexcept;
+
+  bool empty() const noexcept;
+
+  std::wstring_view view() const noexcept;
+
+  /// Equality and order of the whole texts, character by character; NULs inside count as characters.
+  bool operator==(apString const& other) const noexcept;
+  bool operator!=(apString const& other) const noexcept;
+  bool operator<(apString const& other) const noexcept;
+
+  /// The position of the first occurrence of `wanted` at or behind `from`, -1 if there is none. An empty `wanted` is
+  /// found at `from` as long as that is within the text. A negative `from` counts as 0.
+  int find(apString const& wanted, int from = 0) const noexcept;
+
+  /// Replaces every occurrence of `wanted`, found from left to right without overlap, and returns their number.
+  /// An empty `wanted` is found nowhere.
+  int replace_all(apString const& wanted, apString const& replacement);
+
+  apString& operator+=(apString const& other);
+
+private:
+  friend AP_API apString operator+(apString const& left, apString const& right);
+
+  explicit apString(coSharedText<wchar_t> owned) noexcept;
+
+  coSharedText<wchar_t> text;
+};
+
+AP_API apString operator+(apString const& left, apString const& right);
+
+/// A wide text from a narrow literal: APSTRING("name").
+#define APSTRING(literal) apString(L"" literal)

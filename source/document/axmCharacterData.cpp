@@ -1,0 +1,4 @@
+#include <axmCharacterData.h>
+
+axmCharacterData::axmCharacterData() = default;
+axmCharacterData::~axmCharacterData() = default;

@@ -1,0 +1,4 @@
+#include <axmCommentNode.h>
+
+axmCommentNode::axmCommentNode() = default;
+axmCommentNode::~axmCommentNode() = default;

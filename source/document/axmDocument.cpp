@@ -1,0 +1,4 @@
+#include <axmDocument.h>
+
+axmDocument::axmDocument() = default;
+axmDocument::~axmDocument() = default;

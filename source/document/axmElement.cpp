@@ -1,0 +1,4 @@
+#include <axmElement.h>
+
+axmElement::axmElement() = default;
+axmElement::~axmElement() = default;

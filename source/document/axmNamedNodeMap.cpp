@@ -1,0 +1,4 @@
+#include <axmNamedNodeMap.h>
+
+axmNamedNodeMap::axmNamedNodeMap() = default;
+axmNamedNodeMap::~axmNamedNodeMap() = default;

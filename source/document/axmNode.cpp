@@ -1,0 +1,129 @@
+#include <axmNode.h>
+
+#include <apStringFormatter.h>
+#include <apStringLocaleDoubleParser.h>
+#include <apStringLocaleIntParser.h>
+#include <axmElement.h>
+#include <axmNamedNodeMap.h>
+
+#include <cstdio>
+
+namespace
+{
+// The second character of "1.2" as the current C locale writes it. Of a decimal point of several bytes it is the first,
+// which no number text holds.
+wchar_t decimal_separator()
+{
+  char sample[4] = "";
+  std::snprintf(sample, sizeof sample, "%2.1f", 1.2);
+  return static_cast<wchar_t>(static_cast<unsigned char>(sample[1]));
+}
+}
+
+axmNode::axmNode() = default;
+axmNode::~axmNode() = default;
+
+bool axmNode::get_attribute(apString const& name, bool& value) const
+{
+  apString text;
+  if (!get_attribute(name, text))
+    return false;
+  bool const is_true = text.view() == L"true" || text.view() == L"1";
+  if (!is_true && text.view() != L"false" && text.view() != L"0")
+    return false;
+  value = is_true;
+  return true;
+}
+
+bool axmNode::get_attribute(apString const& name, apString& value) const
+{
+  // Handing out the map changes nothing, but its operations are not const.
+  std::shared_ptr<axmNamedNodeMap> const attributes = const_cast<axmNode*>(this)->getAttributes();
+  if (attributes == nullptr)
+    return false;
+  std::shared_ptr<axmNode> const attribute = attributes->getNamedItem(name);
+  if (attribute == nullptr)
+    return false;
+  value = attribute->getNodeValue();
+  return true;
+}
+
+bool axmNode::get_attribute(apString const& name, double& value) const
+{
+  apString text;
+  if (!get_attribute(name, text))
+    return false;
+  wchar_t const separator = decimal_separator();
+  if (separator == L'.')
+    return parse_value_locale(text, value);
+
+  apString const locale_point(&separator, 1);
+  if (text.find(locale_point) >= 0)
+    return false;
+  text.replace_all(APSTRING("."), locale_point);
+  return parse_value_locale(text, value);
+}
+
+bool axmNode::get_attribute(apString const& name, int& value) const
+{
+  apString text;
+  if (!get_attribute(name, text))
+    return false;
+  apStringLocaleIntParser::Result const parsed = apStringLocaleIntParser::parse(text);
+  if (!parsed.success || parsed.position != text.length())
+    return false;
+  value = parsed.value;
+  return true;
+}
+
+bool axmNode::set_attribute(apString const& name, bool value)
+{
+  return set_attribute(name, value ? APSTRING("true") : APSTRING("false"));
+}
+
+bool axmNode::set_attribute(apString const& name, apString const& value)
+{
+  auto* const element = dynamic_cast<axmElement*>(this);
+  if (element == nullptr)
+    return false;
+  element->setAttribute(name, value);
+  return true;
+}
+
+bool axmNode::set_attribute(apString const& name, double value)
+{
+  return set_attribute(name, apStringFormatter::format(L"%.16g", value));
+}
+
+bool axmNode::set_attribute(apString const& name, int value)
+{
+  return set_attribute(name, apStringFormatter::format(L"%d", value));
+}
+
+bool axmNode::set_attribute(apString const& name, unsigned int value)
+{
+  return set_attribute(name, apStringFormatter::format(L"%u", value));
+}
+
+bool axmNode::get_attribute_locale(apString const& name, double& value) const
+{
+  apString text;
+  return get_attribute(name, text) && parse_value_locale(text, value);
+}
+
+bool axmNode::set_attribute_locale(apString const& name, double value)
+{
+  // Sixteen digits, sign, point, exponent: 24 characters, and a decimal point of a few bytes.
+  char text[40];
+  std::snprintf(text, sizeof text, "%.16g", value);
+  return set_attribute(name, apString(text));
+}
+
+bool axmNode::parse_value_locale(apString const& text, double& value) const
+{
+  apStringLocaleDoubleParser::Result const parsed = apStringLocaleDoubleParser::parse(text);
+  if (!parsed.success || parsed.position != text.length())
+    return false;
+  value = parsed.value;
+  return true;
+}

@@ -1,0 +1,141 @@
+#pragma once
+
+#include <apString.h>
+#include <axmExport.h>
+#include <axmOverloads.h>
+
+#include <memory>
+
+class axmDocument;
+class axmNamedNodeMap;
+class axmNodeList;
+
+/// A node of a document: an element, an attribute, the document itself, a text, a comment or a processing instruction
+/// (Document Object Model Core, interface Node).
+///
+/// Interface, but for the typed access to attributes, which is implemented here on top of it. An engine supplies the
+/// tree; see axmDocumentFactory.
+///
+/// Ownership: every node is handed out in a `std::shared_ptr` and stays valid as long as the caller holds it, also after
+/// it was taken out of its tree. An empty pointer means that there is no such node. Arguments are never kept by the
+/// pointer that was passed in.
+/// Misuse is an empty result or false, with the tree unchanged; no operation throws for a wrong argument.
+/// Threads: nothing here locks; whether one tree may be used from several threads is the engine's business.
+/// The order of the virtual operations is a promise to engines that were built separately.
+class AXM_API axmNode
+{
+public:
+  axmNode();
+  axmNode(axmNode const&) = delete;
+  axmNode& operator=(axmNode const&) = delete;
+  virtual ~axmNode();
+
+  /// The name: of an element its tag name as written, of an attribute its name; of other nodes as DOM Core, nodeName.
+  virtual apString getNodeName() const = 0;
+
+  /// The value: of an attribute its value, of a text or comment its data; empty for an element and the document.
+  virtual apString getNodeValue() const = 0;
+
+  /// The node that holds this one as a child. Empty for the document, an attribute, and a node that is not in a tree.
+  virtual std::shared_ptr<axmNode> getParentNode() = 0;
+
+  /// The children in document order, live: it follows every later change. Never empty for an element or the document.
+  virtual std::shared_ptr<axmNodeList> getChildNodes() = 0;
+
+  /// The first and the last child; empty when there are none.
+  virtual std::shared_ptr<axmNode> getFirstChild() = 0;
+  virtual std::shared_ptr<axmNode> getLastChild() = 0;
+
+  /// The neighbour among the children of the parent; empty before the first and behind the last one.
+  virtual std::shared_ptr<axmNode> getPreviousSibling() = 0;
+  virtual std::shared_ptr<axmNode> getNextSibling() = 0;
+
+  /// The document that created the node; for the document itself the document.
+  virtual std::shared_ptr<axmDocument> getOwnerDocument() = 0;
+
+  /// Inserts `new_child` among the children, immediately before `ref_child` or, if that is empty, at the end.
+  /// Returns `new_child`; empty, with nothing changed, when `ref_child` is not a child of this node or the new child
+  /// cannot stand here.
+  virtual std::shared_ptr<axmNode> insertBefore(
+    std::shared_ptr<axmNode> new_child, std::shared_ptr<axmNode> ref_child) = 0;
+
+  /// Puts `new_child` in the place of `old_child` and returns `old_child`, whose parent is empty then.
+  /// Empty, with nothing changed, when `old_child` is not a child of this node or the new child cannot stand here.
+  virtual std::shared_ptr<axmNode> replaceChild(
+    std::shared_ptr<axmNode> new_child, std::shared_ptr<axmNode> old_child) = 0;
+
+  /// Takes `old_child` out of the children and returns it, its parent empty then.
+  /// Empty, with nothing changed, when it is not a child of this node.
+  virtual std::shared_ptr<axmNode> removeChild(std::shared_ptr<axmNode> old_child) = 0;
+
+  /// Adds `new_child` as the last child and returns it. Empty, with nothing changed, when it cannot stand here.
+  virtual std::shared_ptr<axmNode> appendChild(std::shared_ptr<axmNode> new_child) = 0;
+
+  /// Whether there is at least one child.
+  virtual bool hasChildNodes() const = 0;
+
+  /// Reserved: keeps its place in the order; never called.
+  virtual void reserved_node_15() = 0;
+
+  /// Whether there is at least one attribute.
+  virtual bool hasAttributes() const = 0;
+
+  /// The attributes, live: what is set through the map is seen by the element's operations, and the other way round.
+  /// Empty for a node that is not an element.
+  virtual std::shared_ptr<axmNamedNodeMap> getAttributes() = 0;
+
+  /// Whether both denote the same node of the tree. This, not the comparison of pointers, is how nodes are compared.
+  virtual bool operator==(axmNode const& other) const = 0;
+
+  /// Typed access to the attributes of an element. On success true; on failure false with `value` as it was: when the
+  /// attribute is absent, the node is not an element, or the text is not of the type.
+  /// All of them go through the two operations for texts, which an engine may override.
+  ///
+  /// - `bool`: exactly "true" or "1", "false" or "0".
+  /// - `apString`: the value as it is; an empty one is a value.
+  /// - `double`: the whole text is a number as apStringLocaleDoubleParser reads it, its decimal point a '.' under every
+  ///   locale; a text that holds the locale's other decimal point fails.
+  /// - `int`: the whole text is a number as apStringLocaleIntParser reads it.
+  AXM_OVERLOADS_4(virtual bool get_attribute(apString const& name, bool& value) const,
+    virtual bool get_attribute(apString const& name, apString& value) const,
+    virtual bool get_attribute(apString const& name, double& value) const,
+    virtual bool get_attribute(apString const& name, int& value) const);
+
+  /// Sets an attribute of an element. True on success; false, with nothing changed, on any other node. What the element
+  /// makes of a name that is none is not told.
+  ///
+  /// - `bool`: writes "true" or "false".
+  /// - `double`: writes "%.16g" with '.' as decimal point under every locale. Sixteen digits do not bring every double
+  ///   back: one whose shortest exact form needs seventeen, such as 0.1 + 0.2 = 0.30000000000000004 (written as 0.3),
+  ///   comes back as a neighbour. Every double that was itself read from at most fifteen digits comes back.
+  /// - `int`, `unsigned int`: write decimal digits. No getter reads an `unsigned int` above the largest `int`.
+  AXM_OVERLOADS_5(virtual bool set_attribute(apString const& name, bool value),
+    virtual bool set_attribute(apString const& name, apString const& value),
+    virtual bool set_attribute(apString const& name, double value),
+    virtual bool set_attribute(apString const& name, int value),
+    virtual bool set_attribute(apString const& name, unsigned int value));
+
+  /// The same for doubles in the form of the current C locale, its decimal point neither read nor written as '.' where
+  /// it is another. Not interchangeable with the pair above.
+  virtual bool get_attribute_locale(apString const& name, double& value) const;
+  virtual bool set_attribute_locale(apString const& name, double value);
+
+  /// The texts of the node and all its descendants in document order, with nothing between them; of a text or comment
+  /// its data.
+  virtual apString get_text() const = 0;
+
+  /// Replaces the content by one text child that holds `text`.
+  virtual void set_text(apString const& text) = 0;
+
+  /// The node as XML text; of the document, the whole document with its declaration.
+  virtual apString get_xml() const = 0;
+
+  /// A pointer would be taken for a `bool`: write APSTRING("text") for a text.
+  template <class T>
+  bool set_attribute(apString const& name, T* value) = delete;
+
+protected:
+  /// Reads a number from the whole of `text`, in the form of the current C locale. False, with `value` as it was, when
+  /// any of it is not part of the number.
+  bool parse_value_locale(apString const& text, double& value) const;
+};

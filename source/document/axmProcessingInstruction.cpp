@@ -1,0 +1,4 @@
+#include <axmProcessingInstruction.h>
+
+axmProcessingInstruction::axmProcessingInstruction() = default;
+axmProcessingInstruction::~axmProcessingInstruction() = default;

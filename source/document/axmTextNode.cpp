@@ -1,0 +1,4 @@
+#include <axmTextNode.h>
+
+axmTextNode::axmTextNode() = default;
+axmTextNode::~axmTextNode() = default;

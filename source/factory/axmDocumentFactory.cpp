@@ -1,0 +1,7 @@
+#include <axmDocumentFactory.h>
+
+axmDocumentFactory::axmDocumentFactory() = default;
+axmDocumentFactory::~axmDocumentFactory() = default;
+
+template std::shared_ptr<axmDocumentFactory> utService::locate_service<axmDocumentFactory>(
+  utServiceName const& name, utServiceName& resolved);

@@ -1,0 +1,3 @@
+#include <utStringcoPageArr.h>
+
+template class coPageArr<utString>;
