@@ -1,0 +1,4 @@
+#include <utAssertListener.h>
+
+utAssertListener::utAssertListener() = default;
+utAssertListener::~utAssertListener() = default;
