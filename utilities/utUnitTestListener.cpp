@@ -1,0 +1,4 @@
+#include <utUnitTestListener.h>
+
+utUnitTestListener::utUnitTestListener() = default;
+utUnitTestListener::~utUnitTestListener() = default;
