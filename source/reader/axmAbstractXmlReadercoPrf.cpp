@@ -1,0 +1,3 @@
+#include <axmAbstractXmlReadercoPrf.h>
+
+template class coPrf<axmAbstractXmlReader>;

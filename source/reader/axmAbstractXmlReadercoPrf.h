@@ -1,0 +1,10 @@
+#pragma once
+
+#include <axmAbstractXmlReader.h>
+#include <axmExport.h>
+#include <coPrf.h>
+
+/// Shared owner of a reader.
+using axmAbstractXmlReadercoPrf = coPrf<axmAbstractXmlReader>;
+
+extern template class AXM_API coPrf<axmAbstractXmlReader>;

@@ -1,0 +1,3 @@
+#include <axmAbstractXmlReadercoPrg.h>
+
+template class coPrg<axmAbstractXmlReader>;

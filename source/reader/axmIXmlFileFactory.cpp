@@ -1,0 +1,4 @@
+#include <axmIXmlFileFactory.h>
+
+axmIXmlFileFactory::axmIXmlFileFactory() = default;
+axmIXmlFileFactory::~axmIXmlFileFactory() = default;

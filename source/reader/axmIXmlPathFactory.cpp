@@ -1,0 +1,4 @@
+#include <axmIXmlPathFactory.h>
+
+axmIXmlPathFactory::axmIXmlPathFactory() = default;
+axmIXmlPathFactory::~axmIXmlPathFactory() = default;

@@ -1,0 +1,3 @@
+#include <axmInitialPositionXcoPrg.h>
+
+template class coPrg<axmInitialPositionX>;

@@ -1,0 +1,3 @@
+#include <axmPositionXcoPageArrPrgcoPrg.h>
+
+template class coPrg<axmPositionX>;

@@ -1,0 +1,3 @@
+#include <axmPositionXcoPageArrPrgcoPrgcoPageArr.h>
+
+template class coPageArr<axmPositionXcoPageArrPrgcoPrg>;

@@ -1,0 +1,3 @@
+#include <axmPositionXcoPageArrPrgcoPrgcoPageArrcoIterator.h>
+
+template class coIterator<axmPositionXcoPageArrPrgcoPrgcoPageArr>;

@@ -1,0 +1,20 @@
+#include <axmSimpleXmlFactory.h>
+
+#include <apTarnFileStdio.h>
+#include <axmSimpleXmlReader.h>
+
+axmSimpleXmlFactory::axmSimpleXmlFactory() = default;
+axmSimpleXmlFactory::~axmSimpleXmlFactory() = default;
+
+std::unique_ptr<axmAbstractXmlReader> axmSimpleXmlFactory::create_xml_reader_path(
+  utPtrRelease, apPath const& path) const
+{
+  return create_xml_reader_file(
+    utPtrReleaseToCaller, apITarnFilecoPrf(new apTarnFileStdio(path.path(), apTarnModeRead)));
+}
+
+std::unique_ptr<axmAbstractXmlReader> axmSimpleXmlFactory::create_xml_reader_file(
+  utPtrRelease, apITarnFilecoPrf const& file) const
+{
+  return std::unique_ptr<axmAbstractXmlReader>(new axmSimpleXmlReader(file));
+}

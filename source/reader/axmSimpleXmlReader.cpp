@@ -1,0 +1,186 @@
+#include <axmSimpleXmlReader.h>
+
+#include <axmException.h>
+
+#include <climits>
+#include <new>
+#include <ostream>
+
+namespace
+{
+// Passes all children that are left, as end_object() does, but those too whose name it takes for none: no tag has a NUL
+// in its name.
+void pass_children(axmPositionX& element)
+{
+  axmPositionXcoPageArrPrgcoPrg const none(element.go_to_sub_tag(utPtrReleaseToCaller, utString("", 1)));
+}
+}
+
+axmSimpleXmlReader::axmSimpleXmlReader(apITarnFilecoPrf const& given)
+  : encoding_name(axmAbstractXmlReader::encoding()),
+    file(given)
+{
+}
+
+axmSimpleXmlReader::~axmSimpleXmlReader() = default;
+
+bool axmSimpleXmlReader::read_file()
+{
+  int const size = file_size();
+  return size >= 0 && read_bytes(size) && read_declaration();
+}
+
+utString axmSimpleXmlReader::encoding()
+{
+  return encoding_name;
+}
+
+void axmSimpleXmlReader::up()
+{
+  if (error_flag)
+    return;
+  int const depth = positions.count();
+  if (depth == 0)
+    return error_has_occurred(ut_lit("Incorrect xml nesting"));
+  try
+  {
+    if (depth == 1)
+      pass_children(top());
+    positions.shrink(depth - 1, 0);
+    if (depth > 1)
+      top().skip_object();
+  }
+  catch (axmException const& error)
+  {
+    error_has_occurred(error.explanation());
+  }
+}
+
+bool axmSimpleXmlReader::down_to(utString const& name)
+{
+  if (has_error_occurred())
+    return false;
+  if (!initial_position)
+  {
+    error_has_occurred(ut_lit("No xml file has been read"));
+    return false;
+  }
+  try
+  {
+    axmPositionX& parent = positions.count() == 0 ? *initial_position : top();
+    axmPositionXcoPageArrPrgcoPrg child(parent.go_to_sub_tag(utPtrReleaseToCaller, name));
+    if (!child)
+      return false;
+    positions[positions.count()].swap(child);
+    return true;
+  }
+  catch (axmException const& error)
+  {
+    error_has_occurred(error.explanation());
+    return false;
+  }
+}
+
+utString axmSimpleXmlReader::attribute(utString const& name, utString const& default_value)
+{
+  if (!is_inside())
+    return default_value;
+  try
+  {
+    return top().attribute(name, default_value);
+  }
+  catch (axmException const& error)
+  {
+    error_has_occurred(error.explanation());
+    return default_value;
+  }
+}
+
+utString axmSimpleXmlReader::text_node()
+{
+  if (!is_inside())
+    return ut_lit("");
+  try
+  {
+    return top().text_node();
+  }
+  catch (axmException const& error)
+  {
+    error_has_occurred(error.explanation());
+    return ut_lit("");
+  }
+}
+
+bool axmSimpleXmlReader::has_error_occurred() const
+{
+  return error_flag;
+}
+
+void axmSimpleXmlReader::dump_error(std::ostream& out) const
+{
+  for (int i = 0; i < errors.count(); ++i)
+    out << errors[i];
+}
+
+void axmSimpleXmlReader::error_has_occurred(utString const& message)
+{
+  errors[errors.count()] = message;
+  error_flag = true;
+}
+
+// The size of the file, which then stands at its beginning; negative if it cannot be told or has no room in memory.
+int axmSimpleXmlReader::file_size()
+{
+  if (file.get() == nullptr || !file->seek(0, 2))
+    return -1;
+  int const size = file->tell();
+  return size < INT_MAX && file->rewind() ? size : -1;
+}
+
+bool axmSimpleXmlReader::read_bytes(int size)
+{
+  // No cursor may outlive the text it reads.
+  positions.shrink(0, 0);
+  initial_position.reset();
+  if (!buffer.expand(size + 1))
+    throw std::bad_alloc();
+  if (file->read(buffer.data(), 1, size) != size)
+    return false;
+  buffer.set_count(size + 1);
+  buffer[size] = '\0';
+  return true;
+}
+
+bool axmSimpleXmlReader::read_declaration()
+{
+  try
+  {
+    axmInitialPositionXcoPrg declaration(new axmInitialPositionX(buffer.data()));
+    encoding_name = declaration->encoding();
+    if (encoding_name.case_compare(ut_lit("utf-16")) == 0)
+      return false;
+    initial_position.swap(declaration);
+    return true;
+  }
+  catch (axmException const& error)
+  {
+    error_has_occurred(error.explanation());
+    return false;
+  }
+}
+
+// Whether there is an element to read from; an error if not.
+bool axmSimpleXmlReader::is_inside()
+{
+  if (error_flag)
+    return false;
+  if (positions.count() > 0)
+    return true;
+  error_has_occurred(ut_lit("Incorrect xml nesting"));
+  return false;
+}
+
+axmPositionX& axmSimpleXmlReader::top()
+{
+  return *positions[positions.count() - 1];
+}

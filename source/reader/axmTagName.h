@@ -1,0 +1,23 @@
+#pragma once
+
+#include <utString.h>
+
+#include <cstring>
+
+// The name of a tag, where it stands in the document. Not installed.
+struct axmTagName
+{
+  char const* begin;
+  char const* end;
+
+  int length() const noexcept { return static_cast<int>(end - begin); }
+
+  utString text() const { return utString(begin, length()); }
+
+  bool operator==(axmTagName const& other) const noexcept
+  {
+    return end - begin == other.end - other.begin &&
+           std::memcmp(begin, other.begin, static_cast<std::size_t>(end - begin)) == 0;
+  }
+  bool operator!=(axmTagName const& other) const noexcept { return !(*this == other); }
+};
