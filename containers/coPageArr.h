@@ -16,7 +16,8 @@
 /// Owns its elements: each page holds page_size() of them, made with their default constructor when the page is
 /// allocated and destroyed with it. Elements above the count stay as they are until they are used again or their page
 /// goes. Indices are counted from 0. Running out of memory is std::bad_alloc from the operations that hand out
-/// elements, and leaves the array as it was. Cannot be copied but with utCopy; not to be used by two threads at once.
+/// elements, and leaves the array as it was. The assignment of an element must not throw. Cannot be copied but with
+/// utCopy; not to be used by two threads at once.
 template <class T>
 class coPageArr
 {
@@ -26,14 +27,13 @@ public:
   /// No elements and no pages; pages of 256 elements.
   coPageArr() noexcept : coPageArr(8, 5, 10) {}
 
-  /// No elements and no pages; pages of `1 << shift` elements (0 <= shift <= 30). The other two numbers are the first
-  /// capacity and the least growth of the page directory.
+  /// No elements and no pages; pages of `1 << shift` elements, a shift outside of 0 to 30 counting as the nearer of the
+  /// two. The other two numbers are the first capacity and the least growth of the page directory.
   coPageArr(int shift, int directory_capacity, int directory_growth) noexcept
-    : size_of_page(1 << shift),
-      page_shift(shift),
+    : size_of_page(1 << std::clamp(shift, 0, 30)),
+      page_shift(std::clamp(shift, 0, 30)),
       directory(directory_capacity, directory_growth)
   {
-    assert(shift >= 0 && shift <= 30);
   }
 
   /// The given values, in order; an array of sole owners takes over the objects pointed to.
@@ -87,13 +87,14 @@ public:
   }
 
   /// Lowers the count to `wanted` if it is higher. With `free_pages_too` 0 nothing else happens: the elements above stay
-  /// alive. Otherwise every page beyond the last one needed is destroyed with its elements.
+  /// alive. Otherwise every page beyond the last one that `wanted` elements need is destroyed with its elements. A
+  /// negative number counts as 0.
   void shrink(int wanted, int free_pages_too) noexcept
   {
     wanted = std::max(wanted, 0);
     used = std::min(used, wanted);
     if (free_pages_too != 0)
-      free_pages(pages_for(used));
+      free_pages(pages_for(wanted));
   }
 
   /// Sets the count to 0. With `free_pages_too` 0 every element stays alive, otherwise all pages are destroyed.
@@ -101,8 +102,8 @@ public:
 
   /// Gives back room of an array that has come to need less than one page: its pages become one page of the smallest
   /// size (a power of two) that holds the count, into which its elements move; elements above the count are destroyed.
-  /// Returns the number of slots given up. An array of a page or more, and one for which memory runs out, stays as it is
-  /// and returns 0. An array without pages gets its one page, so it can return a negative number.
+  /// Returns the number of slots given up: those that there were, less the size of one new page. That is negative for an
+  /// array that had no pages. An array of a page or more, and one for which memory runs out, stays as it is and returns 0.
   int repaginate() noexcept
   {
     if (used >= size_of_page)
@@ -111,21 +112,20 @@ public:
     while (shift > 0 && (1 << (shift - 1)) >= used)
       --shift;
 
-    int const slots_before = pages_allocated * size_of_page;
+    long long const slots_before = static_cast<long long>(pages_allocated) * size_of_page;
     if (shift == page_shift)
-      free_pages(std::min(pages_allocated, 1));
+      free_pages(1);
     else if (!rebuild(shift))
       return 0;
-    return slots_before - size_of_page;
+    return static_cast<int>(std::min<long long>(slots_before - size_of_page, INT_MAX));
   }
 
   /// Takes over `n` elements of this array, from index `from` on, to index `to` and following, which extends the array
-  /// where it must; the two ranges may overlap. All of `from`, `from + n` must lie within the count.
+  /// where it must; the two ranges may overlap. Those copied must lie within the count.
   void copy(int from, int to, int n)
   {
-    assert(from >= 0 && to >= 0 && n >= 0 && from <= used - n);
-    reserve(to + n);
-    extend(to + n);
+    assert(from >= 0 && n >= 0 && from <= used - n);
+    extend(to, n);
     if (to < from)
       for (int i = 0; i < n; ++i)
         take(slot(to + i), slot(from + i));
@@ -134,12 +134,11 @@ public:
         take(slot(to + i), slot(from + i));
   }
 
-  /// Takes over `n` elements from `source` to index `to` and following, which extends the array where it must.
+  /// Takes over `n` elements from `source`, which are not of this array, to index `to` and following, which extends the
+  /// array where it must.
   void copyin(T* source, int to, int n)
   {
-    assert(to >= 0 && n >= 0);
-    reserve(to + n);
-    extend(to + n);
+    extend(to, n);
     for (int i = 0; i < n; ++i)
       take(slot(to + i), source[i]);
   }
@@ -242,7 +241,17 @@ private:
       throw std::bad_alloc();
   }
 
-  void extend(int elements) noexcept { used = std::max(used, elements); }
+  // Takes `n` elements from index `to` on into use.
+  void extend(int to, int n)
+  {
+    assert(to >= 0 && n >= 0);
+    if (n == 0)
+      return;
+    if (n > INT_MAX - to)
+      throw std::bad_alloc();
+    reserve(to + n);
+    used = std::max(used, to + n);
+  }
 
   void free_pages(int kept) noexcept
   {

@@ -3,6 +3,7 @@
 #include <atomic>
 #include <climits>
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <new>
@@ -65,7 +66,7 @@ public:
   /// The length of a text of `characters`; throws std::bad_alloc where that is more than a length can say.
   static int checked_length(std::size_t characters)
   {
-    if (characters > static_cast<std::size_t>(INT_MAX) / sizeof(C) - sizeof(Block))
+    if (characters > INT_MAX)
       throw std::bad_alloc();
     return static_cast<int>(characters);
   }
@@ -80,7 +81,10 @@ private:
 
     static Block* make(int length)
     {
-      void* const memory = std::malloc(sizeof(Block) + (static_cast<std::size_t>(length) + 1) * sizeof(C));
+      std::size_t const characters = static_cast<std::size_t>(length) + 1;
+      if (characters > (SIZE_MAX - sizeof(Block)) / sizeof(C))
+        throw std::bad_alloc();
+      void* const memory = std::malloc(sizeof(Block) + characters * sizeof(C));
       if (memory == nullptr)
         throw std::bad_alloc();
       Block* const made = new (memory) Block{{1}, length};

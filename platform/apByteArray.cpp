@@ -1,5 +1,8 @@
 #include <apByteArray.h>
 
+#include <cstring>
+#include <functional>
+
 apByteArray::apByteArray() noexcept = default;
 apByteArray::apByteArray(apByteArray const&) = default;
 apByteArray::apByteArray(apByteArray&&) noexcept = default;
@@ -39,8 +42,18 @@ void apByteArray::resize(std::size_t size)
 
 void apByteArray::append(void const* bytes, std::size_t size)
 {
-  auto const* const first = static_cast<char const*>(bytes);
-  contents.insert(contents.end(), first, first + size);
+  if (size == 0)
+    return;
+  auto const* first = static_cast<char const*>(bytes);
+  std::size_t const before = contents.size();
+  std::less<> const stands_before;
+  bool const own = !stands_before(first, contents.data()) && stands_before(first, contents.data() + before);
+  std::size_t const offset = own ? static_cast<std::size_t>(first - contents.data()) : 0;
+  contents.resize(before + size);
+  // Growing may have moved the bytes to add, if they are its own.
+  if (own)
+    first = contents.data() + offset;
+  std::memcpy(contents.data() + before, first, size);
 }
 
 void apByteArray::clear() noexcept

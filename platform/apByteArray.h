@@ -7,8 +7,8 @@
 
 /// Bytes in memory: the form of a document that is not in a file.
 ///
-/// Owns its bytes; a value type. Sizes are in bytes. Operations that grow it throw std::bad_alloc when memory runs out
-/// and leave it as it was. One object belongs to one thread at a time.
+/// Owns its bytes; a value type. Sizes are in bytes. Operations that grow it throw std::bad_alloc when memory runs out,
+/// std::length_error for a size that no memory has, and leave it as it was. One object belongs to one thread at a time.
 class AP_API apByteArray
 {
 public:
@@ -35,7 +35,7 @@ public:
   /// Makes it `size` bytes long; bytes that come with it are 0.
   void resize(std::size_t size);
 
-  /// Adds a copy of the `size` bytes at `bytes`, which must not be its own, at the end.
+  /// Adds a copy of the `size` bytes at `bytes`, which may be its own, at the end.
   void append(void const* bytes, std::size_t size);
 
   /// Becomes empty and gives its memory back.

@@ -2,6 +2,9 @@
 
 #include "apNativeFile.h"
 
+#include <cstddef>
+#include <cstring>
+
 apPath::apPath() noexcept = default;
 
 apPath::apPath(char const* utf8) : name(utf8) {}
@@ -54,7 +57,8 @@ bool apPath::replace(apPath const& target) const
 
 bool apPath::operator==(apPath const& other) const noexcept
 {
-  return apString(name) == apString(other.name);
+  return name.length() == other.name.length() &&
+         std::memcmp(name.c_str(), other.name.c_str(), static_cast<std::size_t>(name.length())) == 0;
 }
 
 bool apPath::operator!=(apPath const& other) const noexcept

@@ -9,7 +9,7 @@
 /// The path of a file or folder: text in Unicode, used as it stands on every system and under every locale.
 ///
 /// A value type; one object belongs to one thread at a time. Nothing in it is decoded or expanded: a percent sign is a
-/// percent sign, and a URL is a strange file name. Failures are results.
+/// percent sign, and a URL is a strange file name. A path with a NUL in it names nothing. Failures are results.
 class AP_API apPath
 {
 public:
@@ -32,7 +32,7 @@ public:
   /// Whether a file, folder or anything else of that name is there.
   bool exists() const;
 
-  /// Deletes the file, if it is there. False when it still is.
+  /// Deletes the file, if it is there; a folder is left alone. False when it still is there.
   bool delete_file() const;
 
   /// Opens the file in one of the modes below, in the C library's terms; the caller closes the stream.

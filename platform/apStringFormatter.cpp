@@ -1,5 +1,6 @@
 #include <apStringFormatter.h>
 
+#include <climits>
 #include <cstdarg>
 #include <cstddef>
 #include <cstdint>
@@ -18,6 +19,37 @@ struct Directive
   std::string length;
   wchar_t conversion = 0;
 };
+
+// Whether the conversion is known, and goes with this length.
+bool is_known(Directive const& directive)
+{
+  std::string const& length = directive.length;
+  switch (directive.conversion)
+  {
+  case L'd':
+  case L'i':
+  case L'u':
+  case L'x':
+  case L'X':
+  case L'o':
+    return length.size() < 2 || length == "hh" || length == "ll";
+  case L'e':
+  case L'E':
+  case L'f':
+  case L'F':
+  case L'g':
+  case L'G':
+  case L'c':
+    return length.empty() || length == "l";
+  case L's':
+    return length.empty() || length == "l" || length == "h";
+  case L'p':
+  case L'%':
+    return length.empty();
+  default:
+    return false;
+  }
+}
 
 bool contains(char const* set, wchar_t c)
 {
@@ -60,7 +92,7 @@ Directive read_directive(wchar_t const*& at, Arguments& arguments)
     if (directive.width < 0)
     {
       directive.flags += '-';
-      directive.width = -directive.width;
+      directive.width = directive.width == INT_MIN ? INT_MAX : -directive.width;
     }
   }
   if (*at == L'.')
@@ -111,6 +143,18 @@ std::wstring with_point(std::wstring const& number)
     in_point = !plain;
   }
   return result;
+}
+
+std::wstring float_number(Directive directive, Arguments& arguments)
+{
+  double const value = va_arg(arguments.list, double);
+  std::wstring number = with_point(formatted(directive, "", value));
+  auto const width = static_cast<std::size_t>(directive.width < 0 ? 0 : directive.width);
+  if (number.empty() || number.size() >= width)
+    return number;
+  // The width was counted in bytes, of which the locale's decimal point has several.
+  directive.width += static_cast<int>(width - number.size());
+  return with_point(formatted(directive, "", value));
 }
 
 std::wstring padded(Directive const& directive, std::wstring text)
@@ -190,57 +234,45 @@ std::wstring text(Directive const& directive, Arguments& arguments)
   return padded(directive, whole);
 }
 
-// Appends what `directive` makes of its argument; false if it is not known.
-bool append(std::wstring& result, Directive const& directive, Arguments& arguments)
+std::wstring character(Directive const& directive, Arguments& arguments)
+{
+  // Narrower than int, wide characters are passed as int.
+  if constexpr (sizeof(wchar_t) < sizeof(int))
+    return padded(directive, std::wstring(1, static_cast<wchar_t>(va_arg(arguments.list, int))));
+  else
+    return padded(directive, std::wstring(1, static_cast<wchar_t>(va_arg(arguments.list, std::wint_t))));
+}
+
+// What a known directive makes of its argument.
+std::wstring converted(Directive const& directive, Arguments& arguments)
 {
   switch (directive.conversion)
   {
-  case L'%':
-    result += L'%';
-    return true;
   case L'd':
   case L'i':
-    result += signed_number(directive, arguments);
-    return true;
+    return signed_number(directive, arguments);
   case L'u':
   case L'x':
   case L'X':
   case L'o':
-    result += unsigned_number(directive, arguments);
-    return true;
-  case L'e':
-  case L'E':
-  case L'f':
-  case L'F':
-  case L'g':
-  case L'G':
-    result += with_point(formatted(directive, "", va_arg(arguments.list, double)));
-    return true;
+    return unsigned_number(directive, arguments);
   case L'p':
-    result += formatted(directive, "", va_arg(arguments.list, void*));
-    return true;
+    return formatted(directive, "", va_arg(arguments.list, void*));
   case L'c':
-    // Narrower than int, wide characters are passed as int.
-    if constexpr (sizeof(wchar_t) < sizeof(int))
-      result += padded(directive, std::wstring(1, static_cast<wchar_t>(va_arg(arguments.list, int))));
-    else
-      result += padded(directive, std::wstring(1, static_cast<wchar_t>(va_arg(arguments.list, std::wint_t))));
-    return true;
+    return character(directive, arguments);
   case L's':
-    result += text(directive, arguments);
-    return true;
+    return text(directive, arguments);
+  case L'%':
+    return L"%";
   default:
-    return false;
+    return float_number(directive, arguments);
   }
 }
-}
 
-apString apStringFormatter::format(wchar_t const* format, ...)
+std::wstring filled_in(wchar_t const* pattern, Arguments& arguments)
 {
   std::wstring result;
-  Arguments arguments;
-  va_start(arguments.list, format);
-  for (wchar_t const* at = format; *at != 0;)
+  for (wchar_t const* at = pattern; *at != 0;)
   {
     if (*at != L'%')
     {
@@ -249,13 +281,28 @@ apString apStringFormatter::format(wchar_t const* format, ...)
     }
     wchar_t const* const start = at++;
     Directive const directive = read_directive(at, arguments);
-    if (!append(result, directive, arguments))
-    {
-      result += start;
-      break;
-    }
+    if (!is_known(directive))
+      return result + start;
+    result += converted(directive, arguments);
     ++at;
   }
-  va_end(arguments.list);
-  return apString(std::wstring_view(result));
+  return result;
+}
+}
+
+apString apStringFormatter::format(wchar_t const* format, ...)
+{
+  Arguments arguments;
+  va_start(arguments.list, format);
+  try
+  {
+    apString const made(std::wstring_view(filled_in(format, arguments)));
+    va_end(arguments.list);
+    return made;
+  }
+  catch (...)
+  {
+    va_end(arguments.list);
+    throw;
+  }
 }

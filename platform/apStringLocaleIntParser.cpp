@@ -20,7 +20,9 @@ apStringLocaleIntParser::Result apStringLocaleIntParser::parse(apString const& t
   {
     value = value * 10 + (*at - L'0');
     if (value > static_cast<long long>(INT_MAX) + (negative ? 1 : 0))
-      return {false, static_cast<int>(at - begin), 0};
+      return {false, 0, 0};
   }
-  return {at != digits, static_cast<int>(at - begin), static_cast<int>(negative ? -value : value)};
+  if (at == digits)
+    return {false, 0, 0};
+  return {true, static_cast<int>(at - begin), static_cast<int>(negative ? -value : value)};
 }

@@ -12,7 +12,7 @@ class AP_API apStringLocaleIntParser
 public:
   struct Result
   {
-    /// Whether a number was read; if not, the value is 0 and the position where the number failed.
+    /// Whether a number was read; if not, position and value are 0.
     bool success;
     /// Where parsing stopped, counted in characters from 0: behind the last digit.
     int position;

@@ -7,16 +7,19 @@
 #include <axmNamedNodeMap.h>
 
 #include <cstdio>
+#include <cwchar>
 
 namespace
 {
-// The second character of "1.2" as the current C locale writes it. Of a decimal point of several bytes it is the first,
-// which no number text holds.
+// The second character of "1.2" as the current C locale writes it; it may be one of two bytes.
 wchar_t decimal_separator()
 {
   char sample[4] = "";
   std::snprintf(sample, sizeof sample, "%2.1f", 1.2);
-  return static_cast<wchar_t>(static_cast<unsigned char>(sample[1]));
+  wchar_t separator = L'.';
+  std::mbstate_t state{};
+  std::mbrtowc(&separator, sample + 1, sizeof sample - 1, &state);
+  return separator;
 }
 }
 

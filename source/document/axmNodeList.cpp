@@ -1,5 +1,7 @@
 #include <axmNodeList.h>
 
+#include <climits>
+
 axmNodeList::axmNodeList() : cursor(-1) {}
 axmNodeList::~axmNodeList() = default;
 
@@ -15,7 +17,8 @@ bool axmNodeList::isEmpty() const
 
 bool axmNodeList::operator++()
 {
-  cursor = cursor == length() ? 0 : cursor + 1;
+  // Of a list that has become shorter the cursor may be far beyond, up to where it cannot go on.
+  cursor = cursor == length() || cursor == INT_MAX ? 0 : cursor + 1;
   return !invalid();
 }
 

@@ -5,7 +5,8 @@
 // overloads of one name where the first of them is declared and lays them out there in reverse. So a group of overloads
 // is listed once, in the order of its slots, through one of these, which declare it reversed where that is needed.
 
-// clang-format off: a line each shows the order best
+// A line each shows the order best.
+// clang-format off
 #if defined(_MSC_VER)
 #  define AXM_OVERLOADS_2(a, b) b; a
 #  define AXM_OVERLOADS_4(a, b, c, d) d; c; b; a

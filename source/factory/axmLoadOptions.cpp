@@ -20,8 +20,24 @@ axmLoadOptions::axmLoadOptions(axmValidateMode given) : mode(given), expansion_l
 }
 
 axmLoadOptions::axmLoadOptions(axmLoadOptions const& other) = default;
-axmLoadOptions& axmLoadOptions::operator=(axmLoadOptions const& other) = default;
 axmLoadOptions::~axmLoadOptions() = default;
+
+axmLoadOptions& axmLoadOptions::operator=(axmLoadOptions const& other)
+{
+  if (this != &other)
+  {
+    // Both copies first: were memory to run out between them, the entries would no longer be pairs.
+    std::vector<apString> namespaces(other.external_namespaces);
+    std::vector<apPath> schemas(other.external_schemas);
+    external_namespaces.swap(namespaces);
+    external_schemas.swap(schemas);
+  }
+  mode = other.mode;
+  no_namespace = other.no_namespace;
+  expansion_limit = other.expansion_limit;
+  resolution_disabled = other.resolution_disabled;
+  return *this;
+}
 
 axmValidateMode axmLoadOptions::validate_mode() const
 {

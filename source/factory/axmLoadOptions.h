@@ -20,6 +20,7 @@ public:
   /// The same with the given mode.
   axmLoadOptions(axmValidateMode mode);
 
+  /// Copies throw std::bad_alloc when memory runs out; what was to be assigned to is unchanged then.
   axmLoadOptions(axmLoadOptions const& other);
   axmLoadOptions& operator=(axmLoadOptions const& other);
   ~axmLoadOptions();
