@@ -17,3 +17,13 @@ function(axm_add_test name)
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 600 ENVIRONMENT "${arg_ENVIRONMENT}")
   endif()
 endfunction()
+
+# axm_add_memory_test(NAME SOURCES ... [LIBRARIES ...] [ENVIRONMENT ...])
+# The same for a program whose allocations fail on demand (tests/FailingMemory.h). Windows does not let a program replace
+# the allocation functions of the libraries it uses, so there is none of them there.
+function(axm_add_memory_test name)
+  if(NOT WIN32)
+    axm_add_test(${name} ${ARGN})
+    target_sources(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests/FailingMemory.cpp)
+  endif()
+endfunction()
