@@ -1,0 +1,150 @@
+#include "axsArena.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <utility>
+
+#if defined(__has_feature)
+#  if __has_feature(address_sanitizer)
+#    define AXS_ADDRESS_SANITIZER
+#  endif
+#endif
+#if defined(__SANITIZE_ADDRESS__) || defined(AXS_ADDRESS_SANITIZER)
+#  include <sanitizer/asan_interface.h>
+#else
+#  define ASAN_POISON_MEMORY_REGION(address, size) static_cast<void>(0)
+#  define ASAN_UNPOISON_MEMORY_REGION(address, size) static_cast<void>(0)
+#endif
+
+namespace
+{
+// Pages lie at multiples of their size, so that a node finds its document without a pointer of its own.
+std::size_t const page_size = 16 * 1024;
+std::size_t const most_pages = 64;
+
+std::size_t rounded(std::size_t size, std::size_t unit)
+{
+  return (size + unit - 1) / unit * unit;
+}
+}
+
+struct axsArena::Page
+{
+  axsDocument* document;
+  // Of the first page that came with others: the one that came before them, and their number.
+  Page* older;
+  std::size_t pages;
+};
+
+struct axsArena::FreeBlock
+{
+  FreeBlock* next;
+};
+
+struct alignas(std::max_align_t) axsArena::LargeBlock
+{
+  LargeBlock* previous;
+  LargeBlock* next;
+  std::size_t size;
+};
+
+axsArena::axsArena(axsDocument& owner) noexcept : document(&owner) {}
+
+axsArena::~axsArena()
+{
+  while (newest != nullptr)
+  {
+    Page* const page = newest;
+    newest = page->older;
+    std::size_t const size = page->pages * page_size;
+    ASAN_UNPOISON_MEMORY_REGION(page, size);
+    ::operator delete(page, size, std::align_val_t(page_size));
+  }
+  while (large != nullptr)
+    std::free(std::exchange(large, large->next));
+}
+
+void* axsArena::allocate(std::size_t size)
+{
+  if (size > small_limit)
+    return allocate_large(size);
+
+  std::size_t const units = std::max<std::size_t>((size + granule - 1) / granule, 1);
+  if (FreeBlock* const block = free_blocks[units])
+  {
+    ASAN_UNPOISON_MEMORY_REGION(block, units * granule);
+    free_blocks[units] = block->next;
+    return block;
+  }
+  if (static_cast<std::size_t>(room_end - room) < units * granule)
+  {
+    if (untouched == untouched_end)
+      add_pages();
+    next_page();
+  }
+  char* const block = room;
+  room += units * granule;
+  ASAN_UNPOISON_MEMORY_REGION(block, units * granule);
+  return block;
+}
+
+void axsArena::release(void* block, std::size_t size) noexcept
+{
+  if (size > small_limit)
+    return release_large(block);
+
+  std::size_t const units = std::max<std::size_t>((size + granule - 1) / granule, 1);
+  free_blocks[units] = new (block) FreeBlock{free_blocks[units]};
+  ASAN_POISON_MEMORY_REGION(block, units * granule);
+}
+
+axsDocument& axsArena::document_of(void const* block) noexcept
+{
+  auto const address = reinterpret_cast<std::uintptr_t>(block);
+  return *reinterpret_cast<Page const*>(address - address % page_size)->document;
+}
+
+void* axsArena::allocate_large(std::size_t size)
+{
+  void* const memory = std::malloc(sizeof(LargeBlock) + size);
+  if (memory == nullptr)
+    throw std::bad_alloc();
+  large = new (memory) LargeBlock{nullptr, large, size};
+  if (large->next != nullptr)
+    large->next->previous = large;
+  taken += size;
+  return large + 1;
+}
+
+void axsArena::release_large(void* block) noexcept
+{
+  LargeBlock* const released = static_cast<LargeBlock*>(block) - 1;
+  if (released->next != nullptr)
+    released->next->previous = released->previous;
+  (released->previous == nullptr ? large : released->previous->next) = released->next;
+  taken -= released->size;
+  std::free(released);
+}
+
+// A document of a few nodes takes one page, a large one takes many at a time.
+void axsArena::add_pages()
+{
+  std::size_t const size = next_pages * page_size;
+  auto* const memory = static_cast<char*>(::operator new(size, std::align_val_t(page_size)));
+  newest = new (memory) Page{document, newest, next_pages};
+  untouched = memory;
+  untouched_end = memory + size;
+  taken += size;
+  next_pages = std::min(next_pages * 2, most_pages);
+}
+
+void axsArena::next_page() noexcept
+{
+  if (untouched != reinterpret_cast<char*>(newest))
+    new (untouched) Page{document, nullptr, 0};
+  room = untouched + rounded(sizeof(Page), granule);
+  room_end = untouched + page_size;
+  untouched = room_end;
+  ASAN_POISON_MEMORY_REGION(room, static_cast<std::size_t>(room_end - room));
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstddef>
+#include <new>
+
+class axsDocument;
+
+/// The memory of one document: nodes, names and texts.
+///
+/// Small blocks come from pages and go back to a list of free blocks of their size; large ones come from the system and
+/// go back to it at once. Everything goes with the arena, without a look at what lies in it. Sizes are in bytes.
+/// Belongs to its document and, as that, to one thread at a time.
+class axsArena
+{
+public:
+  /// Up to here a block is a small one.
+  static constexpr std::size_t small_limit = 1024;
+
+  explicit axsArena(axsDocument& owner) noexcept;
+  axsArena(axsArena const&) = delete;
+  axsArena& operator=(axsArena const&) = delete;
+  ~axsArena();
+
+  /// A block for `size` bytes, aligned for pointers. Throws std::bad_alloc when memory runs out.
+  void* allocate(std::size_t size);
+
+  /// Takes back the block at `block`, which was allocated for `size` bytes.
+  void release(void* block, std::size_t size) noexcept;
+
+  /// What the arena has from the system.
+  std::size_t footprint() const noexcept { return taken; }
+
+  /// The document in whose arena the small block at `block` lies.
+  static axsDocument& document_of(void const* block) noexcept;
+
+private:
+  struct Page;
+  struct FreeBlock;
+  struct LargeBlock;
+
+  static constexpr std::size_t granule = 8;
+
+  void* allocate_large(std::size_t size);
+  void release_large(void* block) noexcept;
+  void add_pages();
+  void next_page() noexcept;
+
+  axsDocument* document;
+  FreeBlock* free_blocks[small_limit / granule + 1] = {};
+  char* room = nullptr;
+  char* room_end = nullptr;
+  char* untouched = nullptr;
+  char* untouched_end = nullptr;
+  Page* newest = nullptr;
+  LargeBlock* large = nullptr;
+  std::size_t taken = 0;
+  std::size_t next_pages = 1;
+};

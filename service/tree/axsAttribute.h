@@ -1,0 +1,19 @@
+#pragma once
+
+#include "axsNodeOf.h"
+
+class axsElement;
+class axsName;
+
+/// An attribute of the tree. Its parent(), which the interface does not show, is the element that has it.
+class axsAttribute final : public axsNodeOf<axmNode, axsLeaf>
+{
+public:
+  axsAttribute(std::uint32_t room_behind, axsName const& name) noexcept;
+
+  axsName const& full_name() const noexcept { return *attribute_name; }
+
+  axsElement* owner() const noexcept;
+
+  axsAttribute* next_attribute() const noexcept { return static_cast<axsAttribute*>(next_sibling()); }
+};

@@ -1,0 +1,70 @@
+#include "axsAttributeMap.h"
+
+#include "axsAttribute.h"
+#include "axsElement.h"
+#include "axsHandle.h"
+
+axsAttributeMap::axsAttributeMap(axsElement& element) noexcept : owner(element)
+{
+  owner.acquire();
+}
+
+axsAttributeMap::~axsAttributeMap()
+{
+  owner.release();
+}
+
+int axsAttributeMap::getLength()
+{
+  int count = 0;
+  for (axsAttribute const* at = owner.first_attribute(); at != nullptr; at = at->next_attribute())
+    ++count;
+  return count;
+}
+
+std::shared_ptr<axmNode> axsAttributeMap::item(int index)
+{
+  if (index < 0)
+    return nullptr;
+  std::uint64_t const changes = owner.document().attribute_changes;
+  if (place == nullptr || changes != seen_changes || index < place_index)
+  {
+    place = owner.first_attribute();
+    place_index = 0;
+    seen_changes = changes;
+  }
+  for (; place != nullptr && place_index < index; ++place_index)
+    place = place->next_attribute();
+  return axsTree::handle(place);
+}
+
+std::shared_ptr<axmNode> axsAttributeMap::getNamedItem(apString const& name)
+{
+  return axsTree::handle(owner.find_attribute(name));
+}
+
+std::shared_ptr<axmNode> axsAttributeMap::removeNamedItem(apString const& name)
+{
+  axsAttribute* const attribute = owner.find_attribute(name);
+  std::shared_ptr<axmNode> removed = axsTree::handle(attribute);
+  if (removed != nullptr)
+    owner.take_attribute(*attribute);
+  return removed;
+}
+
+std::shared_ptr<axmNode> axsAttributeMap::setNamedItem(std::shared_ptr<axmNode> node)
+{
+  axsNode* const given = node == nullptr ? nullptr : axsNode::of(*node);
+  if (given == nullptr || !given->is_attribute() || &given->document() != &owner.document())
+    return nullptr;
+  auto& attribute = static_cast<axsAttribute&>(*given);
+  if (attribute.owner() == &owner)
+    return node;
+  // An attribute belongs to one element (DOM Core, INUSE_ATTRIBUTE_ERR).
+  if (attribute.owner() != nullptr)
+    return nullptr;
+  axsAttribute* const present = owner.find_attribute(attribute.full_name().wide());
+  std::shared_ptr<axmNode> replaced = axsTree::handle(present);
+  owner.put_attribute(attribute, present);
+  return replaced;
+}

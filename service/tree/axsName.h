@@ -1,0 +1,36 @@
+#pragma once
+
+#include <apString.h>
+
+#include <string>
+#include <string_view>
+
+/// The name of elements and attributes of one document, kept once for all of them: two nodes of a document have the same
+/// name exactly if they point to the same object. Lives as long as the document.
+class axsName
+{
+public:
+  explicit axsName(std::string_view text)
+    : wide_text(apString::from_utf8(text)),
+      narrow_text(text),
+      colon(narrow_text.find(':'))
+  {
+  }
+
+  apString const& wide() const noexcept { return wide_text; }
+  std::string_view utf8() const noexcept { return narrow_text; }
+
+  /// What stands before the first colon; empty without one.
+  std::string_view prefix() const noexcept
+  {
+    return colon == std::string::npos ? std::string_view() : utf8().substr(0, colon);
+  }
+
+  /// What stands behind the first colon; the whole name without one.
+  std::string_view local() const noexcept { return colon == std::string::npos ? utf8() : utf8().substr(colon + 1); }
+
+private:
+  apString wide_text;
+  std::string narrow_text;
+  std::size_t colon;
+};

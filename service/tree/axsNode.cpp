@@ -1,0 +1,254 @@
+#include "axsNode.h"
+
+#include "axsAttribute.h"
+#include "axsCommentNode.h"
+#include "axsDoctype.h"
+#include "axsDocument.h"
+#include "axsElement.h"
+#include "axsHandle.h"
+#include "axsNodeView.h"
+#include "axsProcessingInstruction.h"
+#include "axsTextNode.h"
+
+#include <axmElement.h>
+
+#include <algorithm>
+#include <climits>
+#include <cstring>
+
+namespace
+{
+// The name of a processing instruction or document type stands in its text.
+std::string_view first_word(std::string_view text)
+{
+  return text.substr(0, text.find_first_of(" \t\r\n[>"));
+}
+
+std::string_view doctype_name(std::string_view declaration)
+{
+  declaration.remove_prefix(std::strlen("<!DOCTYPE"));
+  declaration.remove_prefix(std::min(declaration.find_first_not_of(" \t\r\n"), declaration.size()));
+  return first_word(declaration);
+}
+}
+
+axsNode* axsNode::of(axmNode const& node) noexcept
+{
+  // Comparing types and asking for the whole object is a good deal cheaper than casting across to this record.
+  std::type_info const& type = typeid(node);
+  void* const object = const_cast<void*>(dynamic_cast<void const*>(&node));
+  if (type == typeid(axsElement))
+    return static_cast<axsElement*>(object);
+  if (type == typeid(axsTextNode))
+    return static_cast<axsTextNode*>(object);
+  if (type == typeid(axsNodeView))
+    return &static_cast<axsNodeView*>(object)->node();
+  if (type == typeid(axsAttribute))
+    return static_cast<axsAttribute*>(object);
+  if (type == typeid(axsCommentNode))
+    return static_cast<axsCommentNode*>(object);
+  if (type == typeid(axsDocument))
+    return static_cast<axsDocument*>(object);
+  if (type == typeid(axsProcessingInstruction))
+    return static_cast<axsProcessingInstruction*>(object);
+  if (type == typeid(axsDoctype))
+    return static_cast<axsDoctype*>(object);
+  return nullptr;
+}
+
+axsDocument& axsNode::document() const noexcept
+{
+  return is_document() ? const_cast<axsDocument&>(static_cast<axsDocument const&>(*this)) : axsArena::document_of(this);
+}
+
+axsNode* axsNode::previous_sibling() const noexcept
+{
+  if (is_attribute() || up == nullptr || up->first_child() == this)
+    return nullptr;
+  return previous;
+}
+
+axsNode* axsNode::first_child() const noexcept
+{
+  return is_parent() ? static_cast<axsParent const*>(this)->first : nullptr;
+}
+
+axsNode* axsNode::last_child() const noexcept
+{
+  axsNode* const child = first_child();
+  return child == nullptr ? nullptr : child->previous;
+}
+
+axsNode* axsNode::first_attribute() const noexcept
+{
+  return is_element() ? static_cast<axsElement const*>(this)->first_attribute() : nullptr;
+}
+
+axsNode& axsNode::root() noexcept
+{
+  axsNode* node = this;
+  while (node->up != nullptr)
+    node = node->up;
+  return *node;
+}
+
+axsNode* axsNode::next_in_tree(axsNode const& top) const noexcept
+{
+  axsNode* const child = first_child();
+  return child != nullptr ? child : next_behind(top);
+}
+
+axsNode* axsNode::next_behind(axsNode const& top) const noexcept
+{
+  for (axsNode const* node = this; node != &top; node = node->up)
+    if (node->next != nullptr)
+      return node->next;
+  return nullptr;
+}
+
+axsName const* axsNode::name() const noexcept
+{
+  if (is_element())
+    return &static_cast<axsElement const*>(this)->element_name();
+  return is_attribute() ? attribute_name : nullptr;
+}
+
+std::string_view axsNode::node_name() const noexcept
+{
+  switch (node_kind)
+  {
+  case axsKind::document:
+    return "#document";
+  case axsKind::element:
+  case axsKind::attribute:
+    return name()->utf8();
+  case axsKind::text:
+    return from_cdata ? "#cdata-section" : "#text";
+  case axsKind::comment:
+    return "#comment";
+  case axsKind::processing_instruction:
+    return first_word(static_cast<axsProcessingInstruction const*>(this)->text());
+  case axsKind::doctype:
+    return doctype_name(static_cast<axsDoctype const*>(this)->text());
+  }
+  return {};
+}
+
+std::string_view axsNode::value() const noexcept
+{
+  switch (node_kind)
+  {
+  case axsKind::document:
+  case axsKind::element:
+  case axsKind::doctype:
+    return {};
+  case axsKind::attribute:
+    return static_cast<axsAttribute const*>(this)->text();
+  case axsKind::text:
+    return static_cast<axsTextNode const*>(this)->text();
+  case axsKind::comment:
+    return static_cast<axsCommentNode const*>(this)->text();
+  case axsKind::processing_instruction:
+  {
+    std::string_view text = static_cast<axsProcessingInstruction const*>(this)->text();
+    text.remove_prefix(std::min(node_name().size() + 1, text.size()));
+    return text;
+  }
+  }
+  return {};
+}
+
+void axsNode::append_text_to(std::string& text) const
+{
+  if (!is_parent())
+  {
+    text += value();
+    return;
+  }
+  for (axsNode const* node = first_child(); node != nullptr; node = node->next_in_tree(*this))
+    if (node->kind() == axsKind::text)
+      text += static_cast<axsTextNode const*>(node)->text();
+}
+
+std::shared_ptr<axmNode> axsNode::handle()
+{
+  switch (node_kind)
+  {
+  case axsKind::document:
+    return axs_handle<axmNode>(static_cast<axsDocument&>(*this));
+  case axsKind::element:
+    return axs_handle<axmNode>(static_cast<axsElement&>(*this));
+  case axsKind::attribute:
+    return axs_handle<axmNode>(static_cast<axsAttribute&>(*this));
+  case axsKind::text:
+    return axs_handle<axmNode>(static_cast<axsTextNode&>(*this));
+  case axsKind::comment:
+    return axs_handle<axmNode>(static_cast<axsCommentNode&>(*this));
+  case axsKind::processing_instruction:
+    return axs_handle<axmNode>(static_cast<axsProcessingInstruction&>(*this));
+  case axsKind::doctype:
+    return axs_handle<axmNode>(static_cast<axsDoctype&>(*this));
+  }
+  return nullptr;
+}
+
+std::shared_ptr<axmElement> axsNode::item_handle()
+{
+  if (is_element())
+    return axs_handle<axmElement>(static_cast<axsElement&>(*this));
+  return std::allocate_shared<axsNodeView>(axsHandleAllocator<axsNodeView>(document().handle_pool()), *this);
+}
+
+void axsNode::acquire() noexcept
+{
+  axsNode* node = this;
+  while (node->busy++ == 0 && !node->is_document())
+    node = node->up != nullptr ? node->up : &node->document();
+}
+
+void axsNode::release() noexcept
+{
+  axsNode* node = this;
+  while (--node->busy == 0)
+  {
+    if (node->is_document())
+    {
+      delete static_cast<axsDocument*>(node);
+      return;
+    }
+    axsNode* const above = node->up;
+    if (above == nullptr)
+    {
+      axsDocument& owner = node->document();
+      axsTree::free_tree(*node);
+      node = &owner;
+    }
+    else
+      node = above;
+  }
+}
+
+void axsLeaf::set_text(std::string_view text)
+{
+  axsArena& arena = document().arena();
+  char* const old_bytes = bytes;
+  std::size_t const old_length = length;
+  bool const old_apart = apart();
+
+  char* const new_bytes = text.size() <= room ? inside() : allocate_apart(text.size());
+  // The old text may be where the new one goes, or be the new one.
+  if (!text.empty())
+    std::memmove(new_bytes, text.data(), text.size());
+  bytes = new_bytes;
+  length = static_cast<std::uint32_t>(text.size());
+  if (old_apart)
+    arena.release(old_bytes, old_length);
+}
+
+char* axsLeaf::allocate_apart(std::size_t size)
+{
+  // What is longer could not be handed out.
+  if (size > INT_MAX / sizeof(wchar_t) - 64)
+    throw std::bad_alloc();
+  return static_cast<char*>(document().arena().allocate(size));
+}

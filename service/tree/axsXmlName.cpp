@@ -1,0 +1,31 @@
+#include "axsXmlName.h"
+
+#include <xercesc/util/XMLChar.hpp>
+
+#include <algorithm>
+
+namespace
+{
+// The parser knows names by the tables of the first four editions, which end at U+FFFF.
+bool is_in_tables(wchar_t c)
+{
+  return static_cast<unsigned long>(c) <= 0xFFFF;
+}
+
+bool is_name_start(wchar_t c)
+{
+  return is_in_tables(c) && xercesc::XMLChar1_0::isFirstNameChar(static_cast<XMLCh>(c));
+}
+
+bool is_name_character(wchar_t c)
+{
+  return is_in_tables(c) && xercesc::XMLChar1_0::isNameChar(static_cast<XMLCh>(c));
+}
+}
+
+bool axsXmlName::is_name(apString const& text) noexcept
+{
+  auto const characters = text.view();
+  return !characters.empty() && is_name_start(characters.front()) &&
+         std::all_of(characters.begin(), characters.end(), is_name_character);
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <apByteArray.h>
+#include <apPath.h>
+
+class axsDocument;
+
+/// Saves documents. All or nothing: what was there before stays whole until the new document is.
+namespace axsSaver
+{
+/// Puts the document into `output`, in the place of what it held. False, with `output` unchanged, when XML cannot hold
+/// it or memory runs out.
+bool save(axsDocument const& document, apByteArray& output) noexcept;
+
+/// Writes it to a temporary file beside `path` and renames that over it. False, with nothing left behind and an old file
+/// unchanged, when XML cannot hold the document or the file cannot be written.
+bool save(axsDocument const& document, apPath const& path) noexcept;
+}

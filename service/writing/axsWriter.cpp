@@ -1,0 +1,250 @@
+#include "axsWriter.h"
+
+#include "axsAttribute.h"
+#include "axsDoctype.h"
+#include "axsDocument.h"
+#include "axsElement.h"
+#include "axsProcessingInstruction.h"
+
+#include <array>
+
+namespace
+{
+std::size_t const piece = 64 * 1024;
+
+enum Class : unsigned char
+{
+  plain,
+  markup,     // & < >
+  quote,      // needs a reference in attributes only
+  white,      // the same, for reading makes spaces of it
+  carriage,   // needs a reference everywhere, for reading makes a line feed of it
+  last_plane, // may begin U+FFFE or U+FFFF
+  forbidden
+};
+
+constexpr std::array<Class, 256> make_classes()
+{
+  std::array<Class, 256> classes{};
+  for (std::size_t c = 0; c < 0x20; ++c)
+    classes[c] = forbidden;
+  classes['\t'] = classes['\n'] = white;
+  classes['\r'] = carriage;
+  classes['&'] = classes['<'] = classes['>'] = markup;
+  classes['"'] = quote;
+  classes[0xEF] = last_plane;
+  return classes;
+}
+
+constexpr std::array<Class, 256> classes = make_classes();
+
+Class class_of(char c)
+{
+  return classes[static_cast<unsigned char>(c)];
+}
+
+// Whether U+FFFE or U+FFFF stands there, which are no characters (XML 1.0, 2.2, [2] Char).
+bool is_no_character(std::string_view text, std::size_t at)
+{
+  return text.compare(at, 3, "\xEF\xBF\xBE") == 0 || text.compare(at, 3, "\xEF\xBF\xBF") == 0;
+}
+
+std::string_view reference(char c)
+{
+  switch (c)
+  {
+  case '&':
+    return "&amp;";
+  case '<':
+    return "&lt;";
+  case '>':
+    return "&gt;";
+  case '"':
+    return "&quot;";
+  case '\t':
+    return "&#9;";
+  case '\n':
+    return "&#10;";
+  default:
+    return "&#13;";
+  }
+}
+}
+
+bool axsWriter::write(axsNode const& node, std::string& xml)
+{
+  return axsWriter(xml, nullptr).write_tree(node);
+}
+
+bool axsWriter::write(axsNode const& node, std::FILE* file)
+{
+  std::string buffer;
+  buffer.reserve(2 * piece);
+  axsWriter writer(buffer, file);
+  return writer.write_tree(node) && writer.flush(0);
+}
+
+bool axsWriter::write_tree(axsNode const& top)
+{
+  for (axsNode const* node = &top;;)
+  {
+    if (!open(*node))
+      return false;
+    if (axsNode const* const child = node->first_child())
+    {
+      node = child;
+      continue;
+    }
+    for (bool complete = true; complete;)
+    {
+      if (node == &top)
+        return true;
+      if (node->parent()->is_document())
+        xml += '\n';
+      if (!flush(piece))
+        return false;
+      complete = node->next_sibling() == nullptr;
+      node = complete ? node->parent() : node->next_sibling();
+      if (complete)
+        close(*node);
+    }
+  }
+}
+
+// The node up to its children.
+bool axsWriter::open(axsNode const& node)
+{
+  switch (node.kind())
+  {
+  case axsKind::document:
+    xml += "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
+    return static_cast<axsDocument const&>(node).root_element() != nullptr;
+  case axsKind::element:
+  {
+    xml += '<';
+    xml += node.name()->utf8();
+    if (!write_attributes(static_cast<axsElement const&>(node)))
+      return false;
+    xml += node.first_child() == nullptr ? "/>" : ">";
+    return true;
+  }
+  case axsKind::attribute:
+    xml += node.name()->utf8();
+    xml += "=\"";
+    if (!write_escaped(node.value(), true))
+      return false;
+    xml += '"';
+    return true;
+  case axsKind::text:
+    return write_text(node);
+  case axsKind::comment:
+    return write_comment(node.value());
+  case axsKind::processing_instruction:
+    return write_instruction(static_cast<axsProcessingInstruction const&>(node).text());
+  case axsKind::doctype:
+    xml += static_cast<axsDoctype const&>(node).text();
+    return true;
+  }
+  return false;
+}
+
+void axsWriter::close(axsNode const& node)
+{
+  if (!node.is_element())
+    return;
+  xml += "</";
+  xml += node.name()->utf8();
+  xml += '>';
+}
+
+bool axsWriter::write_attributes(axsElement const& element)
+{
+  for (axsAttribute const* at = element.first_attribute(); at != nullptr; at = at->next_attribute())
+  {
+    xml += ' ';
+    if (!open(*at))
+      return false;
+  }
+  return true;
+}
+
+bool axsWriter::write_text(axsNode const& node)
+{
+  if (node.is_cdata() && node.value().find("]]>") == std::string_view::npos &&
+      node.value().find('\r') == std::string_view::npos)
+    return write_cdata(node.value());
+  return write_escaped(node.value(), false);
+}
+
+bool axsWriter::write_cdata(std::string_view text)
+{
+  xml += "<![CDATA[";
+  if (!write_raw(text))
+    return false;
+  xml += "]]>";
+  return true;
+}
+
+bool axsWriter::write_comment(std::string_view text)
+{
+  if (text.find("--") != std::string_view::npos || (!text.empty() && text.back() == '-'))
+    return false;
+  xml += "<!--";
+  if (!write_raw(text))
+    return false;
+  xml += "-->";
+  return true;
+}
+
+bool axsWriter::write_instruction(std::string_view text)
+{
+  if (text.find("?>") != std::string_view::npos)
+    return false;
+  xml += "<?";
+  if (!write_raw(text))
+    return false;
+  xml += "?>";
+  return true;
+}
+
+bool axsWriter::write_raw(std::string_view text)
+{
+  for (std::size_t at = 0; at < text.size(); ++at)
+  {
+    Class const found = class_of(text[at]);
+    if (found == forbidden || (found == last_plane && is_no_character(text, at)))
+      return false;
+  }
+  xml += text;
+  return true;
+}
+
+bool axsWriter::write_escaped(std::string_view text, bool in_attribute)
+{
+  std::size_t written = 0;
+  for (std::size_t at = 0; at < text.size(); ++at)
+  {
+    Class const found = class_of(text[at]);
+    if (found == plain || (!in_attribute && (found == quote || found == white)))
+      continue;
+    if (found == forbidden || (found == last_plane && is_no_character(text, at)))
+      return false;
+    if (found == last_plane)
+      continue;
+    xml.append(text.substr(written, at - written));
+    xml += reference(text[at]);
+    written = at + 1;
+  }
+  xml.append(text.substr(written));
+  return true;
+}
+
+// Hands what was written to the file, if there is more than `limit` of it.
+bool axsWriter::flush(std::size_t limit)
+{
+  if (file == nullptr || xml.size() <= limit)
+    return true;
+  bool const taken = std::fwrite(xml.data(), 1, xml.size(), file) == xml.size();
+  xml.clear();
+  return taken;
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "axsNode.h"
+
+#include <cstdio>
+#include <string>
+#include <string_view>
+
+class axsElement;
+
+/// Writes nodes as XML in UTF-8, into a text or straight to a file.
+///
+/// What reading would change is written as a reference; what XML cannot hold at all (control characters, a comment with
+/// "--" in it, a document without a root element) is not written: the operations are false then. It does not recurse.
+class axsWriter
+{
+public:
+  /// Adds the node as XML to `xml`, of the document all of it with the declaration. False when XML cannot hold it, with
+  /// the beginning of it in `xml`. Throws std::bad_alloc when memory runs out.
+  static bool write(axsNode const& node, std::string& xml);
+
+  /// Writes it to `file`, piece by piece. False also when the file does not take it.
+  static bool write(axsNode const& node, std::FILE* file);
+
+private:
+  axsWriter(std::string& buffer, std::FILE* target) : xml(buffer), file(target) {}
+
+  bool write_tree(axsNode const& top);
+  bool open(axsNode const& node);
+  void close(axsNode const& node);
+  bool write_attributes(axsElement const& element);
+  bool write_text(axsNode const& node);
+  bool write_cdata(std::string_view text);
+  bool write_comment(std::string_view text);
+  bool write_instruction(std::string_view text);
+  bool write_raw(std::string_view text);
+  bool write_escaped(std::string_view text, bool in_attribute);
+  bool flush(std::size_t limit);
+
+  std::string& xml;
+  std::FILE* file;
+};
