@@ -9,11 +9,44 @@ if(PROJECT_IS_TOP_LEVEL)
   set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 endif()
 
+set(AXM_CMAKE_FOLDER ${CMAKE_CURRENT_LIST_DIR})
+
 add_library(axm_options INTERFACE)
 target_compile_features(axm_options INTERFACE cxx_std_17)
 target_compile_options(axm_options INTERFACE
   $<$<CXX_COMPILER_ID:GNU,Clang>:-Wall -Wextra -Wpedantic -Wconversion -Wshadow>
   $<$<AND:$<BOOL:${AXM_WARNINGS_AS_ERRORS}>,$<CXX_COMPILER_ID:GNU,Clang>>:-Werror>)
+
+# GCC for Windows exports the members of an instance of a class template only by a list of their symbols. It is taken from
+# the objects that define them: the sources that instantiate one are therefore compiled by themselves, and taken out of
+# the list `sources_variable`.
+function(axm_export_instances name sources_variable)
+  set(instances "")
+  foreach(source IN LISTS ${sources_variable})
+    file(STRINGS ${source} found REGEX "^template class CO_SYMBOL_INSTANCE ")
+    if(found)
+      list(APPEND instances ${source})
+    endif()
+  endforeach()
+  if(NOT instances)
+    return()
+  endif()
+  list(REMOVE_ITEM ${sources_variable} ${instances})
+
+  set(objects ${name}_instances)
+  add_library(${objects} OBJECT ${instances})
+  target_link_libraries(${objects} PRIVATE axm_options)
+  target_compile_definitions(${objects} PRIVATE $<TARGET_PROPERTY:${name},DEFINE_SYMBOL>)
+  target_include_directories(${objects} PRIVATE $<TARGET_PROPERTY:${name},INCLUDE_DIRECTORIES>)
+
+  set(definition ${CMAKE_CURRENT_BINARY_DIR}/${name}.def)
+  add_custom_command(OUTPUT ${definition}
+    COMMAND ${CMAKE_COMMAND} -DNM=${CMAKE_NM} "-DOBJECTS=$<TARGET_OBJECTS:${objects}>" -DOUTPUT=${definition}
+      -P ${AXM_CMAKE_FOLDER}/windows/instances.cmake
+    DEPENDS $<TARGET_OBJECTS:${objects}> ${AXM_CMAKE_FOLDER}/windows/instances.cmake
+    VERBATIM)
+  set(${sources_variable} ${${sources_variable}} $<TARGET_OBJECTS:${objects}> ${definition} PARENT_SCOPE)
+endfunction()
 
 # axm_add_library(NAME HEADERS ... SOURCES ... [PUBLIC ...] [PRIVATE ...] [PRIVATE_INCLUDES ...])
 # One library of the house, as target NAME and axm::NAME. Headers are found by their bare name in the build tree and,
@@ -22,6 +55,9 @@ function(axm_add_library name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "HEADERS;SOURCES;PUBLIC;PRIVATE;PRIVATE_INCLUDES")
   string(TOUPPER ${name} upper)
 
+  if(MINGW AND BUILD_SHARED_LIBS)
+    axm_export_instances(${name} arg_SOURCES)
+  endif()
   add_library(${name} ${arg_SOURCES})
   add_library(axm::${name} ALIAS ${name})
   target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE} $<BUILD_INTERFACE:axm_options>)
@@ -35,6 +71,12 @@ function(axm_add_library name)
     DEFINE_SYMBOL ${upper}_BUILDING)
   if(NOT BUILD_SHARED_LIBS)
     target_compile_definitions(${name} PUBLIC AXM_STATIC)
+  elseif(WIN32)
+    # A DLL is found by its file name alone, so that bears the major version.
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_NAME ${name}-${PROJECT_VERSION_MAJOR})
+  elseif(NOT APPLE)
+    target_link_options(${name} PRIVATE LINKER:--version-script=${AXM_CMAKE_FOLDER}/exports.map)
+    set_target_properties(${name} PROPERTIES LINK_DEPENDS ${AXM_CMAKE_FOLDER}/exports.map)
   endif()
 
   set(folders "")

@@ -1,3 +1,3 @@
 #include <charcoDynArr.h>
 
-template class coDynArr<char>;
+template class CO_SYMBOL_INSTANCE coDynArr<char>;

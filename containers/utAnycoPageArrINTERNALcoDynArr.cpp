@@ -1,3 +1,3 @@
 #include <utAnycoPageArrINTERNALcoDynArr.h>
 
-template class coDynArr<void*>;
+template class CO_SYMBOL_INSTANCE coDynArr<void*>;

@@ -6,4 +6,4 @@
 /// The page directory of every paged array: one untyped pointer a page.
 using utAnycoPageArrINTERNALcoDynArr = coDynArr<void*>;
 
-extern template class CO_API coDynArr<void*>;
+extern template class CO_API_INSTANCE coDynArr<void*>;

@@ -1,3 +1,3 @@
 #include <apITarnFilecoPrf.h>
 
-template class coPrf<apITarnFile>;
+template class CO_SYMBOL_INSTANCE coPrf<apITarnFile>;

@@ -7,4 +7,4 @@
 /// Shared owner of an open file.
 using apITarnFilecoPrf = coPrf<apITarnFile>;
 
-extern template class AP_API coPrf<apITarnFile>;
+extern template class AP_API_INSTANCE coPrf<apITarnFile>;

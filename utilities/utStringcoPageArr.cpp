@@ -1,3 +1,3 @@
 #include <utStringcoPageArr.h>
 
-template class coPageArr<utString>;
+template class CO_SYMBOL_INSTANCE coPageArr<utString>;

@@ -7,4 +7,4 @@
 /// Growable list of narrow texts.
 using utStringcoPageArr = coPageArr<utString>;
 
-extern template class UT_API coPageArr<utString>;
+extern template class UT_API_INSTANCE coPageArr<utString>;

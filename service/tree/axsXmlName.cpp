@@ -9,7 +9,7 @@ namespace
 // The parser knows names by the tables of the first four editions, which end at U+FFFF.
 bool is_in_tables(wchar_t c)
 {
-  return static_cast<unsigned long>(c) <= 0xFFFF;
+  return static_cast<wchar_t>(static_cast<XMLCh>(c)) == c;
 }
 
 bool is_name_start(wchar_t c)

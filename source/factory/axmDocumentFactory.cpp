@@ -3,5 +3,5 @@
 axmDocumentFactory::axmDocumentFactory() = default;
 axmDocumentFactory::~axmDocumentFactory() = default;
 
-template std::shared_ptr<axmDocumentFactory> utService::locate_service<axmDocumentFactory>(
+template AXM_API std::shared_ptr<axmDocumentFactory> utService::locate_service<axmDocumentFactory>(
   utServiceName const& name, utServiceName& resolved);

@@ -52,5 +52,5 @@ public:
     virtual bool saveDocument(std::shared_ptr<axmDocument> document, apPath const& path) = 0);
 };
 
-extern template AXM_API std::shared_ptr<axmDocumentFactory> utService::locate_service<axmDocumentFactory>(
+extern template AXM_API_INSTANCE std::shared_ptr<axmDocumentFactory> utService::locate_service<axmDocumentFactory>(
   utServiceName const& name, utServiceName& resolved);

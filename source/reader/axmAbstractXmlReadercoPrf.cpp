@@ -1,3 +1,3 @@
 #include <axmAbstractXmlReadercoPrf.h>
 
-template class coPrf<axmAbstractXmlReader>;
+template class CO_SYMBOL_INSTANCE coPrf<axmAbstractXmlReader>;

@@ -7,4 +7,4 @@
 /// Shared owner of a reader.
 using axmAbstractXmlReadercoPrf = coPrf<axmAbstractXmlReader>;
 
-extern template class AXM_API coPrf<axmAbstractXmlReader>;
+extern template class AXM_API_INSTANCE coPrf<axmAbstractXmlReader>;

@@ -1,3 +1,3 @@
 #include <axmAbstractXmlReadercoPrg.h>
 
-template class coPrg<axmAbstractXmlReader>;
+template class CO_SYMBOL_INSTANCE coPrg<axmAbstractXmlReader>;

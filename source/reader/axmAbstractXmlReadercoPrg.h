@@ -7,4 +7,4 @@
 /// Sole owner of a reader.
 using axmAbstractXmlReadercoPrg = coPrg<axmAbstractXmlReader>;
 
-extern template class AXM_API coPrg<axmAbstractXmlReader>;
+extern template class AXM_API_INSTANCE coPrg<axmAbstractXmlReader>;

@@ -1,3 +1,3 @@
 #include <axmInitialPositionXcoPrg.h>
 
-template class coPrg<axmInitialPositionX>;
+template class CO_SYMBOL_INSTANCE coPrg<axmInitialPositionX>;

@@ -7,4 +7,4 @@
 /// Sole owner of a cursor at the beginning of a document.
 using axmInitialPositionXcoPrg = coPrg<axmInitialPositionX>;
 
-extern template class AXM_API coPrg<axmInitialPositionX>;
+extern template class AXM_API_INSTANCE coPrg<axmInitialPositionX>;

@@ -1,3 +1,3 @@
 #include <axmPositionXcoPageArrPrgcoPrg.h>
 
-template class coPrg<axmPositionX>;
+template class CO_SYMBOL_INSTANCE coPrg<axmPositionX>;

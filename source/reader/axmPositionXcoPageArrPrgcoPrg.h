@@ -7,4 +7,4 @@
 /// Sole owner of a cursor.
 using axmPositionXcoPageArrPrgcoPrg = coPrg<axmPositionX>;
 
-extern template class AXM_API coPrg<axmPositionX>;
+extern template class AXM_API_INSTANCE coPrg<axmPositionX>;

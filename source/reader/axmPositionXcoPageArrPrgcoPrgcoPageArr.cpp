@@ -1,3 +1,3 @@
 #include <axmPositionXcoPageArrPrgcoPrgcoPageArr.h>
 
-template class coPageArr<axmPositionXcoPageArrPrgcoPrg>;
+template class CO_SYMBOL_INSTANCE coPageArr<axmPositionXcoPageArrPrgcoPrg>;

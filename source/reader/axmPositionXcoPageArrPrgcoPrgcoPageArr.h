@@ -7,4 +7,4 @@
 /// Growable array of cursors, which it owns: the stack of a reader.
 using axmPositionXcoPageArrPrgcoPrgcoPageArr = coPageArr<axmPositionXcoPageArrPrgcoPrg>;
 
-extern template class AXM_API coPageArr<axmPositionXcoPageArrPrgcoPrg>;
+extern template class AXM_API_INSTANCE coPageArr<axmPositionXcoPageArrPrgcoPrg>;

@@ -1,3 +1,3 @@
 #include <axmPositionXcoPageArrPrgcoPrgcoPageArrcoIterator.h>
 
-template class coIterator<axmPositionXcoPageArrPrgcoPrgcoPageArr>;
+template class CO_SYMBOL_INSTANCE coIterator<axmPositionXcoPageArrPrgcoPrgcoPageArr>;

@@ -7,4 +7,4 @@
 /// Walks the owners in an array of cursors.
 using axmPositionXcoPageArrPrgcoPrgcoPageArrcoIterator = coIterator<axmPositionXcoPageArrPrgcoPrgcoPageArr>;
 
-extern template class AXM_API coIterator<axmPositionXcoPageArrPrgcoPrgcoPageArr>;
+extern template class AXM_API_INSTANCE coIterator<axmPositionXcoPageArrPrgcoPrgcoPageArr>;
