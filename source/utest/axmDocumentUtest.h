@@ -1,0 +1,27 @@
+#pragma once
+
+#include <axmDocumentFactory.h>
+#include <axmExport.h>
+
+class utUnitTest;
+
+/// The checks of documents; see axmDocument for what they check.
+///
+/// Every check is reported to utUnitTest::get_tester(). The tester given here, which is not owned and must outlive this
+/// object, gets the diagnostic text. What is missing or thrown is a failed check; a group that cannot go on leaves out
+/// the rest of its checks. Nothing is written to files.
+class AXM_API axmDocumentUtest
+{
+public:
+  explicit axmDocumentUtest(utUnitTest* tester);
+  ~axmDocumentUtest();
+
+  /// Runs all checks on what `factory` creates and loads.
+  void run_tests(axmDocumentFactory const& factory) const;
+
+protected:
+  void test_get_elements_by_tag_name(axmDocumentFactory const& factory) const;
+
+private:
+  utUnitTest* tester;
+};

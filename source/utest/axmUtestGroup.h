@@ -1,0 +1,70 @@
+#pragma once
+
+#include <apString.h>
+
+#include <exception>
+
+class utUnitTest;
+
+// A group of checks that is under way: where its reports come from and how they are made. Not installed.
+//
+// Every operation tells whether the check passed, so that a group can leave out what makes no sense without it. Each
+// check fetches the runner in charge anew; diagnostic text goes to the runner that the check class was made with.
+class axmUtestGroup
+{
+public:
+  // Nothing is copied or owned.
+  axmUtestGroup(utUnitTest* tester, char const* file, char const* function);
+
+  bool check(bool ok, char const* expression, int line, char const* description) const;
+
+  // Reported only if it fails.
+  bool prerequisite(bool ok, char const* expression, int line, char const* description) const;
+
+  // That both are equal; if they are not, they are printed.
+  bool check(
+    apString const& actual, apString const& expected, char const* expression, int line, char const* description) const;
+  bool check(int actual, int expected, char const* expression, int line, char const* description) const;
+
+  // A pointer would be taken for a `bool` and a description for a number's text.
+  bool check(void const* ok, char const* expression, int line, char const* description) const = delete;
+
+  void print_difference(apString const& actual, apString const& expected) const;
+
+  // Reports that the group was ended by an exception, which no engine may throw.
+  void ended_by(char const* what, int line) const;
+
+private:
+  utUnitTest* tester;
+  char const* file;
+  char const* function;
+};
+
+// A group of the check class `Suite`, whose operations take a `Factory`, and its qualified name.
+template <class Suite, class Factory>
+struct axmUtestEntry
+{
+  void (Suite::*run)(Factory) const;
+  char const* name;
+};
+
+// Runs the groups of `entries` in turn. An engine that throws ends the group, not the suite.
+template <class Suite, class Factory, class Entries>
+void axm_run_groups(Suite const& suite, Factory&& factory, Entries const& entries, utUnitTest* tester, char const* file)
+{
+  for (auto const& entry : entries)
+  {
+    try
+    {
+      (suite.*entry.run)(factory);
+    }
+    catch (std::exception const& exception)
+    {
+      axmUtestGroup(tester, file, entry.name).ended_by(exception.what(), __LINE__);
+    }
+    catch (...)
+    {
+      axmUtestGroup(tester, file, entry.name).ended_by("of an unknown kind", __LINE__);
+    }
+  }
+}
