@@ -13,3 +13,5 @@ enum ExitCode : int
 /// A verb of the command: what adds itself to the command line as a subcommand whose callback does the work and stores
 /// its exit code in `exit_code`. One file a verb.
 using Verb = void (*)(CLI::App& app, int& exit_code);
+
+void add_table(CLI::App& app, int& exit_code);

@@ -1,29 +1,45 @@
+#include "Arguments.h"
 #include "Verb.h"
 
 #include <CLI/CLI.hpp>
 
+#include <exception>
+#include <iostream>
+
 namespace
 {
 // In the order in which the help lists them.
-Verb const verbs[] = {nullptr};
-}
+Verb const verbs[] = {add_table};
 
-int main(int argc, char** argv)
+int run(Arguments const& arguments)
 {
   CLI::App app("Work with XML documents through axm.", "axm");
   app.require_subcommand(1);
   int exit_code = exit_good;
   for (Verb const verb : verbs)
-    if (verb != nullptr)
-      verb(app, exit_code);
+    verb(app, exit_code);
 
   try
   {
-    app.parse(argc, argv);
+    app.parse(arguments.count(), arguments.values());
   }
   catch (CLI::ParseError const& error)
   {
     return app.exit(error) == 0 ? exit_good : exit_usage;
   }
   return exit_code;
+}
+}
+
+int main(int argc, char** argv)
+{
+  try
+  {
+    return run(Arguments(argc, argv));
+  }
+  catch (std::exception const& error)
+  {
+    std::cerr << "axm: " << error.what() << '\n';
+    return exit_bad_input;
+  }
 }

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <chrono>
+#include <string>
+
+/// Shows on standard error, where that is a terminal, how far a work of more than a second has come, in one line that is
+/// written again and again and cleared at the end.
+class Progress
+{
+public:
+  Progress();
+  Progress(Progress const&) = delete;
+  Progress& operator=(Progress const&) = delete;
+  ~Progress();
+
+  /// To be called for every row.
+  void show(long long rows);
+
+  /// The line for a work of that state.
+  static std::string line(long long rows, std::chrono::milliseconds elapsed);
+
+private:
+  using Clock = std::chrono::steady_clock;
+
+  bool const terminal;
+  Clock::time_point const start = Clock::now();
+  Clock::time_point next = start + std::chrono::seconds(1);
+  bool shown = false;
+};
