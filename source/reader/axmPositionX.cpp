@@ -225,7 +225,7 @@ bool axmPositionX::self_closing_tag() const
 
 bool axmPositionX::is_tag_name(utString const& name) const
 {
-  return is_tag_name(axmTagName{name.c_str(), name.c_str() + name.length()});
+  return is_tag_named(axmTagName{name.c_str(), name.c_str() + name.length()});
 }
 
 void axmPositionX::skip_char(char c)
@@ -366,7 +366,7 @@ bool axmPositionX::begins_with(char const* pattern, int length) const
   return stands_at(current_pos, pattern, length);
 }
 
-bool axmPositionX::is_tag_name(axmTagName name) const
+bool axmPositionX::is_tag_named(axmTagName name) const
 {
   int const closing_length = sizeof closing_mark;
   return (begins_with(closing_mark, 1) && stands_at(current_pos + 1, name.begin, name.length())) ||
@@ -429,7 +429,7 @@ void axmPositionX::return_to_start()
 {
   axmTagName const name = tag_name();
   current_pos = object_start;
-  if (!is_tag_name(name))
+  if (!is_tag_named(name))
     throw_tag_error_x(name.text());
   skip_tag();
 }

@@ -128,7 +128,7 @@ protected:
 private:
   axmTagName tag_name() const;
   bool begins_with(char const* pattern, int length) const;
-  bool is_tag_name(axmTagName name) const;
+  bool is_tag_named(axmTagName name) const;
   void skip_pattern(char const* pattern, int length);
   void skip_to(char c);
   void skip_marked(char mark);
