@@ -19,7 +19,7 @@ target_compile_options(axm_options INTERFACE
 
 # GCC for Windows exports the members of an instance of a class template only by a list of their symbols. It is taken from
 # the objects that define them: the sources that instantiate one are therefore compiled by themselves, and taken out of
-# the list `sources_variable`.
+# the list `sources_variable`; without other export marks, for those would let type information of the standard library out.
 function(axm_export_instances name sources_variable)
   set(instances "")
   foreach(source IN LISTS ${sources_variable})
@@ -36,7 +36,7 @@ function(axm_export_instances name sources_variable)
   set(objects ${name}_instances)
   add_library(${objects} OBJECT ${instances})
   target_link_libraries(${objects} PRIVATE axm_options)
-  target_compile_definitions(${objects} PRIVATE $<TARGET_PROPERTY:${name},DEFINE_SYMBOL>)
+  target_compile_definitions(${objects} PRIVATE AXM_STATIC)
   target_include_directories(${objects} PRIVATE $<TARGET_PROPERTY:${name},INCLUDE_DIRECTORIES>)
 
   set(definition ${CMAKE_CURRENT_BINARY_DIR}/${name}.def)
@@ -82,6 +82,7 @@ function(axm_add_library name)
   set(folders "")
   foreach(header IN LISTS arg_HEADERS)
     cmake_path(ABSOLUTE_PATH header NORMALIZE)
+    set_property(TARGET ${name} APPEND PROPERTY AXM_HEADERS ${header})
     cmake_path(GET header PARENT_PATH folder)
     list(APPEND folders ${folder})
   endforeach()
