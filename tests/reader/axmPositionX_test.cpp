@@ -621,7 +621,7 @@ TEST(axmPositionX, attribute_accepts_both_quotes_and_any_other)
 
 TEST(axmPositionX, attribute_with_space_before_the_equals_sign_is_never_found)
 {
-  Document document("<a x = \"1\">_");
+  Document document("<a x = \"1\" >_");
   EXPECT_EQ(str(document->attribute(ut_lit("x"), ut_lit("none"))), "none");
 }
 

@@ -1,5 +1,5 @@
-#include "MemoryFile.h"
 #include "../slots.h"
+#include "MemoryFile.h"
 
 #include <apPath.h>
 #include <axmSimpleXmlFactory.h>

@@ -15,17 +15,22 @@
 
 namespace
 {
+int const levels = 40; // more than the cursors have room for without allocating
+
+char const value[] = "a value that is long enough to be allocated";
+char const more_text[] = "more text, and that is long too";
+
 std::string const& document()
 {
   static std::string const text = []
   {
     std::string made = "<?xml version='1.0' encoding='a-name-of-an-encoding-that-is-long'?>\n<r>";
-    for (int i = 0; i < 300; ++i)
+    for (int i = 0; i < levels; ++i)
       made += "<level>";
-    made += "<a k='a value that is long enough to be allocated'>text <!--c-->in <!--c-->pieces</a>";
-    for (int i = 0; i < 300; ++i)
+    made += std::string("<a k='") + value + "'>text <!--c-->in <!--c-->pieces</a>";
+    for (int i = 0; i < levels; ++i)
       made += "</level>";
-    return made + "<b>more text, and that is long too</b></r>\n";
+    return made + "<b>" + more_text + "</b></r>\n";
   }();
   return text;
 }
@@ -37,14 +42,14 @@ bool walk(apITarnFilecoPrf const& file)
   {
     auto const reader = axmSimpleXmlFactory().create_xml_reader_file(utPtrReleaseToCaller, file);
     bool good = reader->read_file() && reader->down_to(ut_lit("r"));
-    for (int i = 0; i < 300; ++i)
+    for (int i = 0; i < levels; ++i)
       good = good && reader->down_to(ut_lit("level"));
     good = good && reader->down_to(ut_lit("a"));
-    good = good && reader->attribute(ut_lit("k"), utString()).length() == 45;
+    good = good && reader->attribute(ut_lit("k"), utString()) == ut_lit(value);
     good = good && reader->text_node() == ut_lit("text in pieces");
-    for (int i = 0; i < 301; ++i)
+    for (int i = 0; i < levels + 1; ++i)
       reader->up();
-    good = good && reader->down_to(ut_lit("b")) && reader->text_node().length() == 32;
+    good = good && reader->down_to(ut_lit("b")) && reader->text_node() == ut_lit(more_text);
     reader->up();
     reader->up();
     return good && !reader->has_error_occurred();
@@ -95,7 +100,7 @@ TEST(memory, a_reader_goes_on_after_it_ran_out_of_memory)
       try
       {
         good = reader->read_file() && reader->down_to(ut_lit("r")) && reader->down_to(ut_lit("b")) &&
-               reader->text_node().length() == 32;
+               reader->text_node() == ut_lit(more_text);
       }
       catch (std::bad_alloc const&)
       {
@@ -108,7 +113,7 @@ TEST(memory, a_reader_goes_on_after_it_ran_out_of_memory)
     EXPECT_TRUE(again_until_it_works([&] { return reader->read_file(); }));
     EXPECT_TRUE(again_until_it_works([&] { return reader->down_to(ut_lit("r")); }));
     EXPECT_TRUE(again_until_it_works([&] { return reader->down_to(ut_lit("b")); }));
-    EXPECT_STREQ(reader->text_node().c_str(), "more text, and that is long too");
+    EXPECT_STREQ(reader->text_node().c_str(), more_text);
   }
 }
 
