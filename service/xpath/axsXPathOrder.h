@@ -1,0 +1,50 @@
+#pragma once
+
+#include <axsXPathNodeMap.h>
+#include <axsXPathTree.h>
+
+#include <cstddef>
+#include <vector>
+
+/// Puts nodes of one tree into document order (XPath 1.0, section 5): an element stands before its namespaces, these
+/// before its attributes, and these before its children.
+///
+/// A few nodes are compared by their way up; for many, or for ways that are long, the tree is walked once and the nodes
+/// numbered, so that sorting n nodes costs O(n log n) and the walk. Good for as long as the tree does not change.
+class axsXPathOrder
+{
+public:
+  explicit axsXPathOrder(axsXPathTree const& tree) noexcept;
+
+  /// Sorts and leaves each node once. Throws std::bad_alloc when memory runs out.
+  void sort(std::vector<axsXPathNode>& nodes);
+
+private:
+  enum Relation
+  {
+    before,
+    same,
+    behind,
+    too_far
+  };
+
+  bool sort_near(std::vector<axsXPathNode>& nodes);
+  bool is_sorted_near(std::vector<axsXPathNode> const& nodes);
+  void sort_by_place(std::vector<axsXPathNode>& nodes);
+
+  Relation compare(axsXPathNode left, axsXPathNode right);
+  Relation compare_within(axsXPathNode left, axsXPathNode right);
+  Relation compare_nodes(axsNode const& left, axsNode const& right);
+  Relation compare_siblings(axsNode const& left, axsNode const& right);
+  bool is_far() noexcept { return --steps_left < 0; }
+
+  void number(std::vector<axsXPathNode> const& nodes);
+  void number_node(axsNode& node, std::size_t order);
+  axsXPathPlace place_of(axsXPathNode node) noexcept;
+
+  axsXPathTree const& tree;
+  axsXPathNodeMap places;
+  long long steps_left = 0;
+  int walks = 0;
+  bool is_all_numbered = false;
+};

@@ -1,0 +1,102 @@
+#include <axsXPathQuery.h>
+
+#include <axsXPathEvaluator.h>
+#include <axsXPathParser.h>
+#include <axsXPathText.h>
+
+#include <algorithm>
+#include <optional>
+#include <unordered_set>
+
+namespace
+{
+using Want = axsXPathSelector::Want;
+
+/// The node of the tree that stands for a node; null if there is none.
+axsNode* handed_out(axsXPathNode node) noexcept
+{
+  return node.is_extra() ? node.extra().declaration : node.node();
+}
+
+std::vector<axsNode*> handed_out(std::vector<axsXPathNode> const& nodes)
+{
+  std::vector<axsNode*> result;
+  result.reserve(nodes.size());
+  std::unordered_set<axsNode*> declarations;
+  for (axsXPathNode const node : nodes)
+  {
+    axsNode* const shown = handed_out(node);
+    if (shown != nullptr && (!node.is_extra() || declarations.insert(shown).second))
+      result.push_back(shown);
+  }
+  return result;
+}
+
+bool bind(axsXPathEvaluator& evaluator, std::string_view text, axsXPathError& error)
+{
+  std::size_t place = 0;
+  if (evaluator.bind(error, place))
+    return true;
+  error.position = static_cast<int>(axsXPathText::count_characters(text.substr(0, place))) + 1;
+  return false;
+}
+
+std::vector<axsXPathNode> select_nodes(axsXPathEvaluator& evaluator, axsXPathExpression const& expression,
+  std::string_view text, Want want, axsXPathError& error)
+{
+  if (expression.whole().type != axsXPathType::node_set)
+  {
+    error.message = "the expression does not give a node-set";
+    error.position = 1;
+    return {};
+  }
+  if (!bind(evaluator, text, error))
+    return {};
+  return evaluator.select(want);
+}
+}
+
+std::vector<axsNode*> axsXPathQuery::select(axsNode& context, std::string_view text, axsXPathError& error)
+{
+  std::optional<axsXPathExpression> const expression = axsXPathParser::parse(text, error);
+  if (!expression)
+    return {};
+  axsXPathEvaluator evaluator(*expression, context);
+  return handed_out(select_nodes(evaluator, *expression, text, Want::all, error));
+}
+
+axsNode* axsXPathQuery::select_first(axsNode& context, std::string_view text, axsXPathError& error)
+{
+  std::optional<axsXPathExpression> const expression = axsXPathParser::parse(text, error);
+  if (!expression)
+    return nullptr;
+  axsXPathEvaluator evaluator(*expression, context);
+  std::vector<axsXPathNode> nodes = select_nodes(evaluator, *expression, text, Want::first, error);
+  if (nodes.empty())
+    return nullptr;
+  if (axsNode* const shown = handed_out(nodes.front()))
+    return shown;
+  // The first node is one that cannot be handed out, but others may be.
+  nodes = evaluator.select(Want::all);
+  auto const found =
+    std::find_if(nodes.begin(), nodes.end(), [](axsXPathNode node) { return handed_out(node) != nullptr; });
+  return found == nodes.end() ? nullptr : handed_out(*found);
+}
+
+bool axsXPathQuery::evaluate(axsNode& context, std::string_view text, Value& value, axsXPathError& error)
+{
+  std::optional<axsXPathExpression> const expression = axsXPathParser::parse(text, error);
+  if (!expression)
+    return false;
+  axsXPathEvaluator evaluator(*expression, context);
+  if (!bind(evaluator, text, error))
+    return false;
+  axsXPathValue const found = evaluator.evaluate();
+  value = Value();
+  value.type = found.type;
+  value.nodes = handed_out(found.nodes);
+  value.boolean = found.boolean;
+  value.number = found.number;
+  value.text = evaluator.text_of_value(found);
+  return true;
+}

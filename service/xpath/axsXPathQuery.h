@@ -1,0 +1,39 @@
+#pragma once
+
+#include <axsXPathError.h>
+#include <axsXPathType.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+class axsNode;
+
+/// Queries of the tree, from the text of an expression to what it gives; see axsXPath.
+///
+/// Nothing is kept beyond a call, and the nodes given are not held: they are good until the tree changes.
+/// All throw std::bad_alloc when memory runs out. One document belongs to one thread at a time.
+class axsXPathQuery
+{
+public:
+  /// The value of an expression, of which the member of its type counts.
+  struct Value
+  {
+    axsXPathType type = axsXPathType::node_set;
+    std::vector<axsNode*> nodes;
+    bool boolean = false;
+    double number = 0;
+    /// The value as a string.
+    std::string text;
+  };
+
+  /// The nodes that `expression`, UTF-8, selects, in document order, each once. Where it is wrong or does not give a
+  /// node-set, none, with the reason in `error`, which is without a message otherwise.
+  static std::vector<axsNode*> select(axsNode& context, std::string_view expression, axsXPathError& error);
+
+  /// The first of them, null if there is none, without looking for the others where that can be spared.
+  static axsNode* select_first(axsNode& context, std::string_view expression, axsXPathError& error);
+
+  /// The value of `expression`, whatever its type. False, with the reason in `error`, where it is wrong.
+  static bool evaluate(axsNode& context, std::string_view expression, Value& value, axsXPathError& error);
+};

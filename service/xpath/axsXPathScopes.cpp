@@ -1,0 +1,100 @@
+#include <axsXPathScopes.h>
+
+#include <axsAttribute.h>
+#include <axsDocument.h>
+#include <axsElement.h>
+
+#include <vector>
+
+namespace
+{
+// Up to here, walking up costs less than remembering.
+int const near_levels = 32;
+
+axsElement const* parent_element(axsElement const& element) noexcept
+{
+  axsNode const* const parent = element.parent();
+  return parent != nullptr && parent->is_element() ? static_cast<axsElement const*>(parent) : nullptr;
+}
+
+axsAttribute const* find_attribute(axsElement const& element, axsName const& name) noexcept
+{
+  axsAttribute const* attribute = element.first_attribute();
+  while (attribute != nullptr && &attribute->full_name() != &name)
+    attribute = attribute->next_attribute();
+  return attribute;
+}
+}
+
+axsXPathScopes::axsXPathScopes(axsDocument& searched) noexcept
+  : document(searched),
+    default_declaration(searched.names().find("xmlns"))
+{
+}
+
+std::string_view axsXPathScopes::uri(axsElement const& element, std::string_view prefix)
+{
+  if (prefix == "xml")
+    return xml_uri;
+  axsName const* const declaration = prefix.empty() ? default_declaration : declaration_of(prefix);
+  return declaration == nullptr ? std::string_view() : declared(element, *declaration);
+}
+
+std::string_view axsXPathScopes::uri_of_element(axsElement const& element)
+{
+  return uri(element, element.element_name().prefix());
+}
+
+std::string_view axsXPathScopes::uri_of_attribute(axsElement const& owner, axsName const& name)
+{
+  std::string_view const prefix = name.prefix();
+  return prefix.empty() ? std::string_view() : uri(owner, prefix);
+}
+
+bool axsXPathScopes::is_declaration(axsName const& name) noexcept
+{
+  std::string_view const text = name.utf8();
+  return text.substr(0, 5) == "xmlns" && (text.size() == 5 || text[5] == ':');
+}
+
+axsName const* axsXPathScopes::declaration_of(std::string_view prefix)
+{
+  auto const known = declarations.find(prefix);
+  if (known != declarations.end())
+    return known->second;
+  axsName const* const declaration = document.names().find("xmlns:" + std::string(prefix));
+  declarations.emplace(prefix, declaration);
+  return declaration;
+}
+
+std::string_view axsXPathScopes::declared(axsElement const& element, axsName const& declaration)
+{
+  std::string_view result;
+  std::vector<axsElement const*> passed;
+  int levels = 0;
+  for (axsElement const* at = &element; at != nullptr; at = parent_element(*at))
+  {
+    if (axsAttribute const* const attribute = find_attribute(*at, declaration))
+    {
+      result = attribute->text();
+      break;
+    }
+    if (!far_results.empty())
+    {
+      auto const known = far_results.find({at, &declaration});
+      if (known != far_results.end())
+      {
+        result = known->second;
+        break;
+      }
+    }
+    if (++levels % near_levels == 0)
+      passed.push_back(at);
+  }
+  // In a deep tree, what many elements ask for is found again on the way up, soon and at the latest where one came by.
+  if (!passed.empty())
+    passed.push_back(&element);
+  for (axsElement const* const at : passed)
+    far_results.emplace(Place{at, &declaration}, result);
+  return result;
+}

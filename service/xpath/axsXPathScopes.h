@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+class axsDocument;
+class axsElement;
+class axsName;
+
+/// The namespaces in scope of the elements of one document: which declaration a prefix stands for.
+///
+/// Remembers what it found, so it is good for as long as the document does not change; belongs to one evaluation.
+class axsXPathScopes
+{
+public:
+  static constexpr std::string_view xml_uri = "http://www.w3.org/XML/1998/namespace";
+
+  explicit axsXPathScopes(axsDocument& document) noexcept;
+
+  /// The namespace that `prefix` stands for at `element`, that of elements without a prefix if it is empty. Empty where
+  /// there is none: an undeclared prefix, or no default namespace.
+  std::string_view uri(axsElement const& element, std::string_view prefix);
+
+  /// The same for the prefix of a name, of an element or attribute alike; only an element without a prefix is in the
+  /// default namespace.
+  std::string_view uri_of_element(axsElement const& element);
+  std::string_view uri_of_attribute(axsElement const& owner, axsName const& name);
+
+  /// Whether an element without a prefix is in no namespace.
+  bool is_without_namespace(axsElement const& element)
+  {
+    return default_declaration == nullptr || declared(element, *default_declaration).empty();
+  }
+
+  /// Whether an attribute of that name declares a namespace, which makes it none of the data model.
+  static bool is_declaration(axsName const& name) noexcept;
+
+private:
+  struct Place
+  {
+    axsElement const* element;
+    axsName const* declaration;
+
+    bool operator==(Place const& other) const noexcept
+    {
+      return element == other.element && declaration == other.declaration;
+    }
+  };
+
+  struct PlaceHash
+  {
+    std::size_t operator()(Place const& place) const noexcept
+    {
+      std::hash<void const*> const hash;
+      return hash(place.element) * 31 + hash(place.declaration);
+    }
+  };
+
+  /// The name of the attribute that declares `prefix`, null if the document never had one.
+  axsName const* declaration_of(std::string_view prefix);
+
+  /// The value of the nearest attribute `declaration`, at the element or above it.
+  std::string_view declared(axsElement const& element, axsName const& declaration);
+
+  axsDocument& document;
+  axsName const* default_declaration;
+  std::unordered_map<std::string_view, axsName const*> declarations;
+  std::unordered_map<Place, std::string_view, PlaceHash> far_results;
+};

@@ -1,0 +1,451 @@
+#include <axsXPathSelector.h>
+
+#include <axsXPathEvaluator.h>
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <utility>
+
+namespace
+{
+using Axis = axsXPathAxis;
+
+bool is_reverse(Axis axis) noexcept
+{
+  switch (axis)
+  {
+  case Axis::ancestor:
+  case Axis::ancestor_or_self:
+  case Axis::preceding:
+  case Axis::preceding_sibling:
+    return true;
+  default:
+    return false;
+  }
+}
+
+bool leads_down(Axis axis) noexcept
+{
+  return axis == Axis::descendant || axis == Axis::descendant_or_self;
+}
+
+/// Whether no node on the axis of one node lies in another one.
+bool is_flat_axis(Axis axis) noexcept
+{
+  switch (axis)
+  {
+  case Axis::attribute:
+  case Axis::child:
+  case Axis::following_sibling:
+  case Axis::namespace_:
+  case Axis::parent:
+  case Axis::preceding_sibling:
+  case Axis::self:
+    return true;
+  default:
+    return false;
+  }
+}
+
+/// Whether no two nodes have a node on their axes in common, but perhaps the parent.
+bool is_own_axis(Axis axis) noexcept
+{
+  return is_flat_axis(axis) && axis != Axis::following_sibling && axis != Axis::preceding_sibling;
+}
+
+/// Whether the axes of nodes in document order, one behind the other, are in document order, too.
+bool keeps_order(Axis axis, bool is_flat) noexcept
+{
+  switch (axis)
+  {
+  case Axis::attribute:
+  case Axis::namespace_:
+  case Axis::self:
+    return true;
+  case Axis::child:
+    return is_flat;
+  default:
+    return false;
+  }
+}
+
+/// Whether the node has siblings and descendants, as attributes and namespaces have not.
+bool is_in_content(axsXPathNode node) noexcept
+{
+  return node.is_extra() ? node.extra().is_root() : !node.node()->is_attribute();
+}
+
+bool lies_in(axsXPathTree const& tree, axsXPathNode node, axsXPathNode above) noexcept
+{
+  while (!node.is_none() && node != above)
+    node = tree.parent(node);
+  return !node.is_none();
+}
+}
+
+axsXPathSelector::axsXPathSelector(axsXPathExpression const& expression, axsXPathTree& searched,
+  std::vector<axsXPathTest> const& bound, axsXPathEvaluator& judge) noexcept
+  : parsed(expression),
+    tree(searched),
+    tests(bound),
+    evaluator(judge),
+    order(searched)
+{
+}
+
+void axsXPathSelector::select(Path const& path, axsXPathContext const& context, Want want, Nodes& found)
+{
+  take_start(path, context, found);
+  bool is_flat = found.size() < 2;
+  axsXPathLease next(*this);
+  for (int i = 0; i < path.step_count && !found.empty(); ++i)
+  {
+    bool const is_last = i + 1 == path.step_count;
+    next.nodes().clear();
+    take_step(step_of(path, i), found, is_last ? want : all, next.nodes(), is_flat);
+    found.swap(next.nodes());
+  }
+}
+
+bool axsXPathSelector::visit(Path const& path, axsXPathContext const& context, axsXPathVisitor visit)
+{
+  // The usual predicates, [.='x'] and [@id='x'], need no node-set.
+  if (path.start == Path::context && path.step_count == 0)
+    return visit(context.node);
+  if (path.start == Path::context && path.step_count == 1)
+    return walk(step_of(path, 0), context.node, visit);
+
+  Path before_last = path;
+  bool const shares_nothing = path.step_count > 0 && is_own_axis(step_of(path, path.step_count - 1).axis);
+  if (shares_nothing)
+    --before_last.step_count;
+  axsXPathLease lease(*this);
+  select(before_last, context, all, lease.nodes());
+  for (axsXPathNode const node : lease.nodes())
+    if (shares_nothing ? walk(step_of(path, before_last.step_count), node, visit) : visit(node))
+      return true;
+  return false;
+}
+
+axsXPathSelector::Nodes axsXPathSelector::borrow()
+{
+  store.reserve(store.size() + lent + 1);
+  Nodes nodes;
+  if (!store.empty())
+  {
+    nodes.swap(store.back());
+    store.pop_back();
+    nodes.clear();
+  }
+  ++lent;
+  return nodes;
+}
+
+void axsXPathSelector::give_back(Nodes&& nodes) noexcept
+{
+  --lent;
+  store.push_back(std::move(nodes));
+}
+
+void axsXPathSelector::take_start(Path const& path, axsXPathContext const& context, Nodes& nodes)
+{
+  switch (path.start)
+  {
+  case Path::context:
+    nodes.push_back(context.node);
+    break;
+  case Path::root:
+    nodes.push_back(tree.root());
+    break;
+  case Path::term:
+    evaluator.nodes_of(path.start_term, context, all, nodes);
+    filter(path.first_predicate, path.predicate_count, nodes);
+    break;
+  }
+}
+
+axsXPathExpression::Step const& axsXPathSelector::step_of(Path const& path, int index) const noexcept
+{
+  return parsed.steps[static_cast<std::size_t>(path.first_step + index)];
+}
+
+axsXPathTest const& axsXPathSelector::test_of(Step const& step) const noexcept
+{
+  return tests[static_cast<std::size_t>(&step - parsed.steps.data())];
+}
+
+axsXPathExpression::Predicate const& axsXPathSelector::predicate_of(int index) const noexcept
+{
+  return parsed.predicates[static_cast<std::size_t>(index)];
+}
+
+bool axsXPathSelector::walk(Step const& step, axsXPathNode from, axsXPathVisitor visit)
+{
+  if (step.predicate_count == 0)
+    return tree.walk(step.axis, from, test_of(step), visit);
+  if (step.needs_size)
+    return walk_with_size(step, from, visit);
+  if (step.is_positional)
+    return walk_counting(step, from, visit);
+  auto consider = [&](axsXPathNode node) { return passes_all(step, node) && visit(node); };
+  return tree.walk(step.axis, from, test_of(step), consider);
+}
+
+bool axsXPathSelector::walk_counting(Step const& step, axsXPathNode from, axsXPathVisitor visit)
+{
+  std::size_t const base = positions.size();
+  positions.resize(base + static_cast<std::size_t>(step.predicate_count), 0);
+  bool is_stopped = false;
+  auto consider = [&](axsXPathNode node)
+  {
+    bool is_exhausted = false;
+    for (int i = 0; i < step.predicate_count; ++i)
+    {
+      Predicate const& predicate = predicate_of(step.first_predicate + i);
+      std::size_t const position = ++positions[base + static_cast<std::size_t>(i)];
+      // Behind the position that is asked for, no node can pass.
+      is_exhausted |= predicate.is_constant && static_cast<double>(position) >= evaluator.constant(predicate.term);
+      if (!passes(predicate, {node, position, 0}))
+        return is_exhausted;
+    }
+    is_stopped = visit(node);
+    return is_stopped || is_exhausted;
+  };
+  tree.walk(step.axis, from, test_of(step), consider);
+  positions.resize(base);
+  return is_stopped;
+}
+
+bool axsXPathSelector::walk_with_size(Step const& step, axsXPathNode from, axsXPathVisitor visit)
+{
+  axsXPathLease lease(*this);
+  Nodes& nodes = lease.nodes();
+  auto keep = [&](axsXPathNode node)
+  {
+    nodes.push_back(node);
+    return false;
+  };
+  tree.walk(step.axis, from, test_of(step), keep);
+  filter(step.first_predicate, step.predicate_count, nodes);
+  return std::any_of(nodes.begin(), nodes.end(), visit);
+}
+
+bool axsXPathSelector::passes(Predicate const& predicate, axsXPathContext const& context)
+{
+  if (predicate.is_number)
+    return evaluator.number_of(predicate.term, context) == static_cast<double>(context.position);
+  return evaluator.boolean_of(predicate.term, context);
+}
+
+bool axsXPathSelector::passes_all(Step const& step, axsXPathNode node)
+{
+  for (int i = 0; i < step.predicate_count; ++i)
+    if (!evaluator.boolean_of(predicate_of(step.first_predicate + i).term, {node, 1, 1}))
+      return false;
+  return true;
+}
+
+void axsXPathSelector::filter(int first_predicate, int count, Nodes& nodes)
+{
+  for (int i = first_predicate; i < first_predicate + count && !nodes.empty(); ++i)
+    filter(predicate_of(i), nodes);
+}
+
+void axsXPathSelector::filter(Predicate const& predicate, Nodes& nodes)
+{
+  std::size_t const size = nodes.size();
+  bool const is_same_for_all = (predicate.uses & ~static_cast<unsigned>(Expression::uses_size)) == 0;
+  if (predicate.is_number && is_same_for_all)
+  {
+    double const position = evaluator.number_of(predicate.term, {nodes.front(), 1, size});
+    bool const is_there = position >= 1 && position <= static_cast<double>(size) && position == std::floor(position);
+    axsXPathNode const node = is_there ? nodes[static_cast<std::size_t>(position) - 1] : axsXPathNode();
+    nodes.clear();
+    if (is_there)
+      nodes.push_back(node);
+    return;
+  }
+
+  std::size_t kept = 0;
+  for (std::size_t i = 0; i < size; ++i)
+    if (passes(predicate, {nodes[i], i + 1, size}))
+      nodes[kept++] = nodes[i];
+  nodes.resize(kept);
+}
+
+void axsXPathSelector::take_step(Step const& step, Nodes const& from, Want want, Nodes& to, bool& is_flat)
+{
+  bool const was_flat = is_flat;
+  if (leads_down(step.axis) && !step.is_positional)
+    return step_down(step, from, want, to, is_flat);
+  if (from.size() == 1)
+    step_from_one(step, from.front(), want, to);
+  else if (step.is_positional || is_own_axis(step.axis))
+    step_from_each(step, from, to, was_flat);
+  else if (step.axis == Axis::following)
+    step_behind(step, from, to);
+  else if (step.axis == Axis::preceding)
+    step_before(step, from, to);
+  else if (step.axis == Axis::following_sibling)
+    step_to_following_siblings(step, from, to);
+  else if (step.axis == Axis::preceding_sibling)
+    step_to_preceding_siblings(step, from, to);
+  else
+    step_up(step, from, to);
+  is_flat = to.size() < 2 || (is_flat_axis(step.axis) && (from.size() == 1 || keeps_order(step.axis, was_flat)) &&
+                               (step.axis != Axis::self || was_flat));
+}
+
+void axsXPathSelector::step_from_one(Step const& step, axsXPathNode from, Want want, Nodes& to)
+{
+  bool const is_backwards = is_reverse(step.axis);
+  bool const is_enough = want == any || (want == first && !is_backwards);
+  auto keep = [&](axsXPathNode node)
+  {
+    to.push_back(node);
+    return is_enough;
+  };
+  walk(step, from, keep);
+  if (is_backwards)
+    std::reverse(to.begin(), to.end());
+}
+
+void axsXPathSelector::step_from_each(Step const& step, Nodes const& from, Nodes& to, bool is_flat)
+{
+  auto keep = [&](axsXPathNode node)
+  {
+    // Siblings have the same parent.
+    if (to.empty() || to.back() != node)
+      to.push_back(node);
+    return false;
+  };
+  for (axsXPathNode const node : from)
+    walk(step, node, keep);
+  if (!keeps_order(step.axis, is_flat))
+    order.sort(to);
+}
+
+void axsXPathSelector::step_down(Step const& step, Nodes const& from, Want want, Nodes& to, bool& is_flat)
+{
+  if (std::all_of(from.begin(), from.end(), is_in_content))
+    return step_down_content(step, from, want, to, is_flat);
+
+  // Attributes and namespaces have nothing below them, but are themselves what they are.
+  axsXPathLease content(*this);
+  std::copy_if(from.begin(), from.end(), std::back_inserter(content.nodes()), is_in_content);
+  step_down_content(step, content.nodes(), all, to, is_flat);
+  if (step.axis == Axis::descendant)
+    return;
+  for (axsXPathNode const node : from)
+    if (!is_in_content(node) && tree.passes_any(node, test_of(step)) && passes_all(step, node))
+      to.push_back(node);
+  order.sort(to);
+  is_flat = to.size() < 2;
+}
+
+void axsXPathSelector::step_down_content(Step const& step, Nodes const& from, Want want, Nodes& to, bool& is_flat)
+{
+  axsXPathTest const& test = test_of(step);
+  is_flat = true;
+  // The outermost of the nodes found in which the walk is.
+  axsNode const* inside = nullptr;
+  auto const keep = [&](axsXPathNode node, axsNode const& at)
+  {
+    if (!passes_all(step, node))
+      return false;
+    to.push_back(node);
+    if (inside == nullptr)
+      inside = &at;
+    else
+      is_flat = false;
+    return want != all;
+  };
+
+  for (std::size_t next = 0; next < from.size();)
+  {
+    axsXPathNode const start = from[next++];
+    axsNode& base = axsXPathTree::anchor(start);
+    inside = nullptr;
+    if (step.axis == Axis::descendant_or_self && tree.passes_any(start, test) && keep(start, base))
+      return;
+    for (axsNode* at = tree.first_below(start); at != nullptr;)
+    {
+      // What lies below another start is passed on the way from that one.
+      if (next < from.size() && from[next] == axsXPathNode(at))
+        ++next;
+      if (tree.passes(*at, test) && keep(at, *at))
+        return;
+      if (axsNode* const child = at->first_child())
+      {
+        at = child;
+        continue;
+      }
+      for (; at != &base && at->next_sibling() == nullptr; at = at->parent())
+        if (at == inside)
+          inside = nullptr;
+      if (at == inside)
+        inside = nullptr;
+      at = at == &base ? nullptr : at->next_sibling();
+    }
+  }
+}
+
+void axsXPathSelector::step_up(Step const& step, Nodes const& from, Nodes& to)
+{
+  axsXPathNodeMap seen;
+  for (axsXPathNode const node : from)
+  {
+    axsXPathNode at = step.axis == Axis::ancestor ? tree.parent(node) : node;
+    for (; !at.is_none() && seen.insert(at); at = tree.parent(at))
+      if (tree.passes_any(at, test_of(step)) && passes_all(step, at))
+        to.push_back(at);
+  }
+  order.sort(to);
+}
+
+void axsXPathSelector::step_to_following_siblings(Step const& step, Nodes const& from, Nodes& to)
+{
+  // Of siblings the first one has the following siblings of all.
+  axsXPathNodeMap parents;
+  auto keep = [&](axsXPathNode node)
+  {
+    to.push_back(node);
+    return false;
+  };
+  for (axsXPathNode const node : from)
+    if (is_in_content(node) && node != tree.root() && parents.insert(tree.parent(node)))
+      walk(step, node, keep);
+  order.sort(to);
+}
+
+void axsXPathSelector::step_to_preceding_siblings(Step const& step, Nodes const& from, Nodes& to)
+{
+  axsXPathNodeMap parents;
+  auto keep = [&](axsXPathNode node)
+  {
+    to.push_back(node);
+    return false;
+  };
+  for (std::size_t i = from.size(); i > 0; --i)
+    if (is_in_content(from[i - 1]) && from[i - 1] != tree.root() && parents.insert(tree.parent(from[i - 1])))
+      walk(step, from[i - 1], keep);
+  std::reverse(to.begin(), to.end());
+  order.sort(to);
+}
+
+void axsXPathSelector::step_behind(Step const& step, Nodes const& from, Nodes& to)
+{
+  // What follows any of the nodes follows the one that ends first: the first one, or the innermost one that lies in it
+  // before another one ends.
+  axsXPathNode earliest = from.front();
+  for (std::size_t i = 1; i < from.size() && lies_in(tree, from[i], earliest); ++i)
+    earliest = from[i];
+  step_from_one(step, earliest, all, to);
+}
+
+void axsXPathSelector::step_before(Step const& step, Nodes const& from, Nodes& to)
+{
+  // What precedes any of the nodes precedes the last one.
+  step_from_one(step, from.back(), all, to);
+}

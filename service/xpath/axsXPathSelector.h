@@ -1,0 +1,109 @@
+#pragma once
+
+#include <axsXPathContext.h>
+#include <axsXPathExpression.h>
+#include <axsXPathOrder.h>
+#include <axsXPathTest.h>
+#include <axsXPathTree.h>
+#include <axsXPathVisitor.h>
+
+#include <cstddef>
+#include <utility>
+#include <vector>
+
+class axsXPathEvaluator;
+
+/// Finds the nodes that paths lead to, for one evaluation.
+///
+/// A step is taken for all its context nodes together where its predicates do not count positions, so that no node is
+/// looked at twice; otherwise for one after the other. Every node-set is in document order and holds each node once, and
+/// is only sorted where the axis does not lead there by itself.
+class axsXPathSelector
+{
+public:
+  using Nodes = std::vector<axsXPathNode>;
+
+  /// How much of a node-set is wanted: all of it, at least the first node, or any node if there is one.
+  enum Want
+  {
+    all,
+    first,
+    any
+  };
+
+  /// Takes what predicates say from `evaluator`, and the tests of the steps, one for each, from `tests`.
+  axsXPathSelector(axsXPathExpression const& expression, axsXPathTree& tree, std::vector<axsXPathTest> const& tests,
+    axsXPathEvaluator& evaluator) noexcept;
+
+  /// Puts what is wanted of the nodes of a path into `found`, which is empty.
+  void select(axsXPathExpression::Path const& path, axsXPathContext const& context, Want want, Nodes& found);
+
+  /// Shows the nodes of a path in any order, perhaps some of them repeatedly, until `visit` says to stop. Returns whether
+  /// it did.
+  bool visit(axsXPathExpression::Path const& path, axsXPathContext const& context, axsXPathVisitor visit);
+
+  void sort(Nodes& nodes) { order.sort(nodes); }
+
+  /// An empty vector with room from earlier use, and its way back.
+  Nodes borrow();
+  void give_back(Nodes&& nodes) noexcept;
+
+private:
+  using Expression = axsXPathExpression;
+  using Path = axsXPathExpression::Path;
+  using Step = axsXPathExpression::Step;
+  using Predicate = axsXPathExpression::Predicate;
+
+  void take_start(Path const& path, axsXPathContext const& context, Nodes& nodes);
+  Step const& step_of(Path const& path, int index) const noexcept;
+  axsXPathTest const& test_of(Step const& step) const noexcept;
+  Predicate const& predicate_of(int index) const noexcept;
+
+  bool walk(Step const& step, axsXPathNode from, axsXPathVisitor visit);
+  bool walk_counting(Step const& step, axsXPathNode from, axsXPathVisitor visit);
+  bool walk_with_size(Step const& step, axsXPathNode from, axsXPathVisitor visit);
+  bool passes(Predicate const& predicate, axsXPathContext const& context);
+  bool passes_all(Step const& step, axsXPathNode node);
+  void filter(int first_predicate, int count, Nodes& nodes);
+  void filter(Predicate const& predicate, Nodes& nodes);
+
+  // One step, from nodes in document order to such. `is_flat` says whether it is known that none of the nodes lies in
+  // another, before and after it.
+  void take_step(Step const& step, Nodes const& from, Want want, Nodes& to, bool& is_flat);
+  void step_from_one(Step const& step, axsXPathNode from, Want want, Nodes& to);
+  void step_from_each(Step const& step, Nodes const& from, Nodes& to, bool is_flat);
+  void step_down(Step const& step, Nodes const& from, Want want, Nodes& to, bool& is_flat);
+  void step_down_content(Step const& step, Nodes const& from, Want want, Nodes& to, bool& is_flat);
+  void step_up(Step const& step, Nodes const& from, Nodes& to);
+  void step_to_following_siblings(Step const& step, Nodes const& from, Nodes& to);
+  void step_to_preceding_siblings(Step const& step, Nodes const& from, Nodes& to);
+  void step_behind(Step const& step, Nodes const& from, Nodes& to);
+  void step_before(Step const& step, Nodes const& from, Nodes& to);
+
+  Expression const& parsed;
+  axsXPathTree& tree;
+  std::vector<axsXPathTest> const& tests;
+  axsXPathEvaluator& evaluator;
+  axsXPathOrder order;
+  // Vectors that are not in use, with room for those that are.
+  std::vector<Nodes> store;
+  std::size_t lent = 0;
+  // The positions that predicates are counting, those of inner ones behind those of outer ones.
+  std::vector<std::size_t> positions;
+};
+
+/// Borrows a vector of nodes from a selector as long as it lives.
+class axsXPathLease
+{
+public:
+  explicit axsXPathLease(axsXPathSelector& selector) : lender(selector), lent(selector.borrow()) {}
+  axsXPathLease(axsXPathLease const&) = delete;
+  axsXPathLease& operator=(axsXPathLease const&) = delete;
+  ~axsXPathLease() { lender.give_back(std::move(lent)); }
+
+  std::vector<axsXPathNode>& nodes() noexcept { return lent; }
+
+private:
+  axsXPathSelector& lender;
+  std::vector<axsXPathNode> lent;
+};

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+/// What XPath does with text: UTF-8 seen as a row of characters (code points), and the white space of XML.
+///
+/// All texts are valid UTF-8 without exception: the tree holds no other, and expressions are checked before.
+/// Stateless; safe from several threads.
+class axsXPathText
+{
+public:
+  /// The white space of XML 1.0, production 3.
+  static bool is_space(char c) noexcept { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+
+  /// Whether `c` is the first byte of a character.
+  static bool starts_character(char c) noexcept { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }
+
+  static std::size_t count_characters(std::string_view text) noexcept;
+
+  /// The number of bytes of the character that starts with `first`.
+  static std::size_t character_bytes(char first) noexcept;
+
+  /// The character at `at`, and `at` behind it; U+FFFFFFFF, and `at` one byte further, where the bytes are not UTF-8.
+  static char32_t next_character(std::string_view text, std::size_t& at) noexcept;
+
+  static bool is_utf8(std::string_view text) noexcept;
+
+  static std::string_view trim(std::string_view text) noexcept;
+
+  /// White space at both ends taken away, inside each run of it replaced by one space (XPath 1.0, normalize-space).
+  static std::string normalize_space(std::string_view text);
+
+  /// The characters whose position, counted from 1, is at least round(start) and, with a length, less than round(start) +
+  /// round(length) (XPath 1.0, substring, whose results for NaN and infinities follow from this arithmetic).
+  static std::string_view substring(std::string_view text, double start) noexcept;
+  static std::string_view substring(std::string_view text, double start, double length) noexcept;
+
+  /// Each character of `text` that occurs in `from` replaced by the one at the same place in `to`, or taken away where
+  /// `to` is shorter; the first occurrence in `from` counts (XPath 1.0, translate).
+  static std::string translate(std::string_view text, std::string_view from, std::string_view to);
+
+  /// Whether a name without a colon may start or go on with `c` (XML 1.0, productions 4 and 4a, without the colon).
+  static bool is_name_start(char32_t c) noexcept;
+  static bool is_name_character(char32_t c) noexcept;
+};

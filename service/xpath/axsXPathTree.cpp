@@ -1,0 +1,423 @@
+#include <axsXPathTree.h>
+
+#include <axsAttribute.h>
+#include <axsDocument.h>
+
+#include <unordered_set>
+
+namespace
+{
+using Test = axsXPathExpression::NodeTest;
+
+bool is_text(axsNode const* node) noexcept
+{
+  return node != nullptr && node->kind() == axsKind::text;
+}
+
+/// Whether the texts from `first` on hold a character.
+bool has_characters(axsNode const& first) noexcept
+{
+  for (axsNode const* text = &first; is_text(text); text = text->next_sibling())
+    if (!text->value().empty())
+      return true;
+  return false;
+}
+
+axsNode& first_text(axsNode& text) noexcept
+{
+  axsNode* first = &text;
+  while (is_text(first->previous_sibling()))
+    first = first->previous_sibling();
+  return *first;
+}
+
+/// Whether a node that is no attribute is one of the data model.
+bool is_visible(axsNode const& node) noexcept
+{
+  switch (node.kind())
+  {
+  case axsKind::text:
+    return !is_text(node.previous_sibling()) && has_characters(node);
+  case axsKind::doctype:
+    return false;
+  default:
+    return true;
+  }
+}
+
+/// The text that all texts below `node` are, null if there are none; `more` says whether there is another one.
+axsNode const* only_text(axsNode const& node, bool& more) noexcept
+{
+  axsNode const* found = nullptr;
+  more = false;
+  for (axsNode const* at = node.first_child(); at != nullptr && !more; at = at->next_in_tree(node))
+  {
+    if (!is_text(at))
+      continue;
+    more = found != nullptr;
+    if (!more)
+      found = at;
+  }
+  return found;
+}
+
+/// The node before this one in document order, within its tree; `depth` counts the levels below where the walk started,
+/// and a step to an ancestor of the start, told by a negative depth, leaves it at 0.
+axsNode* previous_in_tree(axsNode& node, long long& depth) noexcept
+{
+  axsNode* at = node.previous_sibling();
+  if (at == nullptr)
+  {
+    --depth;
+    return node.parent();
+  }
+  for (axsNode* child = at->last_child(); child != nullptr; child = at->last_child())
+  {
+    at = child;
+    ++depth;
+  }
+  return at;
+}
+}
+
+axsXPathTree::axsXPathTree(axsNode& context)
+  : topmost(&context.root()),
+    detached_root{topmost, nullptr, -1},
+    tree_root(topmost->is_document() ? axsXPathNode(topmost) : axsXPathNode(&detached_root)),
+    namespaces(context.document())
+{
+}
+
+axsXPathNode axsXPathTree::wrapped(axsNode& node) const noexcept
+{
+  if (node.kind() == axsKind::doctype)
+    return {};
+  if (node.kind() != axsKind::text)
+    return &node;
+  axsNode& first = first_text(node);
+  return has_characters(first) ? axsXPathNode(&first) : axsXPathNode();
+}
+
+axsXPathTree::Kind axsXPathTree::kind(axsXPathNode node) const noexcept
+{
+  if (node.is_extra())
+    return node.extra().is_root() ? root_kind : namespace_kind;
+  switch (node.node()->kind())
+  {
+  case axsKind::element:
+    return element_kind;
+  case axsKind::attribute:
+    return attribute_kind;
+  case axsKind::text:
+    return text_kind;
+  case axsKind::comment:
+    return comment_kind;
+  case axsKind::processing_instruction:
+    return instruction_kind;
+  default:
+    return root_kind;
+  }
+}
+
+axsXPathNode axsXPathTree::parent(axsXPathNode node) const noexcept
+{
+  if (node.is_extra())
+    return node.extra().is_root() ? axsXPathNode() : axsXPathNode(node.extra().base);
+  if (axsNode* const parent = node.node()->parent())
+    return parent;
+  // An attribute that was taken from its element stands alone.
+  return node == tree_root || node.node()->is_attribute() ? axsXPathNode() : tree_root;
+}
+
+std::string_view axsXPathTree::string_value(axsXPathNode node, std::string& scratch) const
+{
+  if (node.is_extra() && !node.extra().is_root())
+    return node.extra().declaration == nullptr ? axsXPathScopes::xml_uri : node.extra().declaration->value();
+  axsNode const& base = anchor(node);
+  if (is_text(&base) && is_text(base.next_sibling()))
+  {
+    scratch.clear();
+    for (axsNode const* text = &base; is_text(text); text = text->next_sibling())
+      scratch.append(text->value());
+    return scratch;
+  }
+  if (!base.is_parent())
+    return base.value();
+
+  bool more = false;
+  axsNode const* const only = only_text(base, more);
+  if (!more)
+    return only == nullptr ? std::string_view() : only->value();
+  scratch.clear();
+  base.append_text_to(scratch);
+  return scratch;
+}
+
+std::string_view axsXPathTree::local_name(axsXPathNode node) const noexcept
+{
+  if (!node.is_extra())
+    return node.node()->name() != nullptr ? node.node()->name()->local() : name(node);
+  return name(node);
+}
+
+std::string_view axsXPathTree::namespace_uri(axsXPathNode node)
+{
+  switch (kind(node))
+  {
+  case element_kind:
+    return namespaces.uri_of_element(static_cast<axsElement&>(*node.node()));
+  case attribute_kind:
+  {
+    auto const& attribute = static_cast<axsAttribute&>(*node.node());
+    axsElement const* const owner = attribute.owner();
+    return owner == nullptr ? std::string_view() : namespaces.uri_of_attribute(*owner, attribute.full_name());
+  }
+  default:
+    return {};
+  }
+}
+
+std::string_view axsXPathTree::name(axsXPathNode node) const noexcept
+{
+  switch (kind(node))
+  {
+  case namespace_kind:
+    // The prefix it is declared for; the declaration of the default namespace has none.
+    if (node.extra().declaration == nullptr)
+      return "xml";
+    return node.extra().declaration->name()->prefix().empty() ? std::string_view()
+                                                              : node.extra().declaration->name()->local();
+  case element_kind:
+  case attribute_kind:
+  case instruction_kind:
+    return node.node()->node_name();
+  default:
+    return {};
+  }
+}
+
+bool axsXPathTree::walk(axsXPathAxis axis, axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+{
+  switch (axis)
+  {
+  case axsXPathAxis::ancestor:
+    return walk_ancestors(parent(from), test, visit);
+  case axsXPathAxis::ancestor_or_self:
+    return walk_ancestors(from, test, visit);
+  case axsXPathAxis::attribute:
+    return walk_attributes(from, test, visit);
+  case axsXPathAxis::child:
+    return walk_children(from, test, visit);
+  case axsXPathAxis::descendant:
+    return walk_descendants(from, test, visit);
+  case axsXPathAxis::descendant_or_self:
+    return walk_self(from, test, visit) || walk_descendants(from, test, visit);
+  case axsXPathAxis::following:
+    return walk_following(from, test, visit);
+  case axsXPathAxis::following_sibling:
+    return walk_following_siblings(from, test, visit);
+  case axsXPathAxis::namespace_:
+    return walk_namespaces(from, test, visit);
+  case axsXPathAxis::parent:
+    return walk_self(parent(from), test, visit);
+  case axsXPathAxis::preceding:
+    return walk_preceding(from, test, visit);
+  case axsXPathAxis::preceding_sibling:
+    return walk_preceding_siblings(from, test, visit);
+  case axsXPathAxis::self:
+    return walk_self(from, test, visit);
+  }
+  return false;
+}
+
+axsNode* axsXPathTree::first_below(axsXPathNode node) const noexcept
+{
+  if (!node.is_extra())
+    return node.node()->first_child();
+  return node.extra().is_root() && !topmost->is_attribute() ? topmost : nullptr;
+}
+
+bool axsXPathTree::passes_other(axsNode& node, axsXPathTest const& test)
+{
+  switch (test.kind)
+  {
+  case Test::any_node:
+    return is_visible(node);
+  case Test::text:
+    return is_text(&node) && is_visible(node);
+  case Test::comment:
+    return node.kind() == axsKind::comment;
+  case Test::instruction:
+    return node.kind() == axsKind::processing_instruction && (!test.has_target || node.node_name() == test.local);
+  case Test::any_name_of_namespace:
+    return node.is_element() && namespaces.uri_of_element(static_cast<axsElement&>(node)) == test.uri;
+  default:
+    return false;
+  }
+}
+
+bool axsXPathTree::passes_any(axsXPathNode node, axsXPathTest const& test)
+{
+  if (node.is_extra() || node.node()->is_attribute() || node.node()->is_document())
+    return test.kind == Test::any_node;
+  return passes(*node.node(), test);
+}
+
+bool axsXPathTree::passes_attribute(axsElement const& owner, axsAttribute const& attribute, axsXPathTest const& test)
+{
+  axsName const& full_name = attribute.full_name();
+  switch (test.kind)
+  {
+  case Test::name:
+    if (test.has_prefix)
+      return full_name.local() == test.local && namespaces.uri_of_attribute(owner, full_name) == test.uri &&
+             !axsXPathScopes::is_declaration(full_name);
+    return &full_name == test.name && !axsXPathScopes::is_declaration(full_name);
+  case Test::any_name_of_namespace:
+    return namespaces.uri_of_attribute(owner, full_name) == test.uri && !axsXPathScopes::is_declaration(full_name);
+  case Test::any_node:
+  case Test::any_name:
+    return !axsXPathScopes::is_declaration(full_name);
+  default:
+    return false;
+  }
+}
+
+bool axsXPathTree::walk_self(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+{
+  return !from.is_none() && passes_any(from, test) && visit(from);
+}
+
+bool axsXPathTree::walk_ancestors(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+{
+  for (axsXPathNode at = from; !at.is_none(); at = parent(at))
+    if (passes_any(at, test) && visit(at))
+      return true;
+  return false;
+}
+
+bool axsXPathTree::walk_attributes(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+{
+  if (kind(from) != element_kind)
+    return false;
+  auto const& owner = static_cast<axsElement const&>(*from.node());
+  for (axsAttribute* at = owner.first_attribute(); at != nullptr; at = at->next_attribute())
+    if (passes_attribute(owner, *at, test) && visit(at))
+      return true;
+  return false;
+}
+
+bool axsXPathTree::walk_namespaces(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+{
+  if (kind(from) != element_kind)
+    return false;
+  auto& element = static_cast<axsElement&>(*from.node());
+  auto known = scope_ranges.find(&element);
+  if (known == scope_ranges.end())
+    known = scope_ranges.emplace(&element, collect_namespaces(element)).first;
+  for (std::size_t i = 0; i < known->second.count; ++i)
+  {
+    axsXPathNode const node(&namespace_nodes[known->second.first + i]);
+    bool const passes = test.kind == Test::any_node || test.kind == Test::any_name ||
+                        (test.kind == Test::name && !test.has_prefix && name(node) == test.local);
+    if (passes && visit(node))
+      return true;
+  }
+  return false;
+}
+
+axsXPathTree::Range axsXPathTree::collect_namespaces(axsElement& element)
+{
+  Range range{namespace_nodes.size(), 0};
+  auto const add = [&](axsNode* declaration)
+  {
+    namespace_nodes.push_back({&element, declaration, static_cast<int>(range.count)});
+    ++range.count;
+  };
+
+  axsName const* const declaration_of_xml = element.document().names().find("xmlns:xml");
+  std::unordered_set<axsName const*> hidden;
+  add(nullptr);
+  for (axsNode* at = &element; at != nullptr; at = at->parent())
+  {
+    for (axsNode* attribute = at->first_attribute(); attribute != nullptr; attribute = attribute->next_sibling())
+    {
+      axsName const& declared = *attribute->name();
+      // The nearest declaration of a prefix counts; an empty one takes the namespace away.
+      if (axsXPathScopes::is_declaration(declared) && &declared != declaration_of_xml &&
+          hidden.insert(&declared).second && !attribute->value().empty())
+        add(attribute);
+    }
+  }
+  return range;
+}
+
+bool axsXPathTree::walk_children(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+{
+  for (axsNode* at = first_below(from); at != nullptr; at = at->next_sibling())
+    if (passes(*at, test) && visit(at))
+      return true;
+  return false;
+}
+
+bool axsXPathTree::walk_descendants(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+{
+  axsNode& base = anchor(from);
+  for (axsNode* at = first_below(from); at != nullptr; at = at->next_in_tree(base))
+    if (passes(*at, test) && visit(at))
+      return true;
+  return false;
+}
+
+bool axsXPathTree::walk_following(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+{
+  if (from == tree_root)
+    return false;
+  axsNode& base = anchor(from);
+  // What comes behind an attribute or namespace begins with the content of its element.
+  bool const is_inside = from.is_extra() || base.is_attribute();
+  axsNode* at = is_inside ? base.next_in_tree(*topmost) : base.next_behind(*topmost);
+  for (; at != nullptr; at = at->next_in_tree(*topmost))
+    if (passes(*at, test) && visit(at))
+      return true;
+  return false;
+}
+
+bool axsXPathTree::walk_following_siblings(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+{
+  if (from.is_extra() || from.node()->is_attribute())
+    return false;
+  for (axsNode* at = from.node()->next_sibling(); at != nullptr; at = at->next_sibling())
+    if (passes(*at, test) && visit(at))
+      return true;
+  return false;
+}
+
+bool axsXPathTree::walk_preceding(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+{
+  if (from == tree_root)
+    return false;
+  axsNode* at = &anchor(from);
+  if (at->is_attribute())
+    at = at->parent();
+  long long depth = 0;
+  while (at != nullptr && (at = previous_in_tree(*at, depth)) != nullptr)
+  {
+    bool const is_ancestor = depth < 0;
+    if (is_ancestor)
+      depth = 0;
+    else if (passes(*at, test) && visit(at))
+      return true;
+  }
+  return false;
+}
+
+bool axsXPathTree::walk_preceding_siblings(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+{
+  if (from.is_extra() || from.node()->is_attribute())
+    return false;
+  for (axsNode* at = from.node()->previous_sibling(); at != nullptr; at = at->previous_sibling())
+    if (passes(*at, test) && visit(at))
+      return true;
+  return false;
+}

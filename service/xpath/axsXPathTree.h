@@ -1,0 +1,135 @@
+#pragma once
+
+#include <axsXPathAxis.h>
+#include <axsXPathNode.h>
+#include <axsXPathScopes.h>
+#include <axsXPathTest.h>
+#include <axsXPathVisitor.h>
+
+#include <axsElement.h>
+#include <axsName.h>
+#include <axsNode.h>
+
+#include <cstddef>
+#include <deque>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+/// The tree as the data model of XPath 1.0 (section 5) has it:
+///
+/// - Texts that stand beside each other, CDATA sections among them, are one text node: the first of them stands for all.
+///   A text node has at least one character.
+/// - The document type declaration is no node; attributes that declare namespaces are no attributes.
+/// - Each element has a namespace node for every prefix in scope, made when asked for.
+/// - A tree that is detached from its document has a root of its own above its topmost node, so that an absolute path
+///   finds the same there as it will once the tree is the content of a document.
+///
+/// Good for as long as the document does not change; belongs to one evaluation. Nothing recurses.
+class axsXPathTree
+{
+public:
+  enum Kind
+  {
+    root_kind,
+    element_kind,
+    attribute_kind,
+    namespace_kind,
+    text_kind,
+    comment_kind,
+    instruction_kind
+  };
+
+  /// The tree that `context` is in.
+  explicit axsXPathTree(axsNode& context);
+  axsXPathTree(axsXPathTree const&) = delete;
+  axsXPathTree& operator=(axsXPathTree const&) = delete;
+
+  /// What stands for `node` in the data model; none for a document type declaration and for texts without a character.
+  axsXPathNode wrapped(axsNode& node) const noexcept;
+
+  axsXPathNode root() const noexcept { return tree_root; }
+
+  /// The node at which a walk over the whole tree starts; of a detached tree its topmost node.
+  axsNode& top() const noexcept { return *topmost; }
+
+  Kind kind(axsXPathNode node) const noexcept;
+  axsXPathNode parent(axsXPathNode node) const noexcept;
+
+  /// The node of the tree that the node is or, of a namespace, that has it; of a detached root the topmost node.
+  static axsNode& anchor(axsXPathNode node) noexcept { return node.is_extra() ? *node.extra().base : *node.node(); }
+
+  /// The string-value (section 5), put together in `scratch` where it does not stand in one piece in the tree.
+  std::string_view string_value(axsXPathNode node, std::string& scratch) const;
+
+  /// The parts of the expanded-name, and the name as written; empty where there is none.
+  std::string_view local_name(axsXPathNode node) const noexcept;
+  std::string_view namespace_uri(axsXPathNode node);
+  std::string_view name(axsXPathNode node) const noexcept;
+
+  /// Shows the nodes on an axis that pass a test, in the order of the axis, until `visit` says to stop. Returns whether
+  /// it did.
+  bool walk(axsXPathAxis axis, axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
+
+  /// Whether a node of the tree that is no attribute is a node of the data model that passes the test.
+  bool passes(axsNode& node, axsXPathTest const& test)
+  {
+    using Test = axsXPathExpression::NodeTest;
+    switch (test.kind)
+    {
+    case Test::name:
+      return node.is_element() && is_named(static_cast<axsElement&>(node), test);
+    case Test::any_name:
+      return node.is_element();
+    default:
+      return passes_other(node, test);
+    }
+  }
+
+  /// The same for any node. The root, attributes and namespaces are nothing that an axis of elements could ask for but
+  /// node().
+  bool passes_any(axsXPathNode node, axsXPathTest const& test);
+
+  /// The first node below, be it one of the data model or not; null if there is none.
+  axsNode* first_below(axsXPathNode node) const noexcept;
+
+  axsXPathScopes& scopes() noexcept { return namespaces; }
+
+private:
+  bool is_named(axsElement& element, axsXPathTest const& test)
+  {
+    if (test.has_prefix)
+      return element.element_name().local() == test.local && namespaces.uri_of_element(element) == test.uri;
+    return &element.element_name() == test.name && namespaces.is_without_namespace(element);
+  }
+
+  bool passes_other(axsNode& node, axsXPathTest const& test);
+  bool passes_attribute(axsElement const& owner, axsAttribute const& attribute, axsXPathTest const& test);
+
+  bool walk_self(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
+  bool walk_ancestors(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
+  bool walk_attributes(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
+  bool walk_namespaces(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
+  bool walk_children(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
+  bool walk_descendants(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
+  bool walk_following(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
+  bool walk_following_siblings(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
+  bool walk_preceding(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
+  bool walk_preceding_siblings(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
+
+  struct Range
+  {
+    std::size_t first;
+    std::size_t count;
+  };
+
+  Range collect_namespaces(axsElement& element);
+
+  axsNode* topmost;
+  axsXPathExtraNode detached_root;
+  axsXPathNode tree_root;
+  axsXPathScopes namespaces;
+  // The namespace nodes in use, and where those of each element stand that was asked for them.
+  std::deque<axsXPathExtraNode> namespace_nodes;
+  std::unordered_map<axsElement const*, Range> scope_ranges;
+};

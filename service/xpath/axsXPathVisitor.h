@@ -1,0 +1,24 @@
+#pragma once
+
+#include <axsXPathNode.h>
+
+#include <type_traits>
+
+/// What is done with each node that is found: a callable of the caller's that says whether to stop. Refers to it and must
+/// not outlive it, so it is made from a named object only.
+class axsXPathVisitor
+{
+public:
+  template <class Visit, class = std::enable_if_t<!std::is_same_v<std::remove_const_t<Visit>, axsXPathVisitor>>>
+  axsXPathVisitor(Visit& visit) noexcept
+    : callable(&visit),
+      call([](void* object, axsXPathNode node) -> bool { return (*static_cast<Visit*>(object))(node); })
+  {
+  }
+
+  bool operator()(axsXPathNode node) const { return call(callable, node); }
+
+private:
+  void* callable;
+  bool (*call)(void*, axsXPathNode);
+};
