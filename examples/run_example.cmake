@@ -1,0 +1,10 @@
+# Runs PROGRAM with ARGUMENTS and compares what it prints with the file EXPECTED.
+execute_process(COMMAND ${PROGRAM} ${ARGUMENTS} OUTPUT_VARIABLE printed RESULT_VARIABLE result)
+if(NOT result EQUAL 0)
+  message(FATAL_ERROR "exit code ${result}")
+endif()
+file(READ ${EXPECTED} expected)
+string(REPLACE "\r\n" "\n" printed "${printed}")
+if(NOT printed STREQUAL expected)
+  message(FATAL_ERROR "printed:\n${printed}\nexpected:\n${expected}")
+endif()
