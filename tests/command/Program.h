@@ -43,7 +43,7 @@ public:
 };
 
 // What came of a run of the program axm.
-struct Run
+struct ProgramRun
 {
   int exit_code;
   std::string out;
@@ -52,7 +52,7 @@ struct Run
 
 // Runs the built program axm with arguments in which no quotes are; `prefix` names the files it writes to, so that tests
 // can run side by side.
-inline Run run_axm(std::string const& prefix, std::vector<std::string> const& arguments)
+inline ProgramRun run_axm(std::string const& prefix, std::vector<std::string> const& arguments)
 {
   std::string const out = prefix + ".out";
   std::string const err = prefix + ".err";
@@ -66,7 +66,7 @@ inline Run run_axm(std::string const& prefix, std::vector<std::string> const& ar
   int const status = std::system(command.c_str());
   int const exit_code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 #endif
-  Run const run = {exit_code, contents_of(out), contents_of(err)};
+  ProgramRun const run = {exit_code, contents_of(out), contents_of(err)};
   apPath(out.c_str()).delete_file();
   apPath(err.c_str()).delete_file();
   return run;

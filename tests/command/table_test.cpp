@@ -17,13 +17,13 @@ namespace
 class Table : public testing::Test
 {
 protected:
-  Run table(std::string const& root, std::vector<std::string> const& arguments)
+  ProgramRun table(std::string const& root, std::vector<std::string> const& arguments)
   {
     TemporaryFile const file(document, "<?xml version='1.0' encoding='utf-8'?>\n" + root + "\n");
     return table_of(file.name, arguments);
   }
 
-  Run table_of(std::string const& file, std::vector<std::string> const& arguments)
+  ProgramRun table_of(std::string const& file, std::vector<std::string> const& arguments)
   {
     std::vector<std::string> all = {"table", file};
     all.insert(all.end(), arguments.begin(), arguments.end());
@@ -44,7 +44,7 @@ std::string const books =
 
 TEST_F(Table, writes_one_csv_row_for_each_record)
 {
-  Run const run = table(books, {"books/book", "@id", "title", "author/name", "author/name/@first"});
+  ProgramRun const run = table(books, {"books/book", "@id", "title", "author/name", "author/name/@first"});
   EXPECT_EQ(run.exit_code, 0);
   EXPECT_EQ(run.out, "1,\"One, \"\"two\"\"\",B,A\r\n2,\"Three\nfour\",D,C\r\n3,,,\r\n");
   EXPECT_EQ(run.err, "");
@@ -52,25 +52,25 @@ TEST_F(Table, writes_one_csv_row_for_each_record)
 
 TEST_F(Table, columns_may_stand_before_the_previous_one)
 {
-  Run const run = table(books, {"books/book", "author/name", "title", "author/name/@first", "@lang", "@id"});
+  ProgramRun const run = table(books, {"books/book", "author/name", "title", "author/name/@first", "@lang", "@id"});
   EXPECT_EQ(run.out, "B,\"One, \"\"two\"\"\",A,en,1\r\nD,\"Three\nfour\",C,,2\r\n,,,,3\r\n");
 }
 
 TEST_F(Table, a_column_is_the_first_child_wherever_the_previous_column_was)
 {
-  Run const run = table("<r><a>1</a><b>2</b><a>3</a></r>", {"r", "b", "a"});
+  ProgramRun const run = table("<r><a>1</a><b>2</b><a>3</a></r>", {"r", "b", "a"});
   EXPECT_EQ(run.out, "2,1\r\n");
 }
 
 TEST_F(Table, a_child_that_is_missing_does_not_hide_the_others)
 {
-  Run const run = table("<r><a>1</a><b>2</b></r>", {"r", "b", "x", "y/z", "a"});
+  ProgramRun const run = table("<r><a>1</a><b>2</b></r>", {"r", "b", "x", "y/z", "a"});
   EXPECT_EQ(run.out, "2,,,1\r\n");
 }
 
 TEST_F(Table, records_may_lie_deep_and_under_several_parents)
 {
-  Run const run = table(
+  ProgramRun const run = table(
     "<r><g><s><i k='1'/><i k='2'/></s></g><h/><g></g><g><s><i k='3'/></s><s><i k='4'/></s></g></r>", {"r/g/s/i", "@k"});
   EXPECT_EQ(run.exit_code, 0);
   EXPECT_EQ(run.out, "1\r\n2\r\n3\r\n4\r\n");
@@ -78,19 +78,19 @@ TEST_F(Table, records_may_lie_deep_and_under_several_parents)
 
 TEST_F(Table, the_record_may_be_the_root)
 {
-  Run const run = table("<r k='1'>text</r>", {"r", "@k", "."});
+  ProgramRun const run = table("<r k='1'>text</r>", {"r", "@k", "."});
   EXPECT_EQ(run.out, "1,text\r\n");
 }
 
 TEST_F(Table, the_text_of_the_record_goes_with_columns_before_it)
 {
-  Run const run = table("<r><a>1</a>text<b>2</b></r>", {"r", ".", "b", "a"});
+  ProgramRun const run = table("<r><a>1</a>text<b>2</b></r>", {"r", ".", "b", "a"});
   EXPECT_EQ(run.out, "text,2,1\r\n");
 }
 
 TEST_F(Table, a_path_that_leads_nowhere_gives_no_rows)
 {
-  Run const run = table(books, {"books/film", "@id"});
+  ProgramRun const run = table(books, {"books/film", "@id"});
   EXPECT_EQ(run.exit_code, 0);
   EXPECT_EQ(run.out, "");
   EXPECT_EQ(run.err, "");
@@ -98,44 +98,45 @@ TEST_F(Table, a_path_that_leads_nowhere_gives_no_rows)
 
 TEST_F(Table, a_row_of_one_empty_field_is_quoted)
 {
-  Run const run = table("<r><a k=''></a><a k='x'></a></r>", {"r/a", "@k"});
+  ProgramRun const run = table("<r><a k=''></a><a k='x'></a></r>", {"r/a", "@k"});
   EXPECT_EQ(run.out, "\"\"\r\nx\r\n");
 }
 
 TEST_F(Table, header_comes_first)
 {
-  Run const run = table(books, {"books/book", "@id", "@lang", "--header"});
+  ProgramRun const run = table(books, {"books/book", "@id", "@lang", "--header"});
   EXPECT_EQ(run.out, "@id,@lang\r\n1,en\r\n2,\r\n3,\r\n");
 }
 
 TEST_F(Table, tsv_escapes_what_would_break_a_line)
 {
-  Run const run = table("<r><a k='1\t2\n3\r4\\5'></a></r>", {"r/a", "@k", "@x", "--format", "tsv"});
+  ProgramRun const run = table("<r><a k='1\t2\n3\r4\\5'></a></r>", {"r/a", "@k", "@x", "--format", "tsv"});
   EXPECT_EQ(run.exit_code, 0);
   EXPECT_EQ(run.out, "1\\t2\\n3\\r4\\\\5\t\n");
 }
 
 TEST_F(Table, jsonl_writes_objects_with_null_for_what_is_missing)
 {
-  Run const run = table("<r><a k='say \"x\\y\"\n'><b></b></a></r>", {"r/a", "@k", "b", "c", "--format", "jsonl"});
+  ProgramRun const run =
+    table("<r><a k='say \"x\\y\"\n'><b></b></a></r>", {"r/a", "@k", "b", "c", "--format", "jsonl"});
   EXPECT_EQ(run.out, "{\"@k\":\"say \\\"x\\\\y\\\"\\n\",\"b\":\"\",\"c\":null}\n");
 }
 
 TEST_F(Table, jsonl_is_utf8)
 {
-  Run const run = table("<r><a k='\xC3\xA4\xE4\x01'></a></r>", {"r/a", "@k", "--format", "jsonl"});
+  ProgramRun const run = table("<r><a k='\xC3\xA4\xE4\x01'></a></r>", {"r/a", "@k", "--format", "jsonl"});
   EXPECT_EQ(run.out, "{\"@k\":\"\xC3\xA4\xEF\xBF\xBD\\u0001\"}\n");
 }
 
 TEST_F(Table, values_stay_as_they_are_written)
 {
-  Run const run = table("<r><a k='&lt;&#65;'> &amp; </a></r>", {"r/a", "@k", "."});
-  EXPECT_EQ(run.out, "&lt;&#65;, &amp; \r\n");
+  ProgramRun const run = table("<r><a k='&lt;&#65;'>&amp; </a></r>", {"r/a", "@k", "."});
+  EXPECT_EQ(run.out, "&lt;&#65;,&amp; \r\n");
 }
 
 TEST_F(Table, rows_before_an_error_are_written_and_counted)
 {
-  Run const run = table("<r><a k='1'></a><a k='2'></a><a k='3'></b></a></r>", {"r/a", "@k"});
+  ProgramRun const run = table("<r><a k='1'></a><a k='2'></a><a k='3'></b></a></r>", {"r/a", "@k"});
   EXPECT_EQ(run.exit_code, 1);
   EXPECT_EQ(run.out, "1\r\n2\r\n3\r\n");
   EXPECT_EQ(run.err, "axm: " + document + ": axmTagException:: Something wrong with tag a; rows read before that: 3\n");
@@ -143,7 +144,7 @@ TEST_F(Table, rows_before_an_error_are_written_and_counted)
 
 TEST_F(Table, a_record_that_cannot_be_read_is_no_row)
 {
-  Run const run = table("<r><a k='1'></a><a k='2'/></r>", {"r/a", "@k", "@x"});
+  ProgramRun const run = table("<r><a k='1'></a><a k='2'/></r>", {"r/a", "@k", "@x"});
   EXPECT_EQ(run.exit_code, 1);
   EXPECT_EQ(run.out, "1,\r\n");
   EXPECT_EQ(run.err,
@@ -152,14 +153,14 @@ TEST_F(Table, a_record_that_cannot_be_read_is_no_row)
 
 TEST_F(Table, an_error_without_a_text_of_its_own_gets_one)
 {
-  Run const run = table("<r><a k='1'></a><!--a--b--></r>", {"r/a", "@k"});
+  ProgramRun const run = table("<r><a k='1'></a><!--a--b--></r>", {"r/a", "@k"});
   EXPECT_EQ(run.exit_code, 1);
   EXPECT_EQ(run.err, "axm: " + document + ": a character that must be there is missing; rows read before that: 1\n");
 }
 
 TEST_F(Table, a_file_that_is_not_there_is_an_error)
 {
-  Run const run = table_of("no such file.xml", {"r", "@k"});
+  ProgramRun const run = table_of("no such file.xml", {"r", "@k"});
   EXPECT_EQ(run.exit_code, 1);
   EXPECT_EQ(run.out, "");
   EXPECT_EQ(run.err, "axm: no such file.xml: cannot be read\n");
@@ -168,7 +169,7 @@ TEST_F(Table, a_file_that_is_not_there_is_an_error)
 TEST_F(Table, a_file_in_utf16_is_an_error)
 {
   TemporaryFile const file(document, "<?xml version='1.0' encoding='UTF-16'?><r></r>\n");
-  Run const run = table_of(file.name, {"r", "@k"});
+  ProgramRun const run = table_of(file.name, {"r", "@k"});
   EXPECT_EQ(run.exit_code, 1);
   EXPECT_EQ(run.err, "axm: " + document + ": is in UTF-16, which this reader does not read\n");
 }
@@ -176,7 +177,7 @@ TEST_F(Table, a_file_in_utf16_is_an_error)
 TEST_F(Table, a_file_without_a_declaration_is_an_error)
 {
   TemporaryFile const file(document, "<r></r>\n");
-  Run const run = table_of(file.name, {"r", "@k"});
+  ProgramRun const run = table_of(file.name, {"r", "@k"});
   EXPECT_EQ(run.exit_code, 1);
   EXPECT_EQ(run.err, "axm: " + document +
                        ": no XML declaration with a version stands at the very beginning, byte-order mark included "
@@ -186,7 +187,7 @@ TEST_F(Table, a_file_without_a_declaration_is_an_error)
 TEST_F(Table, output_goes_to_a_file)
 {
   std::string const output = name + ".csv";
-  Run const run = table(books, {"books/book", "@id", "--output", output});
+  ProgramRun const run = table(books, {"books/book", "@id", "--output", output});
   EXPECT_EQ(run.exit_code, 0);
   EXPECT_EQ(run.out, "");
   EXPECT_EQ(contents_of(output), "1\r\n2\r\n3\r\n");
@@ -196,7 +197,7 @@ TEST_F(Table, output_goes_to_a_file)
 TEST_F(Table, output_of_a_document_with_an_error_has_the_rows_before_it)
 {
   TemporaryFile const output(name + ".csv", "old");
-  Run const run = table("<r><a k='1'></a></s></r>", {"r/a", "@k", "--output", output.name});
+  ProgramRun const run = table("<r><a k='1'></a></s></r>", {"r/a", "@k", "--output", output.name});
   EXPECT_EQ(run.exit_code, 1);
   EXPECT_EQ(contents_of(output.name), "1\r\n");
 }
@@ -204,14 +205,14 @@ TEST_F(Table, output_of_a_document_with_an_error_has_the_rows_before_it)
 TEST_F(Table, output_stays_as_it_was_when_nothing_could_be_read)
 {
   TemporaryFile const output(name + ".csv", "old");
-  Run const run = table_of("no such file.xml", {"r", "@k", "--output", output.name});
+  ProgramRun const run = table_of("no such file.xml", {"r", "@k", "--output", output.name});
   EXPECT_EQ(run.exit_code, 1);
   EXPECT_EQ(contents_of(output.name), "old");
 }
 
 TEST_F(Table, output_that_cannot_be_written_is_an_error)
 {
-  Run const run = table(books, {"books/book", "@id", "--output", "no such folder/x.csv"});
+  ProgramRun const run = table(books, {"books/book", "@id", "--output", "no such folder/x.csv"});
   EXPECT_EQ(run.exit_code, 1);
   EXPECT_EQ(run.err, "axm: no such folder/x.csv: cannot be written\n");
 }
@@ -219,14 +220,14 @@ TEST_F(Table, output_that_cannot_be_written_is_an_error)
 #if defined(__linux__)
 TEST_F(Table, output_to_a_full_device_is_an_error)
 {
-  Run const run = table(books, {"books/book", "@id", "--output", "/dev/full"});
+  ProgramRun const run = table(books, {"books/book", "@id", "--output", "/dev/full"});
   EXPECT_EQ(run.exit_code, 1);
   EXPECT_EQ(run.err, "axm: /dev/full: cannot be written\n");
 }
 
 TEST_F(Table, output_to_a_device_leaves_the_device_in_place)
 {
-  Run const run = table(books, {"books/book", "@id", "--output", "/dev/null"});
+  ProgramRun const run = table(books, {"books/book", "@id", "--output", "/dev/null"});
   EXPECT_EQ(run.exit_code, 0);
   EXPECT_EQ(contents_of("/dev/null"), "");
 }
@@ -235,7 +236,7 @@ TEST_F(Table, output_to_a_device_leaves_the_device_in_place)
 TEST_F(Table, names_of_files_may_go_beyond_ascii)
 {
   TemporaryFile const file(name + "_\xC3\xA4\xE2\x82\xAC.xml", "<?xml version='1.0'?><r k='1'></r>\n");
-  Run const run = table_of(file.name, {"r", "@k"});
+  ProgramRun const run = table_of(file.name, {"r", "@k"});
   EXPECT_EQ(run.exit_code, 0);
   EXPECT_EQ(run.out, "1\r\n");
 }
@@ -246,7 +247,7 @@ TEST_F(Table, wrong_usage_is_exit_code_2)
     {"r", "@"}, {"r", "@a/b"}, {"r", "a//b"}, {"r", "@k", "@k"}, {"r", "@k", "--unknown"}};
   for (auto const& arguments : wrong)
   {
-    Run const run = table("<r k='1'></r>", arguments);
+    ProgramRun const run = table("<r k='1'></r>", arguments);
     EXPECT_EQ(run.exit_code, 2) << arguments.back();
     EXPECT_EQ(run.out, "");
     EXPECT_NE(run.err, "");
@@ -257,7 +258,7 @@ TEST_F(Table, wrong_usage_is_exit_code_2)
 
 TEST_F(Table, help_has_two_examples)
 {
-  Run const run = run_axm(name, {"table", "--help"});
+  ProgramRun const run = run_axm(name, {"table", "--help"});
   EXPECT_EQ(run.exit_code, 0);
   EXPECT_NE(run.out.find("axm table map.osm osm/node @id @lat @lon"), std::string::npos);
   EXPECT_NE(run.out.find("axm table books.xml catalog/book @id title author/name --format jsonl"), std::string::npos);
