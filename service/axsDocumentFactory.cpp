@@ -3,12 +3,18 @@
 #include "axsDocument.h"
 #include "axsElement.h"
 #include "axsHandle.h"
+#include "axsReadError.h"
 #include "axsSaver.h"
-#include "axsXmlName.h"
+#include "axsSource.h"
+#include "axsTreeBuilder.h"
+#include "axsXercesParser.h"
 
 #include <apStringFormatter.h>
 
 #include <atomic>
+#include <exception>
+#include <memory>
+#include <new>
 
 namespace
 {
@@ -17,6 +23,37 @@ apString new_uri()
 {
   static std::atomic<unsigned int> documents{0};
   return apStringFormatter::format(L"axs:document:%u", ++documents);
+}
+
+std::shared_ptr<axmDocument> read(axsSource& source, axmLoadOptions const& options)
+{
+  apString const url = source.url();
+  std::shared_ptr<axmDocument> document = axsDocument::make(url.empty() ? new_uri() : url);
+  axsTreeBuilder builder(static_cast<axsDocument&>(*axsNode::of(*document)));
+  axsXercesParser::parse(source, options, builder);
+  return document;
+}
+
+template <class Open>
+std::shared_ptr<axmDocument> load(Open open, axmLoadOptions const& options, axmParseError& error)
+try
+{
+  return read(*open(), options);
+}
+catch (axsReadError const& failure)
+{
+  error = failure.record();
+  return nullptr;
+}
+catch (std::bad_alloc const&)
+{
+  error = axmParseError(APSTRING("Memory ran out"));
+  return nullptr;
+}
+catch (std::exception const& failure)
+{
+  error = axmParseError(apString(failure.what()));
+  return nullptr;
 }
 
 axsDocument* own_document(std::shared_ptr<axmDocument> const& document)
@@ -40,15 +77,15 @@ std::shared_ptr<axmDocument> axsDocumentFactory::createDocument(apString const& 
 }
 
 std::shared_ptr<axmDocument> axsDocumentFactory::loadDocument(
-  apPath const&, axmLoadOptions const&, axmParseError&) const
+  apPath const& path, axmLoadOptions const& options, axmParseError& error) const
 {
-  return nullptr;
+  return load([&] { return std::make_unique<axsSource>(path); }, options, error);
 }
 
 std::shared_ptr<axmDocument> axsDocumentFactory::loadDocument(
-  apByteArray const&, axmLoadOptions const&, axmParseError&) const
+  apByteArray const& data, axmLoadOptions const& options, axmParseError& error) const
 {
-  return nullptr;
+  return load([&] { return std::make_unique<axsSource>(data); }, options, error);
 }
 
 bool axsDocumentFactory::saveDocument(std::shared_ptr<axmDocument> document, apByteArray& output)

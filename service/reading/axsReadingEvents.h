@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string_view>
+
+class axsName;
+
+/// What a parser tells of a document, in the order of the document, in UTF-8. The seam between what parses and what
+/// builds: neither knows the other. Views live for the duration of the call.
+/// Whoever is told may stop the parser by throwing axsReadError.
+class axsReadingEvents
+{
+public:
+  virtual ~axsReadingEvents() = default;
+
+  /// The object for a name, the same at every call with that name.
+  virtual axsName const& name(std::string_view text) = 0;
+
+  /// An element begins; its attributes follow, in their order.
+  virtual void start_element(axsName const& name) = 0;
+  virtual void attribute(axsName const& name, std::string_view value) = 0;
+
+  /// The element that began last and has not ended ends.
+  virtual void end_element() = 0;
+
+  /// A part of a text: what comes in a row is one text.
+  virtual void text(std::string_view part) = 0;
+
+  /// A whole CDATA section.
+  virtual void cdata(std::string_view section) = 0;
+
+  virtual void comment(std::string_view data) = 0;
+  virtual void processing_instruction(std::string_view target, std::string_view data) = 0;
+
+  /// The document type declaration, from "<!DOCTYPE" to ">".
+  virtual void doctype(std::string_view declaration) = 0;
+};

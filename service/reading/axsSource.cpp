@@ -1,0 +1,97 @@
+#include "axsSource.h"
+
+#include "axsReadError.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+namespace
+{
+std::size_t const head_size = 64 * 1024;
+
+[[noreturn]] void fail(wchar_t const* what, apPath const& path)
+{
+  throw axsReadError{apString(what) + apString(path.path()), apString(path.path())};
+}
+}
+
+axsSource::axsSource(apByteArray const& data) noexcept : present(data.data(), data.size()) {}
+
+axsSource::axsSource(apPath const& file) : path(file)
+{
+  if (file.empty())
+    throw axsReadError{APSTRING("There is no file name"), apString()};
+  stream = file.file_open(apPath::read_mode());
+  if (stream == nullptr)
+    fail(file.exists() ? L"Cannot open the file " : L"There is no file ", file);
+  try
+  {
+    // Pieces are large enough as they come.
+    std::setvbuf(stream, nullptr, _IONBF, 0);
+    kept.resize(head_size);
+    kept.resize(read_file(kept.data(), kept.size()));
+  }
+  catch (...)
+  {
+    close();
+    throw;
+  }
+  present = {kept.data(), kept.size()};
+  if (kept.size() < head_size)
+    close();
+}
+
+axsSource::~axsSource()
+{
+  close();
+}
+
+void axsSource::close() noexcept
+{
+  if (stream != nullptr)
+    std::fclose(stream);
+  stream = nullptr;
+}
+
+std::string_view axsSource::whole()
+{
+  while (stream != nullptr)
+  {
+    std::size_t const before = kept.size();
+    kept.resize(before * 2);
+    std::size_t const more = read_file(kept.data() + before, before);
+    kept.resize(before + more);
+    if (more < before)
+      close();
+  }
+  if (!kept.empty())
+    present = {kept.data(), kept.size()};
+  return present;
+}
+
+std::size_t axsSource::read(char* to, std::size_t size)
+{
+  if (position < present.size())
+  {
+    std::size_t const count = std::min(size, present.size() - position);
+    std::memcpy(to, present.data() + position, count);
+    position += count;
+    return count;
+  }
+  if (stream == nullptr)
+    return 0;
+  // What was kept of the beginning has been read.
+  std::size_t const count = read_file(to, size);
+  position += count;
+  return count;
+}
+
+// Fewer bytes than asked for mean the end of the file.
+std::size_t axsSource::read_file(char* to, std::size_t size)
+{
+  std::size_t const count = std::fread(to, 1, size, stream);
+  if (count < size && std::ferror(stream) != 0)
+    fail(L"Cannot read the file ", path);
+  return count;
+}

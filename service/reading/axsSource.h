@@ -1,0 +1,57 @@
+#pragma once
+
+#include <apByteArray.h>
+#include <apPath.h>
+#include <apString.h>
+
+#include <cstddef>
+#include <cstdio>
+#include <string_view>
+#include <vector>
+
+/// The bytes of one document, schema or entity: in memory, or in a file that we open ourselves and read piece by piece as
+/// long as nobody needs them all. Throws axsReadError when there is no file or it cannot be read, std::bad_alloc when
+/// memory runs out.
+class axsSource
+{
+public:
+  /// Refers to the bytes of `data`, which must live longer.
+  explicit axsSource(apByteArray const& data) noexcept;
+
+  /// Opens the file.
+  explicit axsSource(apPath const& file);
+
+  axsSource(axsSource const&) = delete;
+  axsSource& operator=(axsSource const&) = delete;
+  ~axsSource();
+
+  /// What errors say it is: the path, empty for bytes in memory.
+  apString url() const { return apString(path.path()); }
+
+  apPath const& file() const noexcept { return path; }
+
+  /// The beginning: all of it, if it is small or whole() has been called.
+  std::string_view head() const noexcept { return present; }
+
+  /// Whether head() is everything.
+  bool is_whole() const noexcept { return stream == nullptr; }
+
+  /// All bytes, in memory from now on.
+  std::string_view whole();
+
+  /// Reads on from where the last read() ended, at first from the start. 0 at the end.
+  std::size_t read(char* to, std::size_t size);
+
+  /// The next read() is at the start again. Only when is_whole().
+  void rewind() noexcept { position = 0; }
+
+private:
+  std::size_t read_file(char* to, std::size_t size);
+  void close() noexcept;
+
+  apPath path;
+  std::FILE* stream = nullptr;
+  std::vector<char> kept;
+  std::string_view present;
+  std::size_t position = 0;
+};

@@ -1,0 +1,248 @@
+#include "axsXercesParser.h"
+
+#include "axsDoctypeText.h"
+#include "axsEntityHandler.h"
+#include "axsErrorReporter.h"
+#include "axsInputSource.h"
+#include "axsNameCache.h"
+#include "axsParserMemory.h"
+#include "axsReadingEvents.h"
+#include "axsSource.h"
+#include "axsUtf16.h"
+#include "axsXerces.h"
+
+#include <xercesc/framework/XMLAttr.hpp>
+#include <xercesc/framework/XMLDocumentHandler.hpp>
+#include <xercesc/framework/XMLElementDecl.hpp>
+#include <xercesc/internal/IGXMLScanner.hpp>
+#include <xercesc/internal/WFXMLScanner.hpp>
+#include <xercesc/util/SecurityManager.hpp>
+#include <xercesc/util/TransService.hpp>
+#include <xercesc/validators/DTD/DocTypeHandler.hpp>
+#include <xercesc/validators/common/GrammarResolver.hpp>
+
+#include <algorithm>
+#include <memory>
+
+namespace
+{
+// What the parser may hold at a time: so much, and so many times what was read of the document.
+std::size_t const memory_free = 256 * 1024 * 1024;
+std::size_t const memory_factor = 64;
+
+// One run of the parser: hears what it says and says it to the events.
+class Run final : public xercesc::XMLDocumentHandler, public xercesc::DocTypeHandler
+{
+public:
+  Run(axsSource& given, axmLoadOptions const& options, axsReadingEvents& told);
+
+  void parse();
+
+private:
+  void docCharacters(XMLCh const* text, XMLSize_t length, bool cdata) override;
+  void docComment(XMLCh const* comment) override;
+  void docPI(XMLCh const* target, XMLCh const* data) override;
+  void endDocument() override {}
+  void endElement(xercesc::XMLElementDecl const& decl, unsigned int uri, bool is_root, XMLCh const* prefix) override;
+  void endEntityReference(xercesc::XMLEntityDecl const&) override {}
+  void ignorableWhitespace(XMLCh const* text, XMLSize_t length, bool cdata) override;
+  void resetDocument() override {}
+  void startDocument() override {}
+  void startElement(xercesc::XMLElementDecl const& decl, unsigned int uri, XMLCh const* prefix,
+    xercesc::RefVectorOf<xercesc::XMLAttr> const& attributes, XMLSize_t count, bool is_empty, bool is_root) override;
+  void startEntityReference(xercesc::XMLEntityDecl const&) override {}
+  void XMLDecl(XMLCh const*, XMLCh const*, XMLCh const*, XMLCh const*) override {}
+
+  void doctypeDecl(
+    xercesc::DTDElementDecl const&, XMLCh const*, XMLCh const*, bool has_subset, bool has_external) override;
+  void attDef(xercesc::DTDElementDecl const&, xercesc::DTDAttDef const&, bool) override {}
+  void doctypeComment(XMLCh const*) override {}
+  void doctypePI(XMLCh const*, XMLCh const*) override {}
+  void doctypeWhitespace(XMLCh const*, XMLSize_t) override {}
+  void elementDecl(xercesc::DTDElementDecl const&, bool) override {}
+  void endAttList(xercesc::DTDElementDecl const&) override {}
+  void endIntSubset() override { expect_declarations(); }
+  void endExtSubset() override {}
+  void entityDecl(xercesc::DTDEntityDecl const&, bool, bool) override {}
+  void resetDocType() override {}
+  void notationDecl(xercesc::XMLNotationDecl const&, bool) override {}
+  void startAttList(xercesc::DTDElementDecl const&) override {}
+  void startIntSubset() override {}
+  void startExtSubset() override {}
+  void TextDecl(XMLCh const*, XMLCh const*) override {}
+
+  void make_scanner();
+  // An entity that is not declared in what is read is an error, even if it may be declared in what is not.
+  void expect_declarations() { scanner->setHasNoDTD(true); }
+  axsReadError place() const;
+  std::string_view utf8(XMLCh const* text, std::size_t length);
+  std::string_view utf8(XMLCh const* text) { return utf8(text, axsUtf16::length(text)); }
+  std::string document_in_utf8();
+  void count(std::size_t length);
+
+  axsSource& source;
+  axsReadingEvents& events;
+  bool const has_doctype;
+  axsParserMemory memory;
+  xercesc::SecurityManager limits;
+  axsErrorReporter errors;
+  axsEntityHandler entities;
+  axsNameCache names;
+  std::unique_ptr<xercesc::GrammarResolver> grammars;
+  std::unique_ptr<xercesc::XMLScanner> scanner;
+  std::string converted;
+  std::size_t produced = 0;
+};
+
+Run::Run(axsSource& given, axmLoadOptions const& options, axsReadingEvents& told)
+  : source(given),
+    events(told),
+    has_doctype(!axsDoctypeText::is_absent(given.head())),
+    memory(memory_free),
+    entities(options.disable_entity_resolution(), [this] { return place(); }),
+    names(told)
+{
+  limits.setEntityExpansionLimit(static_cast<XMLSize_t>(std::max(options.entity_expansion_limit(), 0)));
+}
+
+void Run::make_scanner()
+{
+  grammars = std::make_unique<xercesc::GrammarResolver>(nullptr, &memory);
+  // One that knows no declarations is faster where there are none.
+  if (has_doctype)
+    scanner = std::make_unique<xercesc::IGXMLScanner>(this, this, &entities, &errors, nullptr, grammars.get(), &memory);
+  else
+    scanner = std::make_unique<xercesc::WFXMLScanner>(this, this, &entities, &errors, nullptr, grammars.get(), &memory);
+  scanner->setURIStringPool(grammars->getStringPool());
+  scanner->setEntityHandler(&entities);
+  scanner->setSecurityManager(&limits);
+  scanner->setDoNamespaces(true);
+  scanner->setDoSchema(false);
+  scanner->setLoadSchema(false);
+  scanner->setLoadExternalDTD(false);
+  scanner->setValidationScheme(xercesc::XMLScanner::Val_Never);
+  scanner->setSkipDTDValidation(true);
+  scanner->setDisableDefaultEntityResolution(true);
+}
+
+void Run::parse()
+{
+  if (source.head().empty())
+    throw axsReadError{APSTRING("The document is empty"), source.url()};
+  // The text of the declaration is taken from the bytes.
+  if (has_doctype)
+    source.whole();
+
+  axsXerces::run(
+    memory,
+    [this]
+    {
+      make_scanner();
+      axsInputSource input(source, memory);
+      scanner->scanDocument(input);
+    },
+    [this] { return place(); });
+}
+
+axsReadError Run::place() const
+{
+  if (scanner == nullptr)
+    return {apString(), source.url()};
+  xercesc::Locator const& at = *scanner->getLocator();
+  return axsErrorReporter::make(apString(), at.getSystemId(), at.getLineNumber(), at.getColumnNumber());
+}
+
+std::string_view Run::utf8(XMLCh const* text, std::size_t length)
+{
+  converted.clear();
+  axsUtf16::append_utf8(text, length, converted);
+  return converted;
+}
+
+// Only entities make more of a document than it is.
+void Run::count(std::size_t length)
+{
+  if (!has_doctype)
+    return;
+  produced += length;
+  if (produced <= axsXercesParser::growth_free || produced / axsXercesParser::growth_limit <= source.head().size())
+    return;
+  axsReadError error = place();
+  error.message = APSTRING("The entities of the document make it too large");
+  throw error;
+}
+
+void Run::docCharacters(XMLCh const* text, XMLSize_t length, bool cdata)
+{
+  std::string_view const characters = utf8(text, length);
+  count(characters.size());
+  if (cdata)
+    events.cdata(characters);
+  else
+    events.text(characters);
+}
+
+void Run::ignorableWhitespace(XMLCh const* text, XMLSize_t length, bool cdata)
+{
+  docCharacters(text, length, cdata);
+}
+
+void Run::docComment(XMLCh const* comment)
+{
+  events.comment(utf8(comment));
+}
+
+void Run::docPI(XMLCh const* target, XMLCh const* data)
+{
+  std::string const name = axsUtf16::to_utf8(target);
+  events.processing_instruction(name, utf8(data));
+}
+
+void Run::startElement(xercesc::XMLElementDecl const& decl, unsigned int, XMLCh const*,
+  xercesc::RefVectorOf<xercesc::XMLAttr> const& attributes, XMLSize_t number, bool is_empty, bool)
+{
+  XMLCh const* const name = decl.getFullName();
+  events.start_element(names.find(name, axsUtf16::length(name)));
+  count(sizeof(void*));
+  for (XMLSize_t i = 0; i < number; ++i)
+  {
+    xercesc::XMLAttr const& attribute = *attributes.elementAt(i);
+    XMLCh const* const attribute_name = attribute.getQName();
+    std::string_view const value = utf8(attribute.getValue());
+    count(value.size());
+    events.attribute(names.find(attribute_name, axsUtf16::length(attribute_name)), value);
+  }
+  if (is_empty)
+    events.end_element();
+}
+
+void Run::endElement(xercesc::XMLElementDecl const&, unsigned int, bool, XMLCh const*)
+{
+  events.end_element();
+}
+
+void Run::doctypeDecl(xercesc::DTDElementDecl const&, XMLCh const*, XMLCh const*, bool, bool)
+{
+  expect_declarations();
+  std::string const document = document_in_utf8();
+  events.doctype(axsDoctypeText::find(document));
+}
+
+std::string Run::document_in_utf8()
+{
+  std::string const encoding = axsUtf16::to_utf8(scanner->getReaderMgr()->getCurrentEncodingStr());
+  std::string_view const bytes = source.head();
+  if (encoding == "UTF-8")
+    return std::string(bytes);
+  xercesc::TranscodeFromStr const text(reinterpret_cast<XMLByte const*>(bytes.data()), bytes.size(), encoding.c_str());
+  std::string document;
+  axsUtf16::append_utf8(text.str(), text.length(), document);
+  return document;
+}
+}
+
+void axsXercesParser::parse(axsSource& source, axmLoadOptions const& options, axsReadingEvents& events)
+{
+  axsXerces::initialise();
+  Run(source, options, events).parse();
+}
