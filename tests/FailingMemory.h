@@ -1,5 +1,8 @@
 #pragma once
 
+#include <gtest/gtest.h>
+#include <new>
+
 /// While it lives, only so many allocations of its thread succeed and every further one fails, whether through new,
 /// malloc, calloc or realloc, in the test program as in the libraries it uses. Besides, it counts the blocks that its
 /// thread has allocated and not given back. One at a time.
@@ -41,4 +44,37 @@ int with_every_failure(Operation operation, After after)
     if (!failed)
       return allowed;
   }
+}
+
+/// Calls `operation` with each of its allocations failing in turn and expects it to throw std::bad_alloc then, to leak
+/// nothing, and to leave `unchanged()` true; when none fails, to hold nothing either. Returns the number of allocations.
+template <class Operation, class Unchanged>
+int fails_cleanly(Operation operation, Unchanged unchanged)
+{
+  bool threw = false;
+  return with_every_failure(
+    [&]
+    {
+      threw = false;
+      try
+      {
+        operation();
+      }
+      catch (std::bad_alloc const&)
+      {
+        threw = true;
+      }
+    },
+    [&](bool failed, long held)
+    {
+      EXPECT_EQ(threw, failed);
+      EXPECT_EQ(held, 0);
+      EXPECT_TRUE(!failed || unchanged());
+    });
+}
+
+template <class Operation>
+int fails_cleanly(Operation operation)
+{
+  return fails_cleanly(operation, [] { return true; });
 }

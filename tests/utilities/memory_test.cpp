@@ -1,0 +1,131 @@
+// Narrow texts, service names and the registry when memory runs out.
+
+#include <utService.h>
+#include <utServiceName.h>
+#include <utString.h>
+#include <utStringcoPageArr.h>
+
+#include "../FailingMemory.h"
+
+#include <gtest/gtest.h>
+#include <memory>
+#include <new>
+#include <utility>
+
+namespace
+{
+class Clock : public utService
+{
+};
+}
+
+TEST(utString_memory, constructors_throw_and_leak_nothing)
+{
+  EXPECT_EQ(fails_cleanly([] { utString const text("abc"); }), 1);
+  EXPECT_EQ(fails_cleanly([] { utString const text("abc", 2); }), 1);
+  EXPECT_EQ(fails_cleanly([] { utString const text(ut_lit("abc")); }), 1);
+}
+
+TEST(utString_memory, no_storage_copies_and_moves_need_none)
+{
+  utString const text("abc");
+  EXPECT_EQ(fails_cleanly(
+              [&text]
+              {
+                utString const none;
+                utString const null(nullptr, 3);
+                utString copy(text);
+                copy = none;
+                utString moved(std::move(copy));
+                moved = text;
+              }),
+    0);
+}
+
+TEST(utString_memory, failed_assignment_keeps_the_old_text)
+{
+  utString const old("old");
+  utString text(old);
+  fails_cleanly(
+    [&]
+    {
+      text = utString("new");
+      text = old;
+    },
+    [&] { return text.c_str() == old.c_str(); });
+}
+
+TEST(utString_memory, sum_throws_and_leaks_nothing)
+{
+  utString const left("ab");
+  utString const right("cd");
+  EXPECT_EQ(fails_cleanly([&] { utString const sum = left + right; }), 1);
+  EXPECT_EQ(fails_cleanly([&] { utString const sum = left + utString(); }), 0);
+}
+
+TEST(utServiceName_memory, failed_dequalify_keeps_the_name)
+{
+  utServiceName const given(ut_lit("a::b"));
+  utServiceName name(given);
+  EXPECT_EQ(fails_cleanly(
+              [&]
+              {
+                name.dequalify();
+                name = given;
+              },
+              [&] { return name == given; }),
+    1);
+}
+
+TEST(utService_memory, failed_registration_changes_nothing)
+{
+  // The registry itself is made here, at its first use.
+  utService& registry = *utService::get_instance();
+  utServiceName const name(ut_lit("a service with a name too long to be held without memory"));
+  utServiceName resolved;
+  registry.register_service(name, nullptr);
+
+  auto const clock = std::make_shared<Clock>();
+  int const failures = with_every_failure(
+    [&]
+    {
+      try
+      {
+        registry.register_service(name, clock);
+      }
+      catch (std::bad_alloc const&)
+      {
+      }
+    },
+    [&](bool failed, long held)
+    {
+      EXPECT_EQ(clock.use_count(), failed ? 1 : 2);
+      EXPECT_TRUE(!failed || held == 0) << held;
+    });
+  EXPECT_GE(failures, 2);
+  EXPECT_EQ(utService::locate_service<Clock>(name, resolved), clock);
+  registry.register_service(name, nullptr);
+  EXPECT_EQ(utService::locate_service<Clock>(name, resolved), nullptr);
+}
+
+TEST(utStringcoPageArr_memory, failed_append_keeps_the_list)
+{
+  utStringcoPageArr texts(0, 1, 1);
+  texts[0] = utString("first");
+  utString const text("second");
+  bool threw = false;
+  {
+    FailingMemory const memory(0);
+    try
+    {
+      texts[1] = text;
+    }
+    catch (std::bad_alloc const&)
+    {
+      threw = true;
+    }
+  }
+  EXPECT_TRUE(threw);
+  EXPECT_EQ(texts.count(), 1);
+  EXPECT_EQ(texts[0], utString("first"));
+}
