@@ -107,7 +107,8 @@ public:
   /// - `bool`: writes "true" or "false".
   /// - `double`: writes "%.16g" with '.' as decimal point under every locale. Sixteen digits do not bring every double
   ///   back: one whose shortest exact form needs seventeen, such as 0.1 + 0.2 = 0.30000000000000004 (written as 0.3),
-  ///   comes back as a neighbour. Every double that was itself read from at most fifteen digits comes back.
+  ///   comes back as a neighbour, and the largest of all, 1.7976931348623157e308, as an infinity. Every double that was
+  ///   itself read from at most fifteen digits comes back, and so do infinities and not-a-number.
   /// - `int`, `unsigned int`: write decimal digits. No getter reads an `unsigned int` above the largest `int`.
   AXM_OVERLOADS_5(virtual bool set_attribute(apString const& name, bool value),
     virtual bool set_attribute(apString const& name, apString const& value),

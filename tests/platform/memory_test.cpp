@@ -1,0 +1,121 @@
+// Wide texts, formatting, paths and bytes when memory runs out.
+
+#include <apByteArray.h>
+#include <apPath.h>
+#include <apString.h>
+#include <apStringFormatter.h>
+
+#include "../FailingMemory.h"
+
+#include <gtest/gtest.h>
+#include <utility>
+
+TEST(apString_memory, constructors_throw_and_leak_nothing)
+{
+  EXPECT_EQ(fails_cleanly([] { apString const text(L"abc"); }), 1);
+  EXPECT_EQ(fails_cleanly([] { apString const text(L"abc", 2); }), 1);
+  EXPECT_EQ(fails_cleanly([] { apString const text("abc"); }), 1);
+  EXPECT_EQ(fails_cleanly([] { apString const text("\xD1\x84\xFF"); }), 1);
+  EXPECT_EQ(fails_cleanly([] { apString const text(APSTRING("abc")); }), 1);
+}
+
+TEST(apString_memory, empty_texts_copies_and_moves_need_none)
+{
+  apString const text(L"abc");
+  EXPECT_EQ(fails_cleanly(
+              [&text]
+              {
+                apString const empty(L"");
+                apString copy(text);
+                copy = empty;
+                apString moved(std::move(copy));
+                moved = text;
+              }),
+    0);
+}
+
+TEST(apString_memory, conversion_to_UTF_8_throws_and_leaks_nothing)
+{
+  apString const text(L"\u0444");
+  EXPECT_EQ(fails_cleanly([&text] { utString const utf8 = text.to_utf8(); }), 1);
+}
+
+TEST(apString_memory, failed_changes_leave_the_text)
+{
+  apString const old(L"a.b");
+  apString const point(L".");
+  apString const comma(L",");
+  apString text(old);
+  auto const unchanged = [&] { return text.c_str() == old.c_str(); };
+  EXPECT_EQ(fails_cleanly(
+              [&]
+              {
+                text.replace_all(point, comma);
+                text = old;
+              },
+              unchanged),
+    1);
+  EXPECT_EQ(fails_cleanly(
+              [&]
+              {
+                text += comma;
+                text = old;
+              },
+              unchanged),
+    1);
+}
+
+TEST(apStringFormatter_memory, throws_and_leaks_nothing)
+{
+  EXPECT_GT(fails_cleanly(
+              []
+              {
+                apStringFormatter::format(L"%100d %-100.50f %s %hs %c", 7, 1.5, L"a text long enough to need memory",
+                  "another text long enough to need memory", L'x');
+              }),
+    5);
+}
+
+TEST(apPath_memory, throws_and_leaks_nothing)
+{
+  EXPECT_GT(fails_cleanly([] { apPath const path(L"a/path"); }), 0);
+  EXPECT_GT(fails_cleanly([] { apPath const path("a/path"); }), 0);
+}
+
+TEST(apByteArray_memory, failed_growth_leaves_the_bytes)
+{
+  apByteArray bytes("abc", 3);
+  apByteArray const old(bytes);
+  bool threw[3] = {};
+  {
+    FailingMemory const memory(0);
+    try
+    {
+      bytes.append("defghijk", 8);
+    }
+    catch (std::bad_alloc const&)
+    {
+      threw[0] = true;
+    }
+    try
+    {
+      bytes.resize(1000);
+    }
+    catch (std::bad_alloc const&)
+    {
+      threw[1] = true;
+    }
+    try
+    {
+      apByteArray const copy(bytes);
+    }
+    catch (std::bad_alloc const&)
+    {
+      threw[2] = true;
+    }
+  }
+  EXPECT_TRUE(threw[0]);
+  EXPECT_TRUE(threw[1]);
+  EXPECT_TRUE(threw[2]);
+  EXPECT_TRUE(bytes == old);
+}
