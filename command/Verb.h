@@ -14,4 +14,5 @@ enum ExitCode : int
 /// its exit code in `exit_code`. One file a verb.
 using Verb = void (*)(CLI::App& app, int& exit_code);
 
+void add_conform(CLI::App& app, int& exit_code);
 void add_table(CLI::App& app, int& exit_code);

@@ -9,7 +9,7 @@
 namespace
 {
 // In the order in which the help lists them.
-Verb const verbs[] = {add_table};
+Verb const verbs[] = {add_table, add_conform};
 
 int run(Arguments const& arguments)
 {

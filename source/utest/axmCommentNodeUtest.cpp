@@ -22,11 +22,6 @@ apString data_of(std::shared_ptr<axmCommentNode> const& node)
 {
   return node != nullptr ? node->getData() : APSTRING("(no node)");
 }
-
-apString xml_of(std::shared_ptr<axmCommentNode> const& node)
-{
-  return node != nullptr ? node->get_xml() : APSTRING("(no node)");
-}
 }
 
 axmCommentNodeUtest::axmCommentNodeUtest(utUnitTest* given) : tester(given) {}

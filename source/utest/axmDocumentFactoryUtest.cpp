@@ -15,19 +15,9 @@ using Factory = std::shared_ptr<axmDocumentFactory>;
 
 char const file[] = "source/utest/axmDocumentFactoryUtest";
 
-std::shared_ptr<axmElement> root_of(std::shared_ptr<axmDocument> const& document)
-{
-  return document != nullptr ? document->getDocumentElement() : nullptr;
-}
-
 apString uri_of(std::shared_ptr<axmDocument> const& document)
 {
   return document != nullptr ? document->getDocumentURI() : APSTRING("(no document)");
-}
-
-apString attribute_of(std::shared_ptr<axmElement> const& element, apString const& name)
-{
-  return element != nullptr ? element->getAttribute(name) : APSTRING("(no element)");
 }
 }
 

@@ -12,11 +12,6 @@ namespace
 {
 char const file[] = "source/utest/axmNamedNodeMapUtest";
 
-std::shared_ptr<axmNamedNodeMap> map_of(std::shared_ptr<axmElement> const& element)
-{
-  return element != nullptr ? element->getAttributes() : nullptr;
-}
-
 void set_attributes(axmElement& element)
 {
   element.setAttribute(APSTRING("N1"), APSTRING("V1"));

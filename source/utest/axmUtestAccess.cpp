@@ -1,7 +1,6 @@
 #include "axmUtestAccess.h"
 
-#include <axmNamedNodeMap.h>
-
+#include <algorithm>
 #include <cstring>
 
 namespace
@@ -9,6 +8,15 @@ namespace
 apString no_node()
 {
   return APSTRING("(no node)");
+}
+
+int const step_limit = 100;
+
+void add_name(apString& names, std::shared_ptr<axmNode> const& node)
+{
+  if (!names.empty())
+    names += APSTRING(" ");
+  names += axmUtestAccess::name_of(node);
 }
 }
 
@@ -25,6 +33,74 @@ apString axmUtestAccess::value_of(Node const& node)
 apString axmUtestAccess::text_of(Node const& node)
 {
   return node != nullptr ? node->get_text() : no_node();
+}
+
+apString axmUtestAccess::xml_of(Node const& node)
+{
+  return node != nullptr ? node->get_xml() : no_node();
+}
+
+axmUtestAccess::Node axmUtestAccess::first_of(Node const& node)
+{
+  return node != nullptr ? node->getFirstChild() : nullptr;
+}
+
+axmUtestAccess::Node axmUtestAccess::last_of(Node const& node)
+{
+  return node != nullptr ? node->getLastChild() : nullptr;
+}
+
+axmUtestAccess::Node axmUtestAccess::next_of(Node const& node)
+{
+  return node != nullptr ? node->getNextSibling() : nullptr;
+}
+
+axmUtestAccess::Node axmUtestAccess::previous_of(Node const& node)
+{
+  return node != nullptr ? node->getPreviousSibling() : nullptr;
+}
+
+std::shared_ptr<axmNodeList> axmUtestAccess::children_of(Node const& node)
+{
+  return node != nullptr ? node->getChildNodes() : nullptr;
+}
+
+apString axmUtestAccess::names_in(std::shared_ptr<axmNodeList> const& list)
+{
+  apString names = list != nullptr ? apString() : APSTRING("(no list)");
+  int const length = std::min(length_of(list), step_limit);
+  for (int index = 0; index < length; ++index)
+    add_name(names, list->at(index));
+  return names;
+}
+
+apString axmUtestAccess::names_of_children(Node const& node)
+{
+  return names_in(children_of(node));
+}
+
+apString axmUtestAccess::names_forward(Node const& node)
+{
+  apString names;
+  Node child = first_of(node);
+  for (int step = 0; child != nullptr && step < step_limit; ++step)
+  {
+    add_name(names, child);
+    child = child->getNextSibling();
+  }
+  return names;
+}
+
+apString axmUtestAccess::names_backward(Node const& node)
+{
+  apString names;
+  Node child = last_of(node);
+  for (int step = 0; child != nullptr && step < step_limit; ++step)
+  {
+    add_name(names, child);
+    child = child->getPreviousSibling();
+  }
+  return names;
 }
 
 axmUtestAccess::Node axmUtestAccess::parent_of(Node const& node)
@@ -103,6 +179,26 @@ std::shared_ptr<axmDocument> axmUtestAccess::load(axmDocumentFactory const& fact
 {
   axmParseError error;
   return factory.loadDocument(bytes_of(text), axmLoadOptions(axmValidateNone), error);
+}
+
+std::shared_ptr<axmElement> axmUtestAccess::load_root(axmDocumentFactory const& factory, char const* text)
+{
+  return root_of(load(factory, text));
+}
+
+std::shared_ptr<axmElement> axmUtestAccess::root_of(std::shared_ptr<axmDocument> const& document)
+{
+  return document != nullptr ? document->getDocumentElement() : nullptr;
+}
+
+apString axmUtestAccess::attribute_of(std::shared_ptr<axmElement> const& element, apString const& name)
+{
+  return element != nullptr ? element->getAttribute(name) : no_node();
+}
+
+std::shared_ptr<axmNamedNodeMap> axmUtestAccess::map_of(std::shared_ptr<axmElement> const& element)
+{
+  return element != nullptr ? element->getAttributes() : nullptr;
 }
 
 apByteArray axmUtestAccess::bytes_of(char const* text)

@@ -5,6 +5,7 @@
 #include <axmDocument.h>
 #include <axmDocumentFactory.h>
 #include <axmElement.h>
+#include <axmNamedNodeMap.h>
 #include <axmNode.h>
 #include <axmNodeList.h>
 
@@ -21,8 +22,24 @@ apString name_of(Node const& node);
 apString value_of(Node const& node);
 apString text_of(Node const& node);
 
-// The parent of a node that is there.
+apString xml_of(Node const& node);
+
+// The neighbours of a node that is there.
 Node parent_of(Node const& node);
+Node first_of(Node const& node);
+Node last_of(Node const& node);
+Node next_of(Node const& node);
+Node previous_of(Node const& node);
+
+std::shared_ptr<axmNodeList> children_of(Node const& node);
+
+// What there is one after the other, a blank between two: the names of the items of a list, and of the children as they
+// are found from the first one on and from the last one back. Ends after a number of steps that no check comes near, for
+// a wrong tree may have no end.
+apString names_in(std::shared_ptr<axmNodeList> const& list);
+apString names_of_children(Node const& node);
+apString names_forward(Node const& node);
+apString names_backward(Node const& node);
 
 // Whether a node is there and has no parent.
 bool is_detached(Node const& node);
@@ -54,8 +71,16 @@ Node insert(Node const& parent, Node const& child, Node const& before);
 Node replace(Node const& parent, Node const& child, Node const& old_child);
 Node remove(Node const& parent, Node const& child);
 
-// The document that the UTF-8 `text` holds, loaded without validation.
+// The document that the UTF-8 `text` holds, loaded without validation, and its root element.
 std::shared_ptr<axmDocument> load(axmDocumentFactory const& factory, char const* text);
+std::shared_ptr<axmElement> load_root(axmDocumentFactory const& factory, char const* text);
+
+// The root element of a document that is there.
+std::shared_ptr<axmElement> root_of(std::shared_ptr<axmDocument> const& document);
+
+// The answers of an element that is there.
+apString attribute_of(std::shared_ptr<axmElement> const& element, apString const& name);
+std::shared_ptr<axmNamedNodeMap> map_of(std::shared_ptr<axmElement> const& element);
 
 // The bytes of `text` without its terminating zero.
 apByteArray bytes_of(char const* text);
