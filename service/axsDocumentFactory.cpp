@@ -7,6 +7,7 @@
 #include "axsSaver.h"
 #include "axsSource.h"
 #include "axsTreeBuilder.h"
+#include "axsValidator.h"
 #include "axsXercesParser.h"
 
 #include <apStringFormatter.h>
@@ -27,10 +28,16 @@ apString new_uri()
 
 std::shared_ptr<axmDocument> read(axsSource& source, axmLoadOptions const& options)
 {
+  bool const validates = axsValidator::is_wanted(options);
+  if (validates)
+    source.whole();
   apString const url = source.url();
   std::shared_ptr<axmDocument> document = axsDocument::make(url.empty() ? new_uri() : url);
-  axsTreeBuilder builder(static_cast<axsDocument&>(*axsNode::of(*document)));
+  auto& tree = static_cast<axsDocument&>(*axsNode::of(*document));
+  axsTreeBuilder builder(tree);
   axsXercesParser::parse(source, options, builder);
+  if (validates)
+    axsValidator::validate(source, options, *tree.root_element());
   return document;
 }
 

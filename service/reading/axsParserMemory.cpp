@@ -5,14 +5,19 @@
 
 #include <cstdlib>
 #include <new>
+#include <utility>
 
-namespace
+struct alignas(std::max_align_t) axsParserMemory::Block
 {
-// Before every block stands its size.
-struct alignas(std::max_align_t) Header
-{
+  Block* previous;
+  Block* next;
   std::size_t size;
 };
+
+axsParserMemory::~axsParserMemory()
+{
+  while (blocks != nullptr)
+    std::free(std::exchange(blocks, blocks->next));
 }
 
 // An exception may outlive the run.
@@ -28,18 +33,24 @@ void* axsParserMemory::allocate(XMLSize_t size)
     was_exhausted = true;
     throw xercesc::OutOfMemoryException();
   }
-  void* const memory = std::malloc(sizeof(Header) + size);
+  void* const memory = std::malloc(sizeof(Block) + size);
   if (memory == nullptr)
     throw xercesc::OutOfMemoryException();
+  blocks = new (memory) Block{nullptr, blocks, size};
+  if (blocks->next != nullptr)
+    blocks->next->previous = blocks;
   used += size;
-  return new (memory) Header{size} + 1;
+  return blocks + 1;
 }
 
-void axsParserMemory::deallocate(void* block)
+void axsParserMemory::deallocate(void* memory)
 {
-  if (block == nullptr)
+  if (memory == nullptr)
     return;
-  Header* const header = static_cast<Header*>(block) - 1;
-  used -= header->size;
-  std::free(header);
+  Block* const block = static_cast<Block*>(memory) - 1;
+  if (block->next != nullptr)
+    block->next->previous = block->previous;
+  (block->previous == nullptr ? blocks : block->previous->next) = block->next;
+  used -= block->size;
+  std::free(block);
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "axsReadError.h"
+
+#include <functional>
 #include <string_view>
 
 class axsName;
@@ -11,6 +14,9 @@ class axsReadingEvents
 {
 public:
   virtual ~axsReadingEvents() = default;
+
+  /// Comes first: `place` tells url, line and column of where the parser is, as long as it runs.
+  virtual void start(std::function<axsReadError()> const& place) { static_cast<void>(place); }
 
   /// The object for a name, the same at every call with that name.
   virtual axsName const& name(std::string_view text) = 0;

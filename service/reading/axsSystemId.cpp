@@ -4,7 +4,7 @@
 
 namespace
 {
-std::string_view const scheme = "file:///";
+std::string_view const scheme = "axs:";
 
 bool stands_for_itself(char c)
 {
@@ -69,6 +69,16 @@ apPath axsSystemId::resolve(apPath const& base, std::string_view reference)
 {
   apPath const as_written = in_folder_of(base, std::string(reference));
   return as_written.exists() ? as_written : in_folder_of(base, decode(reference));
+}
+
+apPath axsSystemId::file_url_path(std::string_view url)
+{
+  std::string_view const start = "file:///";
+  if (url.substr(0, start.size()) != start)
+    return apPath();
+  std::string const path = decode(url.substr(start.size()));
+  bool const has_drive = path.size() > 1 && path[1] == ':';
+  return apPath((has_drive ? path : "/" + path).c_str());
 }
 
 std::string axsSystemId::decode(std::string_view text)

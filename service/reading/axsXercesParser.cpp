@@ -28,7 +28,6 @@ namespace
 {
 // What the parser may hold at a time: so much, and so many times what was read of the document.
 std::size_t const memory_free = 256 * 1024 * 1024;
-std::size_t const memory_factor = 64;
 
 // One run of the parser: hears what it says and says it to the events.
 class Run final : public xercesc::XMLDocumentHandler, public xercesc::DocTypeHandler
@@ -138,6 +137,7 @@ void Run::parse()
     [this]
     {
       make_scanner();
+      events.start([this] { return place(); });
       axsInputSource input(source, memory);
       scanner->scanDocument(input);
     },

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "axsNameTable.h"
+#include "axsReadingEvents.h"
+
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+class axsSource;
+
+/// A look over one schema document before the validator gets it: that it is one, for which namespace, and that it does
+/// not ask for more than the validator can bear.
+///
+/// The validator goes down into nested parts by recursion and writes repeated groups out; hence two bounds.
+class axsSchemaScan final : private axsReadingEvents
+{
+public:
+  /// How deep elements of a schema may be nested, and how often a group may be repeated, counting the groups around it.
+  static constexpr std::size_t most_levels = 500;
+  static constexpr long most_repetitions = 2000;
+
+  /// Throws axsReadError when it is no schema or beyond a bound, std::bad_alloc when memory runs out.
+  explicit axsSchemaScan(axsSource& source);
+
+  /// In UTF-8, empty for none.
+  std::string const& target_namespace() const noexcept { return target; }
+
+  /// Whether the declaration whose tag ends at that line and column is a global attribute with a legal "use", which we
+  /// accept though it says nothing there.
+  bool has_lenient_use(int line, int column) const { return lenient.count({line, column}) != 0; }
+
+private:
+  using Attributes = std::vector<std::pair<axsName const*, std::string>>;
+
+  struct Level
+  {
+    // Of the schema language itself, "" for any other element.
+    std::string_view local;
+    // What the elements around it and itself bind: prefix and namespace.
+    std::size_t bindings;
+    long repetitions;
+  };
+
+  void start(std::function<axsReadError()> const& place) override { current_place = place; }
+  axsName const& name(std::string_view text) override { return names.intern(text); }
+  void start_element(axsName const& name) override;
+  void attribute(axsName const& name, std::string_view value) override;
+  void end_element() override;
+  void text(std::string_view) override {}
+  void cdata(std::string_view) override {}
+  void comment(std::string_view) override {}
+  void processing_instruction(std::string_view, std::string_view) override {}
+  void doctype(std::string_view) override {}
+
+  void enter();
+  std::string_view namespace_of(std::string_view prefix) const;
+  std::string_view own_attribute(std::string_view local) const;
+  [[noreturn]] void fail(apString const& message) const;
+
+  std::function<axsReadError()> current_place;
+  axsNameTable names;
+  std::vector<Level> levels;
+  std::vector<std::pair<std::string, std::string>> bindings;
+  // The element whose attributes are still to come.
+  axsName const* entered = nullptr;
+  axsReadError entered_place;
+  Attributes entered_attributes;
+  std::string target;
+  std::set<std::pair<int, int>> lenient;
+};
