@@ -1,4 +1,5 @@
 #include "Arguments.h"
+#include "Utf8Console.h"
 #include "Verb.h"
 
 #include <CLI/CLI.hpp>
@@ -33,6 +34,7 @@ int run(Arguments const& arguments)
 
 int main(int argc, char** argv)
 {
+  Utf8Console const console;
   try
   {
     return run(Arguments(argc, argv));

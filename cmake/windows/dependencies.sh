@@ -27,35 +27,38 @@ build()
     -DCMAKE_INSTALL_PREFIX="$prefix" "$@" > "$work/log" 2>&1 &&
     cmake --build "$work/build" >> "$work/log" 2>&1 &&
     cmake --install "$work/build" >> "$work/log" 2>&1 ||
-    { tail -40 "$work/log"; return 1; }
+    { tail -40 "$work/log" >&2; return 1; }
   rm -rf "$work/build"
 }
 
-# The source packages come from where this system gets its binary ones; its own lists are left alone.
+# Where this system gets its packages; nothing while it has not been asked yet.
+package_sources()
+{
+  apt-get indextargets --format 'deb-src $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Origin: Debian' 'Created-By: Packages' |
+    sort -u
+}
+
+# The system's own lists are left alone: they need not have sources.
 fetch_source()
 {
   local apt=(apt-get -q -o Dir::Etc::sourcelist="$work/apt/sources.list" -o Dir::Etc::sourceparts=-
     -o Dir::State::lists="$work/apt/lists" -o Dir::Cache="$work/apt/cache" -o APT::Sandbox::User=root)
+  local as_root=()
+  [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+  [ -n "$(package_sources)" ] || "${as_root[@]}" apt-get -qq update >&2
   mkdir -p "$work/apt/lists/partial" "$work/apt/cache/archives/partial"
-  apt-get indextargets --format 'deb-src $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Origin: Debian' 'Created-By: Packages' |
-    sort -u > "$work/apt/sources.list"
-  if [ ! -s "$work/apt/sources.list" ]; then
-    echo "run 'apt-get update' first: it is not known where this system gets its packages" >&2
-    return 1
-  fi
+  package_sources > "$work/apt/sources.list"
   "${apt[@]}" update > "$work/log" 2>&1 && (cd "$work" && "${apt[@]}" source "$1" >> "$work/log" 2>&1) ||
-    { tail -20 "$work/log"; return 1; }
+    { tail -20 "$work/log" >&2; return 1; }
 }
 
-echo "CLI11"
+echo "Building what axm depends on for Windows, once, in $prefix ..." >&2
 mkdir -p "$prefix/include" "$prefix/share/cmake"
 cp -r /usr/include/CLI "$prefix/include/"
 cp -r /usr/share/cmake/CLI11 "$prefix/share/cmake/"
 
-echo "GoogleTest"
 build /usr/src/googletest -DBUILD_GMOCK=OFF
 
-echo "Xerces-C"
 fetch_source xerces-c
 # The library alone: its tests, samples and pages double the time and not all of them build here.
 sed -i -E '/^ *add_subdirectory\((doc|tests|samples)\)/d' "$work"/xerces-c-*/CMakeLists.txt

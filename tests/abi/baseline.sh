@@ -73,10 +73,10 @@ check()
 renew()
 {
   mkdir -p "$here/baseline" "$here/exports"
-  "$root/cmake/windows/packages.sh"
-  "$root/cmake/windows/dependencies.sh"
-  cmake -S "$root" --preset windows > /dev/null
-  cmake --build "$root/build/windows" --target "${libraries[@]}"
+  cd "$root"
+  source cmake/setup.sh
+  install_missing "${packages_to_test[@]}"
+  source cmake/windows/setup.sh
   local library
   for library in "${libraries[@]}"; do
     describe "$library" "$here/baseline/$library.abi"
