@@ -1,7 +1,9 @@
 #pragma once
 
 #include <apPath.h>
+#include <apString.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -23,6 +25,16 @@ inline std::string contents_of(std::string const& name)
     bytes.append(block, got);
   std::fclose(stream);
   return bytes;
+}
+
+// The same of messages, whose lines end as the system has it.
+inline std::string lines_of(std::string const& name)
+{
+  std::string text = contents_of(name);
+#if defined(_WIN32)
+  text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());
+#endif
+  return text;
 }
 
 // A file that goes when it is no longer needed.
@@ -61,12 +73,12 @@ inline ProgramRun run_axm(std::string const& prefix, std::vector<std::string> co
     command += " \"" + argument + "\"";
   command += " > " + out + " 2> " + err;
 #if defined(_WIN32)
-  int const exit_code = std::system(("\"" + command + "\"").c_str());
+  int const exit_code = _wsystem(apString(("\"" + command + "\"").c_str()).c_str());
 #else
   int const status = std::system(command.c_str());
   int const exit_code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 #endif
-  ProgramRun const run = {exit_code, contents_of(out), contents_of(err)};
+  ProgramRun const run = {exit_code, contents_of(out), lines_of(err)};
   apPath(out.c_str()).delete_file();
   apPath(err.c_str()).delete_file();
   return run;
