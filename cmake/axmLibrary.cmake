@@ -68,6 +68,8 @@ function(axm_add_library name)
     CXX_EXTENSIONS OFF
     CXX_VISIBILITY_PRESET hidden
     VISIBILITY_INLINES_HIDDEN ON
+    # Installed anywhere, a library finds those below it beside itself.
+    INSTALL_RPATH $ORIGIN
     DEFINE_SYMBOL ${upper}_BUILDING)
   if(NOT BUILD_SHARED_LIBS)
     target_compile_definitions(${name} PUBLIC AXM_STATIC)
