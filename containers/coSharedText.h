@@ -35,8 +35,11 @@ public:
 
   coSharedText& operator=(coSharedText const& other) noexcept
   {
-    keep(other.block);
-    drop(std::exchange(block, other.block));
+    if (this != &other)
+    {
+      keep(other.block);
+      drop(std::exchange(block, other.block));
+    }
     return *this;
   }
 

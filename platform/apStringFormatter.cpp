@@ -121,7 +121,7 @@ std::wstring formatted(Directive const& directive, char const* length, T value)
   if (size < 0)
     return {};
   std::string narrow(static_cast<std::size_t>(size) + 1, '\0');
-  std::snprintf(&narrow[0], narrow.size(), pattern.c_str(), value);
+  std::snprintf(narrow.data(), narrow.size(), pattern.c_str(), value);
   narrow.pop_back();
   return std::wstring(narrow.begin(), narrow.end());
 }
@@ -182,7 +182,7 @@ std::wstring signed_number(Directive const& directive, Arguments& arguments)
   else if (length == "h")
     value = static_cast<short>(va_arg(arguments.list, int));
   else if (length == "hh")
-    value = static_cast<signed char>(va_arg(arguments.list, int));
+    value = static_cast<signed char>(va_arg(arguments.list, int)); // NOLINT(bugprone-signed-char-misuse): a number
   else
     value = va_arg(arguments.list, int);
   return formatted(directive, "j", value);
@@ -296,7 +296,7 @@ apString apStringFormatter::format(wchar_t const* format, ...)
   va_start(arguments.list, format);
   try
   {
-    apString const made(std::wstring_view(filled_in(format, arguments)));
+    apString made(std::wstring_view(filled_in(format, arguments)));
     va_end(arguments.list);
     return made;
   }

@@ -7,7 +7,7 @@ apStringLocaleIntParser::Result apStringLocaleIntParser::parse(apString const& t
 {
   wchar_t const* const begin = text.c_str();
   wchar_t const* at = begin;
-  while (std::iswspace(static_cast<std::wint_t>(*at)))
+  while (std::iswspace(static_cast<std::wint_t>(*at)) != 0)
     ++at;
 
   bool const negative = *at == L'-';
