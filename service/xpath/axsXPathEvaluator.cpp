@@ -86,14 +86,15 @@ bool equals_in_any_case(std::string_view left, std::string_view right) noexcept
     left.begin(), left.end(), right.begin(), right.end(), [](char a, char b) { return lower(a) == lower(b); });
 }
 
-/// The element in whose scope the prefixes of an expression are that is evaluated for `node`; null if there is none.
+/// The element in whose scope the prefixes of an expression are that is evaluated for `node`: the nearest one, for what
+/// stands outside of the root element that. Null if there is none.
 axsElement* scope_of(axsNode& node) noexcept
 {
-  if (node.is_document())
-    return static_cast<axsDocument&>(node).root_element();
   axsNode* at = &node;
-  while (at != nullptr && !at->is_element())
+  while (at != nullptr && !at->is_element() && !at->is_document())
     at = at->parent();
+  if (at != nullptr && at->is_document())
+    return static_cast<axsDocument*>(at)->root_element();
   return static_cast<axsElement*>(at);
 }
 }

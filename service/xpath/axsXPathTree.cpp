@@ -373,10 +373,13 @@ bool axsXPathTree::walk_following(axsXPathNode from, axsXPathTest const& test, a
 {
   if (from == tree_root)
     return false;
-  axsNode& base = anchor(from);
+  axsNode* at = &anchor(from);
   // What comes behind an attribute or namespace begins with the content of its element.
-  bool const is_inside = from.is_extra() || base.is_attribute();
-  axsNode* at = is_inside ? base.next_in_tree(*topmost) : base.next_behind(*topmost);
+  bool const is_inside = from.is_extra() || at->is_attribute();
+  if (at->is_attribute())
+    at = at->parent();
+  if (at != nullptr)
+    at = is_inside ? at->next_in_tree(*topmost) : at->next_behind(*topmost);
   for (; at != nullptr; at = at->next_in_tree(*topmost))
     if (passes(*at, test) && visit(at))
       return true;

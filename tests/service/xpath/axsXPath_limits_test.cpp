@@ -1,0 +1,124 @@
+#include "Subject.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace
+{
+using subject::load;
+using subject::nodes;
+using subject::value;
+
+std::string repeated(std::string const& text, int times)
+{
+  std::string result;
+  for (int i = 0; i < times; ++i)
+    result += text;
+  return result;
+}
+
+/// A chain of that many elements a below the document element, the last one with an attribute.
+std::shared_ptr<axmDocument> deep_document(int levels)
+{
+  auto const document = subject::create("r");
+  std::shared_ptr<axmNode> at = document->getDocumentElement();
+  for (int i = 0; i < levels; ++i)
+    at = at->appendChild(document->createElement(APSTRING("a")));
+  std::dynamic_pointer_cast<axmElement>(at)->setAttribute(APSTRING("last"), APSTRING("1"));
+  return document;
+}
+}
+
+TEST(XPathLimits, parentheses_may_lie_99_deep_in_each_other_in_an_expression)
+{
+  EXPECT_EQ(value(repeated("(", 99) + "1" + repeated(")", 99)), "number 1");
+  EXPECT_EQ(value(repeated("(", 100) + "1" + repeated(")", 100)),
+    "error at 101: parentheses, brackets and calls lie too deep in each other");
+  EXPECT_EQ(value(repeated("(", 1000000)), "error at 101: parentheses, brackets and calls lie too deep in each other");
+}
+
+TEST(XPathLimits, predicates_and_calls_count_as_parentheses_do)
+{
+  EXPECT_EQ(value(repeated("a[", 99) + "b" + repeated("]", 99)), "node-set ");
+  EXPECT_EQ(value(repeated("a[", 100) + "b" + repeated("]", 100)),
+    "error at 201: parentheses, brackets and calls lie too deep in each other");
+  EXPECT_EQ(value(repeated("not(", 99) + "1" + repeated(")", 99)), "boolean false");
+  EXPECT_EQ(value(repeated("not(", 100) + "1" + repeated(")", 100)),
+    "error at 401: parentheses, brackets and calls lie too deep in each other");
+}
+
+TEST(XPathLimits, rows_of_operators_signs_steps_and_predicates_may_be_long)
+{
+  int const many = 100000;
+  EXPECT_EQ(value("1" + repeated("+1", many)), "number 100001");
+  EXPECT_EQ(value("1" + repeated("*1", many)), "number 1");
+  EXPECT_EQ(value("0" + repeated(" or 0", many)), "boolean false");
+  EXPECT_EQ(value("1" + repeated(" and 1", many)), "boolean true");
+  EXPECT_EQ(value("1" + repeated("=1", many)), "boolean true");
+  EXPECT_EQ(value("1" + repeated("<1", many)), "boolean true");
+  EXPECT_EQ(value(repeated("-", many) + "1"), "number 1");
+  EXPECT_EQ(value("/empty" + repeated("/..|/empty", many)), "node-set ");
+  EXPECT_EQ(value("string-length(concat('a'" + repeated(",'a'", many) + "))"), "number 100001");
+  auto const document = subject::create("r");
+  EXPECT_EQ(nodes(*document, "/r" + repeated("/.", many)), "r");
+  EXPECT_EQ(nodes(*document, "/r" + repeated("/../r", many)), "r");
+  EXPECT_EQ(nodes(*document, "/r" + repeated("[1]", many)), "r");
+}
+
+TEST(XPathLimits, a_document_of_a_million_levels_is_searched_on_every_axis)
+{
+  auto const document = deep_document(1000000);
+  EXPECT_EQ(value(*document, "count(//a)"), "number 1000000");
+  EXPECT_EQ(nodes(*document, "//a[@last]/@last"), "@last=1");
+  EXPECT_EQ(value(*document, "count(//a[@last]/ancestor::*)"), "number 1000000");
+  EXPECT_EQ(value(*document, "count(//a/..)"), "number 1000000");
+  EXPECT_EQ(value(*document, "count(//a/a)"), "number 999999");
+  EXPECT_EQ(value(*document, "count(//a//a)"), "number 999999");
+  EXPECT_EQ(value(*document, "count(//a/ancestor-or-self::a)"), "number 1000000");
+  EXPECT_EQ(value(*document, "count(//a[@last]/following::*|//a/preceding::*|//a/following-sibling::*)"), "number 0");
+  EXPECT_EQ(value(*document, "string-length(//a)"), "number 0");
+  EXPECT_EQ(value(*document, "count(//a[1])"), "number 1000000");
+}
+
+TEST(XPathLimits, namespaces_are_found_in_a_deep_document)
+{
+  auto const document = deep_document(200000);
+  document->getDocumentElement()->setAttribute(APSTRING("xmlns"), APSTRING("urn:d"));
+  document->getDocumentElement()->setAttribute(APSTRING("xmlns:p"), APSTRING("urn:d"));
+  EXPECT_EQ(value(*document, "count(//a)"), "number 0");
+  EXPECT_EQ(value(*document, "count(//p:a)"), "number 200000");
+}
+
+TEST(XPathLimits, nested_predicates_take_no_exponential_time)
+{
+  auto const document = load("<a>" + repeated("<a><a/><a/>", 20) + repeated("</a>", 20) + "</a>");
+  std::string const all = "number 61";
+  EXPECT_EQ(value(*document, "count(//a[count(ancestor-or-self::a)>0])"), all);
+  EXPECT_EQ(value(*document, "count(//a" + repeated("[..//a", 40) + repeated("]", 40) + ")"), all);
+  EXPECT_EQ(value(*document, "count(//a" + repeated("[count(..//a", 40) + repeated(") > 0]", 40) + ")"), all);
+  EXPECT_EQ(value(*document, "count(//a" + repeated("[../descendant::a", 40) + repeated("]", 40) + ")"), all);
+  EXPECT_EQ(value(*document, "count(//a" + repeated("[(..//a|.)", 40) + repeated("]", 40) + ")"), all);
+  EXPECT_EQ(value(*document, "count(//a" + repeated("[..//a[position() < 100]", 40) + repeated("]", 40) + ")"), all);
+  EXPECT_EQ(value(*document, "count(//a" + repeated("[//a", 40) + repeated("]", 40) + ")"), all);
+}
+
+TEST(XPathLimits, rows_of_steps_take_no_exponential_time)
+{
+  auto const document = load("<a>" + repeated("<a><a/><a/>", 20) + repeated("</a>", 20) + "</a>");
+  EXPECT_EQ(value(*document, "count(/a" + repeated("/a/..", 50) + ")"), "number 1");
+  EXPECT_EQ(value(*document, "count(//a" + repeated("//a/..", 50) + ")"), "number 21");
+  EXPECT_EQ(value(*document, "count(//a" + repeated("/preceding::a/following::a", 50) + ")"), "number 58");
+}
+
+TEST(XPathLimits, many_siblings_are_sorted_and_counted)
+{
+  auto const document = load("<r>" + repeated("<a x='1' y='2'/><b/>", 50000) + "</r>");
+  EXPECT_EQ(value(*document, "count(//b|//a)"), "number 100000");
+  EXPECT_EQ(value(*document, "count(//@y|//@x|//b)"), "number 150000");
+  EXPECT_EQ(value(*document, "count(//a/following-sibling::b)"), "number 50000");
+  EXPECT_EQ(value(*document, "count(//b/preceding-sibling::a)"), "number 50000");
+  EXPECT_EQ(value(*document, "count(//a/..)"), "number 1");
+  EXPECT_EQ(value(*document, "name((//b|//a)[2])"), "string b");
+  EXPECT_EQ(value(*document, "count(//a[following-sibling::b])"), "number 50000");
+}
