@@ -72,6 +72,19 @@ std::string_view axsSource::whole()
 
 std::size_t axsSource::read(char* to, std::size_t size)
 {
+  std::size_t const count = read_next(to, size);
+  zero_seen = zero_seen || (count > 0 && std::memchr(to, '\0', count) != nullptr);
+  return count;
+}
+
+bool axsSource::has_stray_zero() const noexcept
+{
+  // Every document begins with a '<' or a byte-order mark, in which such an encoding shows.
+  return zero_seen && present.substr(0, 4).find('\0') == std::string_view::npos;
+}
+
+std::size_t axsSource::read_next(char* to, std::size_t size)
+{
   if (position < present.size())
   {
     std::size_t const count = std::min(size, present.size() - position);

@@ -42,10 +42,15 @@ public:
   /// Reads on from where the last read() ended, at first from the start. 0 at the end.
   std::size_t read(char* to, std::size_t size);
 
+  /// Whether a zero byte was read where the document is in no encoding that has them (XML 1.0, appendix F.1). A parser may
+  /// take it for the end.
+  bool has_stray_zero() const noexcept;
+
   /// The next read() is at the start again. Only when is_whole().
   void rewind() noexcept { position = 0; }
 
 private:
+  std::size_t read_next(char* to, std::size_t size);
   std::size_t read_file(char* to, std::size_t size);
   void close() noexcept;
 
@@ -54,4 +59,5 @@ private:
   std::vector<char> kept;
   std::string_view present;
   std::size_t position = 0;
+  bool zero_seen = false;
 };

@@ -140,6 +140,8 @@ void Run::parse()
       events.start([this] { return place(); });
       axsInputSource input(source, memory);
       scanner->scanDocument(input);
+      if (source.has_stray_zero())
+        throw axsReadError{APSTRING("A zero byte stands in the document"), source.url()};
     },
     [this] { return place(); });
 }

@@ -10,6 +10,8 @@
 #include "axsTextNode.h"
 #include "axsWriter.h"
 
+#include <utAssert.h>
+
 #include <utility>
 
 namespace
@@ -22,6 +24,13 @@ axsNode* node_of(std::shared_ptr<axmNode> const& handle)
 bool is_child(axsNode const* node, axsNode const& parent)
 {
   return node != nullptr && !node->is_attribute() && node->parent() == &parent;
+}
+
+// A caller is expected to take a node out of its tree before it puts it in elsewhere; one that does not is told.
+void expect_detached(axsNode const& new_child)
+{
+  if (new_child.parent() != nullptr)
+    ut_report_assertion("new_child->getParentNode() == nullptr", "service/tree/axsTree.cpp", __LINE__);
 }
 
 bool holds_other_element(axsNode const& document, axsNode const* replaced, axsNode const& moved)
@@ -123,6 +132,7 @@ std::shared_ptr<axmNode> axsTree::insert_before(
     return nullptr;
   if (before == child)
     before = child->next_sibling();
+  expect_detached(*child);
   move(static_cast<axsParent&>(node), *child, before);
   return new_child;
 }
@@ -134,6 +144,7 @@ std::shared_ptr<axmNode> axsTree::replace_child(
   axsNode* const old = node_of(old_child);
   if (child == nullptr || !is_child(old, node) || !can_hold(node, *child, old->next_sibling(), old))
     return nullptr;
+  expect_detached(*child);
   if (child == old)
     return old_child;
   move(static_cast<axsParent&>(node), *child, old);

@@ -177,6 +177,9 @@ void axmContractUtest::test_typed_attributes(Factory factory) const
   group.check(root->set_attribute(name, -1.5e-7), "root->set_attribute(name, -1.5e-7)", __LINE__, "set a double");
   group.check(stored(), APSTRING("-1.5e-07"), "root->getAttribute(name)", __LINE__,
     "text of a double has a point under every locale");
+  root->set_attribute(name, 0.1234567890123456);
+  group.check(stored(), APSTRING("0.1234567890123456"), "root->getAttribute(name)", __LINE__,
+    "text of a double has sixteen digits");
   group.check(
     root->set_attribute(name, APSTRING(" as is ")), "root->set_attribute(name, text)", __LINE__, "set a text");
   group.check(stored(), APSTRING(" as is "), "root->getAttribute(name)", __LINE__, "text of a text");

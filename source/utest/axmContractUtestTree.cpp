@@ -96,6 +96,9 @@ void axmContractUtest::test_children(Factory factory) const
   group.check(
     same(last_of(root), child_of(root, 4)), "*root->getLastChild() == *children->at(4)", __LINE__, "last child");
   group.check(root != nullptr && root->hasChildNodes(), "root->hasChildNodes()", __LINE__, "an element with children");
+  auto const with_text = load_root(*factory, "<root>text</root>");
+  group.check(with_text != nullptr && with_text->hasChildNodes(), "with_text->hasChildNodes()", __LINE__,
+    "a text is a child too");
 
   Node const a = first_of(root);
   group.check(number_of_children(a), 0, "a->getChildNodes()->length() == 0", __LINE__,
@@ -137,6 +140,11 @@ void axmContractUtest::test_siblings(Factory factory) const
     "the text behind an element");
   group.check(value_of(next_of(next_of(next_of(text)))), APSTRING("three"), "two->getNextSibling()->getNodeValue()",
     __LINE__, "the comment behind a text");
+  Node const remark = last_of(mixed);
+  group.check(value_of(previous_of(remark)), APSTRING("two"), "remark->getPreviousSibling()->getNodeValue()", __LINE__,
+    "the text before a comment");
+  group.check(name_of(previous_of(previous_of(remark))), APSTRING("a"), "two->getPreviousSibling()->getNodeName()",
+    __LINE__, "the element before a text");
 }
 
 void axmContractUtest::test_owner_document(Factory factory) const

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "Hooks.h"
+
+#include <vector>
+
+// An engine with one promise broken.
+struct Fault
+{
+  // The operation whose promise it is.
+  char const* operation;
+  // What the engine does instead.
+  char const* name;
+  void (*put_into)(Hooks& hooks);
+};
+
+std::vector<Fault> const& node_faults();
+std::vector<Fault> const& content_faults();
+std::vector<Fault> const& collection_faults();
+std::vector<Fault> const& factory_faults();
+
+// The text with every `wanted` replaced.
+apString replaced(apString text, apString const& wanted, apString const& replacement);
+
+// Without white space at its ends.
+apString trimmed(apString const& text);
+
+apString lower_case(apString const& text);
+
+bool is_element(Node const& node);
+
+// A list of the items given, and the items of a list.
+List list_of(std::vector<Element> const& items);
+std::vector<Element> items_of(List const& list);

@@ -1,0 +1,211 @@
+#include "SuiteRun.h"
+
+#include "Faults.h"
+
+#include <apProcessControl.h>
+#include <axmCommentNodeUtest.h>
+#include <axmContractUtest.h>
+#include <axmDocumentFactoryUtest.h>
+#include <axmDocumentUtest.h>
+#include <axmElementUtest.h>
+#include <axmNamedNodeMapUtest.h>
+#include <axmNodeListUtest.h>
+#include <axmNodeUtest.h>
+#include <axmTextNodeUtest.h>
+#include <axmValidationUtest.h>
+#include <axsRegister.h>
+#include <utAssert.h>
+#include <utUnitTest.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+class Recorder : public utUnitTestListener
+{
+public:
+  void reported(utUnitTestReport const& report) override
+  {
+    checks.push_back(
+      {report.passed, neutral(report.expression), report.file, neutral(report.description), report.function});
+  }
+  void printed(char const*) override {}
+  void finished() override {}
+
+  std::vector<Check> checks;
+
+private:
+  static std::string neutral(std::string text)
+  {
+    std::string const id = "_" + std::to_string(apProcessControl::getpid()) + ".";
+    for (std::size_t at = 0; (at = text.find(id, at)) != std::string::npos;)
+      text.replace(at, id.size(), "_PID.");
+    for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos;)
+      text.replace(at, 1, "\\n");
+    return text;
+  }
+};
+
+class SilentAssertions : public utAssertListener
+{
+public:
+  SilentAssertions() : replaced(ut_set_assert_listener(this)) {}
+  ~SilentAssertions() override { ut_set_assert_listener(replaced); }
+  void assertion_failed(char const*, char const*, int) override {}
+
+private:
+  utAssertListener* const replaced;
+};
+
+class QuickFactory : public axmDocumentFactory
+{
+public:
+  explicit QuickFactory(Factory given) : engine(std::move(given)) {}
+  ~QuickFactory() override = default;
+
+  Document createDocument(apString const& root_name) const override { return engine->createDocument(root_name); }
+  Document loadDocument(apPath const& path, axmLoadOptions const& options, axmParseError& error) const override
+  {
+    return engine->loadDocument(path, options, error);
+  }
+  Document loadDocument(apByteArray const& data, axmLoadOptions const& options, axmParseError& error) const override
+  {
+    if (data.size() < 100000)
+      return engine->loadDocument(data, options, error);
+    for (Load const& load : remembered)
+      if (load.data == data && load.limit == options.entity_expansion_limit())
+        return handed_out(load, error);
+    axmParseError fresh;
+    Document const document = engine->loadDocument(data, options, fresh);
+    remembered.push_back({data, options.entity_expansion_limit(), document, fresh});
+    return handed_out(remembered.back(), error);
+  }
+  bool saveDocument(Document document, apByteArray& output) override { return engine->saveDocument(document, output); }
+  bool saveDocument(Document document, apPath const& path) override { return engine->saveDocument(document, path); }
+
+private:
+  struct Load
+  {
+    apByteArray data;
+    int limit;
+    Document document;
+    axmParseError error;
+  };
+
+  static Document handed_out(Load const& load, axmParseError& error)
+  {
+    if (load.document == nullptr)
+      error = load.error;
+    return load.document;
+  }
+
+  Factory engine;
+  mutable std::vector<Load> remembered;
+};
+
+// The data folder of the sources, whatever folder the program works in.
+fs::path source_data()
+{
+  return fs::u8path(AXM_DATA_FOLDER);
+}
+}
+
+SuiteFolder::SuiteFolder(std::string const& name)
+  : path(fs::temp_directory_path() / fs::u8path(name + "." + std::to_string(apProcessControl::getpid()))),
+    worked_in_before(fs::current_path())
+{
+  fs::remove_all(path);
+  fs::create_directories(path / "work");
+  fs::create_directories(path / "data");
+  fs::copy_file(source_data() / "in_memory_test_schema.xsd", path / "data" / "in_memory_test_schema.xsd");
+  fs::current_path(path / "work");
+}
+
+SuiteFolder::~SuiteFolder()
+{
+  std::error_code ignored;
+  fs::current_path(worked_in_before, ignored);
+  fs::remove_all(path, ignored);
+}
+
+std::vector<std::string> SuiteFolder::contents() const
+{
+  std::vector<std::string> names;
+  for (fs::directory_entry const& entry : fs::recursive_directory_iterator(path))
+    names.push_back(entry.path().lexically_relative(path).generic_u8string());
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+Factory default_engine()
+{
+  axs_register();
+  utServiceName resolved;
+  return utService::locate_service<axmDocumentFactory>(utServiceName(ut_lit("XMLService")), resolved);
+}
+
+Factory quick_engine()
+{
+  static Factory const engine = std::make_shared<QuickFactory>(default_engine());
+  return engine;
+}
+
+std::vector<Check> run_suite(Factory const& factory)
+{
+  SilentAssertions const silent;
+  Recorder recorder;
+  utUnitTest tester;
+  tester.add_listener(recorder);
+  utUnitTest* const replaced = utUnitTest::set_tester(&tester);
+  axmDocumentFactoryUtest(&tester).run_tests(factory);
+  axmValidationUtest(&tester).run_tests(*factory);
+  axmNodeUtest(&tester).run_tests(*factory);
+  axmElementUtest(&tester).run_tests(*factory);
+  axmDocumentUtest(&tester).run_tests(*factory);
+  axmNodeListUtest(&tester).run_tests(*factory);
+  axmNamedNodeMapUtest(&tester).run_tests(*factory);
+  axmTextNodeUtest(&tester).run_tests(*factory);
+  axmCommentNodeUtest(&tester).run_tests(*factory);
+  axmContractUtest(&tester).run_tests(factory);
+  utUnitTest::set_tester(replaced);
+  return std::move(recorder.checks);
+}
+
+std::vector<std::string> failed_groups(std::vector<Check> const& checks)
+{
+  std::vector<std::pair<std::string, int>> groups;
+  for (Check const& check : checks)
+  {
+    if (check.passed)
+      continue;
+    auto const found =
+      std::find_if(groups.begin(), groups.end(), [&check](auto const& group) { return group.first == check.function; });
+    if (found == groups.end())
+      groups.emplace_back(check.function, 1);
+    else
+      ++found->second;
+  }
+  std::vector<std::string> lines;
+  for (auto const& [group, count] : groups)
+    lines.push_back(group + " (" + std::to_string(count) + ")");
+  return lines;
+}
+
+std::string table_row(Fault const& fault, std::vector<Check> const& checks)
+{
+  std::string row = std::string(fault.operation) + ": " + fault.name + " |";
+  for (std::string const& group : failed_groups(checks))
+    row += " " + group;
+  return row;
+}
+
+std::vector<Fault> all_faults()
+{
+  std::vector<Fault> faults;
+  for (auto const* const some : {&node_faults(), &content_faults(), &collection_faults(), &factory_faults()})
+    faults.insert(faults.end(), some->begin(), some->end());
+  return faults;
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "Hooks.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+// A check as the runner received it. A process id in its texts is written as PID, a line end as \n.
+struct Check
+{
+  bool passed;
+  std::string expression;
+  std::string file;
+  std::string description;
+  std::string function;
+};
+
+// A new folder that is gone with this object, laid out as the suite wants it: the program works in its subfolder "work".
+class SuiteFolder
+{
+public:
+  // `name`, in UTF-8, is its name among the temporary folders of the system.
+  explicit SuiteFolder(std::string const& name);
+  SuiteFolder(SuiteFolder const&) = delete;
+  SuiteFolder& operator=(SuiteFolder const&) = delete;
+  ~SuiteFolder();
+
+  // All that is there, as paths relative to the folder, in order.
+  std::vector<std::string> contents() const;
+
+  std::filesystem::path const path;
+
+private:
+  std::filesystem::path const worked_in_before;
+};
+
+// The engine that comes with the library.
+Factory default_engine();
+
+// The same, but that it remembers what came of large data: two documents with a very large number of entities take most of
+// the time of a run.
+Factory quick_engine();
+
+// Runs every class of the suite in the folder in which the program works. Assertions are kept from standard error.
+std::vector<Check> run_suite(Factory const& factory);
+
+// The groups with failed checks in the order of their first failure, each with their number: "class::group (2)".
+std::vector<std::string> failed_groups(std::vector<Check> const& checks);
+
+// What is broken in the engine and what of the suite sees it, in one line.
+struct Fault;
+std::string table_row(Fault const& fault, std::vector<Check> const& checks);
+
+// Every fault there is.
+std::vector<Fault> all_faults();

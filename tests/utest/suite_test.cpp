@@ -1,0 +1,106 @@
+// The suite against the engine that comes with the library.
+
+#include "Lines.h"
+#include "SuiteRun.h"
+
+#include "../TestLocale.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <iostream>
+#include <string>
+#include <vector>
+
+namespace
+{
+// All checks of all classes, as one run reports them. Whoever adds a check to axmContractUtest changes it; the other
+// classes are fixed.
+std::size_t const number_of_reports = 834;
+
+using Texts = std::vector<std::string>;
+
+std::string line(Check const& check)
+{
+  return check.function + " | " + check.description + " | " + check.expression + " | " + check.file;
+}
+
+Texts lines(std::vector<Check> const& checks)
+{
+  Texts all;
+  for (Check const& check : checks)
+    all.push_back(line(check));
+  return all;
+}
+}
+
+TEST(conformance_suite, every_check_passes)
+{
+  SuiteFolder const folder("axm suite test");
+  EXPECT_EQ(failed_groups(run_suite(default_engine())), Texts());
+}
+
+TEST(conformance_suite, the_number_of_reports_is_fixed)
+{
+  SuiteFolder const folder("axm suite number test");
+  std::vector<Check> const checks = run_suite(default_engine());
+  std::cout << checks.size() << " reports\n";
+  EXPECT_EQ(checks.size(), number_of_reports);
+}
+
+TEST(conformance_suite, every_text_is_what_it_is_known_to_be)
+{
+  SuiteFolder const folder("axm suite texts test");
+  Texts const expected = lines_of_file("checks.txt");
+  Texts const actual = lines(run_suite(default_engine()));
+  for (std::size_t index = 0; index < std::min(expected.size(), actual.size()); ++index)
+    ASSERT_EQ(actual[index], expected[index]) << "line " << index + 1 << " of checks.txt";
+  EXPECT_EQ(actual.size(), expected.size());
+}
+
+TEST(conformance_suite, every_check_passes_under_a_decimal_comma)
+{
+  TestLocale const locale(TestLocale::comma);
+  SuiteFolder const folder("axm suite comma test");
+  EXPECT_EQ(failed_groups(run_suite(default_engine())), Texts());
+}
+
+TEST(conformance_suite, every_check_passes_in_a_folder_of_any_name)
+{
+  SuiteFolder const folder("axm suite \xC3\xA4 \xD1\x84 %20 test");
+  EXPECT_EQ(failed_groups(run_suite(default_engine())), Texts());
+}
+
+TEST(conformance_suite, no_files_are_left_behind)
+{
+  SuiteFolder const folder("axm suite files test");
+  Texts const before = folder.contents();
+  run_suite(default_engine());
+  EXPECT_EQ(folder.contents(), before);
+}
+
+TEST(conformance_suite, a_missing_data_file_is_reported)
+{
+  SuiteFolder const folder("axm suite data test");
+  std::filesystem::remove(folder.path / "data" / "in_memory_test_schema.xsd");
+  std::vector<Check> const checks = run_suite(default_engine());
+  auto const found = std::count_if(checks.begin(), checks.end(),
+    [](Check const& check)
+    { return check.description == "Prerequisite: schema file doesn't exist - copy it in" && !check.passed; });
+  EXPECT_EQ(found, 2);
+}
+
+TEST(conformance_suite, the_factory_stays_registered)
+{
+  SuiteFolder const folder("axm suite service test");
+  Factory const given = hooked_engine(default_engine(), Hooks());
+  run_suite(given);
+  utServiceName resolved;
+  EXPECT_EQ(utService::locate_service<axmDocumentFactory>(utServiceName(ut_lit("XMLService")), resolved), given);
+}
+
+TEST(conformance_suite, an_engine_that_stands_on_another_one_passes_too)
+{
+  SuiteFolder const folder("axm suite hooked test");
+  EXPECT_EQ(failed_groups(run_suite(hooked_engine(default_engine(), Hooks()))), Texts());
+}
