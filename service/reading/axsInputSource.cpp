@@ -6,10 +6,13 @@
 
 namespace
 {
+// A level of elements may be three bytes in the document, and takes the parser a few hundred.
+std::size_t const memory_factor = 128;
+
 class Stream final : public xercesc::BinInputStream
 {
 public:
-  explicit Stream(axsSource& given) noexcept : source(given) {}
+  Stream(axsSource& given, axsParserMemory& given_memory) noexcept : source(given), memory(given_memory) {}
 
   XMLFilePos curPos() const override { return position; }
 
@@ -17,6 +20,7 @@ public:
   {
     std::size_t const count = source.read(reinterpret_cast<char*>(to), most);
     position += count;
+    memory.allow(count * memory_factor);
     return count;
   }
 
@@ -24,17 +28,19 @@ public:
 
 private:
   axsSource& source;
+  axsParserMemory& memory;
   XMLFilePos position = 0;
 };
 }
 
-axsInputSource::axsInputSource(axsSource& given, xercesc::MemoryManager& memory)
+axsInputSource::axsInputSource(axsSource& given, axsParserMemory& memory)
   : InputSource(axsSystemId::of(given.file()).c_str(), &memory),
-    source(given)
+    source(given),
+    parser_memory(memory)
 {
 }
 
 xercesc::BinInputStream* axsInputSource::makeStream() const
 {
-  return new (getMemoryManager()) Stream(source);
+  return new (getMemoryManager()) Stream(source, parser_memory);
 }

@@ -17,6 +17,9 @@ public:
   void* allocate(XMLSize_t size) override;
   void deallocate(void* block) override;
 
+  /// Raises the bound.
+  void allow(std::size_t more) noexcept { bound += more; }
+
   /// Whether the bound was met.
   bool exhausted() const noexcept { return was_exhausted; }
 

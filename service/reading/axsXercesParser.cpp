@@ -5,6 +5,7 @@
 #include "axsErrorReporter.h"
 #include "axsInputSource.h"
 #include "axsNameCache.h"
+#include "axsNamespaceScope.h"
 #include "axsParserMemory.h"
 #include "axsReadingEvents.h"
 #include "axsSource.h"
@@ -15,7 +16,6 @@
 #include <xercesc/framework/XMLDocumentHandler.hpp>
 #include <xercesc/framework/XMLElementDecl.hpp>
 #include <xercesc/internal/IGXMLScanner.hpp>
-#include <xercesc/internal/WFXMLScanner.hpp>
 #include <xercesc/util/SecurityManager.hpp>
 #include <xercesc/util/TransService.hpp>
 #include <xercesc/validators/DTD/DocTypeHandler.hpp>
@@ -26,8 +26,8 @@
 
 namespace
 {
-// What the parser may hold at a time: so much, and so many times what was read of the document.
-std::size_t const memory_free = 256 * 1024 * 1024;
+// What the parser may hold at a time, besides a multiple of what it has read of the document.
+std::size_t const memory_free = 64 * 1024 * 1024;
 
 // One run of the parser: hears what it says and says it to the events.
 class Run final : public xercesc::XMLDocumentHandler, public xercesc::DocTypeHandler
@@ -78,6 +78,9 @@ private:
   std::string_view utf8(XMLCh const* text) { return utf8(text, axsUtf16::length(text)); }
   std::string document_in_utf8();
   void count(std::size_t length);
+  void read_attributes(xercesc::RefVectorOf<xercesc::XMLAttr> const& attributes, XMLSize_t number);
+  void end_element();
+  [[noreturn]] void fail(apString const& message) const;
 
   axsSource& source;
   axsReadingEvents& events;
@@ -87,6 +90,8 @@ private:
   axsErrorReporter errors;
   axsEntityHandler entities;
   axsNameCache names;
+  axsNamespaceScope namespaces;
+  axsNamespaceScope::Attributes attribute_values;
   std::unique_ptr<xercesc::GrammarResolver> grammars;
   std::unique_ptr<xercesc::XMLScanner> scanner;
   std::string converted;
@@ -107,15 +112,13 @@ Run::Run(axsSource& given, axmLoadOptions const& options, axsReadingEvents& told
 void Run::make_scanner()
 {
   grammars = std::make_unique<xercesc::GrammarResolver>(nullptr, &memory);
-  // One that knows no declarations is faster where there are none.
-  if (has_doctype)
-    scanner = std::make_unique<xercesc::IGXMLScanner>(this, this, &entities, &errors, nullptr, grammars.get(), &memory);
-  else
-    scanner = std::make_unique<xercesc::WFXMLScanner>(this, this, &entities, &errors, nullptr, grammars.get(), &memory);
+  // Where there are no declarations a simpler scanner would do, but its time grows with the square of the number of
+  // attributes of an element; so would the time of checking namespaces, with the depth.
+  scanner = std::make_unique<xercesc::IGXMLScanner>(this, this, &entities, &errors, nullptr, grammars.get(), &memory);
   scanner->setURIStringPool(grammars->getStringPool());
   scanner->setEntityHandler(&entities);
   scanner->setSecurityManager(&limits);
-  scanner->setDoNamespaces(true);
+  scanner->setDoNamespaces(false);
   scanner->setDoSchema(false);
   scanner->setLoadSchema(false);
   scanner->setLoadExternalDTD(false);
@@ -169,8 +172,13 @@ void Run::count(std::size_t length)
   produced += length;
   if (produced <= axsXercesParser::growth_free || produced / axsXercesParser::growth_limit <= source.head().size())
     return;
+  fail(APSTRING("The entities of the document make it too large"));
+}
+
+void Run::fail(apString const& message) const
+{
   axsReadError error = place();
-  error.message = APSTRING("The entities of the document make it too large");
+  error.message = message;
   throw error;
 }
 
@@ -197,30 +205,54 @@ void Run::docComment(XMLCh const* comment)
 void Run::docPI(XMLCh const* target, XMLCh const* data)
 {
   std::string const name = axsUtf16::to_utf8(target);
+  if (name.find(':') != std::string::npos)
+    fail(APSTRING("the target of a processing instruction cannot have a colon"));
   events.processing_instruction(name, utf8(data));
 }
 
 void Run::startElement(xercesc::XMLElementDecl const& decl, unsigned int, XMLCh const*,
   xercesc::RefVectorOf<xercesc::XMLAttr> const& attributes, XMLSize_t number, bool is_empty, bool)
 {
-  XMLCh const* const name = decl.getFullName();
-  events.start_element(names.find(name, axsUtf16::length(name)));
-  count(sizeof(void*));
-  for (XMLSize_t i = 0; i < number; ++i)
-  {
-    xercesc::XMLAttr const& attribute = *attributes.elementAt(i);
-    XMLCh const* const attribute_name = attribute.getQName();
-    std::string_view const value = utf8(attribute.getValue());
-    count(value.size());
-    events.attribute(names.find(attribute_name, axsUtf16::length(attribute_name)), value);
-  }
+  XMLCh const* const full_name = decl.getFullName();
+  axsName const& name = names.find(full_name, axsUtf16::length(full_name));
+  read_attributes(attributes, number);
+  apString const wrong = namespaces.open(name, attribute_values);
+  if (!wrong.empty())
+    fail(wrong);
+
+  events.start_element(name);
+  for (auto const& [attribute, value] : attribute_values)
+    events.attribute(*attribute, value);
   if (is_empty)
-    events.end_element();
+    end_element();
 }
 
 void Run::endElement(xercesc::XMLElementDecl const&, unsigned int, bool, XMLCh const*)
 {
+  end_element();
+}
+
+void Run::end_element()
+{
+  namespaces.close();
   events.end_element();
+}
+
+// The texts keep their memory from element to element.
+void Run::read_attributes(xercesc::RefVectorOf<xercesc::XMLAttr> const& attributes, XMLSize_t number)
+{
+  attribute_values.resize(number);
+  count(sizeof(void*));
+  for (XMLSize_t i = 0; i < number; ++i)
+  {
+    xercesc::XMLAttr const& attribute = *attributes.elementAt(i);
+    auto& [name, value] = attribute_values[i];
+    XMLCh const* const full_name = attribute.getQName();
+    name = &names.find(full_name, axsUtf16::length(full_name));
+    value.clear();
+    axsUtf16::append_utf8(attribute.getValue(), axsUtf16::length(attribute.getValue()), value);
+    count(value.size());
+  }
 }
 
 void Run::doctypeDecl(xercesc::DTDElementDecl const&, XMLCh const*, XMLCh const*, bool, bool)
