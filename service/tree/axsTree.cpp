@@ -26,13 +26,6 @@ bool is_child(axsNode const* node, axsNode const& parent)
   return node != nullptr && !node->is_attribute() && node->parent() == &parent;
 }
 
-// A caller is expected to take a node out of its tree before it puts it in elsewhere; one that does not is told.
-void expect_detached(axsNode const& new_child)
-{
-  if (new_child.parent() != nullptr)
-    ut_report_assertion("new_child->getParentNode() == nullptr", "service/tree/axsTree.cpp", __LINE__);
-}
-
 bool holds_other_element(axsNode const& document, axsNode const* replaced, axsNode const& moved)
 {
   for (axsNode const* child = document.first_child(); child != nullptr; child = child->next_sibling())
@@ -84,6 +77,18 @@ bool can_hold(axsNode const& parent, axsNode const& child, axsNode const* before
 }
 }
 
+namespace
+{
+// These operations are for nodes that are in no tree: one that is in a tree is moved, and that is reported.
+bool report_attached(axsNode const& child)
+{
+  if (child.parent() == nullptr)
+    return false;
+  ut_report_assertion("new_child->getParentNode() == nullptr", "service/tree/axsTree.cpp", __LINE__);
+  return true;
+}
+}
+
 apString axsTree::node_name(axsNode const& node)
 {
   axsName const* const name = node.name();
@@ -127,13 +132,18 @@ std::shared_ptr<axmNode> axsTree::insert_before(
   axsNode& node, std::shared_ptr<axmNode> const& new_child, std::shared_ptr<axmNode> const& ref_child)
 {
   axsNode* const child = node_of(new_child);
-  axsNode* before = node_of(ref_child);
-  if (child == nullptr || (ref_child != nullptr && !is_child(before, node)) || !can_hold(node, *child, before, nullptr))
+  axsNode* const before = node_of(ref_child);
+  auto const may_be = [&]
+  {
+    return child != nullptr && (ref_child == nullptr || is_child(before, node)) &&
+           can_hold(node, *child, before, nullptr);
+  };
+  if (!may_be())
     return nullptr;
-  if (before == child)
-    before = child->next_sibling();
-  expect_detached(*child);
-  move(static_cast<axsParent&>(node), *child, before);
+  // Whoever hears the report may have changed the tree.
+  if (report_attached(*child) && !may_be())
+    return nullptr;
+  move(static_cast<axsParent&>(node), *child, before == child ? child->next_sibling() : before);
   return new_child;
 }
 
@@ -142,9 +152,12 @@ std::shared_ptr<axmNode> axsTree::replace_child(
 {
   axsNode* const child = node_of(new_child);
   axsNode* const old = node_of(old_child);
-  if (child == nullptr || !is_child(old, node) || !can_hold(node, *child, old->next_sibling(), old))
+  auto const may_be = [&]
+  { return child != nullptr && is_child(old, node) && can_hold(node, *child, old->next_sibling(), old); };
+  if (!may_be())
     return nullptr;
-  expect_detached(*child);
+  if (report_attached(*child) && !may_be())
+    return nullptr;
   if (child == old)
     return old_child;
   move(static_cast<axsParent&>(node), *child, old);
