@@ -134,7 +134,8 @@ void Run::scan()
 
 axsReadError Run::place() const
 {
-  if (scanner == nullptr)
+  // Before the beginning and behind the end there is no place.
+  if (scanner == nullptr || scanner->getReaderMgr()->getCurrentReader() == nullptr)
     return {apString(), source.url()};
   xercesc::Locator const& at = *scanner->getLocator();
   return axsErrorReporter::make(apString(), at.getSystemId(), at.getLineNumber(), at.getColumnNumber());
