@@ -1,0 +1,165 @@
+// The verb conform, run as a user runs it.
+
+#include "Program.h"
+
+#include <axmDocumentFactory.h>
+#include <axmNodeList.h>
+#include <axsRegister.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace
+{
+ProgramRun conform(std::vector<std::string> arguments)
+{
+  arguments.insert(arguments.begin(), "conform");
+  return run_axm(testing::UnitTest::GetInstance()->current_test_info()->name(), arguments);
+}
+
+bool holds(std::string const& text, std::string const& wanted)
+{
+  return text.find(wanted) != std::string::npos;
+}
+
+std::string last_line(std::string const& text)
+{
+  std::size_t const end = text.find_last_not_of("\r\n");
+  std::size_t const start = text.rfind('\n', end);
+  return end == std::string::npos ? "" : text.substr(start + 1, end - start);
+}
+
+std::shared_ptr<axmDocument> loaded(std::string const& file)
+{
+  axs_register();
+  utServiceName resolved;
+  auto const factory = utService::locate_service<axmDocumentFactory>(utServiceName(ut_lit("XMLService")), resolved);
+  axmParseError error;
+  return factory->loadDocument(apPath(file.c_str()), axmLoadOptions(), error);
+}
+
+class GoneAtTheEnd
+{
+public:
+  explicit GoneAtTheEnd(std::string const& given) : name(given) {}
+  GoneAtTheEnd(GoneAtTheEnd const&) = delete;
+  GoneAtTheEnd& operator=(GoneAtTheEnd const&) = delete;
+  ~GoneAtTheEnd() { apPath(name.c_str()).delete_file(); }
+
+  std::string const name;
+};
+}
+
+TEST(conform, the_built_in_engine_passes)
+{
+  ProgramRun const run = conform({});
+  EXPECT_EQ(run.exit_code, 0) << run.out << run.err;
+  EXPECT_FALSE(holds(run.out, "FAILED"));
+  EXPECT_TRUE(holds(last_line(run.out), " passed, 0 failed")) << run.out;
+  EXPECT_TRUE(holds(run.out, "axmContractUtest: "));
+  EXPECT_EQ(run.err, "");
+}
+
+TEST(conform, only_the_classes_that_are_named_are_run)
+{
+  ProgramRun const run = conform({"axmNodeUtest", "axmTextNodeUtest"});
+  EXPECT_EQ(run.exit_code, 0);
+  EXPECT_EQ(last_line(run.out), "48 passed, 0 failed");
+  EXPECT_TRUE(holds(run.out, "axmNodeUtest: 43 passed, 0 failed"));
+  EXPECT_TRUE(holds(run.out, "axmTextNodeUtest: 5 passed, 0 failed"));
+  EXPECT_FALSE(holds(run.out, "axmElementUtest"));
+}
+
+TEST(conform, wrong_usage)
+{
+  EXPECT_EQ(conform({"axmNoSuchUtest"}).exit_code, 2);
+  EXPECT_EQ(conform({"--no-such-option"}).exit_code, 2);
+  EXPECT_EQ(conform({"--service"}).exit_code, 2);
+  EXPECT_EQ(conform({"--help"}).exit_code, 0);
+}
+
+TEST(conform, a_library_that_cannot_be_loaded)
+{
+  ProgramRun const run = conform({"--service", "./no_such_library.so"});
+  EXPECT_EQ(run.exit_code, 1);
+  EXPECT_TRUE(holds(run.err, "axm: ./no_such_library.so: ")) << run.err;
+}
+
+TEST(conform, a_report_that_cannot_be_written)
+{
+  ProgramRun const run = conform({"axmTextNodeUtest", "--junit", "no/such/folder/report.xml"});
+  EXPECT_EQ(run.exit_code, 1);
+  EXPECT_TRUE(holds(run.err, "axm: no/such/folder/report.xml: ")) << run.err;
+}
+
+TEST(conform, the_report_is_a_document)
+{
+  GoneAtTheEnd const report("conform \xC3\xA4 report.xml");
+  ProgramRun const run = conform({"axmNodeUtest", "axmTextNodeUtest", "--junit", report.name});
+  EXPECT_EQ(run.exit_code, 0) << run.err;
+  auto const document = loaded(report.name);
+  ASSERT_NE(document, nullptr);
+  EXPECT_EQ(document->getDocumentElement()->getNodeName(), APSTRING("testsuites"));
+  EXPECT_EQ(document->getElementsByTagName(APSTRING("testsuite"))->length(), 2);
+  EXPECT_EQ(document->getElementsByTagName(APSTRING("testcase"))->length(), 48);
+  EXPECT_EQ(document->getElementsByTagName(APSTRING("failure"))->length(), 0);
+}
+
+#if !defined(_WIN32)
+TEST(conform, nothing_is_left_behind)
+{
+  namespace fs = std::filesystem;
+  fs::path const folder = fs::temp_directory_path() / fs::u8path("axm conform \xD1\x84 test");
+  fs::create_directory(folder);
+  setenv("TMPDIR", folder.c_str(), 1);
+  EXPECT_EQ(conform({}).exit_code, 0);
+  unsetenv("TMPDIR");
+  EXPECT_TRUE(fs::is_empty(folder));
+  fs::remove_all(folder);
+}
+#endif
+
+#if defined(AXM_SECOND_ENGINE)
+TEST(conform, an_engine_of_another_make_gets_an_honest_list)
+{
+  GoneAtTheEnd const report("conform second report.xml");
+  ProgramRun const run = conform({"--service", AXM_SECOND_ENGINE, "--junit", report.name});
+  EXPECT_EQ(run.exit_code, 1) << run.err;
+  EXPECT_EQ(last_line(run.out), "800 passed, 34 failed") << run.out;
+  std::vector<std::string> failed;
+  auto const cases = loaded(report.name)->getDocumentElement()->selectNodes(APSTRING("//failure/.."));
+  for (auto one = cases->next_node(); one != nullptr; one = cases->next_node())
+  {
+    std::string const group = one->getAttribute(APSTRING("classname")).to_utf8().c_str();
+    if (std::find(failed.begin(), failed.end(), group) == failed.end())
+      failed.push_back(group);
+  }
+  // It does not validate, has no limit of entity expansions, reads nothing external, and writes what it is told.
+  EXPECT_EQ(failed,
+    (std::vector<std::string>{"axmDocumentFactoryUtest::test_from_memory", "axmValidationUtest::run_schema_test",
+      "axmValidationUtest::run_nons_schema_test", "axmValidationUtest::test_multiple_schemas",
+      "axmContractUtest::test_load_failure", "axmContractUtest::test_entities", "axmContractUtest::test_validation",
+      "axmContractUtest::test_save_file"}));
+}
+
+TEST(conform, a_failure_is_shown_with_what_was_expected_and_what_came)
+{
+  ProgramRun const run = conform({"--service", AXM_SECOND_ENGINE, "axmDocumentFactoryUtest"});
+  EXPECT_TRUE(holds(run.out, "FAILED axmDocumentFactoryUtest::test_from_memory: test root name\n"
+                             "  root->getNodeName() == APSTRING(\"machine\")\n"
+                             "  at source/utest/axmDocumentFactoryUtest:"))
+    << run.out;
+  EXPECT_TRUE(holds(run.out, "  Expected \"machine\"\n  Actual   \"(no node)\"\n")) << run.out;
+}
+
+TEST(conform, a_library_without_an_engine)
+{
+  ProgramRun const run = conform({"--service", AXM_LIBRARY});
+  EXPECT_EQ(run.exit_code, 1);
+  EXPECT_TRUE(holds(run.err, "the library does not export axm_register_engine")) << run.err;
+}
+#endif
