@@ -4,6 +4,7 @@
 #include "axsHandlePool.h"
 #include "axsNameTable.h"
 #include "axsNodeOf.h"
+#include "axsXPathCache.h"
 
 #include <axmDocument.h>
 
@@ -51,6 +52,7 @@ public:
   axsNameTable& names() noexcept { return name_table; }
   axsArena& arena() noexcept { return memory; }
   axsHandlePool& handle_pool() noexcept { return *handles; }
+  axsXPathCache& xpath_cache() noexcept { return expressions; }
 
   /// Gives the memory of one node back.
   void free_node(axsNode& node) noexcept;
@@ -84,6 +86,7 @@ private:
   std::unique_ptr<axsHandlePool, PoolAbandoner> handles;
   axsArena memory;
   axsNameTable name_table;
+  axsXPathCache expressions;
   // The child lists that are out, in chains by the address of their parent.
   axsChildList* lists[list_buckets] = {};
 };

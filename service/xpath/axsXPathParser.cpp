@@ -60,10 +60,10 @@ std::string count_of_arguments(axsXPathFunction const& function)
 {
   std::string const least = std::to_string(function.least_arguments);
   if (function.most_arguments < 0)
-    return least + " or more";
-  if (function.most_arguments == function.least_arguments)
-    return least;
-  return least + " to " + std::to_string(function.most_arguments);
+    return least + " or more arguments";
+  if (function.most_arguments > function.least_arguments)
+    return least + " to " + std::to_string(function.most_arguments) + " arguments";
+  return least + (function.most_arguments == 1 ? " argument" : " arguments");
 }
 }
 
@@ -323,8 +323,8 @@ bool axsXPathParser::check_arguments(Call const& call, std::size_t position)
   if (count < function.least_arguments || (function.most_arguments >= 0 && count > function.most_arguments))
   {
     std::string const name(function.text);
-    return fail(position,
-             name + "() takes " + count_of_arguments(function) + " arguments, not " + std::to_string(count)) != failed;
+    return fail(position, name + "() takes " + count_of_arguments(function) + ", not " + std::to_string(count)) !=
+           failed;
   }
   if (!function.takes_node_sets)
     return true;

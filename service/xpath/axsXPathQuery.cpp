@@ -1,11 +1,11 @@
 #include <axsXPathQuery.h>
 
 #include <axsXPathEvaluator.h>
-#include <axsXPathParser.h>
 #include <axsXPathText.h>
 
+#include <axsDocument.h>
+
 #include <algorithm>
-#include <optional>
 #include <unordered_set>
 
 namespace
@@ -58,8 +58,8 @@ std::vector<axsXPathNode> select_nodes(axsXPathEvaluator& evaluator, axsXPathExp
 
 std::vector<axsNode*> axsXPathQuery::select(axsNode& context, std::string_view text, axsXPathError& error)
 {
-  std::optional<axsXPathExpression> const expression = axsXPathParser::parse(text, error);
-  if (!expression)
+  auto const expression = context.document().xpath_cache().compile(text, error);
+  if (expression == nullptr)
     return {};
   axsXPathEvaluator evaluator(*expression, context);
   return handed_out(select_nodes(evaluator, *expression, text, Want::all, error));
@@ -67,8 +67,8 @@ std::vector<axsNode*> axsXPathQuery::select(axsNode& context, std::string_view t
 
 axsNode* axsXPathQuery::select_first(axsNode& context, std::string_view text, axsXPathError& error)
 {
-  std::optional<axsXPathExpression> const expression = axsXPathParser::parse(text, error);
-  if (!expression)
+  auto const expression = context.document().xpath_cache().compile(text, error);
+  if (expression == nullptr)
     return nullptr;
   axsXPathEvaluator evaluator(*expression, context);
   std::vector<axsXPathNode> nodes = select_nodes(evaluator, *expression, text, Want::first, error);
@@ -85,8 +85,8 @@ axsNode* axsXPathQuery::select_first(axsNode& context, std::string_view text, ax
 
 bool axsXPathQuery::evaluate(axsNode& context, std::string_view text, Value& value, axsXPathError& error)
 {
-  std::optional<axsXPathExpression> const expression = axsXPathParser::parse(text, error);
-  if (!expression)
+  auto const expression = context.document().xpath_cache().compile(text, error);
+  if (expression == nullptr)
     return false;
   axsXPathEvaluator evaluator(*expression, context);
   if (!bind(evaluator, text, error))

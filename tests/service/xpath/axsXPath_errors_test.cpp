@@ -32,6 +32,7 @@ Wrong const wrong_expressions[] = {{"an_empty_expression", "", "error at 1: a st
   {"a_variable_without_a_name", "$ x", "error at 1: a name is missing behind '$'"},
   {"too_few_arguments", "contains('a')", "error at 1: contains() takes 2 arguments, not 1"},
   {"too_many_arguments", "1 + last(1)", "error at 5: last() takes 0 arguments, not 1"},
+  {"an_argument_missing", "not()", "error at 1: not() takes 1 argument, not 0"},
   {"too_few_of_many_arguments", "concat('a')", "error at 1: concat() takes 2 or more arguments, not 1"},
   {"too_many_of_some_arguments", "substring('a',1,2,3)", "error at 1: substring() takes 2 to 3 arguments, not 4"},
   {"an_argument_that_is_no_node_set", "count( 1 )", "error at 8: the argument has to be a node-set"},

@@ -1,0 +1,30 @@
+#include <axsXPathCache.h>
+
+#include <axsXPathParser.h>
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+std::shared_ptr<axsXPathExpression const> axsXPathCache::compile(std::string_view text, axsXPathError& error)
+{
+  auto const known =
+    std::find_if(entries.rbegin(), entries.rend(), [text](Entry const& entry) { return entry.text == text; });
+  if (known != entries.rend())
+  {
+    error = axsXPathError();
+    std::rotate(known.base() - 1, known.base(), entries.end());
+    return entries.back().expression;
+  }
+
+  std::optional<axsXPathExpression> parsed = axsXPathParser::parse(text, error);
+  if (!parsed)
+    return nullptr;
+  auto expression = std::make_shared<axsXPathExpression const>(std::move(*parsed));
+  if (text.size() > longest_text)
+    return expression;
+  if (entries.size() == most_entries)
+    entries.erase(entries.begin());
+  entries.push_back({std::string(text), expression});
+  return expression;
+}
