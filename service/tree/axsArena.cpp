@@ -57,9 +57,8 @@ axsArena::~axsArena()
   {
     Page* const page = newest;
     newest = page->older;
-    std::size_t const size = page->pages * page_size;
-    ASAN_UNPOISON_MEMORY_REGION(page, size);
-    ::operator delete(page, size, std::align_val_t(page_size));
+    ASAN_UNPOISON_MEMORY_REGION(page, page->pages * page_size);
+    ::operator delete(page, std::align_val_t(page_size));
   }
   while (large != nullptr)
     std::free(std::exchange(large, large->next));

@@ -185,7 +185,7 @@ void axmContractUtest::test_map_items(Factory factory) const
   {
     apString const name = name_of(map->item(index));
     for (int letter = 0; letter < 3; ++letter)
-      if (name == apString(L"ABC" + letter, 1))
+      if (name == apString(&L"ABC"[letter], 1))
         ++seen[letter];
     group.check(same(map->item(index), map->getNamedItem(name)), "*map->item(index) == *map->getNamedItem(name)",
       __LINE__, "an item is the attribute of its name");

@@ -330,8 +330,8 @@ void axmContractUtest::test_bad_schemas(Factory factory) const
   axmUtestFile const bad_removed_at_the_end(bad);
   axmUtestUtils::write_data(good, machine_schema);
   char const* const unusable[] = {"", "no schema at all", "<unclosed>",
-    "<xs:schema xmlns:xs=\"http://www.w3.org/2001/XMLSchema\"><xs:element name=\"r\" "
-    "type=\"no_such_type\"/></xs:schema>"};
+    ("<xs:schema xmlns:xs=\"http://www.w3.org/2001/XMLSchema\"><xs:element name=\"r\" "
+     "type=\"no_such_type\"/></xs:schema>")};
   for (char const* const text : unusable)
   {
     axmUtestUtils::write_data(bad, text);

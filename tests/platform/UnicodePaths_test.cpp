@@ -15,8 +15,7 @@ namespace
 {
 constexpr char const* names[] = {
   "plain", "two words",
-  "no\xC2\xA0"
-  "break",                            // U+00A0
+  "no\xC2\xA0nbsp",                   // U+00A0
   "per%20cent",                       // not a URL
   "\xC3\xA9t\xC3\xA9",                // in many code pages
   "\xD1\x84\xD0\xB0\xD0\xB9\xD0\xBB", // in some
