@@ -1,9 +1,9 @@
 #include <axsXPathEvaluator.h>
 
+#include <axsXPathLease.h>
 #include <axsXPathNumber.h>
 #include <axsXPathText.h>
 
-#include <axsAttribute.h>
 #include <axsDocument.h>
 
 #include <algorithm>
@@ -560,21 +560,18 @@ std::string_view axsXPathEvaluator::substring_call(Term const& term, Context con
 
 bool axsXPathEvaluator::lang_call(Term const& term, Context const& context)
 {
+  axsName const* const attribute = given.document().names().find("xml:lang");
+  axsXPathNode at = context.node;
+  while (!at.is_none() && tree.kind(at) != axsXPathTree::element_kind)
+    at = tree.parent(at);
+  if (attribute == nullptr || at.is_none())
+    return false;
+
   std::string scratch;
   std::string_view const wanted = text_of(operand(term, 0), context, scratch);
-  for (axsXPathNode at = context.node; !at.is_none(); at = tree.parent(at))
-  {
-    if (tree.kind(at) != axsXPathTree::element_kind)
-      continue;
-    auto const& element = static_cast<axsElement const&>(*at.node());
-    axsAttribute const* const attribute = element.find_attribute(std::string_view("xml:lang"));
-    if (attribute == nullptr)
-      continue;
-    std::string_view const language = attribute->text();
-    bool const ends_a_tag = language.size() <= wanted.size() || language[wanted.size()] == '-';
-    return ends_a_tag && equals_in_any_case(language.substr(0, wanted.size()), wanted);
-  }
-  return false;
+  std::string_view const language = tree.scopes().nearest_value(static_cast<axsElement&>(*at.node()), *attribute);
+  bool const ends_a_tag = language.size() <= wanted.size() || language[wanted.size()] == '-';
+  return language.data() != nullptr && ends_a_tag && equals_in_any_case(language.substr(0, wanted.size()), wanted);
 }
 
 double axsXPathEvaluator::count_call(Term const& term, Context const& context)

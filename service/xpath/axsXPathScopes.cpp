@@ -37,7 +37,7 @@ std::string_view axsXPathScopes::uri(axsElement const& element, std::string_view
   if (prefix == "xml")
     return xml_uri;
   axsName const* const declaration = prefix.empty() ? default_declaration : declaration_of(prefix);
-  return declaration == nullptr ? std::string_view() : declared(element, *declaration);
+  return declaration == nullptr ? std::string_view() : nearest_value(element, *declaration);
 }
 
 std::string_view axsXPathScopes::uri_of_element(axsElement const& element)
@@ -67,21 +67,21 @@ axsName const* axsXPathScopes::declaration_of(std::string_view prefix)
   return declaration;
 }
 
-std::string_view axsXPathScopes::declared(axsElement const& element, axsName const& declaration)
+std::string_view axsXPathScopes::nearest_value(axsElement const& element, axsName const& name)
 {
   std::string_view result;
   std::vector<axsElement const*> passed;
   int levels = 0;
   for (axsElement const* at = &element; at != nullptr; at = parent_element(*at))
   {
-    if (axsAttribute const* const attribute = find_attribute(*at, declaration))
+    if (axsAttribute const* const attribute = find_attribute(*at, name))
     {
       result = attribute->text();
       break;
     }
     if (!far_results.empty())
     {
-      auto const known = far_results.find({at, &declaration});
+      auto const known = far_results.find({at, &name});
       if (known != far_results.end())
       {
         result = known->second;
@@ -95,6 +95,6 @@ std::string_view axsXPathScopes::declared(axsElement const& element, axsName con
   if (!passed.empty())
     passed.push_back(&element);
   for (axsElement const* const at : passed)
-    far_results.emplace(Place{at, &declaration}, result);
+    far_results.emplace(Place{at, &name}, result);
   return result;
 }

@@ -10,7 +10,8 @@ class axsDocument;
 class axsElement;
 class axsName;
 
-/// The namespaces in scope of the elements of one document: which declaration a prefix stands for.
+/// What elements of one document have from those above them: the namespaces that prefixes stand for, and the values of
+/// attributes that hold for all below.
 ///
 /// Remembers what it found, so it is good for as long as the document does not change; belongs to one evaluation.
 class axsXPathScopes
@@ -32,8 +33,11 @@ public:
   /// Whether an element without a prefix is in no namespace.
   bool is_without_namespace(axsElement const& element)
   {
-    return default_declaration == nullptr || declared(element, *default_declaration).empty();
+    return default_declaration == nullptr || nearest_value(element, *default_declaration).empty();
   }
+
+  /// The value of the nearest attribute `name`, at the element or above it; a view of nothing (null) if there is none.
+  std::string_view nearest_value(axsElement const& element, axsName const& name);
 
   /// Whether an attribute of that name declares a namespace, which makes it none of the data model.
   static bool is_declaration(axsName const& name) noexcept;
@@ -42,12 +46,9 @@ private:
   struct Place
   {
     axsElement const* element;
-    axsName const* declaration;
+    axsName const* name;
 
-    bool operator==(Place const& other) const noexcept
-    {
-      return element == other.element && declaration == other.declaration;
-    }
+    bool operator==(Place const& other) const noexcept { return element == other.element && name == other.name; }
   };
 
   struct PlaceHash
@@ -55,15 +56,12 @@ private:
     std::size_t operator()(Place const& place) const noexcept
     {
       std::hash<void const*> const hash;
-      return hash(place.element) * 31 + hash(place.declaration);
+      return hash(place.element) * 31 + hash(place.name);
     }
   };
 
   /// The name of the attribute that declares `prefix`, null if the document never had one.
   axsName const* declaration_of(std::string_view prefix);
-
-  /// The value of the nearest attribute `declaration`, at the element or above it.
-  std::string_view declared(axsElement const& element, axsName const& declaration);
 
   axsDocument& document;
   axsName const* default_declaration;

@@ -1,6 +1,7 @@
 #include <axsXPathSelector.h>
 
 #include <axsXPathEvaluator.h>
+#include <axsXPathLease.h>
 
 #include <algorithm>
 #include <cmath>

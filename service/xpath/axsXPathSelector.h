@@ -8,7 +8,6 @@
 #include <axsXPathVisitor.h>
 
 #include <cstddef>
-#include <utility>
 #include <vector>
 
 class axsXPathEvaluator;
@@ -90,20 +89,4 @@ private:
   std::size_t lent = 0;
   // The positions that predicates are counting, those of inner ones behind those of outer ones.
   std::vector<std::size_t> positions;
-};
-
-/// Borrows a vector of nodes from a selector as long as it lives.
-class axsXPathLease
-{
-public:
-  explicit axsXPathLease(axsXPathSelector& selector) : lender(selector), lent(selector.borrow()) {}
-  axsXPathLease(axsXPathLease const&) = delete;
-  axsXPathLease& operator=(axsXPathLease const&) = delete;
-  ~axsXPathLease() { lender.give_back(std::move(lent)); }
-
-  std::vector<axsXPathNode>& nodes() noexcept { return lent; }
-
-private:
-  axsXPathSelector& lender;
-  std::vector<axsXPathNode> lent;
 };

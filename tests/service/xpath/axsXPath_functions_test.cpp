@@ -250,6 +250,11 @@ TEST_F(XPathFunction, lang_compares_the_nearest_language_without_case_and_subtag
   EXPECT_EQ(nodes(*document, "//*[lang('e')]"), "");
   EXPECT_EQ(nodes(*document, "//*[lang('en-US-x')]"), "");
   EXPECT_EQ(nodes(*document, "//@*[lang('en')][name()='kind']"), "@kind=x");
+  EXPECT_EQ(nodes(*document, "//*[lang('')]"), "");
+  auto const other = subject::load("<r xml:lang='de'><a xml:lang=''><b/></a><c/></r>");
+  EXPECT_EQ(nodes(*other, "//*[lang('de')]"), "r c");
+  EXPECT_EQ(nodes(*other, "//*[lang('')]"), "a b");
+  EXPECT_EQ(value(*other, "lang('de')"), "boolean false");
 }
 
 TEST_F(XPathFunction, number_of_a_string_is_what_it_writes)

@@ -88,6 +88,8 @@ TEST(XPathLimits, namespaces_are_found_in_a_deep_document)
   document->getDocumentElement()->setAttribute(APSTRING("xmlns:p"), APSTRING("urn:d"));
   EXPECT_EQ(value(*document, "count(//a)"), "number 0");
   EXPECT_EQ(value(*document, "count(//p:a)"), "number 200000");
+  document->getDocumentElement()->setAttribute(APSTRING("xml:lang"), APSTRING("en"));
+  EXPECT_EQ(value(*document, "count(//p:a[lang('en')])"), "number 200000");
 }
 
 TEST(XPathLimits, nested_predicates_take_no_exponential_time)
