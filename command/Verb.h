@@ -14,5 +14,8 @@ enum ExitCode : int
 /// its exit code in `exit_code`. One file a verb.
 using Verb = void (*)(CLI::App& app, int& exit_code);
 
+void add_check(CLI::App& app, int& exit_code);
 void add_conform(CLI::App& app, int& exit_code);
+void add_select(CLI::App& app, int& exit_code);
+void add_set(CLI::App& app, int& exit_code);
 void add_table(CLI::App& app, int& exit_code);

@@ -10,7 +10,7 @@
 namespace
 {
 // In the order in which the help lists them.
-Verb const verbs[] = {add_table, add_conform};
+Verb const verbs[] = {add_check, add_select, add_set, add_table, add_conform};
 
 int run(Arguments const& arguments)
 {

@@ -4,6 +4,7 @@
 #include "axsUtf16.h"
 
 #include <xercesc/framework/XMLAttr.hpp>
+#include <xercesc/framework/XMLValidityCodes.hpp>
 #include <xercesc/util/XMLException.hpp>
 #include <xercesc/util/XMLString.hpp>
 #include <xercesc/util/XMLUni.hpp>
@@ -67,7 +68,7 @@ xercesc::DatatypeValidator* type_of(
 }
 }
 
-void axsValidityReporter::error(unsigned int, XMLCh const* domain, ErrTypes type, XMLCh const* text,
+void axsValidityReporter::error(unsigned int code, XMLCh const* domain, ErrTypes type, XMLCh const* text,
   XMLCh const* system_id, XMLCh const*, XMLFileLoc line, XMLFileLoc column)
 {
   if (type == ErrType_Warning || found)
@@ -75,7 +76,12 @@ void axsValidityReporter::error(unsigned int, XMLCh const* domain, ErrTypes type
   axsReadError const made = axsErrorReporter::make(axsUtf16::to_string(text), system_id, line, column);
   if (type == ErrType_Fatal)
     throw made;
+  bool const is_about_text =
+    code == xercesc::XMLValid::NoCharDataInCM && xercesc::XMLString::equals(domain, xercesc::XMLUni::fgValidityDomain);
   found = Found{made, xercesc::XMLString::equals(domain, xercesc::XMLUni::fgExceptDomain)};
+  // Of such a text nothing more is told.
+  if (is_about_text && !open.empty())
+    fail(element_subject(open.back().c_str()));
 }
 
 void axsValidityReporter::finish() const

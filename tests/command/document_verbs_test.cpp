@@ -1,0 +1,117 @@
+#include "Program.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+std::string const books =
+  "<?xml version=\"1.0\"?>\n<list>\n\t<item id=\"1\">\xC3\xA4 one</item>\n  <item>two</item>\n</list>";
+
+std::string const schema = "<xs:schema xmlns:xs=\"http://www.w3.org/2001/XMLSchema\" targetNamespace=\"urn:n\">"
+                           "<xs:element name=\"n\" type=\"xs:int\"/></xs:schema>";
+
+std::string const plain_schema = "<xs:schema xmlns:xs=\"http://www.w3.org/2001/XMLSchema\">"
+                                 "<xs:element name=\"n\" type=\"xs:int\"/></xs:schema>";
+}
+
+TEST(axm_check, is_silent_about_good_documents)
+{
+  TemporaryFile const one("check_good_1.xml", books);
+  TemporaryFile const two("check_good_2.xml", "<a/>");
+  ProgramRun const run = run_axm("check_good", {"check", one.name, two.name});
+  EXPECT_EQ(run.exit_code, 0);
+  EXPECT_EQ(run.out + run.err, "");
+}
+
+TEST(axm_check, says_file_line_column_and_text_and_marks_the_column)
+{
+  TemporaryFile const bad("check_bad.xml", "<a>\n\t<b>\xC3\xA4</c>\n</a>");
+  TemporaryFile const good("check_bad_2.xml", "<a/>");
+  ProgramRun const run = run_axm("check_bad", {"check", bad.name, good.name, "check_none.xml"});
+  EXPECT_EQ(run.exit_code, 1);
+  EXPECT_EQ(run.err, "check_bad.xml:2:8: expected end of tag 'b'\n\t<b>\xC3\xA4</c>\n\t      ^\n"
+                     "check_none.xml: There is no file check_none.xml\n");
+}
+
+TEST(axm_check, shows_the_part_of_a_long_line_around_the_column)
+{
+  TemporaryFile const bad("check_long.xml", "<a>" + std::string(5000, 'x') + "</b>" + std::string(5000, 'y'));
+  ProgramRun const run = run_axm("check_long", {"check", bad.name});
+  EXPECT_NE(run.err.find("check_long.xml:1:5006: expected end of tag 'a'\nxxxx"), std::string::npos) << run.err;
+  EXPECT_LT(run.err.size(), 300u);
+}
+
+TEST(axm_check, validates_against_schemas)
+{
+  TemporaryFile const xsd("check.xsd", schema);
+  TemporaryFile const plain("check_plain.xsd", plain_schema);
+  TemporaryFile const valid("check_valid.xml", "<n xmlns=\"urn:n\">5</n>");
+  TemporaryFile const invalid("check_invalid.xml", "<n xmlns=\"urn:n\">five</n>");
+  TemporaryFile const invalid_plain("check_invalid_plain.xml", "<n>five</n>");
+  std::vector<std::string> const options = {"--schema", "urn:n=check.xsd", "--no-namespace-schema", "check_plain.xsd"};
+  auto const check = [&](std::string const& name)
+  {
+    std::vector<std::string> arguments = {"check", name};
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    return run_axm("check_schemas", arguments);
+  };
+  EXPECT_EQ(check(valid.name).exit_code, 0);
+  EXPECT_EQ(check(invalid.name).exit_code, 1);
+  ProgramRun const run = check(invalid_plain.name);
+  EXPECT_EQ(run.exit_code, 1);
+  EXPECT_EQ(run.err.find("check_invalid_plain.xml:1:12: element 'n': "), 0u) << run.err;
+}
+
+TEST(axm_check, refuses_wrong_usage)
+{
+  EXPECT_EQ(run_axm("check_usage", {"check"}).exit_code, 2);
+  EXPECT_EQ(run_axm("check_usage", {"check", "a.xml", "--schema", "a.xsd"}).exit_code, 2);
+}
+
+TEST(axm_select, writes_text_xml_or_an_attribute_a_line_each)
+{
+  TemporaryFile const file("select.xml", books);
+  EXPECT_EQ(run_axm("select", {"select", file.name, "//item"}).out, "\xC3\xA4 one\ntwo\n");
+  EXPECT_EQ(run_axm("select", {"select", file.name, "//item", "--text"}).out, "\xC3\xA4 one\ntwo\n");
+  EXPECT_EQ(run_axm("select", {"select", file.name, "//item[2]", "--xml"}).out, "<item>two</item>\n");
+  EXPECT_EQ(run_axm("select", {"select", file.name, "//item", "--attribute", "id"}).out, "1\n");
+  EXPECT_EQ(run_axm("select", {"select", file.name, "//@id"}).out, "1\n");
+}
+
+TEST(axm_select, fails_when_nothing_is_selected_or_the_file_is_bad)
+{
+  TemporaryFile const file("select_none.xml", books);
+  EXPECT_EQ(run_axm("select_none", {"select", file.name, "//none"}).exit_code, 1);
+  EXPECT_EQ(run_axm("select_none", {"select", "select_no_file.xml", "//none"}).exit_code, 1);
+  EXPECT_EQ(run_axm("select_none", {"select", file.name, "//item", "--xml", "--text"}).exit_code, 2);
+}
+
+TEST(axm_set, sets_attributes_and_saves_elsewhere)
+{
+  TemporaryFile const file("set.xml", books);
+  TemporaryFile const output("set_output.xml", "old");
+  ProgramRun const run = run_axm("set", {"set", file.name, "//item[2]", "id=7", "x=a=b&", "--output", output.name});
+  EXPECT_EQ(run.exit_code, 0) << run.err;
+  EXPECT_EQ(contents_of(output.name),
+    "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<list><item id=\"1\">\xC3\xA4 one</item>"
+    "<item id=\"7\" x=\"a=b&amp;\">two</item></list>\n");
+  EXPECT_EQ(contents_of(file.name), books);
+}
+
+TEST(axm_set, saves_in_place_without_output)
+{
+  TemporaryFile const file("set_in_place.xml", "<a/>");
+  EXPECT_EQ(run_axm("set_in_place", {"set", file.name, "/a", "b=c"}).exit_code, 0);
+  EXPECT_EQ(contents_of(file.name), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a b=\"c\"/>\n");
+}
+
+TEST(axm_set, leaves_the_file_when_something_is_wrong)
+{
+  TemporaryFile const file("set_wrong.xml", books);
+  EXPECT_EQ(run_axm("set_wrong", {"set", file.name, "//none", "a=b"}).exit_code, 1);
+  EXPECT_EQ(run_axm("set_wrong", {"set", file.name, "//item/text()", "a=b"}).exit_code, 1);
+  EXPECT_EQ(run_axm("set_wrong", {"set", file.name, "//item", "1a=b"}).exit_code, 1);
+  EXPECT_EQ(run_axm("set_wrong", {"set", file.name, "//item", "a=b", "--output", "no/such/folder.xml"}).exit_code, 1);
+  EXPECT_EQ(run_axm("set_wrong", {"set", file.name, "//item", "ab"}).exit_code, 2);
+  EXPECT_EQ(contents_of(file.name), books);
+}

@@ -1,0 +1,165 @@
+#include "Engine.h"
+
+namespace
+{
+struct Failure
+{
+  char const* text;
+  int line;
+  int column;
+  char const* message;
+};
+
+std::string children(std::string_view text)
+{
+  auto const root = load_root(text);
+  std::string all;
+  auto const list = root->getChildNodes();
+  while (auto const child = list->next_node())
+    all += "[" + narrow(child->get_text()) + "]";
+  return all;
+}
+}
+
+TEST(axsLoading, drops_text_of_white_space_only_except_one_space)
+{
+  EXPECT_EQ(children("<root> </root>"), "[ ]");
+  EXPECT_EQ(children("<root>\n<tag>Hello World</tag>\n</root>"), "[Hello World]");
+  EXPECT_EQ(children("<root><b>Hello</b> <i>There</i> World</root>"), "[Hello][ ][There][ World]");
+  EXPECT_EQ(children("<root><tag1> </tag1><tag2>Hello World</tag2></root>"), "[ ][Hello World]");
+  EXPECT_EQ(children("<root>  <a/>\t<b/>\r\n<c/>\n</root>"), "[][][]");
+  EXPECT_EQ(children("<root> x <a/>&#32;</root>"), "[ x ][][ ]");
+  EXPECT_EQ(children("<root>&#9;</root>"), "");
+  EXPECT_EQ(children("<root>\xC2\xA0</root>"), "[\xC2\xA0]");
+  EXPECT_EQ(children("<root xml:space='preserve'>  </root>"), "");
+}
+
+TEST(axsLoading, a_text_is_one_node_from_markup_to_markup)
+{
+  EXPECT_EQ(children("<!DOCTYPE r [<!ENTITY e 'x'>]><r>a&e;b&amp;c&#100;</r>"), "[axb&cd]");
+  EXPECT_EQ(children("<r>a<!--c-->b<?p?>d<![CDATA[e]]><![CDATA[f]]></r>"), "[a][c][b][][d][e][f]");
+  EXPECT_EQ(children("<r>" + std::string(100000, 'x') + "</r>"), "[" + std::string(100000, 'x') + "]");
+}
+
+TEST(axsLoading, what_is_loaded_is_saved_again)
+{
+  for (char const* const text :
+    {"<!--before-->\n<!DOCTYPE r [<!ENTITY e \"a>b\"> <!-- > ] --> <?x ]>?>]>\n<?pi x  ?>\n"
+     "<r b=\"1\" a=\"&lt;&amp;&quot;'&gt;&#9;&#10;&#13; \"><!--c--><?pi?>x&amp;&lt;&gt;]]&gt;"
+     "&#13;<![CDATA[<&>]]></r>\n<!--after-->\n",
+      "<p:r xmlns:p=\"urn:p\" xmlns=\"urn:d\"><a p:b=\"1\"/></p:r>\n", "<!DOCTYPE r PUBLIC \"p\" \"s.dtd\">\n<r/>\n",
+      "<r>\xC3\xA4\xE2\x82\xAC\xF0\x9D\x84\x9E</r>\n"})
+    EXPECT_EQ(saved(load(text)), declaration + text) << text;
+}
+
+TEST(axsLoading, reads_the_encodings_that_documents_declare)
+{
+  EXPECT_EQ(children("<?xml version='1.0' encoding='ISO-8859-1'?><r>\xE4</r>"), "[\xC3\xA4]");
+  EXPECT_EQ(children("\xEF\xBB\xBF<r>\xC3\xA4</r>"), "[\xC3\xA4]");
+  std::string utf16 = "\xFF\xFE";
+  for (char const c : std::string("<!DOCTYPE r [<!ENTITY e 'x'>]><r>&e;</r>"))
+    utf16 += std::string{c, '\0'};
+  EXPECT_EQ(saved(load(utf16)), declaration + "<!DOCTYPE r [<!ENTITY e 'x'>]>\n<r>x</r>\n");
+}
+
+TEST(axsLoading, keeps_the_defaults_that_the_document_declares_itself)
+{
+  auto const root = load_root("<!DOCTYPE r [<!ATTLIST r a CDATA 'default' b CDATA #IMPLIED>]><r/>");
+  EXPECT_EQ(narrow(root->getAttribute(APSTRING("a"))), "default");
+  EXPECT_FALSE(root->hasAttribute(APSTRING("b")));
+}
+
+TEST(axsLoading, says_what_is_wrong_and_where)
+{
+  Failure const failures[] = {
+    {"<a>\n<b></a>", 2, 6, "b"},
+    {"<a>\n  <b c='1' c='2'/>\n</a>", 2, 14, "'c'"},
+    {"<a>\n\n&nothing;</a>", 3, 10, "nothing"},
+    {"<a/>\n<b/>", 2, 1, ""},
+    {"text", 1, 1, ""},
+    {"<a b=c/>", 1, 6, ""},
+    {"<a>\x01</a>", 1, 5, ""},
+    {"<a>]]></a>", 1, 7, ""},
+    {"<a>", 1, 4, "'a'"},
+    {"<a>\n<p:b/></a>", 2, 7, "'p'"},
+    {"<a xmlns:p='u' p:b='1'\n xmlns:q='u' q:b='2'/>", 2, 23, "given twice"},
+    {"<a xmlns:p=''/>", 1, 16, "no namespace"},
+    {"<a b='<'/>", 1, 8, ""},
+    {"<?xml version='1.0'?>\n<!DOCTYPE a [\n<!ENTITY >]><a/>", 3, 10, ""},
+  };
+  for (Failure const& failure : failures)
+  {
+    axmParseError const error = error_of(failure.text);
+    EXPECT_EQ(error.line_number(), failure.line) << failure.text << narrow(error.message());
+    EXPECT_EQ(error.column_number(), failure.column) << failure.text << narrow(error.message());
+    EXPECT_NE(narrow(error.message()).find(failure.message), std::string::npos) << narrow(error.message());
+    EXPECT_TRUE(error.url().empty());
+  }
+}
+
+TEST(axsLoading, says_so_when_there_is_nothing_to_read)
+{
+  EXPECT_EQ(narrow(error_of("").message()), "The document is empty");
+  for (char const* const name : {"no_such_file.xml", "no/such/folder/file.xml", ".", ""})
+  {
+    axmParseError error;
+    EXPECT_EQ(engine()->loadDocument(apPath(name), axmLoadOptions(axmValidateNone), error), nullptr);
+    EXPECT_FALSE(error.invalid());
+    EXPECT_EQ(narrow(error.url()), name);
+    EXPECT_NE(narrow(error.message()).find("file"), std::string::npos) << narrow(error.message());
+    EXPECT_EQ(error.line_number(), -1);
+  }
+  TestFile const empty("engine_empty.xml", "");
+  axmParseError error;
+  EXPECT_EQ(engine()->loadDocument(empty.path(), axmLoadOptions(axmValidateNone), error), nullptr);
+  EXPECT_EQ(narrow(error.message()), "The document is empty");
+  EXPECT_EQ(narrow(error.url()), empty.name);
+}
+
+TEST(axsLoading, takes_file_names_as_they_are)
+{
+  for (char const* const name : {"engine with spaces.xml", "engine\xC2\xA0nb\xC2\xA0spaces.xml", "engine_%.xml",
+         "engine%20percent.xml", "engine_\xD1\x84.xml", "engine#hash.xml", "engine?&amp;.xml"})
+  {
+#if defined(_WIN32)
+    if (std::string(name).find('?') != std::string::npos)
+      continue;
+#endif
+    TestFile const good(name, "<r/>");
+    axmParseError error;
+    auto const document = engine()->loadDocument(good.path(), axmLoadOptions(axmValidateNone), error);
+    ASSERT_NE(document, nullptr) << name << narrow(error.message());
+    EXPECT_EQ(narrow(document->getDocumentURI()), name);
+    TestFile const bad(name, "<r>");
+    EXPECT_EQ(engine()->loadDocument(bad.path(), axmLoadOptions(axmValidateNone), error), nullptr);
+    EXPECT_EQ(narrow(error.url()), name);
+    EXPECT_EQ(error.line_number(), 1);
+    EXPECT_EQ(error.column_number(), 4);
+  }
+}
+
+TEST(axsLoading, reads_files_longer_than_what_it_looks_at_first)
+{
+  std::string text = "<r>";
+  for (int i = 0; i < 20000; ++i)
+    text += "<item number='" + std::to_string(i) + "'>text</item>";
+  text += "</r>";
+  TestFile const file("engine_long.xml", text);
+  axmParseError error;
+  auto const document = engine()->loadDocument(file.path(), axmLoadOptions(axmValidateNone), error);
+  ASSERT_NE(document, nullptr) << narrow(error.message());
+  EXPECT_EQ(document->getDocumentElement()->getChildNodes()->length(), 20000);
+  TestFile const with_doctype("engine_long_doctype.xml", "<!DOCTYPE r><!--" + std::string(200000, 'x') + "-->" + text);
+  auto const other = engine()->loadDocument(with_doctype.path(), axmLoadOptions(axmValidateNone), error);
+  ASSERT_NE(other, nullptr) << narrow(error.message());
+  EXPECT_EQ(narrow(other->getFirstChild()->get_xml()), "<!DOCTYPE r>");
+}
+
+TEST(axsLoading, leaves_the_error_untouched_when_it_succeeds)
+{
+  axmParseError error(APSTRING("old"));
+  error.set_line_number(7);
+  EXPECT_NE(engine()->loadDocument(bytes("<r/>"), axmLoadOptions(), error), nullptr);
+  EXPECT_EQ(narrow(error.message()), "old");
+  EXPECT_EQ(error.line_number(), 7);
+}

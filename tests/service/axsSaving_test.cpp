@@ -1,0 +1,145 @@
+#include "Engine.h"
+
+#include <cstdlib>
+
+#if !defined(_WIN32)
+#  include <sys/resource.h>
+#  include <sys/stat.h>
+#  include <unistd.h>
+
+#  include <csignal>
+#  include <filesystem>
+#endif
+
+namespace
+{
+bool save(std::shared_ptr<axmDocument> const& document, apPath const& path)
+{
+  return engine()->saveDocument(document, path);
+}
+
+void refuses(std::shared_ptr<axmDocument> const& document)
+{
+  TestFile const file("engine_refused.xml", "old");
+  apByteArray output("old", 3);
+  EXPECT_FALSE(engine()->saveDocument(document, output));
+  EXPECT_EQ(output, apByteArray("old", 3));
+  EXPECT_FALSE(save(document, file.path()));
+  EXPECT_EQ(file.contents(), "old");
+}
+}
+
+TEST(axsSaving, writes_what_reading_gives_back)
+{
+  auto const document = engine()->createDocument(APSTRING("r"));
+  auto const root = document->getDocumentElement();
+  std::string const value = "&<>\"'\t\n\r \xC2\x85\xE2\x80\xA8]]>";
+  root->setAttribute(APSTRING("a"), wide(value));
+  root->appendChild(document->createTextNode(wide("x" + value)));
+  auto const again = load(saved(document))->getDocumentElement();
+  EXPECT_EQ(narrow(again->getAttribute(APSTRING("a"))), value);
+  EXPECT_EQ(narrow(again->get_text()), "x" + value);
+  auto const from_xml = load(narrow(document->get_xml()))->getDocumentElement();
+  EXPECT_EQ(narrow(from_xml->getAttribute(APSTRING("a"))), value);
+}
+
+TEST(axsSaving, writes_a_cdata_section_as_text_where_it_cannot_be_one)
+{
+  auto const document = load("<r><![CDATA[x]]></r>");
+  auto const text = document->getDocumentElement()->getFirstChild();
+  text->set_text(APSTRING("a]]>b"));
+  EXPECT_EQ(narrow(document->getDocumentElement()->get_xml()), "<r>a]]&gt;b</r>");
+  text->set_text(APSTRING("a\rb"));
+  EXPECT_EQ(narrow(document->getDocumentElement()->get_xml()), "<r>a&#13;b</r>");
+  text->set_text(APSTRING("<"));
+  EXPECT_EQ(narrow(document->getDocumentElement()->get_xml()), "<r><![CDATA[<]]></r>");
+}
+
+TEST(axsSaving, refuses_what_xml_cannot_hold)
+{
+  for (char const* const text : {"\x01", "\x1F", "\xEF\xBF\xBE", "\xEF\xBF\xBF"})
+  {
+    auto const document = engine()->createDocument(APSTRING("r"));
+    auto const root = document->getDocumentElement();
+    auto const node = root->appendChild(document->createTextNode(wide(text)));
+    refuses(document);
+    EXPECT_EQ(narrow(document->get_xml()), "");
+    root->removeChild(node);
+    root->setAttribute(APSTRING("a"), wide(text));
+    refuses(document);
+    root->removeAttribute(APSTRING("a"));
+    root->appendChild(document->createComment(wide(text)));
+    refuses(document);
+  }
+  for (char const* const comment : {"a--b", "-", "a-"})
+  {
+    auto const document = engine()->createDocument(APSTRING("r"));
+    document->appendChild(document->createComment(wide(comment)));
+    refuses(document);
+  }
+  auto const with_instruction = load("<?p x?><r/>");
+  with_instruction->getFirstChild()->set_text(APSTRING("?>"));
+  refuses(with_instruction);
+  auto const without_root = engine()->createDocument(APSTRING("r"));
+  without_root->removeChild(without_root->getDocumentElement());
+  refuses(without_root);
+  refuses(nullptr);
+}
+
+TEST(axsSaving, replaces_a_file_and_leaves_nothing_else_behind)
+{
+  auto const document = engine()->createDocument(APSTRING("r"));
+  for (char const* const name : {"engine save.xml", "engine%20save.xml", "engine_save_\xD1\x84.xml", "engine#save.xml"})
+  {
+    TestFile const file(name, "old");
+    EXPECT_TRUE(save(document, file.path()));
+    EXPECT_EQ(file.contents(), declaration + "<r/>\n");
+  }
+#if !defined(_WIN32)
+  for (auto const& entry : std::filesystem::directory_iterator("."))
+    EXPECT_EQ(entry.path().string().find(".tmp"), std::string::npos) << entry.path();
+#endif
+}
+
+TEST(axsSaving, fails_without_a_folder_or_a_name)
+{
+  auto const document = engine()->createDocument(APSTRING("r"));
+  EXPECT_FALSE(save(document, apPath("no/such/folder/file.xml")));
+  EXPECT_FALSE(apPath("no").exists());
+  EXPECT_FALSE(save(document, apPath("")));
+  EXPECT_FALSE(save(document, apPath(".")));
+}
+
+#if !defined(_WIN32)
+TEST(axsSaving, leaves_the_old_file_when_the_disk_is_full)
+{
+  auto const document = engine()->createDocument(APSTRING("r"));
+  document->getDocumentElement()->set_text(wide(std::string(1000000, 'x')));
+  TestFile const file("engine_full.xml", "old");
+
+  // A process may make files so large and no larger.
+  auto const old_handler = std::signal(SIGXFSZ, SIG_IGN);
+  rlimit old_limit;
+  getrlimit(RLIMIT_FSIZE, &old_limit);
+  rlimit limit = old_limit;
+  limit.rlim_cur = 100000;
+  setrlimit(RLIMIT_FSIZE, &limit);
+  bool const done = save(document, file.path());
+  setrlimit(RLIMIT_FSIZE, &old_limit);
+  std::signal(SIGXFSZ, old_handler);
+
+  EXPECT_FALSE(done);
+  EXPECT_EQ(file.contents(), "old");
+  for (auto const& entry : std::filesystem::directory_iterator("."))
+    EXPECT_EQ(entry.path().string().find("engine_full.xml."), std::string::npos) << entry.path();
+  EXPECT_TRUE(save(document, file.path()));
+}
+#endif
+
+TEST(axsSaving, saves_only_documents_of_its_own)
+{
+  auto const document = engine()->createDocument(APSTRING("r"));
+  EXPECT_EQ(saved(document), declaration + "<r/>\n");
+  EXPECT_EQ(narrow(document->get_xml()), declaration + "<r/>\n");
+  EXPECT_EQ(narrow(document->getDocumentElement()->get_xml()), "<r/>");
+}

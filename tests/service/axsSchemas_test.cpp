@@ -1,0 +1,255 @@
+#include "Engine.h"
+
+namespace
+{
+std::string schema(std::string const& attributes, std::string const& content)
+{
+  return "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' elementFormDefault='qualified'" + attributes + ">\n" +
+         content + "</xs:schema>";
+}
+
+std::string const machine = "<xs:complexType name='XY'><xs:attribute name='Value' type='xs:decimal' use='required'/>"
+                            "</xs:complexType>\n<xs:element name='machine'><xs:complexType><xs:sequence>"
+                            "<xs:element name='XY' type='XY'/></xs:sequence></xs:complexType></xs:element>";
+
+std::string number_schema(std::string const& target, std::string const& element)
+{
+  return schema(" targetNamespace='" + target + "'", "<xs:element name='" + element + "' type='xs:int'/>");
+}
+
+axmLoadOptions plain(apPath const& path)
+{
+  axmLoadOptions options(axmValidateWithSchemas);
+  options.set_no_namespace_schema(path);
+  return options;
+}
+
+axmLoadOptions with(std::initializer_list<std::pair<char const*, apPath>> schemas)
+{
+  axmLoadOptions options(axmValidateWithSchemas);
+  for (auto const& [name_space, path] : schemas)
+    options.add_external_schema(wide(name_space), path);
+  return options;
+}
+}
+
+TEST(axsSchemas, validates_by_namespace_and_without)
+{
+  TestFile const named("engine_named.xsd", schema(" targetNamespace='urn:m' xmlns='urn:m'", machine));
+  TestFile const unnamed("engine_unnamed.xsd", schema("", machine));
+  axmLoadOptions options = with({{"urn:m", named.path()}});
+  options.set_no_namespace_schema(unnamed.path());
+  for (char const* const start : {"<machine>", "<machine xmlns='urn:m'>"})
+  {
+    EXPECT_NE(load(start + std::string("  <XY Value=' 1.2 '/></machine>"), options), nullptr);
+    error_of(start + std::string("  <XY Value='Some Text'/></machine>"), options);
+    error_of(start + std::string("<ZZ/></machine>"), options);
+  }
+  EXPECT_NE(load("<p:machine xmlns:p='urn:m'><p:XY Value='1'/></p:machine>", options), nullptr);
+}
+
+TEST(axsSchemas, names_element_attribute_and_rule_with_their_place)
+{
+  TestFile const file("engine_places.xsd", schema("", machine));
+  axmParseError error = error_of("<machine>\n  <XY Value='Some Text'/></machine>", plain(file.path()));
+  EXPECT_NE(narrow(error.message()).find("attribute 'Value' of element 'XY': "), std::string::npos);
+  EXPECT_NE(narrow(error.message()).find("Some Text"), std::string::npos);
+  EXPECT_EQ(error.line_number(), 2);
+  EXPECT_EQ(error.column_number(), 26);
+  error = error_of("<machine>\n<XY/></machine>", plain(file.path()));
+  EXPECT_EQ(narrow(error.message()), "element 'XY': missing required attribute 'Value'");
+  EXPECT_EQ(error.line_number(), 2);
+  error = error_of("<machine>text<XY Value='1'/></machine>", plain(file.path()));
+  EXPECT_NE(narrow(error.message()).find("'machine'"), std::string::npos);
+  TestFile const document("engine_invalid.xml", "<machine/>");
+  EXPECT_EQ(engine()->loadDocument(document.path(), plain(file.path()), error), nullptr);
+  EXPECT_EQ(narrow(error.url()), document.name);
+}
+
+TEST(axsSchemas, changes_nothing_of_what_is_loaded)
+{
+  TestFile const file("engine_defaults.xsd",
+    schema("", "<xs:element name='r'><xs:complexType mixed='true'><xs:sequence><xs:element name='n' type='xs:token'/>"
+               "</xs:sequence><xs:attribute name='a' type='xs:token'/><xs:attribute name='d' default='x'/>"
+               "</xs:complexType></xs:element>"));
+  auto const document = load("<r a=' 1  2 '> <n>  x  y </n></r>", plain(file.path()));
+  EXPECT_EQ(narrow(document->getDocumentElement()->get_xml()), "<r a=\" 1  2 \"> <n>  x  y </n></r>");
+}
+
+TEST(axsSchemas, sees_white_space_before_it_is_dropped)
+{
+  TestFile const file("engine_white.xsd",
+    schema("", "<xs:element name='r'><xs:simpleType><xs:restriction base='xs:string'><xs:length value='2'/>"
+               "</xs:restriction></xs:simpleType></xs:element>"));
+  EXPECT_NE(load("<r>  </r>", plain(file.path())), nullptr);
+  error_of("<r> </r>", plain(file.path()));
+}
+
+TEST(axsSchemas, a_schema_that_cannot_be_used_fails_the_load_with_its_own_place)
+{
+  axmParseError error = error_of("<r/>", plain(apPath("engine_missing.xsd")));
+  EXPECT_EQ(narrow(error.url()), "engine_missing.xsd");
+  error_of("<r xmlns='urn:other'/>", with({{"urn:m", apPath("engine_missing.xsd")}}));
+
+  TestFile const broken("engine_broken.xsd", schema("", "<xs:element name='r' type='none'/>"));
+  error = error_of("<r/>", plain(broken.path()));
+  EXPECT_EQ(narrow(error.url()), broken.name);
+  EXPECT_EQ(error.line_number(), 2);
+  EXPECT_NE(narrow(error.message()).find("none"), std::string::npos);
+
+  TestFile const no_schema("engine_no_schema.xsd", "<r/>");
+  EXPECT_EQ(narrow(error_of("<r/>", plain(no_schema.path())).url()), no_schema.name);
+  TestFile const no_xml("engine_no_xml.xsd", "text");
+  EXPECT_EQ(narrow(error_of("<r/>", plain(no_xml.path())).url()), no_xml.name);
+  TestFile const empty("engine_empty.xsd", "");
+  EXPECT_EQ(narrow(error_of("<r/>", plain(empty.path())).url()), empty.name);
+  EXPECT_EQ(narrow(error_of("<r/>", plain(apPath("."))).url()), ".");
+
+  TestFile const other("engine_other.xsd", number_schema("urn:a", "r"));
+  EXPECT_NE(narrow(error_of("<r/>", with({{"urn:b", other.path()}})).message()).find("urn:a"), std::string::npos);
+  EXPECT_NE(narrow(error_of("<r/>", plain(other.path())).message()).find("urn:a"), std::string::npos);
+}
+
+TEST(axsSchemas, what_a_schema_includes_must_be_there_and_local)
+{
+  TestFile const missing("engine_includes.xsd", schema("", "<xs:include schemaLocation='engine_none.xsd'/>"));
+  axmParseError error = error_of("<r/>", plain(missing.path()));
+  EXPECT_EQ(narrow(error.url()), missing.name);
+  EXPECT_EQ(error.line_number(), 2);
+  EXPECT_NE(narrow(error.message()).find("engine_none.xsd"), std::string::npos);
+  for (char const* const address : {"http://localhost:1/x.xsd", "https://localhost:1/x.xsd", "ftp://localhost/x.xsd"})
+  {
+    TestFile const remote(
+      "engine_remote.xsd", schema("", "<xs:import namespace='urn:x' schemaLocation='" + std::string(address) + "'/>"));
+    EXPECT_NE(narrow(error_of("<r/>", plain(remote.path())).message()).find(address), std::string::npos);
+  }
+}
+
+TEST(axsSchemas, knows_the_attributes_of_the_xml_namespace)
+{
+  TestFile const file("engine_xml.xsd",
+    schema("", "<xs:import namespace='http://www.w3.org/XML/1998/namespace' "
+               "schemaLocation='http://www.w3.org/2001/xml.xsd'/><xs:element name='r'><xs:complexType>"
+               "<xs:attributeGroup ref='xml:specialAttrs'/></xs:complexType></xs:element>"));
+  EXPECT_NE(load("<r xml:lang='de' xml:space='preserve' xml:base='x' xml:id='i'/>", plain(file.path())), nullptr);
+  error_of("<r xml:space='maybe'/>", plain(file.path()));
+}
+
+TEST(axsSchemas, heeds_no_hints_of_the_document)
+{
+  TestFile const file("engine_hints.xsd", schema("", "<xs:element name='r'/>"));
+  std::string const hint =
+    "xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xsi:schemaLocation='urn:h http://localhost:1/h.xsd' "
+    "xsi:noNamespaceSchemaLocation='engine_none.xsd'";
+  EXPECT_NE(load("<r " + hint + "/>", plain(file.path())), nullptr);
+  EXPECT_NE(load("<h xmlns='urn:h' " + hint + "/>", plain(file.path())), nullptr);
+}
+
+TEST(axsSchemas, a_root_whose_namespace_has_no_schema_loads)
+{
+  TestFile const file("engine_one.xsd", number_schema("urn:a", "r"));
+  axmLoadOptions const options = with({{"urn:a", file.path()}});
+  EXPECT_NE(load("<r>text</r>", options), nullptr);
+  EXPECT_NE(load("<r xmlns='urn:b'>text</r>", options), nullptr);
+  error_of("<r xmlns='urn:a'>text</r>", options);
+  EXPECT_NE(load("<r>text</r>", axmLoadOptions(axmValidateWithSchemas)), nullptr);
+  axmLoadOptions none = options;
+  none.set_validate_mode(axmValidateNone);
+  EXPECT_NE(load("<r xmlns='urn:a'>text</r>", none), nullptr);
+}
+
+TEST(axsSchemas, two_files_for_one_namespace_both_apply)
+{
+  TestFile const one("engine_two_1.xsd", number_schema("urn:a", "one"));
+  TestFile const two("engine_two_2.xsd", number_schema("urn:a", "two"));
+  axmLoadOptions const options = with({{"urn:a", one.path()}, {"urn:a", two.path()}, {"urn:a", one.path()}});
+  for (char const* const name : {"one", "two"})
+  {
+    std::string const tag = name;
+    EXPECT_NE(load("<" + tag + " xmlns='urn:a'>5</" + tag + ">", options), nullptr);
+    error_of("<" + tag + " xmlns='urn:a'>five</" + tag + ">", options);
+  }
+}
+
+TEST(axsSchemas, schemas_of_two_namespaces_apply_together)
+{
+  TestFile const first("engine_ns_1.xsd",
+    schema(" targetNamespace='urn:1' xmlns:t='urn:2'", "<xs:import namespace='urn:2'/><xs:element name='r'>"
+                                                       "<xs:complexType><xs:attribute ref='t:AB'/></xs:complexType>"
+                                                       "</xs:element>"));
+  TestFile const second("engine_ns_2.xsd",
+    schema(" targetNamespace='urn:2'", "<xs:attribute name='AB' type='xs:decimal' use='required'/>"));
+  for (bool const reversed : {false, true})
+  {
+    axmLoadOptions const options = reversed ? with({{"urn:2", second.path()}, {"urn:1", first.path()}})
+                                            : with({{"urn:1", first.path()}, {"urn:2", second.path()}});
+    EXPECT_NE(load("<r xmlns='urn:1' xmlns:b='urn:2' b:AB='0.1'/>", options), nullptr);
+    axmParseError const error = error_of("<r xmlns='urn:1' xmlns:b='urn:2' b:AB='x'/>", options);
+    EXPECT_NE(narrow(error.message()).find("attribute 'b:AB' of element 'r'"), std::string::npos);
+  }
+}
+
+TEST(axsSchemas, a_use_of_a_global_attribute_is_let_pass_if_it_is_legal)
+{
+  for (char const* const use : {"required", "optional", "prohibited"})
+  {
+    TestFile const file("engine_use.xsd",
+      schema("", "<xs:attribute name='a' type='xs:int' use='" + std::string(use) + "'/><xs:element name='r'/>"));
+    EXPECT_NE(load("<r/>", plain(file.path())), nullptr) << use;
+  }
+  TestFile const illegal(
+    "engine_use.xsd", schema("", "<xs:attribute name='a' type='xs:int' use='sometimes'/><xs:element name='r'/>"));
+  EXPECT_EQ(narrow(error_of("<r/>", plain(illegal.path())).url()), illegal.name);
+}
+
+TEST(axsSchemas, takes_file_names_as_they_are_also_in_includes)
+{
+  for (char const* const name : {"engine spaces", "engine\xC2\xA0nb", "engine mixed\xC2\xA0spaces", "engine%20percent",
+         "engine_%", "engine#hash", "engine_\xD1\x84"})
+  {
+    std::string const base = name;
+    TestFile const part(base + " part.xsd", schema("", "<xs:simpleType name='T'><xs:restriction base='xs:int'/>"
+                                                       "</xs:simpleType>"));
+    TestFile const imported(base + " imported.xsd", number_schema("urn:i", "i"));
+    TestFile const whole(base + ".xsd",
+      schema(" xmlns:i='urn:i'", "<xs:include schemaLocation='" + base +
+                                   " part.xsd'/>"
+                                   "<xs:import namespace='urn:i' schemaLocation='" +
+                                   base +
+                                   " imported.xsd'/>"
+                                   "<xs:element name='r'><xs:complexType><xs:sequence><xs:element name='t' type='T'/>"
+                                   "<xs:element ref='i:i'/></xs:sequence></xs:complexType></xs:element>"));
+    EXPECT_NE(load("<r><t>1</t><i xmlns='urn:i'>2</i></r>", plain(whole.path())), nullptr) << name;
+    error_of("<r><t>x</t><i xmlns='urn:i'>2</i></r>", plain(whole.path()));
+    error_of("<r><t>1</t><i xmlns='urn:i'>x</i></r>", plain(whole.path()));
+  }
+  TestFile const part("engine decoded.xsd", schema("", "<xs:element name='r' type='xs:int'/>"));
+  TestFile const whole("engine_decodes.xsd", schema("", "<xs:include schemaLocation='engine%20decoded.xsd'/>"));
+  error_of("<r>x</r>", plain(whole.path()));
+}
+
+TEST(axsSchemas, schemas_that_would_take_minutes_or_the_stack_are_refused)
+{
+  TestFile const repeated("engine_repeated.xsd",
+    schema("", "<xs:element name='r'><xs:complexType><xs:sequence maxOccurs='200'><xs:choice maxOccurs='100'>"
+               "<xs:element name='a'/><xs:element name='b'/></xs:choice></xs:sequence></xs:complexType></xs:element>"));
+  EXPECT_NE(narrow(error_of("<r/>", plain(repeated.path())).message()).find("2000"), std::string::npos);
+  std::string open;
+  std::string close;
+  for (int i = 0; i < 20000; ++i)
+  {
+    open += "<xs:sequence>";
+    close += "</xs:sequence>";
+  }
+  TestFile const nested("engine_nested.xsd",
+    schema("", "<xs:element name='r'><xs:complexType>" + open + close + "</xs:complexType></xs:element>"));
+  EXPECT_NE(narrow(error_of("<r/>", plain(nested.path())).message()).find("500"), std::string::npos);
+}
+
+TEST(axsSchemas, a_document_type_declaration_does_not_disturb_validation)
+{
+  TestFile const file("engine_doctype.xsd", schema("", machine));
+  std::string const doctype = "<!DOCTYPE machine [<!ELEMENT other EMPTY><!ENTITY e '1.2'><!ENTITY t 'text'>]>";
+  EXPECT_NE(load(doctype + "<machine><XY Value='&e;'/></machine>", plain(file.path())), nullptr);
+  error_of(doctype + "<machine><XY Value='&t;'/></machine>", plain(file.path()));
+}

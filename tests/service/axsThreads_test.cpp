@@ -1,0 +1,44 @@
+#include "Engine.h"
+
+#include <atomic>
+#include <thread>
+#include <vector>
+
+TEST(axsThreads, one_factory_serves_many_threads_at_once)
+{
+  TestFile const schema("engine_threads.xsd",
+    "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' targetNamespace='urn:t'>"
+    "<xs:element name='r'><xs:complexType><xs:sequence><xs:element name='n' type='xs:int' maxOccurs='unbounded'/>"
+    "</xs:sequence></xs:complexType></xs:element></xs:schema>");
+  auto const factory = engine();
+  axmLoadOptions options(axmValidateWithSchemas);
+  options.add_external_schema(APSTRING("urn:t"), schema.path());
+
+  std::atomic<int> wrong{0};
+  auto const work = [&](int thread)
+  {
+    for (int i = 0; i < 20; ++i)
+    {
+      std::string text = "<t:r xmlns:t='urn:t'>";
+      for (int j = 0; j < 50; ++j)
+        text += "<n>" + std::to_string(thread * 1000 + j) + "</n>";
+      axmParseError error;
+      auto const good = factory->loadDocument(bytes(text + "</t:r>"), options, error);
+      if (good == nullptr || !error.invalid() || good->getDocumentElement()->getChildNodes()->length() != 50)
+        ++wrong;
+      if (factory->loadDocument(bytes(text + "<n>x</n></t:r>"), options, error) != nullptr || error.invalid())
+        ++wrong;
+      auto const made = factory->createDocument(APSTRING("r"));
+      made->getDocumentElement()->set_attribute(APSTRING("i"), i);
+      apByteArray output;
+      if (!factory->saveDocument(made, output) || output.empty())
+        ++wrong;
+    }
+  };
+  std::vector<std::thread> threads;
+  for (int thread = 0; thread < 4; ++thread)
+    threads.emplace_back(work, thread);
+  for (std::thread& thread : threads)
+    thread.join();
+  EXPECT_EQ(wrong, 0);
+}
