@@ -145,18 +145,6 @@ std::wstring with_point(std::wstring const& number)
   return result;
 }
 
-std::wstring float_number(Directive directive, Arguments& arguments)
-{
-  double const value = va_arg(arguments.list, double);
-  std::wstring number = with_point(formatted(directive, "", value));
-  auto const width = static_cast<std::size_t>(directive.width < 0 ? 0 : directive.width);
-  if (number.empty() || number.size() >= width)
-    return number;
-  // The width was counted in bytes, of which the locale's decimal point has several.
-  directive.width += static_cast<int>(width - number.size());
-  return with_point(formatted(directive, "", value));
-}
-
 std::wstring padded(Directive const& directive, std::wstring text)
 {
   auto const width = static_cast<std::size_t>(directive.width < 0 ? 0 : directive.width);
@@ -265,7 +253,7 @@ std::wstring converted(Directive const& directive, Arguments& arguments)
   case L'%':
     return L"%";
   default:
-    return float_number(directive, arguments);
+    return with_point(formatted(directive, "", va_arg(arguments.list, double)));
   }
 }
 

@@ -147,7 +147,8 @@ TEST(apStringFormatter, pointers)
 TEST(apStringFormatter, width_and_precision_as_arguments)
 {
   EXPECT_EQ(formatted(L"%*d|", 5, 42), L"   42|");
-  EXPECT_EQ(formatted(L"%*d|", -5, 42), L"42   |");
+  EXPECT_EQ(formatted(L"%*d|", -7, 42), L"42     |") << "a negative width is one from the left";
+  EXPECT_EQ(formatted(L"%*%|", INT_MIN), L"%|");
   EXPECT_EQ(formatted(L"%.*f", 1, 1.25), L"1.2");
   EXPECT_EQ(formatted(L"%.*f", -1, 1.5), L"1.500000") << "a negative precision is none";
   EXPECT_EQ(formatted(L"%*.*s|", 4, 2, L"abc"), L"  ab|");

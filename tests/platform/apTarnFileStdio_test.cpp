@@ -147,13 +147,15 @@ TEST(apTarnFileStdio, empty_file_has_size_0)
   path.delete_file();
 }
 
-// The file is a hole but for its last byte, so it takes no room where the system knows holes.
+#if !defined(_WIN32)
+// The file is a hole but for its last byte, so it takes no room. On Windows it would take all of it.
 TEST(apTarnFileStdio, position_that_does_not_fit_an_int_cannot_be_told)
 {
   apPath const path = scratch_path(L"huge.bin");
   std::FILE* const writer = path.file_open(apPath::write_mode());
   ASSERT_NE(writer, nullptr);
-  EXPECT_EQ(std::fseek(writer, INT_MAX, SEEK_SET), 0);
+  // Of more than 32 bits, the lowest of which are a small number.
+  EXPECT_EQ(std::fseek(writer, (1L << 32) + 4, SEEK_SET), 0);
   EXPECT_EQ(std::fputc('x', writer), 'x');
   EXPECT_EQ(std::fclose(writer), 0);
   {
@@ -161,10 +163,15 @@ TEST(apTarnFileStdio, position_that_does_not_fit_an_int_cannot_be_told)
     EXPECT_TRUE(file.seek(0, from_end));
     EXPECT_LT(file.tell(), 0);
     EXPECT_TRUE(file.seek(-1, from_end));
-    EXPECT_EQ(file.tell(), INT_MAX);
+    EXPECT_LT(file.tell(), 0);
     char byte = 0;
     EXPECT_EQ(file.read(&byte, 1, 1), 1);
     EXPECT_EQ(byte, 'x');
+    EXPECT_TRUE(file.seek(INT_MAX, from_start));
+    EXPECT_EQ(file.tell(), INT_MAX);
+    EXPECT_TRUE(file.seek(1, from_here));
+    EXPECT_LT(file.tell(), 0);
   }
   path.delete_file();
 }
+#endif
