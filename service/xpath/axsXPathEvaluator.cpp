@@ -9,8 +9,6 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
-#include <limits>
-#include <unordered_set>
 #include <utility>
 
 namespace
@@ -349,7 +347,7 @@ void axsXPathEvaluator::fresh_nodes(Term const& term, Context const& context, Wa
 
 axsXPathValue const& axsXPathEvaluator::kept_value(int index, Context const& context)
 {
-  std::optional<axsXPathValue>& value = values[static_cast<std::size_t>(term_at(index).kept_value)];
+  std::optional<axsXPathValue>& value = values[static_cast<std::size_t>(term_at(index).kept_value)].value;
   if (!value)
     value = fresh_value(index, context);
   return *value;
@@ -699,6 +697,8 @@ bool axsXPathEvaluator::compare_nodes(Operator how, int nodes, int other, Contex
   }
   std::string other_scratch;
   std::string_view const text = text_of(other, context, other_scratch);
+  if (how == Expression::equal && term_at(nodes).kept_value >= 0)
+    return kept_texts(nodes, context).count(std::string(text)) != 0;
   auto compares = [&](axsXPathNode node)
   { return (tree.string_value(node, node_scratch) == text) == (how == Expression::equal); };
   return visit_nodes(nodes, context, compares);
@@ -710,40 +710,73 @@ bool axsXPathEvaluator::compare_node_sets(Operator how, int left, int right, Con
     return share_text(left, right, context);
   if (how == Expression::not_equal)
     return differ_in_text(left, right, context);
-
-  // Some pair compares if the extremes do.
+  // Some pair compares if the extremes do; without a number they are NaN, which does not compare.
+  Extremes const of_left = extremes_of(left, context);
+  Extremes const of_right = extremes_of(right, context);
   bool const is_less = how == Expression::less || how == Expression::less_equal;
-  double const infinity = std::numeric_limits<double>::infinity();
-  double extreme = std::numeric_limits<double>::quiet_NaN();
-  auto gather = [&](axsXPathNode node)
-  {
-    double const number = number_of_node(node);
-    if (!std::isnan(number) && (std::isnan(extreme) || (is_less ? number < extreme : number > extreme)))
-      extreme = number;
-    return extreme == (is_less ? -infinity : infinity);
-  };
-  visit_nodes(left, context, gather);
-  auto compares = [&](axsXPathNode node) { return holds(how, extreme, number_of_node(node)); };
-  return !std::isnan(extreme) && visit_nodes(right, context, compares);
+  return is_less ? holds(how, of_left.least, of_right.most) : holds(how, of_left.most, of_right.least);
 }
 
 bool axsXPathEvaluator::share_text(int left, int right, Context const& context)
 {
-  std::unordered_set<std::string> texts;
+  if (term_at(right).kept_value < 0)
+    std::swap(left, right);
+  Texts own_texts;
+  if (term_at(right).kept_value < 0)
+    gather_texts(right, context, own_texts);
+  Texts const& texts = term_at(right).kept_value < 0 ? own_texts : kept_texts(right, context);
   std::string scratch;
-  auto gather = [&](axsXPathNode node)
-  {
-    texts.emplace(tree.string_value(node, scratch));
-    return false;
-  };
-  visit_nodes(left, context, gather);
   std::string wanted;
   auto compares = [&](axsXPathNode node)
   {
     wanted = tree.string_value(node, scratch);
     return texts.count(wanted) != 0;
   };
-  return !texts.empty() && visit_nodes(right, context, compares);
+  return !texts.empty() && visit_nodes(left, context, compares);
+}
+
+void axsXPathEvaluator::gather_texts(int index, Context const& context, Texts& texts)
+{
+  std::string scratch;
+  auto gather = [&](axsXPathNode node)
+  {
+    texts.emplace(tree.string_value(node, scratch));
+    return false;
+  };
+  visit_nodes(index, context, gather);
+}
+
+axsXPathEvaluator::Texts const& axsXPathEvaluator::kept_texts(int index, Context const& context)
+{
+  std::optional<Texts>& texts = values[static_cast<std::size_t>(term_at(index).kept_value)].texts;
+  if (!texts)
+  {
+    Texts gathered;
+    gather_texts(index, context, gathered);
+    texts = std::move(gathered);
+  }
+  return *texts;
+}
+
+axsXPathEvaluator::Extremes axsXPathEvaluator::extremes_of(int index, Context const& context)
+{
+  Term const& term = term_at(index);
+  if (term.kept_value >= 0 && values[static_cast<std::size_t>(term.kept_value)].extremes)
+    return *values[static_cast<std::size_t>(term.kept_value)].extremes;
+
+  Extremes extremes;
+  auto gather = [&](axsXPathNode node)
+  {
+    double const number = number_of_node(node);
+    // Of a number and NaN, these give the number.
+    extremes.least = std::fmin(extremes.least, number);
+    extremes.most = std::fmax(extremes.most, number);
+    return false;
+  };
+  visit_nodes(index, context, gather);
+  if (term.kept_value >= 0)
+    values[static_cast<std::size_t>(term.kept_value)].extremes = extremes;
+  return extremes;
 }
 
 bool axsXPathEvaluator::differ_in_text(int left, int right, Context const& context)

@@ -10,10 +10,12 @@
 #include <axsXPathValue.h>
 
 #include <cstddef>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 /// One evaluation of an expression (XPath 1.0).
@@ -84,6 +86,23 @@ private:
 
   using KeptNodes = std::unordered_map<KeptKey, Nodes, KeptHash>;
 
+  using Texts = std::unordered_set<std::string>;
+
+  /// The least and the largest number of a node-set, NaN where there is none.
+  struct Extremes
+  {
+    double least = std::numeric_limits<double>::quiet_NaN();
+    double most = std::numeric_limits<double>::quiet_NaN();
+  };
+
+  /// The one value of a term, and of a node-set what comparing it with many others asks for again and again.
+  struct KeptValue
+  {
+    std::optional<axsXPathValue> value;
+    std::optional<Texts> texts;
+    std::optional<Extremes> extremes;
+  };
+
   bool bind_step(axsXPathExpression::Step const& step, axsElement const* scope, axsXPathTest& test);
 
   // The value of a term, whether it is kept or not, and as the type that the term has.
@@ -121,6 +140,9 @@ private:
   bool compare_nodes(Operator how, int nodes, int other, Context const& context);
   bool compare_node_sets(Operator how, int left, int right, Context const& context);
   bool share_text(int left, int right, Context const& context);
+  void gather_texts(int index, Context const& context, Texts& texts);
+  Texts const& kept_texts(int index, Context const& context);
+  Extremes extremes_of(int index, Context const& context);
   bool differ_in_text(int left, int right, Context const& context);
 
   Term const& term_at(int index) const noexcept { return parsed.terms[static_cast<std::size_t>(index)]; }
@@ -141,7 +163,7 @@ private:
   axsXPathSelector selector;
   Context whole_context;
   std::optional<axsXPathIds> ids;
-  std::vector<std::optional<axsXPathValue>> values;
+  std::vector<KeptValue> values;
   std::vector<KeptNodes> node_tables;
   std::size_t kept_count = 0;
 };

@@ -124,3 +124,18 @@ TEST(XPathLimits, many_siblings_are_sorted_and_counted)
   EXPECT_EQ(value(*document, "name((//b|//a)[2])"), "string b");
   EXPECT_EQ(value(*document, "count(//a[following-sibling::b])"), "number 50000");
 }
+
+TEST(XPathLimits, comparing_many_nodes_with_many_takes_no_quadratic_time)
+{
+  std::string text = "<r>";
+  for (int i = 0; i < 50000; ++i)
+  {
+    std::string const number = std::to_string(i);
+    text += "<a n='" + number + "'/><b n='" + number + "x'/>";
+  }
+  auto const document = load(text + "<b n='7'/></r>");
+  EXPECT_EQ(value(*document, "count(//a[@n = //b/@n])"), "number 1");
+  EXPECT_EQ(value(*document, "count(//a[//b/@n = string(@n)])"), "number 1");
+  EXPECT_EQ(value(*document, "string(//a[not(@n < //a/@n)]/@n)"), "string 49999");
+  EXPECT_EQ(value(*document, "string(//a[not(//a/@n < @n)]/@n)"), "string 0");
+}
