@@ -50,7 +50,7 @@ private:
   void startElement(xercesc::XMLElementDecl const& decl, unsigned int uri, XMLCh const* prefix,
     xercesc::RefVectorOf<xercesc::XMLAttr> const& attributes, XMLSize_t count, bool is_empty, bool is_root) override;
   void startEntityReference(xercesc::XMLEntityDecl const&) override {}
-  void XMLDecl(XMLCh const*, XMLCh const*, XMLCh const*, XMLCh const*) override {}
+  void XMLDecl(XMLCh const* version, XMLCh const*, XMLCh const*, XMLCh const*) override;
 
   void doctypeDecl(
     xercesc::DTDElementDecl const&, XMLCh const*, XMLCh const*, bool has_subset, bool has_external) override;
@@ -181,6 +181,15 @@ void Run::fail(apString const& message) const
   axsReadError error = place();
   error.message = message;
   throw error;
+}
+
+// The parser lets any text pass (XML 1.0, 2.8, [26] VersionNum).
+void Run::XMLDecl(XMLCh const* version, XMLCh const*, XMLCh const*, XMLCh const*)
+{
+  std::string const number = axsUtf16::to_utf8(version);
+  if (number.size() < 3 || number.compare(0, 2, "1.") != 0 ||
+      number.find_first_not_of("0123456789", 2) != std::string::npos)
+    fail(APSTRING("there is no XML version \"") + apString::from_utf8(number) + APSTRING("\""));
 }
 
 void Run::docCharacters(XMLCh const* text, XMLSize_t length, bool cdata)

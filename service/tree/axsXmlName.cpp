@@ -6,7 +6,7 @@
 
 namespace
 {
-// The parser knows names by the tables of the first four editions, which end at U+FFFF.
+// The parser's tables end at U+FFFF: it takes no name with a character beyond.
 bool is_in_tables(wchar_t c)
 {
   return static_cast<wchar_t>(static_cast<XMLCh>(c)) == c;
