@@ -9,7 +9,9 @@
 /// The path of a file or folder: text in Unicode, used as it stands on every system and under every locale.
 ///
 /// A value type; one object belongs to one thread at a time. Nothing in it is decoded or expanded: a percent sign is a
-/// percent sign, and a URL is a strange file name. A path with a NUL in it names nothing. Failures are results.
+/// percent sign, and a URL is a strange file name. A path with a NUL in it names nothing. Failures are results,
+/// but for memory that runs out: that is std::bad_alloc, from the constructors and, where names are wide, from whatever
+/// asks the file system.
 class AP_API apPath
 {
 public:

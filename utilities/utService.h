@@ -31,6 +31,7 @@ public:
   /// The service of class T that is found under `name` or, qualifier after qualifier being taken away from the left,
   /// under what is left of it; a service of another class is passed over. Empty if there is none or `name` is invalid.
   /// On return `resolved` is the name under which the service was found, and invalid if there was none.
+  /// Throws std::bad_alloc when memory runs out, with `resolved` as it was.
   template <class T>
   static std::shared_ptr<T> locate_service(utServiceName const& name, utServiceName& resolved);
 

@@ -22,7 +22,7 @@ public:
   bool invalid() const noexcept;
 
   /// Takes the leftmost qualifier away with the "::" behind it. A name without a qualifier becomes invalid, and an
-  /// invalid one stays so.
+  /// invalid one stays so. Throws std::bad_alloc when memory runs out, and leaves the name as it was.
   void dequalify();
 
   bool operator==(utServiceName const& other) const noexcept;

@@ -8,6 +8,7 @@
 
 #include <cstdio>
 #include <cwchar>
+#include <new>
 
 namespace
 {
@@ -20,6 +21,20 @@ wchar_t decimal_separator()
   std::mbstate_t state{};
   std::mbrtowc(&separator, sample + 1, sizeof sample - 1, &state);
   return separator;
+}
+
+// What `operation` says, false when memory runs out: that is a failure like any other here.
+template <class Operation>
+bool without_throwing(Operation operation)
+{
+  try
+  {
+    return operation();
+  }
+  catch (std::bad_alloc const&)
+  {
+    return false;
+  }
 }
 }
 
@@ -40,15 +55,19 @@ bool axmNode::get_attribute(apString const& name, bool& value) const
 
 bool axmNode::get_attribute(apString const& name, apString& value) const
 {
-  // Handing out the map changes nothing, but its operations are not const.
-  std::shared_ptr<axmNamedNodeMap> const attributes = const_cast<axmNode*>(this)->getAttributes();
-  if (attributes == nullptr)
-    return false;
-  std::shared_ptr<axmNode> const attribute = attributes->getNamedItem(name);
-  if (attribute == nullptr)
-    return false;
-  value = attribute->getNodeValue();
-  return true;
+  return without_throwing(
+    [&]
+    {
+      // Handing out the map changes nothing, but its operations are not const.
+      std::shared_ptr<axmNamedNodeMap> const attributes = const_cast<axmNode*>(this)->getAttributes();
+      if (attributes == nullptr)
+        return false;
+      std::shared_ptr<axmNode> const attribute = attributes->getNamedItem(name);
+      if (attribute == nullptr)
+        return false;
+      value = attribute->getNodeValue();
+      return true;
+    });
 }
 
 bool axmNode::get_attribute(apString const& name, double& value) const
@@ -60,11 +79,15 @@ bool axmNode::get_attribute(apString const& name, double& value) const
   if (separator == L'.')
     return parse_value_locale(text, value);
 
-  apString const locale_point(&separator, 1);
-  if (text.find(locale_point) >= 0)
-    return false;
-  text.replace_all(APSTRING("."), locale_point);
-  return parse_value_locale(text, value);
+  return without_throwing(
+    [&]
+    {
+      apString const locale_point(&separator, 1);
+      if (text.find(locale_point) >= 0)
+        return false;
+      text.replace_all(APSTRING("."), locale_point);
+      return parse_value_locale(text, value);
+    });
 }
 
 bool axmNode::get_attribute(apString const& name, int& value) const
@@ -81,7 +104,7 @@ bool axmNode::get_attribute(apString const& name, int& value) const
 
 bool axmNode::set_attribute(apString const& name, bool value)
 {
-  return set_attribute(name, value ? APSTRING("true") : APSTRING("false"));
+  return without_throwing([&] { return set_attribute(name, value ? APSTRING("true") : APSTRING("false")); });
 }
 
 bool axmNode::set_attribute(apString const& name, apString const& value)
@@ -89,23 +112,27 @@ bool axmNode::set_attribute(apString const& name, apString const& value)
   auto* const element = dynamic_cast<axmElement*>(this);
   if (element == nullptr)
     return false;
-  element->setAttribute(name, value);
-  return true;
+  return without_throwing(
+    [&]
+    {
+      element->setAttribute(name, value);
+      return true;
+    });
 }
 
 bool axmNode::set_attribute(apString const& name, double value)
 {
-  return set_attribute(name, apStringFormatter::format(L"%.16g", value));
+  return without_throwing([&] { return set_attribute(name, apStringFormatter::format(L"%.16g", value)); });
 }
 
 bool axmNode::set_attribute(apString const& name, int value)
 {
-  return set_attribute(name, apStringFormatter::format(L"%d", value));
+  return without_throwing([&] { return set_attribute(name, apStringFormatter::format(L"%d", value)); });
 }
 
 bool axmNode::set_attribute(apString const& name, unsigned int value)
 {
-  return set_attribute(name, apStringFormatter::format(L"%u", value));
+  return without_throwing([&] { return set_attribute(name, apStringFormatter::format(L"%u", value)); });
 }
 
 bool axmNode::get_attribute_locale(apString const& name, double& value) const
@@ -119,7 +146,7 @@ bool axmNode::set_attribute_locale(apString const& name, double value)
   // Sixteen digits, sign, point, exponent: 24 characters, and a decimal point of a few bytes.
   char text[40];
   std::snprintf(text, sizeof text, "%.16g", value);
-  return set_attribute(name, apString(text));
+  return without_throwing([&] { return set_attribute(name, apString(text)); });
 }
 
 bool axmNode::parse_value_locale(apString const& text, double& value) const

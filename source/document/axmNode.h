@@ -88,7 +88,8 @@ public:
   virtual bool operator==(axmNode const& other) const = 0;
 
   /// Typed access to the attributes of an element. On success true; on failure false with `value` as it was: when the
-  /// attribute is absent, the node is not an element, or the text is not of the type.
+  /// attribute is absent, the node is not an element, the text is not of the type, or memory runs out. Neither these nor
+  /// the operations that set an attribute throw.
   /// All of them go through the two operations for texts, which an engine may override.
   ///
   /// - `bool`: exactly "true" or "1", "false" or "0".
@@ -101,8 +102,8 @@ public:
     virtual bool get_attribute(apString const& name, double& value) const,
     virtual bool get_attribute(apString const& name, int& value) const);
 
-  /// Sets an attribute of an element. True on success; false, with nothing changed, on any other node. What the element
-  /// makes of a name that is none is not told.
+  /// Sets an attribute of an element. True on success; false, with nothing changed, on any other node and when memory
+  /// runs out. What the element makes of a name that is none is not told.
   ///
   /// - `bool`: writes "true" or "false".
   /// - `double`: writes "%.16g" with '.' as decimal point under every locale. Sixteen digits do not bring every double
