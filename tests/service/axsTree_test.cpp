@@ -44,7 +44,7 @@ TEST(axsTree, registers_under_both_names)
 TEST(axsTree, creates_nothing_with_a_name_that_is_none)
 {
   auto const document = engine()->createDocument(APSTRING("root"));
-  for (char const* const name : {"", "1a", "a b", "<", "a>", "-a", "a&", "\xC3\x97"})
+  for (char const* const name : {"", "1a", "a b", "<", "a>", "-a", "a&", "\xC3\x97", "a\xC3\x97", "\xEF\xBF\xBE"})
   {
     EXPECT_EQ(document->createElement(wide(name)), nullptr) << name;
     EXPECT_EQ(engine()->createDocument(wide(name)), nullptr) << name;
@@ -52,7 +52,7 @@ TEST(axsTree, creates_nothing_with_a_name_that_is_none)
     root->setAttribute(wide(name), APSTRING("x"));
     EXPECT_FALSE(root->hasAttributes()) << name;
   }
-  for (char const* const name : {"a", "_", "a-b.c1", "\xC3\xA4", "p:q"})
+  for (char const* const name : {"a", "_", "a-b.c1", "\xC3\xA4", "p:q", "\xF0\x90\x80\x80"})
     EXPECT_NE(document->createElement(wide(name)), nullptr) << name;
 }
 
