@@ -132,7 +132,8 @@ bool write(apPath const& path, apByteArray const& bytes, char const* mode)
   std::FILE* const stream = path.file_open(mode);
   if (stream == nullptr)
     return false;
-  std::fwrite(bytes.data(), 1, bytes.size(), stream);
+  if (!bytes.empty())
+    std::fwrite(bytes.data(), 1, bytes.size(), stream);
   return std::fclose(stream) == 0;
 }
 }
