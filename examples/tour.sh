@@ -9,12 +9,17 @@ trap 'rm -rf "$scratch"' EXIT
 # show TEXT ARGUMENT...: says what comes, shows the command as a user types it, and runs it. What a check finds wrong is
 # part of the tour, so its exit code is not an error here.
 show() {
-  local shown
+  local shown='' argument output
   printf '\n%s\n' "$1"
   shift
-  printf -v shown ' %q' "$@"
-  printf '  $ ./run%s\n\n' "${shown//"$scratch"\//}"
-  { "$axm" "$@" 2>&1 || [ $? -eq 1 ]; } | sed 's/^/    /'
+  for argument; do
+    argument=${argument#"$scratch"/}
+    case $argument in *[!A-Za-z0-9@_=./-]*) argument="\"$argument\"" ;; esac
+    shown+=" $argument"
+  done
+  printf '  $ ./run%s\n\n' "$shown"
+  output=$("$axm" "$@" 2>&1) || [ $? -eq 1 ]
+  printf '%s\n' "${output:-(nothing to say: all is good)}" | sed 's/^/    /'
 }
 
 echo "axm at work, on the samples in examples/"
