@@ -31,3 +31,4 @@ build_preset() {
 
 packages_to_build=(g++ cmake ninja-build libcli11-dev libxerces-c-dev)
 packages_to_test=(libgtest-dev locales libxml2-dev abigail-tools clang g++-mingw-w64-x86-64-posix python3)
+packages_to_benchmark=(libpugixml-dev librapidxml-dev libexpat1-dev libxml2-dev)

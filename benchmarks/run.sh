@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# Builds the benchmarks and runs them: reader and engine, each beside other libraries, in one run.
+#   benchmarks/run.sh CALLER [FOLDER]     FOLDER (relative to the folder CALLER) holds documents, *.xml; without it,
+#                                         the benchmarks generate their own
+# Tables and plots are written to build/benchmark/results/.
+set -euo pipefail
+caller=$1
+folder=${2-}
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+source cmake/setup.sh
+
+install_missing "${packages_to_build[@]}" "${packages_to_benchmark[@]}"
+build_preset benchmark
+
+if [ -n "$folder" ]; then
+  folder=$(cd "$caller" && cd "$folder" && pwd)
+fi
+results=build/benchmark/results
+mkdir -p "$results"
+status=0
+build/benchmark/bin/bench_reader ${folder:+"$folder"} --output "$results/reader" || status=1
+if [ -n "$folder" ]; then
+  build/benchmark/bin/document_benchmark "$folder"/*.xml | tee "$results/document.txt" || status=1
+else
+  build/benchmark/bin/document_benchmark | tee "$results/document.txt" || status=1
+fi
+echo "The tables and plots are in $results/."
+exit $status
