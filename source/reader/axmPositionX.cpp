@@ -1,6 +1,7 @@
 #include <axmPositionX.h>
 
 #include "axmOpenTags.h"
+#include "axmPositionSteps.h"
 
 #include <axmCharException.h>
 #include <axmEndException.h>
@@ -31,40 +32,6 @@ bool stands_at(char const* at, char const* pattern, int length)
   }
   return true;
 }
-
-// Takes the pieces of a text as they come and keeps their length and, as long as they lie next to each other, where they
-// are: such a text needs no second look.
-struct Measure
-{
-  char const* begin = "";
-  char const* end = begin;
-  int length = 0;
-  bool one_piece = true;
-
-  void add(char const* from, char const* to)
-  {
-    if (from == to)
-      return;
-    if (length == 0)
-      begin = from;
-    else if (from != end)
-      one_piece = false;
-    end = to;
-    length += static_cast<int>(to - from);
-  }
-};
-
-// Writes the pieces of a text one behind the other.
-struct Writer
-{
-  char* at;
-
-  void add(char const* from, char const* to)
-  {
-    std::memcpy(at, from, static_cast<std::size_t>(to - from));
-    at += to - from;
-  }
-};
 }
 
 axmPositionX::axmPositionX(char* buffer) : current_pos(buffer), object_start(buffer) {}
@@ -150,7 +117,7 @@ void axmPositionX::skip_object()
 
 utString axmPositionX::text_node()
 {
-  return text_of([this](auto& sink) { return pass_text_node(sink); });
+  return text_of([this](auto& sink) { return pass_text_node(sink, [this] { skip_object(); }); });
 }
 
 char* axmPositionX::current() const
@@ -225,7 +192,7 @@ bool axmPositionX::self_closing_tag() const
 
 bool axmPositionX::is_tag_name(utString const& name) const
 {
-  return is_tag_named(axmTagName{name.c_str(), name.c_str() + name.length()});
+  return is_tag_named(axmTagName::of(name));
 }
 
 void axmPositionX::skip_char(char c)
@@ -277,7 +244,7 @@ utString axmPositionX::read_cdata()
 
 utString axmPositionX::find_attribute(utString const& name, utString const& default_value)
 {
-  axmTagName const wanted{name.c_str(), name.c_str() + name.length()};
+  axmTagName const wanted = axmTagName::of(name);
   while (!is_char(' ') && !is_char('>'))
     move_on();
   skip_whitespace();
@@ -302,29 +269,7 @@ utString axmPositionX::find_attribute(utString const& name, utString const& defa
 
 bool axmPositionX::find_sub_tag(utString const& name)
 {
-  for (;;)
-  {
-    skip_whitespace();
-    if (is_opening_tag())
-    {
-      if (is_tag_name(name))
-        return true;
-      skip_object();
-    }
-    else if (is_comment())
-      skip_comment();
-    else if (is_closing_tag())
-    {
-      return_to_start();
-      return false;
-    }
-    else
-    {
-      // One step first: a CDATA section counts as text here, and begins with the very `<` that ends other text.
-      move_on();
-      skip_to('<');
-    }
-  }
+  return find_sub_tag_by(axmTagName::of(name), [this] { skip_object(); });
 }
 
 utString axmPositionX::make_string_from(char const* from) const
@@ -432,79 +377,4 @@ void axmPositionX::return_to_start()
   if (!is_tag_named(name))
     throw_tag_error_x(name.text());
   skip_tag();
-}
-
-template <class Sink>
-void axmPositionX::pass_text(Sink& sink)
-{
-  char const* piece = current_pos;
-  for (;;)
-  {
-    if (is_cdata())
-    {
-      axmTagName const content = skip_cdata();
-      sink.add(content.begin, content.end);
-      piece = current_pos;
-    }
-    else if (is_comment())
-    {
-      sink.add(piece, current_pos);
-      skip_comment();
-      piece = current_pos;
-    }
-    else if (is_char('<'))
-    {
-      sink.add(piece, current_pos);
-      return;
-    }
-    else
-      move_on();
-  }
-}
-
-// Passes what text_node() reads; false if the element ends without a text.
-template <class Sink>
-bool axmPositionX::pass_text_node(Sink& sink)
-{
-  for (;;)
-  {
-    char const* const space = current_pos;
-    skip_whitespace();
-    sink.add(space, current_pos);
-    if (is_opening_tag())
-      skip_object();
-    else if (is_comment())
-      skip_comment();
-    else if (is_closing_tag())
-    {
-      return_to_start();
-      return false;
-    }
-    else
-    {
-      pass_text(sink);
-      return true;
-    }
-  }
-}
-
-// The text that `pass` hands to a sink while it moves on. A text in several pieces is passed twice, so that it can be
-// written straight into its place.
-template <class Pass>
-utString axmPositionX::text_of(Pass pass)
-{
-  char* const start = current_pos;
-  Measure measure;
-  if (!pass(measure))
-    return ut_lit("");
-  if (measure.one_piece)
-    return utString(measure.begin, measure.length);
-
-  current_pos = start;
-  return utString::written(measure.length,
-    [&](char* to)
-    {
-      Writer writer{to};
-      pass(writer);
-    });
 }

@@ -1,20 +1,12 @@
 #include <axmSimpleXmlReader.h>
 
+#include "axmElementWalk.h"
+
 #include <axmException.h>
 
 #include <climits>
 #include <new>
 #include <ostream>
-
-namespace
-{
-// Passes all children that are left, as end_object() does, but those too whose name it takes for none: no tag has a NUL
-// in its name.
-void pass_children(axmPositionX& element)
-{
-  axmPositionXcoPageArrPrgcoPrg const none(element.go_to_sub_tag(utPtrReleaseToCaller, utString("", 1)));
-}
-}
 
 axmSimpleXmlReader::axmSimpleXmlReader(apITarnFilecoPrf const& given)
   : encoding_name(axmAbstractXmlReader::encoding()),
@@ -45,10 +37,10 @@ void axmSimpleXmlReader::up()
   try
   {
     if (depth == 1)
-      pass_children(top());
+      walk->pass_children(top());
     positions.shrink(depth - 1, 0);
     if (depth > 1)
-      top().skip_object();
+      walk->pass_child(top(), depth - 2);
   }
   catch (axmException const& error)
   {
@@ -67,11 +59,12 @@ bool axmSimpleXmlReader::down_to(utString const& name)
   }
   try
   {
-    axmPositionX& parent = positions.count() == 0 ? *initial_position : top();
-    axmPositionXcoPageArrPrgcoPrg child(parent.go_to_sub_tag(utPtrReleaseToCaller, name));
-    if (!child)
+    int const depth = positions.count();
+    axmPositionX child(nullptr);
+    if (!(depth == 0 ? walk->down_to_root(*initial_position, name, child)
+                     : walk->down_to_child(top(), depth - 1, name, child)))
       return false;
-    positions[positions.count()].swap(child);
+    push(child);
     return true;
   }
   catch (axmException const& error)
@@ -87,7 +80,7 @@ utString axmSimpleXmlReader::attribute(utString const& name, utString const& def
     return default_value;
   try
   {
-    return top().attribute(name, default_value);
+    return walk->attribute(top(), name, default_value);
   }
   catch (axmException const& error)
   {
@@ -102,7 +95,7 @@ utString axmSimpleXmlReader::text_node()
     return ut_lit("");
   try
   {
-    return top().text_node();
+    return walk->text_node(top(), positions.count() - 1);
   }
   catch (axmException const& error)
   {
@@ -142,6 +135,7 @@ bool axmSimpleXmlReader::read_bytes(int size)
   // No cursor may outlive the text it reads.
   positions.shrink(0, 0);
   initial_position.reset();
+  walk.reset();
   if (!buffer.expand(size + 1))
     throw std::bad_alloc();
   if (file->read(buffer.data(), 1, size) != size)
@@ -159,6 +153,7 @@ bool axmSimpleXmlReader::read_declaration()
     encoding_name = declaration->encoding();
     if (encoding_name.case_compare(ut_lit("utf-16")) == 0)
       return false;
+    walk = std::make_unique<axmElementWalk>(buffer.data(), buffer.count() - 1);
     initial_position.swap(declaration);
     return true;
   }
@@ -183,4 +178,21 @@ bool axmSimpleXmlReader::is_inside()
 axmPositionX& axmSimpleXmlReader::top()
 {
   return *positions[positions.count() - 1];
+}
+
+// Puts a cursor on the stack, into the one that an earlier way down has left there if there is one.
+void axmSimpleXmlReader::push(axmPositionX const& child)
+{
+  int const depth = positions.count();
+  axmPositionXcoPageArrPrgcoPrg& slot = positions[depth];
+  if (slot)
+  {
+    *slot = child;
+    return;
+  }
+  slot = new (std::nothrow) axmPositionX(child);
+  if (slot)
+    return;
+  positions.shrink(depth, 0);
+  throw std::bad_alloc();
 }

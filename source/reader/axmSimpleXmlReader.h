@@ -8,6 +8,10 @@
 #include <charcoDynArr.h>
 #include <utStringcoPageArr.h>
 
+#include <memory>
+
+class axmElementWalk;
+
 /// The streaming reader of the library: the whole file in memory, and a stack of cursors over it, one for each element
 /// entered.
 ///
@@ -60,6 +64,7 @@ private:
   bool read_declaration();
   bool is_inside();
   axmPositionX& top();
+  void push(axmPositionX const& child);
 
   utString encoding_name;
   axmInitialPositionXcoPrg initial_position;
@@ -68,4 +73,8 @@ private:
   apITarnFilecoPrf file;
   charcoDynArr buffer;
   bool error_flag = false;
+
+  // What has been learnt about the text on the way, all of which could be found again: it makes the walk fast and changes
+  // no answer.
+  std::unique_ptr<axmElementWalk> walk;
 };

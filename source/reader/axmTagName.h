@@ -10,6 +10,8 @@ struct axmTagName
   char const* begin;
   char const* end;
 
+  static axmTagName of(utString const& name) { return {name.c_str(), name.c_str() + name.length()}; }
+
   int length() const noexcept { return static_cast<int>(end - begin); }
 
   utString text() const { return utString(begin, length()); }

@@ -1,0 +1,194 @@
+#include "axmElementWalk.h"
+
+#include "axmPositionSteps.h"
+
+#include <new>
+
+axmElementWalk::axmElementWalk(char const* given, int given_size)
+  : text(const_cast<char*>(given)),
+    size(static_cast<Place>(given_size))
+{
+}
+
+bool axmElementWalk::down_to_root(axmPositionX& document, utString const& name, axmPositionX& root)
+{
+  make_room(0);
+  if (!document.find_sub_tag(name))
+    return false;
+  Place const place = place_of(document);
+  if (index.count() == 0 || index.start(0) != place)
+    index.restart(text, size, place);
+  enter(index.count() == 0 ? axmElementIndex::none : 0, document, root);
+  levels[0] = at_start_of(index.count() == 0 ? axmElementIndex::none : 0);
+  return true;
+}
+
+bool axmElementWalk::down_to_child(axmPositionX& parent, int depth, utString const& name, axmPositionX& child)
+{
+  make_room(depth + 1);
+  Level& level = levels[depth];
+  axmTagName const wanted = axmTagName::of(name);
+  if (!(level.by_itself ? find_child_step_by_step(parent, level, wanted) : find_child(parent, level, wanted)))
+    return false;
+  Id const id = level.by_itself ? index.find(place_of(parent)) : level.upcoming;
+  enter(id, parent, child);
+  levels[depth + 1] = at_start_of(id);
+  return true;
+}
+
+void axmElementWalk::pass_child(axmPositionX& parent, int depth)
+{
+  Id const id = levels[depth + 1].element;
+  if (id == axmElementIndex::none || !index.reach_end(id))
+  {
+    levels[depth].by_itself = true;
+    return parent.skip_object();
+  }
+  parent.current_pos = text + index.end(id);
+  levels[depth].upcoming = index.next(id);
+  levels[depth].passed = id;
+}
+
+void axmElementWalk::pass_children(axmPositionX& root)
+{
+  // No tag has a NUL in its name.
+  static char const no_name[] = "";
+  Level& level = levels[0];
+  axmTagName const none = {no_name, no_name + 1};
+  if (level.by_itself)
+    find_child_step_by_step(root, level, none);
+  else
+    find_child(root, level, none);
+}
+
+utString axmElementWalk::attribute(
+  axmPositionX const& element, utString const& name, utString const& default_value) const
+{
+  return element.attribute(name, default_value);
+}
+
+utString axmElementWalk::text_node(axmPositionX& element, int depth)
+{
+  Level& level = levels[depth];
+  level.upcoming = axmElementIndex::none;
+  return element.text_of([&](auto& sink) { return element.pass_text_node(sink, [&] { skip(element); }); });
+}
+
+// Behind the opening tag of an element. What is read from a self-closing element is not in it.
+axmElementWalk::Level axmElementWalk::at_start_of(Id element) const
+{
+  if (element == axmElementIndex::none || index.is_self_closing(element))
+    return {element, axmElementIndex::none, axmElementIndex::none, true};
+  return {element, element + 1, element, false};
+}
+
+// Moves to the next child of that name by the index.
+bool axmElementWalk::find_child(axmPositionX& parent, Level& level, axmTagName name)
+{
+  if (level.upcoming == axmElementIndex::none)
+    find_upcoming(parent, level);
+  Id const element = level.element;
+  Id child = level.upcoming;
+  Id passed = level.passed;
+  for (;;)
+  {
+    if (!index.reach_child(element, child) || has_markup_in_section(level, passed))
+      return find_child_step_by_step(parent, level, name);
+    if (index.is_closed(element) && child >= index.next(element))
+    {
+      level = at_start_of(element);
+      parent.current_pos = text + index.content(element);
+      return false;
+    }
+    parent.current_pos = text + index.start(child);
+    passed = axmElementIndex::none;
+    if (is_named(child, name))
+    {
+      level.upcoming = child;
+      level.passed = axmElementIndex::none;
+      return true;
+    }
+    if (!index.reach_end(child))
+      return find_child_step_by_step(parent, level, name);
+    parent.current_pos = text + index.end(child);
+    passed = child;
+    child = index.next(child);
+  }
+}
+
+// The same by the steps of the cursor. Where these find something, the element may have been left: a closing tag in a
+// CDATA section is one to them.
+bool axmElementWalk::find_child_step_by_step(axmPositionX& parent, Level& level, axmTagName name)
+{
+  level.by_itself = true;
+  if (parent.find_sub_tag_by(name, [&] { skip(parent); }))
+    return true;
+  level = at_start_of(level.element);
+  return false;
+}
+
+// Finds out where a cursor stands after it has read text: on a tag, or back behind the opening tag.
+void axmElementWalk::find_upcoming(axmPositionX const& cursor, Level& level) const
+{
+  Place const place = place_of(cursor);
+  if (place == index.content(level.element))
+    level = at_start_of(level.element);
+  else
+  {
+    level.upcoming = index.first_from(place);
+    level.passed = axmElementIndex::none;
+  }
+}
+
+bool axmElementWalk::has_markup_in_section(Level const& level, Id passed) const
+{
+  if (passed == axmElementIndex::none)
+    return false;
+  return passed == level.element ? index.has_markup_in_section_at_start(passed)
+                                 : index.has_markup_in_section_behind(passed);
+}
+
+// As axmPositionX::is_tag_name() has it.
+bool axmElementWalk::is_named(Id id, axmTagName name) const
+{
+  char const* const begin = text + index.start(id) + 1;
+  int const length = name.length();
+  for (int i = 0; i < length; ++i)
+  {
+    if (begin[i] == '\0' || begin[i + 1] == '\0')
+      return axmPositionX(text + index.start(id)).is_tag_named(name); // which throws
+    if (begin[i] != name.begin[i])
+      return false;
+  }
+  return true;
+}
+
+// Moves a cursor past the element on which it stands.
+void axmElementWalk::skip(axmPositionX& cursor)
+{
+  Id const id = index.count() == 0 ? axmElementIndex::none : index.find(place_of(cursor));
+  if (id == axmElementIndex::none || !index.reach_end(id))
+    return cursor.skip_object();
+  cursor.current_pos = text + index.end(id);
+}
+
+// Makes `child` stand in the content of the element on which `parent` stands.
+void axmElementWalk::enter(Id id, axmPositionX& parent, axmPositionX& child)
+{
+  child = axmPositionX(parent.current_pos);
+  if (id == axmElementIndex::none)
+    return child.object_setup();
+  child.current_pos = text + index.content(id);
+  child.skip_whitespace();
+}
+
+void axmElementWalk::make_room(int depth)
+{
+  if (!levels.set_count(depth + 1))
+    throw std::bad_alloc();
+}
+
+axmElementWalk::Place axmElementWalk::place_of(axmPositionX const& cursor) const
+{
+  return static_cast<Place>(cursor.current_pos - text);
+}

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "axmElementIndex.h"
+
+#include <axmPositionX.h>
+#include <coDynArr.h>
+
+// Moves the cursors of a reader as they would move themselves, with the help of an index of the elements: an element that
+// has been passed once is never scanned again. Where the index does not tell, the cursors take their own steps.
+//
+// It refers to the text of the reader. Cursors and their depths (0 for that of the outermost element) are the reader's;
+// here is only what can be told again from the cursors and the text. Not installed.
+class axmElementWalk
+{
+public:
+  // A walk over the `size` bytes before the NUL at the end of `text`.
+  axmElementWalk(char const* text, int size);
+
+  // Moves the cursor of the document to the next root element of that name, and makes `root` stand in its content.
+  bool down_to_root(axmPositionX& document, utString const& name, axmPositionX& root);
+
+  // The same for a child, from the cursor at `depth` on.
+  bool down_to_child(axmPositionX& parent, int depth, utString const& name, axmPositionX& child);
+
+  // Moves the cursor at `depth`, which stands on a child, behind that child.
+  void pass_child(axmPositionX& parent, int depth);
+
+  // Moves the cursor at depth 0 past all children that are left, and back behind its opening tag.
+  void pass_children(axmPositionX& root);
+
+  utString attribute(axmPositionX const& element, utString const& name, utString const& default_value) const;
+
+  utString text_node(axmPositionX& element, int depth);
+
+private:
+  using Place = axmElementIndex::Place;
+  using Id = axmElementIndex::Id;
+
+  // What is known about a cursor: its element, and where in the content it stands.
+  struct Level
+  {
+    Id element;     // none where the index does not know it
+    Id upcoming;    // the first child that is not passed yet, as soon as the index has come to it; none if not known
+    Id passed;      // what the cursor stands behind: a child, the opening tag of `element`, or none if that is a tag
+    bool by_itself; // whether the cursor has to take its own steps
+  };
+
+  Level at_start_of(Id element) const;
+  bool find_child(axmPositionX& parent, Level& level, axmTagName name);
+  bool find_child_step_by_step(axmPositionX& parent, Level& level, axmTagName name);
+  void find_upcoming(axmPositionX const& cursor, Level& level) const;
+  bool has_markup_in_section(Level const& level, Id passed) const;
+  bool is_named(Id id, axmTagName name) const;
+  void skip(axmPositionX& cursor);
+  void enter(Id id, axmPositionX& parent, axmPositionX& child);
+  void make_room(int depth);
+
+  Place place_of(axmPositionX const& cursor) const;
+
+  char* text;
+  Place size;
+  axmElementIndex index;
+  coDynArr<Level> levels;
+};
