@@ -1,0 +1,107 @@
+#include "Report.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <iostream>
+
+std::string padded(std::string const& text, std::size_t width)
+{
+  return text.size() < width ? text + std::string(width - text.size(), ' ') : text;
+}
+
+std::string number(double value, int digits)
+{
+  char text[64];
+  std::snprintf(text, sizeof text, "%.*f", digits, value);
+  return text;
+}
+
+Report::Report(std::string const& given) : prefix(given), text(given + ".txt") {}
+
+void Report::line(std::string const& line_text)
+{
+  std::cout << line_text << std::endl;
+  text << line_text << '\n';
+}
+
+void Report::ratios(std::string const& what, std::vector<double> const& values)
+{
+  rows.push_back({what, values});
+}
+
+void Report::target(std::string const& what, double value, double limit, bool at_most)
+{
+  bool const reached = at_most ? value <= limit : value >= limit;
+  line(padded(what, 62) + padded(number(value, 2), 10) + (at_most ? "at most " : "at least ") +
+       padded(number(limit, 2), 8) + (reached ? "yes" : "NO"));
+}
+
+void Report::finish()
+{
+  plot();
+  text.close();
+  written = written && text.good();
+  std::cout << "Written: " << prefix << ".txt, " << prefix << ".svg\n";
+}
+
+namespace
+{
+std::string escaped(std::string const& given)
+{
+  std::string result;
+  for (char const c : given)
+    if (c == '<')
+      result += "&lt;";
+    else if (c == '&')
+      result += "&amp;";
+    else
+      result += c;
+  return result;
+}
+}
+
+// A bar for each contender and row, as long as the time of the contender is in times of the reader, on a scale of powers
+// of two.
+void Report::plot()
+{
+  char const* const colours[] = {"#4477aa", "#66ccee", "#228833", "#ccbb44", "#ee6677", "#aa3377", "#777777"};
+  int const bar = 9;
+  int const left = 330;
+  int const unit = 110;
+  int const group = bar * static_cast<int>(contenders.size()) + 14;
+  int const height = 70 + group * static_cast<int>(rows.size());
+  auto const x = [&](double ratio) { return left + unit * (std::log2(std::clamp(ratio, 0.25, 32.0)) + 2); };
+
+  std::ofstream svg(prefix + ".svg");
+  svg << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"1180\" height=\"" << height
+      << "\" font-family=\"sans-serif\" font-size=\"11\">\n<rect width=\"100%\" height=\"100%\" fill=\"white\"/>\n"
+      << "<text x=\"10\" y=\"18\" font-size=\"13\">Time of each library in times of the reader (right of 1: the reader "
+         "is "
+         "faster)</text>\n";
+  for (std::size_t i = 0; i < contenders.size(); ++i)
+    svg << "<rect x=\"" << 10 + 150 * i << "\" y=\"28\" width=\"9\" height=\"9\" fill=\"" << colours[i % 7]
+        << "\"/><text x=\"" << 23 + 150 * i << "\" y=\"37\">" << escaped(contenders[i]) << "</text>\n";
+  for (double ratio = 0.25; ratio <= 32; ratio *= 2)
+    svg << "<line x1=\"" << x(ratio) << "\" x2=\"" << x(ratio) << "\" y1=\"58\" y2=\"" << height - 6 << "\" stroke=\""
+        << (ratio == 1 ? "black" : "#cccccc") << "\"/><text x=\"" << x(ratio) << "\" y=\"55\" text-anchor=\"middle\">"
+        << ratio << "</text>\n";
+  int y = 64;
+  for (Row const& row : rows)
+  {
+    svg << "<text x=\"" << left - 8 << "\" y=\"" << y + group / 2 << "\" text-anchor=\"end\">" << escaped(row.what)
+        << "</text>\n";
+    for (std::size_t i = 0; i < row.values.size(); ++i)
+    {
+      double const from = std::min(x(1), x(row.values[i]));
+      if (row.values[i] > 0)
+        svg << "<rect x=\"" << from << "\" y=\"" << y + bar * static_cast<int>(i) << "\" width=\""
+            << std::abs(x(row.values[i]) - x(1)) + 1 << "\" height=\"" << bar - 2 << "\" fill=\"" << colours[i % 7]
+            << "\"/>\n";
+    }
+    y += group;
+  }
+  svg << "</svg>\n";
+  svg.close();
+  written = written && svg.good();
+}

@@ -1,0 +1,97 @@
+// Takes the same fields out of the same documents with the streaming reader and with other libraries.
+
+#include "Report.h"
+#include "Task.h"
+#include "measures.h"
+
+#include <axmMarks.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <iostream>
+#include <string>
+#include <vector>
+
+namespace
+{
+struct Options
+{
+  std::string folder;
+  std::string output = "bench-reader";
+  int runs = 9;
+};
+
+char const usage[] =
+  "usage: bench_reader [FOLDER] [--output PREFIX] [--runs N] [--way words|sse2|avx2]\n"
+  "Measures on the documents in FOLDER, or on generated ones, and writes PREFIX.txt and PREFIX.svg.\n";
+
+bool choose_way(std::string const& name)
+{
+  for (auto const& [known, way] : {std::pair<char const*, axmMarks::Way>{"words", axmMarks::words},
+         {"sse2", axmMarks::sse2}, {"avx2", axmMarks::avx2}})
+    if (name == known && axmMarks::has(way))
+    {
+      axmMarks::choose(way);
+      return true;
+    }
+  return false;
+}
+
+bool parse(int argc, char** argv, Options& options)
+{
+  for (int i = 1; i < argc; ++i)
+  {
+    std::string const argument = argv[i];
+    bool const has_value = i + 1 < argc;
+    if (argument == "--output" && has_value)
+      options.output = argv[++i];
+    else if (argument == "--runs" && has_value)
+      options.runs = std::max(1, std::atoi(argv[++i]));
+    else if (argument == "--way" && has_value)
+    {
+      if (!choose_way(argv[++i]))
+        return false;
+    }
+    else if (argument.front() != '-' && options.folder.empty())
+      options.folder = argument;
+    else
+      return false;
+  }
+  return true;
+}
+
+std::vector<std::string> documents_in(std::string const& folder)
+{
+  std::vector<std::string> files;
+  for (auto const& entry : std::filesystem::directory_iterator(folder))
+    if (entry.path().extension() == ".xml")
+      files.push_back(entry.path().string());
+  std::sort(files.begin(), files.end());
+  return files;
+}
+}
+
+int main(int argc, char** argv)
+{
+  Options options;
+  if (!parse(argc, argv, options))
+  {
+    std::cerr << usage;
+    return 2;
+  }
+  try
+  {
+    TemporaryFolder const folder;
+    Report report(options.output);
+    measure_documents(
+      documents_in(options.folder.empty() ? generate_documents(folder) : options.folder), options.runs, report);
+    measure_growth(folder, options.runs, report);
+    report.finish();
+    return report.good() ? 0 : 1;
+  }
+  catch (std::exception const& error)
+  {
+    std::cerr << "bench_reader: " << error.what() << '\n';
+    return 1;
+  }
+}
