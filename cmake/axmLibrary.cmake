@@ -73,13 +73,15 @@ function(axm_add_library name)
     # Installed anywhere, a library finds those below it beside itself.
     INSTALL_RPATH $ORIGIN
     DEFINE_SYMBOL ${upper}_BUILDING)
+  # Nothing is meant to take the place of a function of ours in a program, so ours may be inlined within their library.
+  target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-semantic-interposition>)
   if(NOT BUILD_SHARED_LIBS)
     target_compile_definitions(${name} PUBLIC AXM_STATIC)
   elseif(WIN32)
     # A DLL is found by its file name alone, so that bears the major version.
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_NAME ${name}-${PROJECT_VERSION_MAJOR})
   elseif(NOT APPLE)
-    target_link_options(${name} PRIVATE LINKER:--version-script=${AXM_CMAKE_FOLDER}/exports.map)
+    target_link_options(${name} PRIVATE LINKER:--version-script=${AXM_CMAKE_FOLDER}/exports.map LINKER:-Bsymbolic-functions)
     set_target_properties(${name} PROPERTIES LINK_DEPENDS ${AXM_CMAKE_FOLDER}/exports.map)
   endif()
 

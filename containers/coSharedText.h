@@ -11,7 +11,7 @@
 
 /// The storage of a text: characters with a length, closed by a NUL that does not count, or nothing at all.
 ///
-/// Copies share one block of memory, which goes with the last of them. The count is atomic, so copies may be made, used
+/// Copies share one block of memory, which goes with the last of them; all empty texts with storage share one that stays. The count is atomic, so copies may be made, used
 /// and dropped by several threads, while one and the same object belongs to one thread at a time. The characters are
 /// written once, before the first copy is made. Running out of memory is std::bad_alloc.
 template <class C>
@@ -22,7 +22,7 @@ public:
   coSharedText() noexcept = default;
 
   /// Room for `length` characters (0 or more) that the caller writes through writable().
-  explicit coSharedText(int length) : block(Block::make(length)) {}
+  explicit coSharedText(int length) : block(length == 0 ? const_cast<Block*>(&empty.block) : Block::make(length)) {}
 
   /// A copy of the `length` characters (0 or more) at `text`.
   coSharedText(C const* text, int length) : coSharedText(length)
@@ -96,15 +96,30 @@ private:
     }
   };
 
+  // The storage of every empty text, which is not counted and stays.
+  struct Empty
+  {
+    Block block;
+    C end;
+  };
+
+  inline static Empty const empty{{{1}, 0}, C()};
+
+  static bool is_counted(Block const* block) noexcept { return block != nullptr && block->length != 0; }
+
   static void keep(Block* block) noexcept
   {
-    if (block != nullptr)
+    if (is_counted(block))
       block->owners.fetch_add(1, std::memory_order_relaxed);
   }
 
   static void drop(Block* block) noexcept
   {
-    if (block != nullptr && block->owners.fetch_sub(1, std::memory_order_acq_rel) == 1)
+    if (!is_counted(block))
+      return;
+    // The only owner there is cannot be joined by another one meanwhile, and reading costs less than counting.
+    if (block->owners.load(std::memory_order_acquire) == 1 ||
+        block->owners.fetch_sub(1, std::memory_order_acq_rel) == 1)
       std::free(block);
   }
 

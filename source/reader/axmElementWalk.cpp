@@ -1,11 +1,15 @@
 #include "axmElementWalk.h"
 
+#include "axmFind.h"
 #include "axmPositionSteps.h"
+
+#include <axmEndException.h>
 
 #include <new>
 
 axmElementWalk::axmElementWalk(char const* given, int given_size)
   : text(const_cast<char*>(given)),
+    text_end(given + given_size),
     size(static_cast<Place>(given_size))
 {
 }
@@ -61,17 +65,118 @@ void axmElementWalk::pass_children(axmPositionX& root)
     find_child(root, level, none);
 }
 
-utString axmElementWalk::attribute(
-  axmPositionX const& element, utString const& name, utString const& default_value) const
+utString axmElementWalk::attribute(axmPositionX const& element, utString const& name, utString const& default_value)
 {
-  return element.attribute(name, default_value);
+  axmTagName const wanted = axmTagName::of(name);
+  char const* at = element.object_start;
+  while (*at != ' ' && *at != '>')
+    if (*at++ == '\0')
+      throw axmEndException();
+  at = skip_space(at);
+  while (*at != '>')
+  {
+    if (*at == '/')
+    {
+      Search const& search = search_beyond(at, name);
+      return search.value == nullptr ? default_value
+                                     : utString(search.value, static_cast<int>(search.value_end - search.value));
+    }
+    Attribute const found = read_attribute(at);
+    if (found.name == wanted)
+      return utString(found.value, static_cast<int>(found.value_end - found.value));
+    at = found.behind;
+  }
+  return default_value;
 }
 
 utString axmElementWalk::text_node(axmPositionX& element, int depth)
 {
   Level& level = levels[depth];
   level.upcoming = axmElementIndex::none;
+
+  // Most often a text is all there is up to the next tag.
+  char* at = element.current_pos;
+  while (*at == ' ' || *at == '\t' || *at == '\n' || *at == '\r')
+    ++at;
+  if (*at != '<' && *at != '\0')
+  {
+    char const* const tag = axm_find(at, text_end, '<');
+    if (tag[0] == '<' && tag[1] != '!' && tag[1] != '\0' && tag[2] != '\0')
+    {
+      char const* const begin = element.current_pos;
+      element.current_pos = text + (tag - text);
+      return utString(begin, static_cast<int>(tag - begin));
+    }
+  }
   return element.text_of([&](auto& sink) { return element.pass_text_node(sink, [&] { skip(element); }); });
+}
+
+char const* axmElementWalk::skip_space(char const* at) const
+{
+  while (*at == ' ' || *at == '\t' || *at == '\n' || *at == '\r')
+    ++at;
+  if (*at == '\0')
+    throw axmEndException();
+  return at;
+}
+
+// The attribute at `at`, as axmPositionX::find_attribute() takes it.
+axmElementWalk::Attribute axmElementWalk::read_attribute(char const* at) const
+{
+  char const* const name_end = axm_find(at, text_end, '=');
+  if (*name_end == '\0' || name_end[1] == '\0' || name_end[2] == '\0')
+    throw axmEndException();
+  char const* const value = name_end + 2;
+  char const* const value_end = axm_find(value, text_end, name_end[1]);
+  if (*value_end == '\0' || value_end[1] == '\0')
+    throw axmEndException();
+  return {{at, name_end}, value, value_end, skip_space(value_end + 1)};
+}
+
+// What a search for `name` from `at` on, a place behind an attribute, comes to.
+axmElementWalk::Search const& axmElementWalk::search_beyond(char const* at, utString const& name)
+{
+  Search& known = search_of(name);
+  if (known.at <= at && at <= known.end)
+  {
+    while (known.at < at)
+      known.at = read_attribute(known.at).behind;
+    if (known.at == at)
+      return known;
+  }
+
+  axmTagName const wanted = axmTagName::of(name);
+  Search search = {name, at, at, nullptr, nullptr};
+  while (*search.end != '>')
+  {
+    Attribute const found = read_attribute(search.end);
+    if (found.name == wanted)
+    {
+      search.value = found.value;
+      search.value_end = found.value_end;
+      break;
+    }
+    search.end = found.behind;
+  }
+  return search_of(name) = search;
+}
+
+// What is kept for `name`. Whoever looks for very many names that are not there gets the place of another one.
+axmElementWalk::Search& axmElementWalk::search_of(utString const& name)
+{
+  std::size_t const most = 64;
+  axmTagName const wanted = axmTagName::of(name);
+  for (Search& search : searches)
+    if (axmTagName::of(search.name) == wanted)
+      return search;
+  Search const nothing = {name, text_end, nullptr, nullptr, nullptr};
+  if (searches.size() < most)
+  {
+    searches.push_back(nothing);
+    return searches.back();
+  }
+  next_search = (next_search + 1) % most;
+  return searches[next_search] = nothing;
 }
 
 // Behind the opening tag of an element. What is read from a self-closing element is not in it.
@@ -152,8 +257,7 @@ bool axmElementWalk::has_markup_in_section(Level const& level, Id passed) const
 bool axmElementWalk::is_named(Id id, axmTagName name) const
 {
   char const* const begin = text + index.start(id) + 1;
-  int const length = name.length();
-  for (int i = 0; i < length; ++i)
+  for (std::ptrdiff_t i = 0; i < name.end - name.begin; ++i)
   {
     if (begin[i] == '\0' || begin[i + 1] == '\0')
       return axmPositionX(text + index.start(id)).is_tag_named(name); // which throws
@@ -178,8 +282,7 @@ void axmElementWalk::enter(Id id, axmPositionX& parent, axmPositionX& child)
   child = axmPositionX(parent.current_pos);
   if (id == axmElementIndex::none)
     return child.object_setup();
-  child.current_pos = text + index.content(id);
-  child.skip_whitespace();
+  child.current_pos = text + (skip_space(text + index.content(id)) - text);
 }
 
 void axmElementWalk::make_room(int depth)

@@ -1,9 +1,14 @@
 #pragma once
 
 #include "axmElementIndex.h"
+#include "axmTagName.h"
 
 #include <axmPositionX.h>
 #include <coDynArr.h>
+#include <utString.h>
+
+#include <cstddef>
+#include <vector>
 
 // Moves the cursors of a reader as they would move themselves, with the help of an index of the elements: an element that
 // has been passed once is never scanned again. Where the index does not tell, the cursors take their own steps.
@@ -28,7 +33,7 @@ public:
   // Moves the cursor at depth 0 past all children that are left, and back behind its opening tag.
   void pass_children(axmPositionX& root);
 
-  utString attribute(axmPositionX const& element, utString const& name, utString const& default_value) const;
+  utString attribute(axmPositionX const& element, utString const& name, utString const& default_value);
 
   utString text_node(axmPositionX& element, int depth);
 
@@ -45,6 +50,32 @@ private:
     bool by_itself; // whether the cursor has to take its own steps
   };
 
+  // The search for an attribute beyond its tag, which a self-closing tag without that attribute sends on its way. From
+  // the place behind an attribute on, it depends on that place and the name alone: a search that comes to a place where
+  // an earlier one has been ends as that one did. Of the earlier one it is enough to follow its way, once.
+  struct Search
+  {
+    utString name;
+    char const* at;    // a place on its way
+    char const* end;   // the last one
+    char const* value; // what it found, null if it found nothing
+    char const* value_end;
+  };
+
+  // An attribute as it stands in a tag, and the place behind it.
+  struct Attribute
+  {
+    axmTagName name;
+    char const* value;
+    char const* value_end;
+    char const* behind;
+  };
+
+  Attribute read_attribute(char const* at) const;
+  char const* skip_space(char const* at) const;
+  Search const& search_beyond(char const* at, utString const& name);
+  Search& search_of(utString const& name);
+
   Level at_start_of(Id element) const;
   bool find_child(axmPositionX& parent, Level& level, axmTagName name);
   bool find_child_step_by_step(axmPositionX& parent, Level& level, axmTagName name);
@@ -58,7 +89,10 @@ private:
   Place place_of(axmPositionX const& cursor) const;
 
   char* text;
+  char const* text_end; // the NUL
   Place size;
   axmElementIndex index;
   coDynArr<Level> levels;
+  std::vector<Search> searches;
+  std::size_t next_search = 0;
 };

@@ -11,10 +11,7 @@
 class AXM_API axmInitialPositionX : public axmPositionX
 {
 public:
-  axmInitialPositionX(char* buffer);
-  axmInitialPositionX(axmInitialPositionX const& other);
-  axmInitialPositionX& operator=(axmInitialPositionX const& other);
-  ~axmInitialPositionX();
+  axmInitialPositionX(char* buffer) : axmPositionX(buffer) {}
 
   /// The version as it is written.
   utString version();
