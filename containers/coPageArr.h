@@ -176,7 +176,12 @@ protected:
   /// 1 on success, 0 when memory runs out; pages made until then stay.
   int get_block(int block) noexcept
   {
-    if (!directory.set_count(std::max(block + 1, pages_allocated)))
+    if (block < pages_allocated)
+    {
+      switch_block(block);
+      return 1;
+    }
+    if (!directory.set_count(block + 1))
       return 0;
     while (pages_allocated <= block)
     {

@@ -3,7 +3,9 @@
 #include <coSharedText.h>
 #include <utExport.h>
 
+#include <cstddef>
 #include <iosfwd>
+#include <string_view>
 
 /// Narrow text: bytes with a length, closed by a NUL that does not count.
 ///
@@ -45,6 +47,9 @@ public:
 
   /// The number of bytes; 0 without storage.
   int length() const noexcept;
+
+  /// All bytes, without the NUL behind them; they live as those of c_str().
+  std::string_view view() const noexcept { return {text.data(), static_cast<std::size_t>(text.length())}; }
 
   /// Whether there is storage, be it of an empty text.
   bool has_storage() const noexcept;

@@ -18,22 +18,29 @@ int lowest_bit(std::uint64_t mask)
 #endif
 }
 
-// Most names are short, which a call is not worth.
-bool are_equal(char const* one, char const* other, std::uint32_t length)
+std::uint64_t word_at(char const* at)
 {
-  for (; length >= 8; length -= 8, one += 8, other += 8)
-  {
-    std::uint64_t left;
-    std::uint64_t right;
-    std::memcpy(&left, one, 8);
-    std::memcpy(&right, other, 8);
-    if (left != right)
-      return false;
-  }
-  for (std::uint32_t i = 0; i < length; ++i)
-    if (one[i] != other[i])
-      return false;
-  return true;
+  std::uint64_t word;
+  std::memcpy(&word, at, sizeof word);
+  return word;
+}
+
+// Whether `length` bytes are equal, where `readable` bytes can be read at `other` and more at `one`. Most names are so
+// short that a call of the C library is too much.
+inline bool are_equal(char const* one, char const* other, std::uint32_t length, std::uint32_t readable)
+{
+  if (length > 16 || readable < 8)
+    return std::memcmp(one, other, length) == 0;
+  if (length >= 8)
+    return ((word_at(one) ^ word_at(other)) | (word_at(one + length - 8) ^ word_at(other + length - 8))) == 0;
+  if (length == 0)
+    return true;
+  std::uint64_t const difference = word_at(one) ^ word_at(other);
+#if defined(__BYTE_ORDER__) && __BYTE_ORDER__ == __ORDER_BIG_ENDIAN__
+  return difference >> (64 - 8 * length) == 0;
+#else
+  return difference << (64 - 8 * length) == 0;
+#endif
 }
 
 std::uint32_t name_end(char const* text, std::uint32_t at)
@@ -54,14 +61,13 @@ void axmElementIndex::restart(char const* given, Place given_size, Place root)
   last_closed = none;
   block = axmMarks::blocks; // no marks of this text are known yet
   seek(root);
-  // The root is the first mark, and an opening tag.
-  pass_opening_tag(next_mark());
+  pass(0, none);
 }
 
 axmElementIndex::Id axmElementIndex::find(Place place)
 {
   while (!halted && frontier <= place)
-    pass_tag();
+    pass(used, none);
   Id const id = first_from(place);
   return id < used && start(id) == place ? id : none;
 }
@@ -81,65 +87,111 @@ axmElementIndex::Id axmElementIndex::first_from(Place place) const
   return low;
 }
 
-// Passes the next tag, and any comment and section before it; false when the pass halts instead.
-bool axmElementIndex::pass_tag()
+// Goes on until there is an element `wanted` or `parent` is closed; false when the pass halts before. What changes with
+// every tag is kept at hand meanwhile.
+bool axmElementIndex::pass(Id const wanted, Id const parent)
 {
   if (halted)
     return false;
+
+  char const* const bytes = text;
+  std::uint64_t bits = block_marks;
+  Place block_begin = marks_begin + static_cast<Place>(block * axmMarks::block_bytes);
+  Id innermost = open;
+  Id closed = last_closed;
+  Id count_so_far = used;
+
+  // The place of the next `<`, `>` or NUL.
+  auto const next_mark = [&]
+  {
+    while (bits == 0)
+    {
+      if (++block == axmMarks::blocks)
+      {
+        marks_begin += axmMarks::bytes;
+        find_marks();
+        block = 0;
+      }
+      block_begin = marks_begin + static_cast<Place>(block * axmMarks::block_bytes);
+      bits = marks[block];
+    }
+    Place const at = block_begin + static_cast<Place>(lowest_bit(bits));
+    bits &= bits - 1;
+    return at;
+  };
+  auto const put_back = [&]
+  {
+    block_marks = bits;
+    open = innermost;
+    last_closed = closed;
+    used = count_so_far;
+  };
+
   for (;;)
   {
-    Place const at = next_mark();
-    char const mark = text[at];
-    if (mark == '>')
+    Place at = next_mark();
+    while (bytes[at] == '>')
+      at = next_mark();
+    if (bytes[at] == '\0')
+      break;
+
+    char const kind = bytes[at + 1];
+    if (kind == '!' && (std::strncmp(bytes + at, "<!--", 4) == 0 || std::strncmp(bytes + at, "<![CDATA[", 9) == 0))
+    {
+      put_back();
+      if (!pass_special(at))
+        return halt();
+      bits = block_marks;
+      block_begin = marks_begin + static_cast<Place>(block * axmMarks::block_bytes);
       continue;
-    if (mark == '\0')
-      return halt();
-    char const kind = text[at + 1];
+    }
+
+    Place tag_end = next_mark();
+    while (bytes[tag_end] == '<')
+      tag_end = next_mark();
+    // What is left must be more than the tag.
+    if (bytes[tag_end] == '\0' || bytes[tag_end + 1] == '\0')
+      break;
+
     if (kind == '/')
-      return pass_closing_tag(at);
-    if (kind != '!')
-      return pass_opening_tag(at);
-    if (std::strncmp(text + at, "<!--", 4) != 0 && std::strncmp(text + at, "<![CDATA[", 9) != 0)
-      return pass_opening_tag(at);
-    if (!pass_special(at))
-      return halt();
+    {
+      Entry& passed = entry(innermost);
+      if (!matches(passed, at + 2, tag_end))
+        break;
+      closed = innermost;
+      innermost = passed.next;
+      passed.end = tag_end + 1;
+      passed.next = count_so_far;
+    }
+    else
+    {
+      if (count_so_far >> page_shift == pages.size() && !make_room())
+        break;
+      Entry& opened = entry(count_so_far);
+      if (bytes[tag_end - 1] == '/')
+      {
+        closed = count_so_far;
+        opened = {at, tag_end + 1, tag_end + 1, count_so_far + 1};
+      }
+      else
+      {
+        opened = {at, tag_end + 1, 0, innermost};
+        innermost = count_so_far;
+        closed = none;
+      }
+      ++count_so_far;
+    }
+    frontier = tag_end + 1;
+    if (innermost == none)
+      halted = true; // the root is closed, and is all there is
+    if (wanted < count_so_far || (parent == closed && closed != none) || halted)
+    {
+      put_back();
+      return true;
+    }
   }
-}
-
-bool axmElementIndex::pass_opening_tag(Place at)
-{
-  Place const tag_end = next_tag_end();
-  if (tag_end == 0 || !add(at, tag_end + 1))
-    return halt();
-  Id const id = used - 1;
-  if (text[tag_end - 1] == '/')
-  {
-    entry(id).end = tag_end + 1;
-    entry(id).next = used;
-    last_closed = id;
-    if (id == 0)
-      halted = true; // the root is all there is
-    return true;
-  }
-  entry(id).next = open;
-  open = id;
-  last_closed = none;
-  return true;
-}
-
-bool axmElementIndex::pass_closing_tag(Place at)
-{
-  Place const tag_end = next_tag_end();
-  if (tag_end == 0 || !matches_open_tag(at + 2, tag_end))
-    return halt();
-  Entry& closed = entry(open);
-  last_closed = open;
-  open = closed.next;
-  closed.end = tag_end + 1;
-  closed.next = used;
-  if (last_closed == 0)
-    halted = true; // the root is all there is
-  return true;
+  put_back();
+  return halt();
 }
 
 // Passes a comment or a CDATA section.
@@ -177,75 +229,38 @@ bool axmElementIndex::pass_marked(Place from, char mark, Place& behind) const
   }
 }
 
-// Whether the name that ends at the first space from `name` on, at `tag_end` at the latest, is that of the innermost open
-// element.
-bool axmElementIndex::matches_open_tag(Place name, Place tag_end) const
+// Whether the name that ends at the first space from `name` on, at `tag_end` at the latest, is that of an opened element.
+inline bool axmElementIndex::matches(Entry const& opened, Place name, Place tag_end) const
 {
-  char const* const open_name = text + start(open) + 1;
+  char const* const open_name = text + opened.start + 1;
   Place const length = tag_end - name;
   // Without a space in the name, which is the rule, its length need not be looked for; with one, names that are equal
   // beyond it are equal up to it.
-  if (are_equal(open_name, text + name, length) && (open_name[length] == '>' || open_name[length] == ' '))
+  if (are_equal(open_name, text + name, length, size - name) && (open_name[length] == '>' || open_name[length] == ' '))
     return true;
   Place const name_length = name_end(text, name) - name;
   Place const open_length = name_end(open_name, 0);
   return name_length == open_length && std::memcmp(open_name, text + name, name_length) == 0;
 }
 
-bool axmElementIndex::add(Place start, Place content)
+bool axmElementIndex::make_room()
 {
-  if (used >> page_shift == pages.size())
-    try
-    {
-      std::unique_ptr<Entry[]> page(new Entry[1u << page_shift]);
-      pages.push_back(std::move(page));
-    }
-    catch (std::bad_alloc const&)
-    {
-      return false;
-    }
-  entry(used) = {start, content, 0, none};
-  ++used;
-  return true;
+  try
+  {
+    std::unique_ptr<Entry[]> page(new Entry[1u << page_shift]);
+    pages.push_back(std::move(page));
+    return true;
+  }
+  catch (std::bad_alloc const&)
+  {
+    return false;
+  }
 }
 
 bool axmElementIndex::halt()
 {
   halted = true;
   return false;
-}
-
-// The place of the next `<`, `>` or NUL.
-axmElementIndex::Place axmElementIndex::next_mark()
-{
-  while (block_marks == 0)
-  {
-    if (++block == axmMarks::blocks)
-    {
-      marks_begin += axmMarks::bytes;
-      find_marks();
-      block = 0;
-    }
-    block_marks = marks[block];
-  }
-  auto const bit = static_cast<Place>(lowest_bit(block_marks));
-  block_marks &= block_marks - 1;
-  return marks_begin + static_cast<Place>(block * axmMarks::block_bytes) + bit;
-}
-
-// The place of the next `>`; 0 if the document ends before it or with it.
-axmElementIndex::Place axmElementIndex::next_tag_end()
-{
-  for (;;)
-  {
-    Place const at = next_mark();
-    if (text[at] == '<')
-      continue;
-    if (text[at] == '\0' || text[at + 1] == '\0')
-      return 0;
-    frontier = at + 1;
-    return at;
-  }
 }
 
 // Goes on from `place`.

@@ -52,22 +52,10 @@ public:
   bool has_markup_in_section_behind(Id id) const { return (entry(id).end & flag) != 0; }
 
   // Goes on until there is an element `id` or `parent` is closed; false when the pass halts before.
-  bool reach_child(Id parent, Id id)
-  {
-    while (id >= used && !is_closed(parent))
-      if (!pass_tag())
-        return false;
-    return true;
-  }
+  bool reach_child(Id parent, Id id) { return id < used || is_closed(parent) || pass(id, parent); }
 
   // Goes on until the element is closed; false when the pass halts before.
-  bool reach_end(Id id)
-  {
-    while (!is_closed(id))
-      if (!pass_tag())
-        return false;
-    return true;
-  }
+  bool reach_end(Id id) { return is_closed(id) || pass(none, id); }
 
   // The element that begins at `place`, none if the pass knows of none there.
   Id find(Place place);
@@ -92,17 +80,12 @@ private:
   Entry const& entry(Id id) const { return pages[id >> page_shift][id & ((1u << page_shift) - 1)]; }
   Entry& entry(Id id) { return pages[id >> page_shift][id & ((1u << page_shift) - 1)]; }
 
-  bool pass_tag();
-  bool pass_opening_tag(Place at);
-  bool pass_closing_tag(Place at);
+  bool pass(Id wanted, Id parent);
   bool pass_special(Place at);
   bool pass_marked(Place from, char mark, Place& behind) const;
-  bool matches_open_tag(Place name, Place name_end) const;
-  bool add(Place start, Place content);
+  bool matches(Entry const& opened, Place name, Place tag_end) const;
+  bool make_room();
   bool halt();
-
-  Place next_mark();
-  Place next_tag_end();
   void seek(Place place);
   void find_marks();
 

@@ -7,6 +7,14 @@
 
 #include <new>
 
+namespace
+{
+utString text_between(char const* begin, char const* end)
+{
+  return utString(begin, static_cast<int>(end - begin));
+}
+}
+
 axmElementWalk::axmElementWalk(char const* given, int given_size)
   : text(const_cast<char*>(given)),
     text_end(given + given_size),
@@ -65,26 +73,74 @@ void axmElementWalk::pass_children(axmPositionX& root)
     find_child(root, level, none);
 }
 
-utString axmElementWalk::attribute(axmPositionX const& element, utString const& name, utString const& default_value)
+inline char const* axmElementWalk::skip_space(char const* at) const
 {
-  axmTagName const wanted = axmTagName::of(name);
-  char const* at = element.object_start;
+  while (*at == ' ' || *at == '\t' || *at == '\n' || *at == '\r')
+    ++at;
+  if (*at == '\0')
+    throw axmEndException();
+  return at;
+}
+
+// The place where the attributes of a tag begin.
+inline char const* axmElementWalk::first_attribute(char const* start) const
+{
+  char const* at = start;
   while (*at != ' ' && *at != '>')
     if (*at++ == '\0')
       throw axmEndException();
-  at = skip_space(at);
+  return skip_space(at);
+}
+
+// The attribute at `at`, as axmPositionX::find_attribute() takes it.
+inline void axmElementWalk::read_attribute(char const* at, Attribute& found) const
+{
+  char const* const name_end = axm_find(at, text_end, '=');
+  if (*name_end == '\0' || name_end[1] == '\0' || name_end[2] == '\0')
+    throw axmEndException();
+  char const* const value = name_end + 2;
+  char const* const value_end = axm_find(value, text_end, name_end[1]);
+  if (*value_end == '\0' || value_end[1] == '\0')
+    throw axmEndException();
+  found.name = {at, name_end};
+  found.value = value;
+  found.value_end = value_end;
+  found.behind = skip_space(value_end + 1);
+}
+
+utString axmElementWalk::attribute(axmPositionX const& element, utString const& name, utString const& default_value)
+{
+  if (tag.start != element.object_start)
+  {
+    tag.start = nullptr;
+    tag.rest = first_attribute(element.object_start);
+    tag.start = element.object_start;
+    tag.count = 0;
+  }
+
+  axmTagName const wanted = axmTagName::of(name);
+  for (Attribute const* known = tag.attributes; known != tag.attributes + tag.count; ++known)
+    if (known->name == wanted)
+      return text_between(known->value, known->value_end);
+
+  char const* at = tag.rest;
   while (*at != '>')
   {
     if (*at == '/')
     {
       Search const& search = search_beyond(at, name);
-      return search.value == nullptr ? default_value
-                                     : utString(search.value, static_cast<int>(search.value_end - search.value));
+      return search.value == nullptr ? default_value : text_between(search.value, search.value_end);
     }
-    Attribute const found = read_attribute(at);
-    if (found.name == wanted)
-      return utString(found.value, static_cast<int>(found.value_end - found.value));
+    Attribute& found = tag.attributes[tag.count];
+    read_attribute(at, found);
     at = found.behind;
+    if (tag.count < Tag::most)
+    {
+      ++tag.count;
+      tag.rest = at;
+    }
+    if (found.name == wanted)
+      return text_between(found.value, found.value_end);
   }
   return default_value;
 }
@@ -100,47 +156,29 @@ utString axmElementWalk::text_node(axmPositionX& element, int depth)
     ++at;
   if (*at != '<' && *at != '\0')
   {
-    char const* const tag = axm_find(at, text_end, '<');
-    if (tag[0] == '<' && tag[1] != '!' && tag[1] != '\0' && tag[2] != '\0')
+    char const* const next = axm_find(at, text_end, '<');
+    if (next[0] == '<' && next[1] != '!' && next[1] != '\0' && next[2] != '\0')
     {
       char const* const begin = element.current_pos;
-      element.current_pos = text + (tag - text);
-      return utString(begin, static_cast<int>(tag - begin));
+      element.current_pos = text + (next - text);
+      return text_between(begin, next);
     }
   }
   return element.text_of([&](auto& sink) { return element.pass_text_node(sink, [&] { skip(element); }); });
-}
-
-char const* axmElementWalk::skip_space(char const* at) const
-{
-  while (*at == ' ' || *at == '\t' || *at == '\n' || *at == '\r')
-    ++at;
-  if (*at == '\0')
-    throw axmEndException();
-  return at;
-}
-
-// The attribute at `at`, as axmPositionX::find_attribute() takes it.
-axmElementWalk::Attribute axmElementWalk::read_attribute(char const* at) const
-{
-  char const* const name_end = axm_find(at, text_end, '=');
-  if (*name_end == '\0' || name_end[1] == '\0' || name_end[2] == '\0')
-    throw axmEndException();
-  char const* const value = name_end + 2;
-  char const* const value_end = axm_find(value, text_end, name_end[1]);
-  if (*value_end == '\0' || value_end[1] == '\0')
-    throw axmEndException();
-  return {{at, name_end}, value, value_end, skip_space(value_end + 1)};
 }
 
 // What a search for `name` from `at` on, a place behind an attribute, comes to.
 axmElementWalk::Search const& axmElementWalk::search_beyond(char const* at, utString const& name)
 {
   Search& known = search_of(name);
+  Attribute found;
   if (known.at <= at && at <= known.end)
   {
     while (known.at < at)
-      known.at = read_attribute(known.at).behind;
+    {
+      read_attribute(known.at, found);
+      known.at = found.behind;
+    }
     if (known.at == at)
       return known;
   }
@@ -149,7 +187,7 @@ axmElementWalk::Search const& axmElementWalk::search_beyond(char const* at, utSt
   Search search = {name, at, at, nullptr, nullptr};
   while (*search.end != '>')
   {
-    Attribute const found = read_attribute(search.end);
+    read_attribute(search.end, found);
     if (found.name == wanted)
     {
       search.value = found.value;
@@ -188,7 +226,7 @@ axmElementWalk::Level axmElementWalk::at_start_of(Id element) const
 }
 
 // Moves to the next child of that name by the index.
-bool axmElementWalk::find_child(axmPositionX& parent, Level& level, axmTagName name)
+bool axmElementWalk::find_child(axmPositionX& parent, Level& level, axmTagName const& name)
 {
   if (level.upcoming == axmElementIndex::none)
     find_upcoming(parent, level);
@@ -223,7 +261,7 @@ bool axmElementWalk::find_child(axmPositionX& parent, Level& level, axmTagName n
 
 // The same by the steps of the cursor. Where these find something, the element may have been left: a closing tag in a
 // CDATA section is one to them.
-bool axmElementWalk::find_child_step_by_step(axmPositionX& parent, Level& level, axmTagName name)
+bool axmElementWalk::find_child_step_by_step(axmPositionX& parent, Level& level, axmTagName const& name)
 {
   level.by_itself = true;
   if (parent.find_sub_tag_by(name, [&] { skip(parent); }))
@@ -254,14 +292,14 @@ bool axmElementWalk::has_markup_in_section(Level const& level, Id passed) const
 }
 
 // As axmPositionX::is_tag_name() has it.
-bool axmElementWalk::is_named(Id id, axmTagName name) const
+inline bool axmElementWalk::is_named(Id id, axmTagName const& name) const
 {
-  char const* const begin = text + index.start(id) + 1;
-  for (std::ptrdiff_t i = 0; i < name.end - name.begin; ++i)
+  char const* at = text + index.start(id) + 1;
+  for (char const* wanted = name.begin; wanted != name.end; ++wanted, ++at)
   {
-    if (begin[i] == '\0' || begin[i + 1] == '\0')
+    if (at[0] == '\0' || at[1] == '\0')
       return axmPositionX(text + index.start(id)).is_tag_named(name); // which throws
-    if (begin[i] != name.begin[i])
+    if (*at != *wanted)
       return false;
   }
   return true;
@@ -279,7 +317,8 @@ void axmElementWalk::skip(axmPositionX& cursor)
 // Makes `child` stand in the content of the element on which `parent` stands.
 void axmElementWalk::enter(Id id, axmPositionX& parent, axmPositionX& child)
 {
-  child = axmPositionX(parent.current_pos);
+  child.object_start = parent.current_pos;
+  child.current_pos = parent.current_pos;
   if (id == axmElementIndex::none)
     return child.object_setup();
   child.current_pos = text + (skip_space(text + index.content(id)) - text);
@@ -287,7 +326,7 @@ void axmElementWalk::enter(Id id, axmPositionX& parent, axmPositionX& child)
 
 void axmElementWalk::make_room(int depth)
 {
-  if (!levels.set_count(depth + 1))
+  if (depth >= levels.count() && !levels.set_count(depth + 1))
     throw std::bad_alloc();
 }
 

@@ -71,17 +71,30 @@ private:
     char const* behind;
   };
 
-  Attribute read_attribute(char const* at) const;
+  // What has been read of an opening tag: the attributes in front, and the place where reading goes on. Each is read once,
+  // however many are asked for.
+  struct Tag
+  {
+    static int const most = 16;
+
+    char const* start = nullptr; // none yet
+    char const* rest = nullptr;
+    int count = 0;
+    Attribute attributes[most + 1] = {}; // the last one for those for which there is no room
+  };
+
+  char const* first_attribute(char const* start) const;
+  void read_attribute(char const* at, Attribute& found) const;
   char const* skip_space(char const* at) const;
   Search const& search_beyond(char const* at, utString const& name);
   Search& search_of(utString const& name);
 
   Level at_start_of(Id element) const;
-  bool find_child(axmPositionX& parent, Level& level, axmTagName name);
-  bool find_child_step_by_step(axmPositionX& parent, Level& level, axmTagName name);
+  bool find_child(axmPositionX& parent, Level& level, axmTagName const& name);
+  bool find_child_step_by_step(axmPositionX& parent, Level& level, axmTagName const& name);
   void find_upcoming(axmPositionX const& cursor, Level& level) const;
   bool has_markup_in_section(Level const& level, Id passed) const;
-  bool is_named(Id id, axmTagName name) const;
+  bool is_named(Id id, axmTagName const& name) const;
   void skip(axmPositionX& cursor);
   void enter(Id id, axmPositionX& parent, axmPositionX& child);
   void make_room(int depth);
@@ -93,6 +106,7 @@ private:
   Place size;
   axmElementIndex index;
   coDynArr<Level> levels;
+  Tag tag;
   std::vector<Search> searches;
   std::size_t next_search = 0;
 };

@@ -1,5 +1,10 @@
 #include <axmInitialPositionX.h>
 
+axmInitialPositionX::axmInitialPositionX(char* buffer) : axmPositionX(buffer) {}
+axmInitialPositionX::axmInitialPositionX(axmInitialPositionX const& other) = default;
+axmInitialPositionX& axmInitialPositionX::operator=(axmInitialPositionX const& other) = default;
+axmInitialPositionX::~axmInitialPositionX() = default;
+
 utString axmInitialPositionX::version()
 {
   current_pos = object_start;

@@ -11,7 +11,10 @@
 class AXM_API axmInitialPositionX : public axmPositionX
 {
 public:
-  axmInitialPositionX(char* buffer) : axmPositionX(buffer) {}
+  axmInitialPositionX(char* buffer);
+  axmInitialPositionX(axmInitialPositionX const& other);
+  axmInitialPositionX& operator=(axmInitialPositionX const& other);
+  ~axmInitialPositionX();
 
   /// The version as it is written.
   utString version();

@@ -1,12 +1,10 @@
 #pragma once
 
-#include <axmExport.h>
-
 #include <cstdint>
 
 // Finds the characters on which markup turns, `<` and `>`, and the NUL at which a document ends, many at a time.
-// Not installed; exported for the tests and benchmarks, which hold the ways of doing it against each other.
-class AXM_API axmMarks
+// Not installed.
+class axmMarks
 {
 public:
   // The ways, from the one that every processor has to the fastest.
@@ -27,7 +25,8 @@ public:
   // Whether this processor and build have the way.
   static bool has(Way way);
 
-  // The way that find() goes: the fastest there is, unless another one was chosen. The choice is for the whole process.
+  // The way that find() goes: the fastest there is, unless another one was chosen, which tests and benchmarks do. The
+  // choice is for the whole process.
   static Way chosen();
   static void choose(Way way);
 };

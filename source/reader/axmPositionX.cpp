@@ -34,6 +34,11 @@ bool stands_at(char const* at, char const* pattern, int length)
 }
 }
 
+axmPositionX::axmPositionX(char* buffer) : current_pos(buffer), object_start(buffer) {}
+axmPositionX::axmPositionX(axmPositionX const& other) = default;
+axmPositionX& axmPositionX::operator=(axmPositionX const& other) = default;
+axmPositionX::~axmPositionX() = default;
+
 utString axmPositionX::attribute(utString const& name, utString const& default_value) const
 {
   return axmPositionX(object_start).find_attribute(name, default_value);

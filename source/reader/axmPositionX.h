@@ -25,7 +25,10 @@ class AXM_API axmPositionX
 {
 public:
   /// Stands at `buffer`, which is also where its element begins.
-  axmPositionX(char* buffer) : current_pos(buffer), object_start(buffer) {}
+  axmPositionX(char* buffer);
+  axmPositionX(axmPositionX const& other);
+  axmPositionX& operator=(axmPositionX const& other);
+  ~axmPositionX();
 
   /// The value of the attribute `name` in the opening tag of the element, as written between its quotes;
   /// `default_value` if there is none. The cursor does not move.

@@ -2,6 +2,7 @@
 
 #include "axmElementWalk.h"
 
+#include <apMemory.h>
 #include <axmException.h>
 
 #include <climits>
@@ -60,11 +61,11 @@ bool axmSimpleXmlReader::down_to(utString const& name)
   try
   {
     int const depth = positions.count();
-    axmPositionX child(nullptr);
+    axmPositionX& child = cursor_above(depth);
     if (!(depth == 0 ? walk->down_to_root(*initial_position, name, child)
                      : walk->down_to_child(top(), depth - 1, name, child)))
       return false;
-    push(child);
+    positions[depth]; // takes it into use
     return true;
   }
   catch (axmException const& error)
@@ -138,6 +139,7 @@ bool axmSimpleXmlReader::read_bytes(int size)
   walk.reset();
   if (!buffer.expand(size + 1))
     throw std::bad_alloc();
+  apMemory::will_fill(buffer.data(), static_cast<std::size_t>(size) + 1);
   if (file->read(buffer.data(), 1, size) != size)
     return false;
   buffer.set_count(size + 1);
@@ -180,19 +182,12 @@ axmPositionX& axmSimpleXmlReader::top()
   return *positions[positions.count() - 1];
 }
 
-// Puts a cursor on the stack, into the one that an earlier way down has left there if there is one.
-void axmSimpleXmlReader::push(axmPositionX const& child)
+// The cursor in the slot above the stack, where an earlier way down may have left it.
+axmPositionX& axmSimpleXmlReader::cursor_above(int depth)
 {
-  int const depth = positions.count();
   axmPositionXcoPageArrPrgcoPrg& slot = positions[depth];
-  if (slot)
-  {
-    *slot = child;
-    return;
-  }
-  slot = new (std::nothrow) axmPositionX(child);
-  if (slot)
-    return;
   positions.shrink(depth, 0);
-  throw std::bad_alloc();
+  if (!slot)
+    slot = new axmPositionX(nullptr);
+  return *slot;
 }

@@ -64,7 +64,7 @@ private:
   bool read_declaration();
   bool is_inside();
   axmPositionX& top();
-  void push(axmPositionX const& child);
+  axmPositionX& cursor_above(int depth);
 
   utString encoding_name;
   axmInitialPositionXcoPrg initial_position;

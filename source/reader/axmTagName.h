@@ -2,15 +2,13 @@
 
 #include <utString.h>
 
-#include <cstring>
-
 // The name of a tag, where it stands in the document. Not installed.
 struct axmTagName
 {
   char const* begin;
   char const* end;
 
-  static axmTagName of(utString const& name) { return {name.c_str(), name.c_str() + name.length()}; }
+  static axmTagName of(utString const& name) { return {name.view().data(), name.view().data() + name.view().size()}; }
 
   int length() const noexcept { return static_cast<int>(end - begin); }
 
@@ -18,8 +16,13 @@ struct axmTagName
 
   bool operator==(axmTagName const& other) const noexcept
   {
-    return end - begin == other.end - other.begin &&
-           std::memcmp(begin, other.begin, static_cast<std::size_t>(end - begin)) == 0;
+    if (end - begin != other.end - other.begin)
+      return false;
+    // Most names are so short that a call of the C library is too much.
+    for (char const *one = begin, *two = other.begin; one != end; ++one, ++two)
+      if (*one != *two)
+        return false;
+    return true;
   }
   bool operator!=(axmTagName const& other) const noexcept { return !(*this == other); }
 };
