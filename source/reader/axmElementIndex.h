@@ -13,7 +13,7 @@
 // only further down, brings the pass to a halt for good; the cursor's own steps are what is left then, and throw in the
 // right place. Running out of memory brings it to a halt as well: a memory is never needed.
 //
-// Elements have numbers in the order of their opening tags, the root being 0. All places are offsets from the beginning
+// Elements have numbers in the order of their opening tags, the root being 0; a number handed in must be below count(). All places are offsets from the beginning
 // of the text, which must end with a NUL and must not change. Not installed.
 class axmElementIndex
 {
@@ -21,7 +21,7 @@ public:
   using Place = std::uint32_t;
   using Id = std::uint32_t;
 
-  static Id const none = 0xFFFFFFFF;
+  static constexpr Id none = 0xFFFFFFFF;
 
   // Forgets everything and begins with the root element at `root` of the `size` bytes before the NUL at the end of
   // `text`.
@@ -64,9 +64,9 @@ public:
   Id first_from(Place place) const;
 
 private:
-  static Place const flag = 0x80000000;
-  static Place const place_mask = flag - 1;
-  static int const page_shift = 12;
+  static constexpr Place flag = 0x80000000;
+  static constexpr Place place_mask = flag - 1;
+  static constexpr int page_shift = 12;
 
   // `end` is 0 and `next` the parent as long as the element is open.
   struct Entry

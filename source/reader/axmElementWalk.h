@@ -75,7 +75,7 @@ private:
   // however many are asked for.
   struct Tag
   {
-    static int const most = 16;
+    static constexpr int most = 16;
 
     char const* start = nullptr; // none yet
     char const* rest = nullptr;

@@ -15,9 +15,9 @@ public:
     avx2
   };
 
-  static int const blocks = 16;
-  static int const block_bytes = 64;
-  static int const bytes = blocks * block_bytes;
+  static constexpr int blocks = 16;
+  static constexpr int block_bytes = 64;
+  static constexpr int bytes = blocks * block_bytes;
 
   // One bit for each of `bytes` bytes from `from` on, all of which are read, 64 of them in a mask.
   static void find(char const* from, std::uint64_t* masks);

@@ -28,7 +28,7 @@ public:
   }
 
 private:
-  static int const near_levels = 32;
+  static constexpr int near_levels = 32;
 
   axmTagName nearest[near_levels];
   coDynArr<axmTagName> further;

@@ -22,6 +22,8 @@ public:
       text += "\n";
     if (one_in(12))
       element(2);
+    if (one_in(40))
+      lengthen();
     if (one_in(2))
       damage();
     return text;
@@ -125,6 +127,15 @@ private:
     default:
       text += "\n";
     }
+  }
+
+  // Puts a long run between two characters, so that tags fall on all sides of the borders of blocks.
+  void lengthen()
+  {
+    std::size_t const at = text.find('>', below(text.size()));
+    if (at != std::string::npos)
+      text.insert(at + 1, pick({"", "<!--", "<b k='", "<![CDATA["}) + std::string(below(2200), "x \n"[below(3)]) +
+                            pick({"", "-->", "'/>", "]]>"}));
   }
 
   void damage()

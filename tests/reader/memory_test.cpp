@@ -173,3 +173,40 @@ TEST(memory, a_cursor_that_runs_out_of_memory_leaks_nothing)
     });
   EXPECT_GE(refused, 2);
 }
+
+TEST(memory, a_walk_allocates_once_for_each_value_that_is_not_empty)
+{
+  int const records = 3000;
+  std::string text = "<?xml version='1.0'?>\n<r>";
+  for (int i = 0; i < records; ++i)
+    text += "<a k='value' e=''><b>text</b><c></c></a>";
+  apITarnFilecoPrf const file(new MemoryFile(text + "</r>\n"));
+  auto const reader = axmSimpleXmlFactory().create_xml_reader_file(utPtrReleaseToCaller, file);
+  utString const r = ut_lit("r");
+  utString const a = ut_lit("a");
+  utString const b = ut_lit("b");
+  utString const c = ut_lit("c");
+  utString const k = ut_lit("k");
+  utString const e = ut_lit("e");
+  utString const none = ut_lit("none");
+
+  // Two values of a record are not empty. What comes on top are the file, the cursors and the pages of the index.
+  int const constant = 30;
+  int seen = 0;
+  bool failed = false;
+  {
+    FailingMemory const memory(2 * records + constant);
+    if (reader->read_file() && reader->down_to(r))
+      for (; reader->down_to(a); reader->up())
+      {
+        seen += reader->attribute(k, none).length() == 5 && reader->attribute(e, none).length() == 0;
+        seen += reader->down_to(b) && reader->text_node().length() == 4;
+        reader->up();
+        seen += reader->down_to(c) && reader->text_node().length() == 0;
+        reader->up();
+      }
+    failed = memory.has_failed();
+  }
+  EXPECT_EQ(seen, 3 * records);
+  EXPECT_FALSE(failed);
+}
