@@ -1,44 +1,20 @@
 #pragma once
 
-#include <algorithm>
-#include <cmath>
-#include <ctime>
+#include <functional>
 #include <vector>
 
-// The processor time a call takes, that of the system for it included, in seconds: on a busy machine the time on the
-// clock is mostly that of others.
-template <class Call>
-double seconds(Call call)
+// What a call cost in a process of its own, so that no call finds memory that another one has left.
+struct Cost
 {
-  std::clock_t const start = std::clock();
-  call();
-  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
-}
+  double seconds;   // of processor time, that of the system included: on a busy machine the clock shows that of others
+  double megabytes; // at the peak, beyond what the process began with
+  long allocations;
+};
 
-inline double median(std::vector<double> values)
-{
-  std::sort(values.begin(), values.end());
-  return values.empty() ? 0 : values[values.size() / 2];
-}
+// Throws std::runtime_error when the call does.
+Cost cost_of(std::function<void()> const& call);
 
-inline double geometric_mean(std::vector<double> const& values)
-{
-  double sum = 0;
-  for (double const value : values)
-    sum += std::log(value);
-  return values.empty() ? 0 : std::exp(sum / static_cast<double>(values.size()));
-}
+// The median costs of some calls that take turns, so that a machine that is busy for a while is so for all of them.
+std::vector<Cost> interleaved(std::vector<std::function<void()>> const& calls, int runs);
 
-// The median times of some calls that take turns, so that a machine that is busy for a while is so for all of them.
-template <class Calls>
-std::vector<double> interleaved(Calls const& calls, int runs)
-{
-  std::vector<std::vector<double>> times(calls.size());
-  for (int run = 0; run < runs; ++run)
-    for (std::size_t i = 0; i < calls.size(); ++i)
-      times[i].push_back(seconds(calls[i]));
-  std::vector<double> medians;
-  for (auto const& of_call : times)
-    medians.push_back(median(of_call));
-  return medians;
-}
+double geometric_mean(std::vector<double> const& values);
