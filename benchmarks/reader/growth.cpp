@@ -47,14 +47,14 @@ std::string records(std::size_t bytes)
   return text + "</r>";
 }
 
-// The same number of bytes with the records so many levels down, twenty in a branch.
+// The same number of bytes with the records so many levels down, a hundred in a branch.
 std::string nested_records(std::size_t bytes, std::size_t depth)
 {
   std::string text = "<r>\n";
   for (std::size_t i = 0; text.size() < bytes;)
   {
     text += repeated("<d>", depth - 2);
-    for (std::size_t k = 0; k < 20; ++k)
+    for (std::size_t k = 0; k < 100; ++k)
       text += record(i++);
     text += repeated("</d>", depth - 2);
   }

@@ -8,6 +8,8 @@
 #  include "axmMarks.h"
 #endif
 
+#include <malloc.h>
+
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
@@ -98,6 +100,8 @@ int main(int argc, char** argv)
     std::cerr << usage;
     return 2;
   }
+  // Large blocks always come from the system and go back there: see cost_of().
+  mallopt(M_MMAP_THRESHOLD, 128 * 1024);
   try
   {
     TemporaryFolder const folder;
