@@ -11,6 +11,9 @@
 #include <functional>
 #include <utility>
 
+// Expressions are parsed and evaluated as deep as they lie in themselves, and axsXPathParser::nesting_limit bounds that.
+// NOLINTBEGIN(misc-no-recursion)
+
 namespace
 {
 using Expression = axsXPathExpression;
@@ -799,3 +802,5 @@ bool axsXPathEvaluator::differ_in_text(int left, int right, Context const& conte
   auto differs = [&](axsXPathNode node) { return !is_one_text || tree.string_value(node, scratch) != *text; };
   return visit_nodes(right, context, differs);
 }
+
+// NOLINTEND(misc-no-recursion)

@@ -148,11 +148,11 @@ private:
   Term const& term_at(int index) const noexcept { return parsed.terms[static_cast<std::size_t>(index)]; }
   int operand(Term const& term, int index) const noexcept
   {
-    return parsed.operands[static_cast<std::size_t>(term.first + index)].term;
+    return parsed.operands[static_cast<std::size_t>(term.first) + static_cast<std::size_t>(index)].term;
   }
   Operator operator_before(Term const& term, int index) const noexcept
   {
-    return parsed.operands[static_cast<std::size_t>(term.first + index)].before;
+    return parsed.operands[static_cast<std::size_t>(term.first) + static_cast<std::size_t>(index)].before;
   }
 
   Expression const& parsed;

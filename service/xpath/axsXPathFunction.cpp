@@ -44,7 +44,7 @@ F const functions[] = {
 
 axsXPathFunction const* axsXPathFunction::find(std::string_view name) noexcept
 {
-  auto const found = std::find_if(
+  auto const* const found = std::find_if(
     std::begin(functions), std::end(functions), [name](axsXPathFunction const& f) { return f.text == name; });
   return found == std::end(functions) ? nullptr : found;
 }

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 
 class axsNode;
 
@@ -26,31 +25,34 @@ class axsXPathNode
 {
 public:
   axsXPathNode() noexcept = default;
-  axsXPathNode(axsNode* node) noexcept : bits(reinterpret_cast<std::uintptr_t>(node)) {}
-  axsXPathNode(axsXPathExtraNode const* extra) noexcept : bits(reinterpret_cast<std::uintptr_t>(extra) | extra_bit) {}
+  axsXPathNode(axsNode* node) noexcept : address(reinterpret_cast<char*>(node)) {}
+  axsXPathNode(axsXPathExtraNode const* extra) noexcept : address(reinterpret_cast<char const*>(extra) + extra_mark) {}
 
-  bool is_none() const noexcept { return bits == 0; }
-  bool is_extra() const noexcept { return (bits & extra_bit) != 0; }
+  bool is_none() const noexcept { return address == nullptr; }
+  bool is_extra() const noexcept { return (reinterpret_cast<std::uintptr_t>(address) & extra_mark) != 0; }
 
   /// The node of the tree; only where it is one.
-  axsNode* node() const noexcept { return reinterpret_cast<axsNode*>(bits); }
+  axsNode* node() const noexcept { return reinterpret_cast<axsNode*>(const_cast<char*>(address)); }
 
   axsXPathExtraNode const& extra() const noexcept
   {
-    return *reinterpret_cast<axsXPathExtraNode const*>(bits - extra_bit);
+    return *reinterpret_cast<axsXPathExtraNode const*>(address - extra_mark);
   }
 
-  bool operator==(axsXPathNode other) const noexcept { return bits == other.bits; }
-  bool operator!=(axsXPathNode other) const noexcept { return bits != other.bits; }
+  bool operator==(axsXPathNode other) const noexcept { return address == other.address; }
+  bool operator!=(axsXPathNode other) const noexcept { return address != other.address; }
 
   struct Hash
   {
-    std::size_t operator()(axsXPathNode node) const noexcept { return std::hash<std::uintptr_t>()(node.bits >> 3); }
+    std::size_t operator()(axsXPathNode node) const noexcept
+    {
+      return reinterpret_cast<std::uintptr_t>(node.address) >> 3;
+    }
   };
 
 private:
-  // Free in every pointer to what is aligned for pointers.
-  static constexpr std::uintptr_t extra_bit = 1;
+  // What is aligned for pointers has even addresses; one more tells the other kind.
+  static constexpr std::size_t extra_mark = 1;
 
-  std::uintptr_t bits = 0;
+  char const* address = nullptr;
 };

@@ -7,6 +7,9 @@
 #include <iterator>
 #include <utility>
 
+// Expressions are parsed and evaluated as deep as they lie in themselves, and axsXPathParser::nesting_limit bounds that.
+// NOLINTBEGIN(misc-no-recursion)
+
 namespace
 {
 using Expression = axsXPathExpression;
@@ -360,7 +363,8 @@ bool axsXPathParser::parse_step(Expression::Step& step)
     return false;
   for (int i = 0; i < step.predicate_count; ++i)
   {
-    Expression::Predicate const& predicate = made.predicates[static_cast<std::size_t>(step.first_predicate + i)];
+    Expression::Predicate const& predicate =
+      made.predicates[static_cast<std::size_t>(step.first_predicate) + static_cast<std::size_t>(i)];
     step.is_positional |= predicate.is_number || (predicate.uses & ~Expression::uses_node) != 0;
     step.needs_size |= (predicate.uses & Expression::uses_size) != 0;
   }
@@ -377,7 +381,7 @@ bool axsXPathParser::parse_axis(Expression::Step& step)
   }
   if (token.kind != Token::axis_name)
     return true;
-  auto const found =
+  auto const* const found =
     std::find_if(std::begin(axes), std::end(axes), [this](AxisName const& a) { return a.text == token.local; });
   if (found == std::end(axes))
     return fail(token.position, "there is no axis " + quoted(token.local)) != failed;
@@ -595,7 +599,7 @@ void axsXPathParser::choose_kept_values(int index)
 
 axsXPathParser::OperatorToken const* axsXPathParser::find_operator(Rank rank) const noexcept
 {
-  auto const found = std::find_if(std::begin(operators), std::end(operators),
+  auto const* const found = std::find_if(std::begin(operators), std::end(operators),
     [&](OperatorToken const& candidate) { return candidate.rank == rank && candidate.token == token.kind; });
   return found == std::end(operators) ? nullptr : found;
 }
@@ -663,3 +667,5 @@ void axsXPathParser::advance() noexcept
 {
   token = lexer.next();
 }
+
+// NOLINTEND(misc-no-recursion)

@@ -8,6 +8,9 @@
 #include <iterator>
 #include <utility>
 
+// Expressions are parsed and evaluated as deep as they lie in themselves, and axsXPathParser::nesting_limit bounds that.
+// NOLINTBEGIN(misc-no-recursion)
+
 namespace
 {
 using Axis = axsXPathAxis;
@@ -75,6 +78,22 @@ bool keeps_order(Axis axis, bool is_flat) noexcept
 bool is_in_content(axsXPathNode node) noexcept
 {
   return node.is_extra() ? node.extra().is_root() : !node.node()->is_attribute();
+}
+
+/// The node behind `at` in document order, below `base`; null at the end. Where that leads out of `inside`, this becomes
+/// null.
+axsNode* next_below(axsNode& at, axsNode const& base, axsNode const*& inside) noexcept
+{
+  if (axsNode* const child = at.first_child())
+    return child;
+  for (axsNode* last = &at; last != nullptr && last != &base; last = last->parent())
+  {
+    if (last == inside)
+      inside = nullptr;
+    if (last->next_sibling() != nullptr)
+      return last->next_sibling();
+  }
+  return nullptr;
 }
 
 bool lies_in(axsXPathTree const& tree, axsXPathNode node, axsXPathNode above) noexcept
@@ -168,7 +187,7 @@ void axsXPathSelector::take_start(Path const& path, axsXPathContext const& conte
 
 axsXPathExpression::Step const& axsXPathSelector::step_of(Path const& path, int index) const noexcept
 {
-  return parsed.steps[static_cast<std::size_t>(path.first_step + index)];
+  return parsed.steps[static_cast<std::size_t>(path.first_step) + static_cast<std::size_t>(index)];
 }
 
 axsXPathTest const& axsXPathSelector::test_of(Step const& step) const noexcept
@@ -377,17 +396,7 @@ void axsXPathSelector::step_down_content(Step const& step, Nodes const& from, Wa
         ++next;
       if (tree.passes(*at, test) && keep(at, *at))
         return;
-      if (axsNode* const child = at->first_child())
-      {
-        at = child;
-        continue;
-      }
-      for (; at != &base && at->next_sibling() == nullptr; at = at->parent())
-        if (at == inside)
-          inside = nullptr;
-      if (at == inside)
-        inside = nullptr;
-      at = at == &base ? nullptr : at->next_sibling();
+      at = next_below(*at, base, inside);
     }
   }
 }
@@ -450,3 +459,5 @@ void axsXPathSelector::step_before(Step const& step, Nodes const& from, Nodes& t
   // What precedes any of the nodes precedes the last one.
   step_from_one(step, from.back(), all, to);
 }
+
+// NOLINTEND(misc-no-recursion)

@@ -198,6 +198,8 @@ std::string_view axsXPathTree::name(axsXPathNode node) const noexcept
 
 bool axsXPathTree::walk(axsXPathAxis axis, axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
 {
+  if (from.is_none())
+    return false;
   switch (axis)
   {
   case axsXPathAxis::ancestor:

@@ -68,7 +68,7 @@ public:
   std::string_view name(axsXPathNode node) const noexcept;
 
   /// Shows the nodes on an axis that pass a test, in the order of the axis, until `visit` says to stop. Returns whether
-  /// it did.
+  /// it did. From no node, no axis leads anywhere.
   bool walk(axsXPathAxis axis, axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
 
   /// Whether a node of the tree that is no attribute is a node of the data model that passes the test.
