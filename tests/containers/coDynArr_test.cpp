@@ -135,6 +135,8 @@ TEST(coDynArr, huge_first_capacity_does_not_keep_it_from_growing)
   coDynArr<Large> array(INT_MAX, INT_MAX);
   ASSERT_TRUE(array.set_count(1));
   EXPECT_EQ(array.capacity(), 1);
+  ASSERT_TRUE(array.set_count(2));
+  EXPECT_EQ(array.capacity(), 2);
 }
 
 TEST(coDynArr, room_that_is_not_to_be_had_is_a_result_and_changes_nothing)
