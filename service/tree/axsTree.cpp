@@ -91,8 +91,14 @@ bool report_attached(axsNode const& child)
 
 apString axsTree::node_name(axsNode const& node)
 {
-  axsName const* const name = node.name();
-  return name == nullptr ? apString::from_utf8(node.node_name()) : name->wide();
+  if (axsName const* const name = node.name())
+    return name->wide();
+  if (node.kind() == axsKind::text && !node.is_cdata())
+  {
+    static apString const text_name = APSTRING("#text");
+    return text_name;
+  }
+  return apString::from_utf8(node.node_name());
 }
 
 std::shared_ptr<axmNode> axsTree::handle(axsNode* node)
