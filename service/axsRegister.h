@@ -11,4 +11,13 @@
 ///   lists and maps belongs to one thread at a time.
 /// - Nodes, lists and maps hold what they need: a node stays valid as long as it is held, even if its tree and its
 ///   document have been let go. A `std::weak_ptr` holds no node, only some bytes of bookkeeping.
+/// - Load: white-space-only text is dropped in CDATA sections, too, and whatever xml:space says. Prefixes must be bound
+///   (Namespaces in XML 1.0). An external DTD subset is never read, so that an entity declared only there is an error.
+///   Besides the number of entity expansions, what they make of a document is bounded: to 100 times its size once that
+///   is more than 8 MiB. A document may be nested as deep as memory lasts, one that is validated 20000 levels.
+/// - Schemas: read anew at every load, from local files only; a reference that leads to none is an error, but for the
+///   schema of the XML namespace, which is built in. Groups may be repeated up to 2000 times, elements of a schema
+///   nested up to 500 levels. A document whose root is in a namespace that no schema knows is not validated.
+/// - Save: to a temporary file beside the target, which is renamed over it; a link is replaced by the file.
+///   Text that XML cannot hold makes it fail; get_xml() of such a node is empty.
 AXS_API void axs_register();

@@ -63,7 +63,7 @@ Run::Run(axsSource& given, axmLoadOptions const& options)
     memory(memory_free),
     entities(options.disable_entity_resolution(), [this] { return place(); }),
     grammars(std::make_unique<xercesc::GrammarResolver>(nullptr, &memory)),
-    errors(*grammars)
+    errors(*grammars, [this] { return place(); })
 {
   limits.setEntityExpansionLimit(static_cast<XMLSize_t>(std::max(options.entity_expansion_limit(), 0)));
 }

@@ -10,6 +10,7 @@ class axsSource;
 /// It reads the document anew and tells of errors only: the tree is built without it. Nothing that a document says of
 /// schemas is heeded; its root is valid or not by the schemas given, and with a root whose namespace none of them knows
 /// there is nothing to validate.
+/// Documents nested more than 20000 levels deep are refused.
 /// May run in many threads at once.
 namespace axsValidator
 {

@@ -115,6 +115,12 @@ void axsValidityReporter::startElement(xercesc::XMLElementDecl const& decl, unsi
 {
   if (!found)
   {
+    if (open.size() == most_levels)
+    {
+      axsReadError error = current_place();
+      error.message = APSTRING("Elements are nested more than 20000 levels deep, which is not validated");
+      throw error;
+    }
     if (!is_empty)
       open.emplace_back(decl.getBaseName());
     return;

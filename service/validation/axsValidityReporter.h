@@ -6,8 +6,10 @@
 #include <xercesc/framework/XMLErrorReporter.hpp>
 #include <xercesc/validators/common/GrammarResolver.hpp>
 
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// Hears the validator: stops it at the first error by throwing axsReadError, once it is known which element or attribute
@@ -15,7 +17,15 @@
 class axsValidityReporter final : public xercesc::XMLDocumentHandler, public xercesc::XMLErrorReporter
 {
 public:
-  explicit axsValidityReporter(xercesc::GrammarResolver& grammars) noexcept : known(grammars) {}
+  /// How deep elements may be nested: the validator takes a time that grows with the square of it.
+  static constexpr std::size_t most_levels = 20000;
+
+  /// `place` tells where the validator is.
+  axsValidityReporter(xercesc::GrammarResolver& grammars, std::function<axsReadError()> place)
+    : known(grammars),
+      current_place(std::move(place))
+  {
+  }
 
   /// The document is over: throws what has not been thrown yet.
   void finish() const;
@@ -49,6 +59,7 @@ private:
   [[noreturn]] void fail(std::string const& subject) const;
 
   xercesc::GrammarResolver& known;
+  std::function<axsReadError()> current_place;
   std::optional<Found> found;
   std::vector<std::basic_string<XMLCh>> open;
 };

@@ -253,3 +253,23 @@ TEST(axsSchemas, a_document_type_declaration_does_not_disturb_validation)
   EXPECT_NE(load(doctype + "<machine><XY Value='&e;'/></machine>", plain(file.path())), nullptr);
   error_of(doctype + "<machine><XY Value='&t;'/></machine>", plain(file.path()));
 }
+
+TEST(axsSchemas, documents_nested_deeper_than_can_be_validated_are_refused)
+{
+  TestFile const file("engine_deep.xsd",
+    schema("", "<xs:element name='a'><xs:complexType><xs:sequence><xs:element ref='a' minOccurs='0'/></xs:sequence>"
+               "</xs:complexType></xs:element>"));
+  auto const nested = [](int levels)
+  {
+    std::string open;
+    std::string close;
+    for (int i = 0; i < levels; ++i)
+    {
+      open += "<a>";
+      close += "</a>";
+    }
+    return open + close;
+  };
+  EXPECT_NE(load(nested(2000), plain(file.path())), nullptr);
+  EXPECT_NE(narrow(error_of(nested(30000), plain(file.path())).message()).find("20000"), std::string::npos);
+}
