@@ -11,10 +11,10 @@ axmContractUtest::axmContractUtest(utUnitTest* given) : tester(given) {}
 
 axmContractUtest::~axmContractUtest() = default;
 
-void axmContractUtest::run_tests(Factory factory) const
+void axmContractUtest::run_tests(Factory const& factory) const
 {
   using Utest = axmContractUtest;
-  axmUtestEntry<Utest, Factory> const groups[] = {
+  axmUtestEntry<Utest, Factory const&> const groups[] = {
     {&Utest::test_parents, "axmContractUtest::test_parents"},
     {&Utest::test_children, "axmContractUtest::test_children"},
     {&Utest::test_siblings, "axmContractUtest::test_siblings"},

@@ -25,48 +25,48 @@ public:
   ~axmContractUtest();
 
   /// Runs all checks on `factory`, which must not be empty, and on what it creates, loads and saves.
-  void run_tests(std::shared_ptr<axmDocumentFactory> factory) const;
+  void run_tests(std::shared_ptr<axmDocumentFactory> const& factory) const;
 
 protected:
-  void test_parents(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_children(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_siblings(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_owner_document(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_append_child(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_insert_before(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_replace_child(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_remove_child(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_moves(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_refusals(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_identity(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_lifetimes(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_text(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_xml(std::shared_ptr<axmDocumentFactory> factory) const;
+  void test_parents(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_children(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_siblings(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_owner_document(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_append_child(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_insert_before(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_replace_child(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_remove_child(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_moves(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_refusals(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_identity(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_lifetimes(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_text(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_xml(std::shared_ptr<axmDocumentFactory> const& factory) const;
 
-  void test_creation(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_attributes(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_typed_attributes(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_locale_attributes(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_attributes_of_others(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_select(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_elements_by_tag_name(std::shared_ptr<axmDocumentFactory> factory) const;
+  void test_creation(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_attributes(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_typed_attributes(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_locale_attributes(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_attributes_of_others(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_select(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_elements_by_tag_name(std::shared_ptr<axmDocumentFactory> const& factory) const;
 
-  void test_list_cursor(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_live_lists(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_list_items(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_live_maps(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_map_items(std::shared_ptr<axmDocumentFactory> factory) const;
+  void test_list_cursor(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_live_lists(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_list_items(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_live_maps(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_map_items(std::shared_ptr<axmDocumentFactory> const& factory) const;
 
-  void test_load_success(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_load_failure(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_load_place(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_white_space(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_entities(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_validation(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_bad_schemas(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_file_names(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_save_memory(std::shared_ptr<axmDocumentFactory> factory) const;
-  void test_save_file(std::shared_ptr<axmDocumentFactory> factory) const;
+  void test_load_success(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_load_failure(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_load_place(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_white_space(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_entities(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_validation(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_bad_schemas(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_file_names(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_save_memory(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_save_file(std::shared_ptr<axmDocumentFactory> const& factory) const;
 
 private:
   utUnitTest* tester;

@@ -65,7 +65,7 @@ bool refuses_getters(axmNode const& node)
 }
 }
 
-void axmContractUtest::test_creation(Factory factory) const
+void axmContractUtest::test_creation(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_creation");
   auto const document = factory->createDocument(APSTRING("root"));
@@ -112,7 +112,7 @@ void axmContractUtest::test_creation(Factory factory) const
     nothing != nullptr && nothing->getData().empty(), "text->getData().empty()", __LINE__, "a text may be empty");
 }
 
-void axmContractUtest::test_attributes(Factory factory) const
+void axmContractUtest::test_attributes(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_attributes");
   auto const root = load_root(*factory, "<root A='1' B='2'/>");
@@ -156,7 +156,7 @@ void axmContractUtest::test_attributes(Factory factory) const
   group.check(!root->hasAttributes(), "!root->hasAttributes()", __LINE__, "after the last one there is none");
 }
 
-void axmContractUtest::test_typed_attributes(Factory factory) const
+void axmContractUtest::test_typed_attributes(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_typed_attributes");
   auto const root = fresh_element(factory);
@@ -229,7 +229,7 @@ void axmContractUtest::test_typed_attributes(Factory factory) const
     __LINE__, "an empty text is got");
 }
 
-void axmContractUtest::test_locale_attributes(Factory factory) const
+void axmContractUtest::test_locale_attributes(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_locale_attributes");
   auto const root = fresh_element(factory);
@@ -262,7 +262,7 @@ void axmContractUtest::test_locale_attributes(Factory factory) const
     "!root->get_attribute_locale(absent, value) && value == -99.0", __LINE__, "what is absent is not got");
 }
 
-void axmContractUtest::test_attributes_of_others(Factory factory) const
+void axmContractUtest::test_attributes_of_others(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_attributes_of_others");
   auto const document = load(*factory, "<root>text<!--remark--></root>");
@@ -296,7 +296,7 @@ void axmContractUtest::test_attributes_of_others(Factory factory) const
   group.check(number_of_children(root), 2, "root->getChildNodes()->length() == 2", __LINE__, "nor any child");
 }
 
-void axmContractUtest::test_select(Factory factory) const
+void axmContractUtest::test_select(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_select");
   auto const document =
@@ -352,7 +352,7 @@ void axmContractUtest::test_select(Factory factory) const
     "*fresh->selectSingleNode(\"b\") == *b", __LINE__, "as can one that never was in the tree");
 }
 
-void axmContractUtest::test_elements_by_tag_name(Factory factory) const
+void axmContractUtest::test_elements_by_tag_name(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_elements_by_tag_name");
   auto const document = load(*factory, "<a>1<b>2<a>3</a></b><a><a>4</a></a><A/></a>");

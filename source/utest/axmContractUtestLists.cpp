@@ -15,7 +15,7 @@ using Factory = std::shared_ptr<axmDocumentFactory>;
 char const file[] = "source/utest/axmContractUtestLists";
 }
 
-void axmContractUtest::test_list_cursor(Factory factory) const
+void axmContractUtest::test_list_cursor(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_list_cursor");
   auto const document = load(*factory, "<root><a/><b/></root>");
@@ -60,7 +60,7 @@ void axmContractUtest::test_list_cursor(Factory factory) const
   group.check(empty->invalid(), "empty->invalid()", __LINE__, "its cursor stands on no item");
 }
 
-void axmContractUtest::test_live_lists(Factory factory) const
+void axmContractUtest::test_live_lists(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_live_lists");
   auto const document = load(*factory, "<root><a/><b/></root>");
@@ -98,7 +98,7 @@ void axmContractUtest::test_live_lists(Factory factory) const
     "a list whose items are gone is empty");
 }
 
-void axmContractUtest::test_list_items(Factory factory) const
+void axmContractUtest::test_list_items(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_list_items");
   auto const root = load_root(*factory, "<root>one &amp; two<a>three</a><!--four & five--></root>");
@@ -129,7 +129,7 @@ void axmContractUtest::test_list_items(Factory factory) const
   group.check(same(last_of(root), text), "*root->getLastChild() == *text", __LINE__, "at the end");
 }
 
-void axmContractUtest::test_live_maps(Factory factory) const
+void axmContractUtest::test_live_maps(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_live_maps");
   auto const document = factory->createDocument(APSTRING("root"));
@@ -171,7 +171,7 @@ void axmContractUtest::test_live_maps(Factory factory) const
     "other->getLength() == 1 && map->getLength() == 1", __LINE__, "two maps of an element are of one mind");
 }
 
-void axmContractUtest::test_map_items(Factory factory) const
+void axmContractUtest::test_map_items(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_map_items");
   auto const document = load(*factory, "<root A='1' B='&lt;2&gt;' C=''/>");

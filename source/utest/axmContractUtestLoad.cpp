@@ -77,7 +77,7 @@ axmLoadOptions with_limit(int limit)
 }
 }
 
-void axmContractUtest::test_load_success(Factory factory) const
+void axmContractUtest::test_load_success(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_load_success");
   apByteArray const data =
@@ -119,7 +119,7 @@ void axmContractUtest::test_load_success(Factory factory) const
     __LINE__, "a load reads what is there now");
 }
 
-void axmContractUtest::test_load_failure(Factory factory) const
+void axmContractUtest::test_load_failure(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_load_failure");
   char const* const malformed[] = {"", "  \n ", "Hello World", "<a>", "<a></b>", "</a>", "<a b=1/>", "<a b='1' b='2'/>",
@@ -164,7 +164,7 @@ void axmContractUtest::test_load_failure(Factory factory) const
     "!document.get() && !error.invalid()", __LINE__, "an empty file");
 }
 
-void axmContractUtest::test_load_place(Factory factory) const
+void axmContractUtest::test_load_place(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_load_place");
   // What is not known is -1; what is told must be right.
@@ -201,7 +201,7 @@ void axmContractUtest::test_load_place(Factory factory) const
     is_unknown_or(invalid.line_number(), 3), "error.line_number() == 3", __LINE__, "the line that breaks a schema");
 }
 
-void axmContractUtest::test_white_space(Factory factory) const
+void axmContractUtest::test_white_space(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_white_space");
   struct Case
@@ -243,7 +243,7 @@ void axmContractUtest::test_white_space(Factory factory) const
     APSTRING("[x][ ][]"), "texts(document)", __LINE__, "the same when validating");
 }
 
-void axmContractUtest::test_entities(Factory factory) const
+void axmContractUtest::test_entities(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_entities");
   group.check(text_of(load_root(*factory, "<r>&lt;&amp;&gt;&quot;&apos;&#65;&#x42;</r>")), APSTRING("<&>\"'AB"),
@@ -279,7 +279,7 @@ void axmContractUtest::test_entities(Factory factory) const
     "root->get_text()", __LINE__, "a local file is resolved where that is allowed");
 }
 
-void axmContractUtest::test_validation(Factory factory) const
+void axmContractUtest::test_validation(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_validation");
   apPath const schema_path = unique(APSTRING("schema"), APSTRING("xsd"));
@@ -321,7 +321,7 @@ void axmContractUtest::test_validation(Factory factory) const
     "document.get() && error.invalid()", __LINE__, "a file that follows its schema");
 }
 
-void axmContractUtest::test_bad_schemas(Factory factory) const
+void axmContractUtest::test_bad_schemas(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_bad_schemas");
   apPath const good = unique(APSTRING("good"), APSTRING("xsd"));
@@ -358,7 +358,7 @@ void axmContractUtest::test_bad_schemas(Factory factory) const
     "nothing is missing where validation is not asked for");
 }
 
-void axmContractUtest::test_file_names(Factory factory) const
+void axmContractUtest::test_file_names(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_file_names");
   struct Case

@@ -58,7 +58,7 @@ void check_rich(axmUtestGroup const& group, Document const& document)
 }
 }
 
-void axmContractUtest::test_save_memory(Factory factory) const
+void axmContractUtest::test_save_memory(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_save_memory");
   auto const document = load(*factory, rich);
@@ -90,7 +90,7 @@ void axmContractUtest::test_save_memory(Factory factory) const
   group.check(number_of_children(copy), 5, "copy->getChildNodes()->length() == 5", __LINE__, "what was removed is not");
 }
 
-void axmContractUtest::test_save_file(Factory factory) const
+void axmContractUtest::test_save_file(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_save_file");
   apPath const path = unique(APSTRING("save"));

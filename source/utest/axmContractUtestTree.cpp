@@ -62,7 +62,7 @@ Element reloaded(Factory const& factory, Node const& node)
 }
 }
 
-void axmContractUtest::test_parents(Factory factory) const
+void axmContractUtest::test_parents(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_parents");
   auto const document = load(*factory, "<root><a>text</a><!--comment--></root>");
@@ -85,7 +85,7 @@ void axmContractUtest::test_parents(Factory factory) const
     "a new comment has no parent");
 }
 
-void axmContractUtest::test_children(Factory factory) const
+void axmContractUtest::test_children(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_children");
   auto const root = load_root(*factory, five_children);
@@ -113,7 +113,7 @@ void axmContractUtest::test_children(Factory factory) const
     same(first_of(c), last_of(c)), "*c->getFirstChild() == *c->getLastChild()", __LINE__, "the only child is both");
 }
 
-void axmContractUtest::test_siblings(Factory factory) const
+void axmContractUtest::test_siblings(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_siblings");
   auto const root = load_root(*factory, five_children);
@@ -147,7 +147,7 @@ void axmContractUtest::test_siblings(Factory factory) const
     __LINE__, "the element before a text");
 }
 
-void axmContractUtest::test_owner_document(Factory factory) const
+void axmContractUtest::test_owner_document(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_owner_document");
   auto const document = load(*factory, "<root><a>text</a></root>");
@@ -176,7 +176,7 @@ void axmContractUtest::test_owner_document(Factory factory) const
     "one text identifies a document");
 }
 
-void axmContractUtest::test_append_child(Factory factory) const
+void axmContractUtest::test_append_child(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_append_child");
   auto const document = factory->createDocument(APSTRING("root"));
@@ -207,7 +207,7 @@ void axmContractUtest::test_append_child(Factory factory) const
   group.check(same(last_of(a), more), "*a->getLastChild() == *more", __LINE__, "and is the node that was appended");
 }
 
-void axmContractUtest::test_insert_before(Factory factory) const
+void axmContractUtest::test_insert_before(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_insert_before");
   auto const document = load(*factory, five_children);
@@ -238,7 +238,7 @@ void axmContractUtest::test_insert_before(Factory factory) const
   group.check(is_alone(z), "z has no parent and no siblings", __LINE__, "what was refused stays detached");
 }
 
-void axmContractUtest::test_replace_child(Factory factory) const
+void axmContractUtest::test_replace_child(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_replace_child");
   auto const document = load(*factory, five_children);
@@ -270,7 +270,7 @@ void axmContractUtest::test_replace_child(Factory factory) const
   group.check(same(last_of(root), text), "*root->getLastChild() == *text", __LINE__, "the text is the last child");
 }
 
-void axmContractUtest::test_remove_child(Factory factory) const
+void axmContractUtest::test_remove_child(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_remove_child");
   auto const root = load_root(*factory, five_children);
@@ -298,7 +298,7 @@ void axmContractUtest::test_remove_child(Factory factory) const
     "with what it holds, at its new place");
 }
 
-void axmContractUtest::test_moves(Factory factory) const
+void axmContractUtest::test_moves(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_moves");
   auto const document = load(*factory, five_children);
@@ -335,7 +335,7 @@ void axmContractUtest::test_moves(Factory factory) const
   group.check(is_alone(e), "e has no parent and no siblings", __LINE__, "what it replaced is out");
 }
 
-void axmContractUtest::test_refusals(Factory factory) const
+void axmContractUtest::test_refusals(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_refusals");
   AssertionsAllowed const allowed;
@@ -369,7 +369,7 @@ void axmContractUtest::test_refusals(Factory factory) const
   group.check(is_alone(x), "x has no parent and no siblings", __LINE__, "what was refused stays detached");
 }
 
-void axmContractUtest::test_identity(Factory factory) const
+void axmContractUtest::test_identity(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_identity");
   auto const document = load(*factory, "<root><a/><a/>text<!--remark--></root>");
@@ -402,7 +402,7 @@ void axmContractUtest::test_identity(Factory factory) const
   group.check(same(parent_of(root), document), "*root->getParentNode() == *document", __LINE__, "a document is itself");
 }
 
-void axmContractUtest::test_lifetimes(Factory factory) const
+void axmContractUtest::test_lifetimes(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_lifetimes");
   Node removed;
@@ -448,7 +448,7 @@ void axmContractUtest::test_lifetimes(Factory factory) const
   group.check(is_alone(child), "child has no parent and no siblings", __LINE__, "and is alone");
 }
 
-void axmContractUtest::test_text(Factory factory) const
+void axmContractUtest::test_text(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_text");
   auto const document = load(*factory, "<root K='V'>one<a>two<b>three</b></a>four</root>");
@@ -488,7 +488,7 @@ void axmContractUtest::test_text(Factory factory) const
   group.check(text_of(fresh), APSTRING("filled"), "fresh->get_text()", __LINE__, "an element that was empty");
 }
 
-void axmContractUtest::test_xml(Factory factory) const
+void axmContractUtest::test_xml(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_xml");
   auto const document = factory->createDocument(APSTRING("root"));

@@ -21,6 +21,9 @@ apString uri_of(std::shared_ptr<axmDocument> const& document)
 }
 }
 
+// Each group has a factory of its own to hold, as its contract says.
+// NOLINTBEGIN(performance-unnecessary-value-param)
+
 axmDocumentFactoryUtest::axmDocumentFactoryUtest(utUnitTest* given) : tester(given) {}
 
 axmDocumentFactoryUtest::~axmDocumentFactoryUtest() = default;
@@ -403,3 +406,5 @@ bool axmDocumentFactoryUtest::do_exotic_filename_test(
     utUnitTest::build_varargs("load from %s", description));
   return true;
 }
+
+// NOLINTEND(performance-unnecessary-value-param)

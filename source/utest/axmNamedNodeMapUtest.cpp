@@ -21,7 +21,7 @@ void set_attributes(axmElement& element)
 std::shared_ptr<axmElement> element_with_attributes(axmDocumentFactory const& factory)
 {
   auto const document = factory.createDocument(APSTRING("Test"));
-  auto const root = document != nullptr ? document->getDocumentElement() : nullptr;
+  auto root = document != nullptr ? document->getDocumentElement() : nullptr;
   if (root != nullptr)
     set_attributes(*root);
   return root;

@@ -24,6 +24,13 @@ public:
   Element at(int index) override { return inner->at(index - 1); }
 };
 
+class HoldsNothing : public ListOver
+{
+public:
+  using ListOver::ListOver;
+  Element at(int) override { return nullptr; }
+};
+
 class OneShort : public ListOver
 {
 public:
@@ -298,6 +305,7 @@ std::vector<Fault> const& collection_faults()
 {
   static std::vector<Fault> const faults = {
     {"axmNodeList::at", "the index counts from one", put_list<CountsFromOne>},
+    {"axmNodeList::at", "the items are missing", put_list<HoldsNothing>},
     {"axmNodeList::length", "the length is one short", put_list<OneShort>},
     {"axmNodeList::length", "the length is one too many", put_list<OneLong>},
     {"axmNodeList::isEmpty", "no list is empty", put_list<NeverEmpty>},

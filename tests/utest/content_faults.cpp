@@ -135,6 +135,8 @@ std::vector<Fault> const& content_faults()
         h.select = [](Element const& e, apString const& xpath)
         { return e->getParentNode() != nullptr ? e->selectNodes(xpath) : list_of({}); };
       }},
+    {"selectNodes", "there is no list",
+      [](Hooks& h) { h.select = [](Element const&, apString const&) -> List { return nullptr; }; }},
     {"selectSingleNode", "the last node is found",
       [](Hooks& h)
       {
@@ -154,6 +156,8 @@ std::vector<Fault> const& content_faults()
         };
       }},
 
+    {"createElement", "there are no elements",
+      [](Hooks& h) { h.create_element = [](Document const&, apString const&) -> Node { return nullptr; }; }},
     {"createElement", "a new element is in the tree already",
       [](Hooks& h)
       {
@@ -184,6 +188,8 @@ std::vector<Fault> const& content_faults()
           return d->createElement(apString(std::wstring_view(kept)));
         };
       }},
+    {"createTextNode", "there are no texts",
+      [](Hooks& h) { h.create_text = [](Document const&, apString const&) -> Node { return nullptr; }; }},
     {"createTextNode", "the data is trimmed",
       [](Hooks& h) {
         h.create_text = [](Document const& d, apString const& data) -> Node
@@ -391,7 +397,7 @@ std::vector<Fault> const& content_faults()
           return true;
         };
       }},
-    {"set_attribute_locale", "the text is the one that is set without a locale, rounded",
+    {"set_attribute_locale", "the number is rounded",
       [](Hooks& h)
       {
         h.set_locale = [](Node const& n, apString const& name, double value)

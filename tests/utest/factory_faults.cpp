@@ -321,6 +321,15 @@ std::vector<Fault> const& factory_faults()
           });
       }},
 
+    {"loadDocument", "no data loads",
+      [](Hooks& h)
+      {
+        h.load_bytes = [](Factory const&, apByteArray const&, axmLoadOptions const&, axmParseError& error) -> Document
+        {
+          error = axmParseError(APSTRING("no"));
+          return nullptr;
+        };
+      }},
     {"loadDocument", "empty data is an empty document",
       [](Hooks& h)
       {
@@ -562,6 +571,12 @@ std::vector<Fault> const& factory_faults()
           output.append(saved.data(), saved.size());
           return ok;
         };
+      }},
+    {"saveDocument", "nothing is written",
+      [](Hooks& h)
+      {
+        h.save_bytes = [](Factory const&, Document const&, apByteArray&) { return true; };
+        h.save_file = [](Factory const&, Document const&, apPath const&) { return true; };
       }},
     {"saveDocument", "success is false",
       [](Hooks& h)

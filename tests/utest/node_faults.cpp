@@ -218,6 +218,7 @@ std::vector<Fault> const& node_faults()
           return child;
         };
       }},
+    {"getParentNode", "no node has a parent", [](Hooks& h) { h.parent = [](Node const&) -> Node { return nullptr; }; }},
     {"getFirstChild", "there is no first child",
       [](Hooks& h) { h.first = [](Node const&) -> Node { return nullptr; }; }},
     {"getLastChild", "the last child is the first one",
@@ -271,7 +272,7 @@ std::vector<Fault> const& node_faults()
           return previous == nullptr && parent != nullptr ? parent->getLastChild() : previous;
         };
       }},
-    {"getPreviousSibling", "comments are left out",
+    {"getPreviousSibling", "a text or comment has none",
       [](Hooks& h)
       {
         h.previous = [](Node const& n)
