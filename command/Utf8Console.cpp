@@ -2,11 +2,16 @@
 
 #if defined(_WIN32)
 
+#  include <fcntl.h>
+#  include <io.h>
 #  include <windows.h>
+
+#  include <cstdio>
 
 Utf8Console::Utf8Console() : code_page_before(GetConsoleOutputCP())
 {
   SetConsoleOutputCP(CP_UTF8);
+  _setmode(_fileno(stdout), _O_BINARY);
 }
 
 // The setting belongs to the console, which the program leaves as it found it.

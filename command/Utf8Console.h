@@ -1,6 +1,7 @@
 #pragma once
 
-/// As long as it lives, a console takes what the program writes for UTF-8. Only one system needs to be told.
+/// As long as it lives, a console takes what the program writes for UTF-8; and standard output takes every byte as it is,
+/// line ends included. Only one system needs to be told.
 class Utf8Console
 {
 public:

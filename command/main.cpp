@@ -15,6 +15,8 @@ Verb const verbs[] = {add_check, add_select, add_set, add_table, add_conform};
 int run(Arguments const& arguments)
 {
   CLI::App app("Work with XML documents through axm.", "axm");
+  // A slash begins a path or an XPath expression on every system, never an option.
+  app.allow_windows_style_options(false);
   app.require_subcommand(1);
   int exit_code = exit_good;
   for (Verb const verb : verbs)
