@@ -11,7 +11,7 @@ int const many_rounds = 300000;
 int const many_rounds = 10000000;
 #endif
 
-#if defined(__linux__)
+#if defined(__linux__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
 // The resident pages of the process, in bytes.
 long resident()
 {
@@ -119,7 +119,7 @@ TEST(axsLifetime, rounds_of_append_and_remove_take_no_memory)
     }
   };
   rounds(1000);
-#if defined(__linux__)
+#if defined(__linux__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
   long const before = resident();
 #endif
   rounds(many_rounds / 4);
