@@ -62,7 +62,7 @@ std::shared_ptr<axmDocumentFactory> EngineLibrary::load(std::string const& name,
   utService::get_instance()->register_service(service, nullptr);
   register_engine();
   utServiceName resolved;
-  std::shared_ptr<axmDocumentFactory> const factory = utService::locate_service<axmDocumentFactory>(service, resolved);
+  std::shared_ptr<axmDocumentFactory> factory = utService::locate_service<axmDocumentFactory>(service, resolved);
   if (factory == nullptr)
     error = "the library registers no factory under XMLService";
   return factory;

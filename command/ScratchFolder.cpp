@@ -15,7 +15,7 @@ fs::path make_folder()
   std::string const name = "axm-" + std::to_string(apProcessControl::getpid()) + "-";
   for (int number = 0;; ++number)
   {
-    fs::path const folder = fs::temp_directory_path() / (name + std::to_string(number));
+    fs::path folder = fs::temp_directory_path() / (name + std::to_string(number));
     if (fs::create_directory(folder))
       return folder;
   }
