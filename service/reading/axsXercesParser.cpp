@@ -16,6 +16,7 @@
 #include <xercesc/framework/XMLDocumentHandler.hpp>
 #include <xercesc/framework/XMLElementDecl.hpp>
 #include <xercesc/internal/IGXMLScanner.hpp>
+#include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/SecurityManager.hpp>
 #include <xercesc/util/TransService.hpp>
 #include <xercesc/validators/DTD/DocTypeHandler.hpp>
@@ -23,6 +24,8 @@
 
 #include <algorithm>
 #include <memory>
+#include <string>
+#include <string_view>
 
 namespace
 {
@@ -272,15 +275,41 @@ void Run::doctypeDecl(xercesc::DTDElementDecl const&, XMLCh const*, XMLCh const*
   events.doctype(axsDoctypeText::find(document));
 }
 
+// The text of `bytes` in `encoding`, up to where it is none.
+std::basic_string<XMLCh> transcode(std::string_view bytes, std::string const& encoding)
+{
+  XMLSize_t const piece = 4096;
+  xercesc::XMLTransService::Codes result{};
+  std::unique_ptr<xercesc::XMLTranscoder> const transcoder(
+    xercesc::XMLPlatformUtils::fgTransService->makeNewTranscoderFor(encoding.c_str(), result, piece));
+  std::basic_string<XMLCh> text;
+  if (transcoder == nullptr)
+    return text;
+  XMLCh characters[piece];
+  unsigned char sizes[piece];
+  while (!bytes.empty())
+  {
+    XMLSize_t eaten = 0;
+    XMLSize_t const made = transcoder->transcodeFrom(
+      reinterpret_cast<XMLByte const*>(bytes.data()), bytes.size(), characters, piece, eaten, sizes);
+    if (eaten == 0)
+      break;
+    text.append(characters, made);
+    bytes.remove_prefix(eaten);
+  }
+  return text;
+}
+
 std::string Run::document_in_utf8()
 {
   std::string const encoding = axsUtf16::to_utf8(scanner->getReaderMgr()->getCurrentEncodingStr());
   std::string_view const bytes = source.head();
   if (encoding == "UTF-8")
     return std::string(bytes);
-  xercesc::TranscodeFromStr const text(reinterpret_cast<XMLByte const*>(bytes.data()), bytes.size(), encoding.c_str());
+  // In pieces: TranscodeFromStr writes behind its buffers where a character takes several bytes.
+  auto const whole = transcode(bytes, encoding);
   std::string document;
-  axsUtf16::append_utf8(text.str(), text.length(), document);
+  axsUtf16::append_utf8(whole.data(), whole.size(), document);
   return document;
 }
 }
