@@ -1,20 +1,28 @@
-# axm_add_test(NAME SOURCES ... [LIBRARIES ...] [ENVIRONMENT ...])
+# axm_add_test(NAME SOURCES ... [LIBRARIES ...] [ENVIRONMENT ...] [FIXTURES ...])
 # One GoogleTest program for a room. Natively each of its tests is a test of the runner; across an emulator, where
-# starting a process is dear, the program is one test.
+# starting a process is dear, the program is one test. It runs after the tests that set FIXTURES up.
 
 find_package(GTest REQUIRED)
 include(GoogleTest)
 
 function(axm_add_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES;ENVIRONMENT")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES;ENVIRONMENT;FIXTURES")
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} axm_options GTest::gtest_main)
   target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+  set(properties TIMEOUT 600)
+  # One without a value would take the next one's name for its value.
+  if(arg_ENVIRONMENT)
+    list(APPEND properties ENVIRONMENT "${arg_ENVIRONMENT}")
+  endif()
+  if(arg_FIXTURES)
+    list(APPEND properties FIXTURES_REQUIRED "${arg_FIXTURES}")
+  endif()
   if(CMAKE_CROSSCOMPILING)
     add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
-    set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "${arg_ENVIRONMENT}")
+    set_tests_properties(${name} PROPERTIES ${properties})
   else()
-    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 600 ENVIRONMENT "${arg_ENVIRONMENT}")
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES ${properties})
   endif()
 endfunction()
 

@@ -1,0 +1,167 @@
+#include "SchemaSuite.h"
+
+#include "Engine.h"
+#include "Fields.h"
+
+#include <axmElement.h>
+
+#include <algorithm>
+#include <fstream>
+#include <ostream>
+#include <sstream>
+#include <stdexcept>
+
+namespace
+{
+SchemaTest read_test(std::vector<std::string> const& fields, std::string const& folder)
+{
+  bool const about_schema = fields[0] == "schema" && fields.size() == 5;
+  bool const about_instance = fields[0] == "instance" && fields.size() == 6;
+  if (!about_schema && !about_instance)
+    throw std::runtime_error("this is no test");
+  if (fields[3] != "valid" && fields[3] != "invalid")
+    throw std::runtime_error("the test is neither valid nor invalid");
+  SchemaTest test;
+  test.set = fields[1];
+  test.name = fields[2];
+  test.valid = fields[3] == "valid";
+  test.schema = folder + "/" + fields[4];
+  if (about_instance)
+    test.instance = folder + "/" + fields[5];
+  return test;
+}
+
+/// The target namespace that the schema states; empty when it states none or is no document.
+apString target_namespace(apPath const& schema)
+{
+  apString name_space;
+  axmParseError error;
+  if (auto const document = engine()->loadDocument(schema, axmLoadOptions(axmValidateNone), error))
+    document->getDocumentElement()->get_attribute(APSTRING("targetNamespace"), name_space);
+  return name_space;
+}
+
+axmLoadOptions options_for(apPath const& schema)
+{
+  axmLoadOptions options(axmValidateWithSchemas);
+  apString const name_space = target_namespace(schema);
+  if (name_space.empty())
+    options.set_no_namespace_schema(schema);
+  else
+    options.add_external_schema(name_space, schema);
+  return options;
+}
+
+std::shared_ptr<axmDocument> load(SchemaTest const& test, axmParseError& error)
+{
+  axmLoadOptions const options = options_for(test.schema.c_str());
+  if (!test.instance.empty())
+    return engine()->loadDocument(apPath(test.instance.c_str()), options, error);
+  std::string const unrelated = "<unrelated xmlns='urn:in-no-schema'/>";
+  return engine()->loadDocument(apByteArray(unrelated.data(), unrelated.size()), options, error);
+}
+
+/// Tabs and line ends in a message would break the list of disagreements.
+std::string in_one_field(std::string text)
+{
+  std::replace_if(
+    text.begin(), text.end(), [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');
+  return text;
+}
+
+/// What came instead of what the suite says; empty where it came out so.
+std::string disagreement(SchemaTest const& test, GuardedEnd const& end)
+{
+  switch (end.how)
+  {
+  case GuardedEnd::How::crashed:
+    return "crashed: " + end.text;
+  case GuardedEnd::How::overran:
+    return "overran";
+  case GuardedEnd::How::answered:
+    break;
+  }
+  if (end.text.empty() == test.valid)
+    return {};
+  return end.text.empty() ? "accepted" : "refused: " + in_one_field(end.text);
+}
+
+int const tests_between_reports = 2000;
+}
+
+std::vector<SchemaTest> read_schema_suite(std::string const& folder)
+{
+  std::string const file = folder + "/tests.tsv";
+  std::ifstream input(file);
+  if (!input)
+    throw std::runtime_error(file + ": cannot be read");
+  std::vector<SchemaTest> tests;
+  std::string line;
+  for (int number = 1; std::getline(input, line); ++number)
+  {
+    if (line.empty() || line[0] == '#')
+      continue;
+    try
+    {
+      tests.push_back(read_test(split_fields(line), folder));
+    }
+    catch (std::runtime_error const& error)
+    {
+      throw std::runtime_error(file + ":" + std::to_string(number) + ": " + error.what());
+    }
+  }
+  return tests;
+}
+
+std::string refusal(SchemaTest const& test)
+{
+  axmParseError error;
+  if (load(test, error) != nullptr)
+    return {};
+  std::ostringstream text;
+  text << error.url().to_utf8().c_str() << ':' << error.line_number() << ':' << error.column_number() << ": "
+       << error.message().to_utf8().c_str();
+  return text.str();
+}
+
+SchemaResult run_schema_suite(std::vector<SchemaTest> const& tests, GuardedLimits const& limits,
+  std::ostream& disagreements, std::ostream& progress)
+{
+  SchemaResult result;
+  std::vector<std::string> found(tests.size());
+  std::size_t done = 0;
+  auto const report = [&](std::size_t number, GuardedEnd const& end)
+  {
+    SchemaTest const& test = tests[number];
+    found[number] = disagreement(test, end);
+
+    SchemaTally& tally = test.instance.empty() ? result.schemas : result.instances;
+    tally.tests += 1;
+    tally.agree += found[number].empty() ? 1 : 0;
+    result.crashed += end.how == GuardedEnd::How::crashed ? 1 : 0;
+    result.overran += end.how == GuardedEnd::How::overran ? 1 : 0;
+    if (end.seconds > result.slowest_seconds)
+    {
+      result.slowest_seconds = end.seconds;
+      result.slowest = test.instance.empty() ? test.schema : test.instance;
+    }
+    result.peak_bytes = std::max(result.peak_bytes, end.peak_bytes);
+
+    ++done;
+    if (done % tests_between_reports == 0 || done == tests.size())
+      progress << done << " of " << tests.size() << " tests" << std::endl;
+  };
+  run_guarded(
+    tests.size(), [&tests](std::size_t number) { return refusal(tests[number]); }, limits, report);
+
+  for (std::size_t i = 0; i < tests.size(); ++i)
+  {
+    if (found[i].empty())
+      continue;
+    SchemaTest const& test = tests[i];
+    disagreements << (test.instance.empty() ? "schema" : "instance") << '\t' << test.set << '\t' << test.name << '\t'
+                  << (test.valid ? "valid" : "invalid") << '\t' << test.schema << '\t' << test.instance << '\t'
+                  << found[i] << '\n';
+  }
+  return result;
+}
