@@ -15,14 +15,14 @@ install_missing() {
       apt-get -qq install -y --no-install-recommends "${missing[@]}" > /dev/null
 }
 
-# build_preset PRESET [CMAKE ARGUMENT...]
+# build_preset PRESET [TARGET...]
 # The output goes to build/PRESET.log, of which the end is shown when something fails.
 build_preset() {
   local preset=$1 log=build/$1.log
   shift
   mkdir -p build
   [ -f "build/$preset/build.ninja" ] || echo "Building ($preset); the log is $log ..." >&2
-  if ! { cmake --preset "$preset" "$@" && cmake --build "build/$preset"; } > "$log" 2>&1; then
+  if ! { cmake --preset "$preset" && cmake --build "build/$preset" ${@:+--target "$@"}; } > "$log" 2>&1; then
     tail -n 60 "$log" >&2
     echo "Building ($preset) failed; the whole log is $log." >&2
     return 1
