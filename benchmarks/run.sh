@@ -19,10 +19,8 @@ results=build/benchmark/results
 mkdir -p "$results"
 status=0
 build/benchmark/bin/bench_reader ${folder:+"$folder"} --output "$results/reader" || status=1
-if [ -n "$folder" ]; then
-  build/benchmark/bin/document_benchmark "$folder"/*.xml | tee "$results/document.txt" || status=1
-else
-  build/benchmark/bin/document_benchmark | tee "$results/document.txt" || status=1
-fi
+documents=()
+[ -z "$folder" ] || documents=("$folder"/*.xml)
+build/benchmark/bin/document_benchmark --output "$results/document" "${documents[@]}" || status=1
 echo "The tables and plots are in $results/."
 exit $status

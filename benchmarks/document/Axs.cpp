@@ -3,6 +3,7 @@
 #include <axmDocumentFactory.h>
 #include <axmNamedNodeMap.h>
 #include <axmNodeList.h>
+#include <axmTextNode.h>
 #include <axsRegister.h>
 
 namespace
@@ -26,22 +27,16 @@ public:
 
   std::size_t traverse() override
   {
-    std::size_t strings = 0;
-    std::shared_ptr<axmNode> node = document->getDocumentElement();
-    std::shared_ptr<axmNode> const root = node;
-    while (node != nullptr)
-    {
-      strings += strings_of(*node);
-      std::shared_ptr<axmNode> next = node->getFirstChild();
-      while (next == nullptr && !(*node == *root))
-      {
-        next = node->getNextSibling();
-        if (next == nullptr)
-          node = node->getParentNode();
-      }
-      node = next;
-    }
-    return strings;
+    std::size_t length = 0;
+    for_all([&](axmNode& node) { length += length_of(node); });
+    return length;
+  }
+
+  Digest::Sum digest() override
+  {
+    Digest digest;
+    for_all([&](axmNode& node) { add(node, digest); });
+    return digest.sum();
   }
 
   double read_typed(int reads) override
@@ -72,6 +67,18 @@ public:
     return document->getDocumentElement()->selectNodes(apString(xpath.c_str()))->length();
   }
 
+  Digest::Sum digest_selection(std::string const& xpath) override
+  {
+    Digest digest;
+    auto const found = document->getDocumentElement()->selectNodes(apString(xpath.c_str()));
+    while (auto const element = found->next_node())
+    {
+      digest.element(utf8(element->getNodeName()));
+      digest.value(utf8(element->get_text()));
+    }
+    return digest.sum();
+  }
+
   void churn(int rounds) override
   {
     auto const root = document->getDocumentElement();
@@ -89,23 +96,58 @@ public:
   bool save(std::string const& file) override { return factory->saveDocument(document, apPath(file.c_str())); }
 
 private:
-  static std::size_t strings_of(axmNode& node)
+  template <class Visit>
+  void for_all(Visit const& visit)
   {
-    apString const node_name = node.getNodeName();
-    if (node_name.c_str()[0] == L'#')
-      return node.getNodeValue().empty() ? 0 : 1;
-    std::size_t strings = 1;
+    std::shared_ptr<axmNode> node = document->getDocumentElement();
+    std::shared_ptr<axmNode> const root = node;
+    while (node != nullptr)
+    {
+      visit(*node);
+      std::shared_ptr<axmNode> next = node->getFirstChild();
+      while (next == nullptr && !(*node == *root))
+      {
+        next = node->getNextSibling();
+        if (next == nullptr)
+          node = node->getParentNode();
+      }
+      node = std::move(next);
+    }
+  }
+
+  static std::size_t length_of(axmNode& node)
+  {
+    apString const name = node.getNodeName();
+    if (name.c_str()[0] == L'#')
+      return length(node.getNodeValue());
+    std::size_t sum = length(name);
     if (!node.hasAttributes())
-      return strings;
+      return sum;
     auto const attributes = node.getAttributes();
     for (int i = 0; auto const attribute = attributes->item(i); ++i)
-    {
-      apString const name = attribute->getNodeName();
-      apString const value = attribute->getNodeValue();
-      strings += name.empty() ? 0 : value.length() >= 0 ? 2 : 0;
-    }
-    return strings;
+      sum += length(attribute->getNodeName()) + length(attribute->getNodeValue());
+    return sum;
   }
+
+  static void add(axmNode& node, Digest& digest)
+  {
+    std::string const name = utf8(node.getNodeName());
+    if (dynamic_cast<axmTextNode*>(&node) != nullptr)
+      digest.text(utf8(node.getNodeValue()));
+    else if (dynamic_cast<axmElement*>(&node) == nullptr)
+      digest.comment(utf8(node.getNodeValue()));
+    else
+    {
+      digest.element(name);
+      auto const attributes = node.getAttributes();
+      for (int i = 0; auto const attribute = attributes->item(i); ++i)
+        digest.attribute(utf8(attribute->getNodeName()), utf8(attribute->getNodeValue()));
+    }
+  }
+
+  static std::size_t length(apString const& text) { return static_cast<std::size_t>(text.length()); }
+
+  static std::string utf8(apString const& text) { return std::string(text.to_utf8().view()); }
 
   apString const name_i = APSTRING("i");
   apString const name_d = APSTRING("d");

@@ -27,27 +27,24 @@ public:
 
   bool load(std::string const& file) override
   {
-    document = xmlReadFile(file.c_str(), nullptr, XML_PARSE_HUGE | XML_PARSE_NOBLANKS);
+    document = xmlReadFile(file.c_str(), nullptr,
+      XML_PARSE_HUGE | XML_PARSE_NOBLANKS | XML_PARSE_NOENT | XML_PARSE_DTDATTR | XML_PARSE_NONET | XML_PARSE_NOERROR |
+        XML_PARSE_NOWARNING);
     return document != nullptr;
   }
 
   std::size_t traverse() override
   {
-    std::size_t strings = 0;
-    xmlNode* const root = xmlDocGetRootElement(document);
-    for (xmlNode* node = root; node != nullptr;)
-    {
-      strings += strings_of(*node);
-      xmlNode* next = node->type == XML_ELEMENT_NODE ? node->children : nullptr;
-      while (next == nullptr && node != root)
-      {
-        next = node->next;
-        if (next == nullptr)
-          node = node->parent;
-      }
-      node = next;
-    }
-    return strings;
+    std::size_t length = 0;
+    for_all([&](xmlNode& node) { length += length_of(node); });
+    return length;
+  }
+
+  Digest::Sum digest() override
+  {
+    Digest digest;
+    for_all([&](xmlNode& node) { add(node, digest); });
+    return digest.sum();
   }
 
   double read_typed(int reads) override
@@ -79,6 +76,23 @@ public:
     return count;
   }
 
+  Digest::Sum digest_selection(std::string const& xpath) override
+  {
+    Digest digest;
+    xmlXPathContext* const context = xmlXPathNewContext(document);
+    context->node = xmlDocGetRootElement(document);
+    xmlXPathObject* const found = xmlXPathEvalExpression(as_xml(xpath.c_str()), context);
+    for (int i = 0; i < found->nodesetval->nodeNr; ++i)
+    {
+      xmlNode const& node = *found->nodesetval->nodeTab[i];
+      digest.element(name_of(node.name, node.ns));
+      digest.value(take(xmlNodeGetContent(found->nodesetval->nodeTab[i])));
+    }
+    xmlXPathFreeObject(found);
+    xmlXPathFreeContext(context);
+    return digest.sum();
+  }
+
   void churn(int rounds) override
   {
     xmlNode* const root = xmlDocGetRootElement(document);
@@ -95,19 +109,57 @@ public:
   bool save(std::string const& file) override { return xmlSaveFileEnc(file.c_str(), document, "UTF-8") >= 0; }
 
 private:
-  std::size_t strings_of(xmlNode& node)
+  template <class Visit>
+  void for_all(Visit const& visit)
+  {
+    xmlNode* const root = xmlDocGetRootElement(document);
+    for (xmlNode* node = root; node != nullptr;)
+    {
+      visit(*node);
+      xmlNode* next = node->type == XML_ELEMENT_NODE ? node->children : nullptr;
+      while (next == nullptr && node != root)
+      {
+        next = node->next;
+        if (next == nullptr)
+          node = node->parent;
+      }
+      node = next;
+    }
+  }
+
+  std::size_t length_of(xmlNode& node)
   {
     if (node.type != XML_ELEMENT_NODE)
-      return take(xmlNodeGetContent(&node)).empty() ? 0 : 1;
-    std::size_t strings = std::string(reinterpret_cast<char const*>(node.name)).empty() ? 0 : 1;
+      return take(xmlNodeGetContent(&node)).size();
+    std::size_t length = name_of(node.name, node.ns).size();
     for (xmlAttr* attribute = node.properties; attribute != nullptr; attribute = attribute->next)
-    {
-      std::string const name = reinterpret_cast<char const*>(attribute->name);
-      std::string const value = take(xmlNodeListGetString(document, attribute->children, 1));
-      strings += name.empty() ? 0 : value.size() + 1 > 0 ? 2 : 0;
-    }
-    return strings;
+      length += name_of(attribute->name, attribute->ns).size() + value_of(*attribute).size();
+    return length;
   }
+
+  void add(xmlNode& node, Digest& digest)
+  {
+    if (node.type == XML_TEXT_NODE || node.type == XML_CDATA_SECTION_NODE)
+      digest.text(take(xmlNodeGetContent(&node)));
+    else if (node.type != XML_ELEMENT_NODE)
+      digest.comment(take(xmlNodeGetContent(&node)));
+    else
+    {
+      digest.element(name_of(node.name, node.ns));
+      for (xmlAttr* attribute = node.properties; attribute != nullptr; attribute = attribute->next)
+        digest.attribute(name_of(attribute->name, attribute->ns), value_of(*attribute));
+    }
+  }
+
+  static std::string name_of(xmlChar const* local, xmlNs const* name_space)
+  {
+    std::string const name = reinterpret_cast<char const*>(local);
+    return name_space == nullptr || name_space->prefix == nullptr
+             ? name
+             : reinterpret_cast<char const*>(name_space->prefix) + (":" + name);
+  }
+
+  std::string value_of(xmlAttr& attribute) { return take(xmlNodeListGetString(document, attribute.children, 1)); }
 
   xmlDoc* document = nullptr;
 };

@@ -7,25 +7,23 @@ namespace
 class Pugixml final : public Subject
 {
 public:
-  bool load(std::string const& file) override { return document.load_file(file.c_str()); }
+  bool load(std::string const& file) override
+  {
+    return document.load_file(file.c_str(), pugi::parse_default | pugi::parse_comments | pugi::parse_pi);
+  }
 
   std::size_t traverse() override
   {
-    std::size_t strings = 0;
-    pugi::xml_node const root = document.document_element();
-    for (pugi::xml_node node = root; node;)
-    {
-      strings += strings_of(node);
-      pugi::xml_node next = node.first_child();
-      while (!next && node != root)
-      {
-        next = node.next_sibling();
-        if (!next)
-          node = node.parent();
-      }
-      node = next;
-    }
-    return strings;
+    std::size_t length = 0;
+    for_all([&](pugi::xml_node const& node) { length += length_of(node); });
+    return length;
+  }
+
+  Digest::Sum digest() override
+  {
+    Digest digest;
+    for_all([&](pugi::xml_node const& node) { add(node, digest); });
+    return digest.sum();
   }
 
   double read_typed(int reads) override
@@ -47,6 +45,18 @@ public:
     return static_cast<long>(document.document_element().select_nodes(xpath.c_str()).size());
   }
 
+  Digest::Sum digest_selection(std::string const& xpath) override
+  {
+    Digest digest;
+    pugi::xpath_query const text("string()");
+    for (pugi::xpath_node const& found : document.document_element().select_nodes(xpath.c_str()))
+    {
+      digest.element(found.node().name());
+      digest.value(text.evaluate_string(found));
+    }
+    return digest.sum();
+  }
+
   void churn(int rounds) override
   {
     pugi::xml_node root = document.document_element();
@@ -61,18 +71,46 @@ public:
   bool save(std::string const& file) override { return document.save_file(file.c_str(), "", pugi::format_raw); }
 
 private:
-  static std::size_t strings_of(pugi::xml_node const& node)
+  template <class Visit>
+  void for_all(Visit const& visit)
+  {
+    pugi::xml_node const root = document.document_element();
+    for (pugi::xml_node node = root; node;)
+    {
+      visit(node);
+      pugi::xml_node next = node.first_child();
+      while (!next && node != root)
+      {
+        next = node.next_sibling();
+        if (!next)
+          node = node.parent();
+      }
+      node = next;
+    }
+  }
+
+  static std::size_t length_of(pugi::xml_node const& node)
   {
     if (node.type() != pugi::node_element)
-      return std::string(node.value()).empty() ? 0 : 1;
-    std::size_t strings = std::string(node.name()).empty() ? 0 : 1;
+      return std::string(node.value()).size();
+    std::size_t length = std::string(node.name()).size();
     for (pugi::xml_attribute const attribute : node.attributes())
+      length += std::string(attribute.name()).size() + std::string(attribute.value()).size();
+    return length;
+  }
+
+  static void add(pugi::xml_node const& node, Digest& digest)
+  {
+    if (node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata)
+      digest.text(node.value());
+    else if (node.type() != pugi::node_element)
+      digest.comment(node.value());
+    else
     {
-      std::string const name = attribute.name();
-      std::string const value = attribute.value();
-      strings += name.empty() ? 0 : value.size() + 1 > 0 ? 2 : 0;
+      digest.element(node.name());
+      for (pugi::xml_attribute const attribute : node.attributes())
+        digest.attribute(attribute.name(), attribute.value());
     }
-    return strings;
   }
 
   pugi::xml_document document;

@@ -4,6 +4,7 @@
 #include <xercesc/framework/LocalFileFormatTarget.hpp>
 #include <xercesc/parsers/XercesDOMParser.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
+#include <xercesc/util/TransService.hpp>
 
 #include <cstdlib>
 
@@ -22,6 +23,12 @@ std::string narrow(Text const& text)
   return std::string(text.begin(), text.end());
 }
 
+std::string utf8(XMLCh const* text)
+{
+  xc::TranscodeToStr const bytes(text, "UTF-8");
+  return std::string(reinterpret_cast<char const*>(bytes.str()), bytes.length());
+}
+
 class Xerces final : public Subject
 {
 public:
@@ -32,6 +39,7 @@ public:
     parser->setValidationScheme(xc::XercesDOMParser::Val_Never);
     parser->setDoNamespaces(true);
     parser->setLoadExternalDTD(false);
+    parser->setCreateEntityReferenceNodes(false);
   }
 
   bool load(std::string const& file) override
@@ -43,21 +51,16 @@ public:
 
   std::size_t traverse() override
   {
-    std::size_t strings = 0;
-    xc::DOMNode* const root = document->getDocumentElement();
-    for (xc::DOMNode* node = root; node != nullptr;)
-    {
-      strings += strings_of(*node);
-      xc::DOMNode* next = node->getFirstChild();
-      while (next == nullptr && node != root)
-      {
-        next = node->getNextSibling();
-        if (next == nullptr)
-          node = node->getParentNode();
-      }
-      node = next;
-    }
-    return strings;
+    std::size_t length = 0;
+    for_all([&](xc::DOMNode& node) { length += length_of(node); });
+    return length;
+  }
+
+  Digest::Sum digest() override
+  {
+    Digest digest;
+    for_all([&](xc::DOMNode& node) { add(node, digest); });
+    return digest.sum();
   }
 
   double read_typed(int reads) override
@@ -80,6 +83,7 @@ public:
 
   // What it calls XPath are a few location paths.
   long select(std::string const&) override { return -1; }
+  Digest::Sum digest_selection(std::string const&) override { return {}; }
 
   void churn(int rounds) override
   {
@@ -107,19 +111,49 @@ public:
   }
 
 private:
-  static std::size_t strings_of(xc::DOMNode& node)
+  template <class Visit>
+  void for_all(Visit const& visit)
+  {
+    xc::DOMNode* const root = document->getDocumentElement();
+    for (xc::DOMNode* node = root; node != nullptr;)
+    {
+      visit(*node);
+      xc::DOMNode* next = node->getFirstChild();
+      while (next == nullptr && node != root)
+      {
+        next = node->getNextSibling();
+        if (next == nullptr)
+          node = node->getParentNode();
+      }
+      node = next;
+    }
+  }
+
+  static std::size_t length_of(xc::DOMNode& node)
   {
     if (node.getNodeType() != xc::DOMNode::ELEMENT_NODE)
-      return text_of(node.getNodeValue()).empty() ? 0 : 1;
-    std::size_t strings = text_of(node.getNodeName()).empty() ? 0 : 1;
+      return text_of(node.getNodeValue()).size();
+    std::size_t length = text_of(node.getNodeName()).size();
     xc::DOMNamedNodeMap* const attributes = node.getAttributes();
     for (XMLSize_t i = 0; i < attributes->getLength(); ++i)
+      length +=
+        text_of(attributes->item(i)->getNodeName()).size() + text_of(attributes->item(i)->getNodeValue()).size();
+    return length;
+  }
+
+  static void add(xc::DOMNode& node, Digest& digest)
+  {
+    if (node.getNodeType() == xc::DOMNode::TEXT_NODE || node.getNodeType() == xc::DOMNode::CDATA_SECTION_NODE)
+      digest.text(utf8(node.getNodeValue()));
+    else if (node.getNodeType() != xc::DOMNode::ELEMENT_NODE)
+      digest.comment(utf8(node.getNodeValue()));
+    else
     {
-      Text const name = text_of(attributes->item(i)->getNodeName());
-      Text const value = text_of(attributes->item(i)->getNodeValue());
-      strings += name.empty() ? 0 : value.size() + 1 > 0 ? 2 : 0;
+      digest.element(utf8(node.getNodeName()));
+      xc::DOMNamedNodeMap* const attributes = node.getAttributes();
+      for (XMLSize_t i = 0; i < attributes->getLength(); ++i)
+        digest.attribute(utf8(attributes->item(i)->getNodeName()), utf8(attributes->item(i)->getNodeValue()));
     }
-    return strings;
   }
 
   std::unique_ptr<xc::XercesDOMParser> parser;

@@ -1,241 +1,108 @@
-// Measures axs through the public interface beside libxml2, Xerces-C's DOM and pugixml.
+// Measures axs through the public interface beside libxml2, Xerces-C's DOM and pugixml, after each run compares what they
+// found, and says which of the limits that axs is to keep are kept.
 //
-//   document_benchmark [--megabytes N] [--rounds N] [FILE...]
+//   document_benchmark [--megabytes N] [--rounds N] [--output PREFIX] [FILE...]
 //
-// Without files on three documents that it makes: like records, heavy in attributes, heavy in text, of 50 MB each. Every
-// library has a process of its own for every round, so that none meets the memory another has left; shown is the best
-// round, in milliseconds of processor time, and the memory that loading took at its peak. XPath "//x" selects by the name
-// of the root's first child element, the other expression every seventh of those.
+// Without files on three documents that it makes: like records, heavy in attributes, heavy in text, of 50 MB each. Shown
+// is the best round, in milliseconds of processor time, and the memory that loading took at its peak. XPath "//x" selects
+// by the name of the root's first child element, the other expression every seventh of those in its parent. With --output
+// the tables are written to PREFIX.txt and a plot to PREFIX.svg. Ends with 1 when the libraries disagree, with 2 when it is
+// called wrongly.
 
-#include "Subject.h"
+#include "Measuring.h"
+#include "Report.h"
+#include "documents.h"
 
-#include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
-#include <fstream>
 #include <iostream>
 #include <string>
 #include <vector>
 
 namespace
 {
-enum Measure : std::size_t
+struct Options
 {
-  measure_load,
-  measure_traverse,
-  measure_reads,
-  measure_all,
-  measure_predicate,
-  measure_churn,
-  measure_save,
-  measure_memory,
-  measure_count
+  std::size_t megabytes = 50;
+  int rounds = 3;
+  std::string output;
+  std::vector<std::string> files;
 };
 
-char const* const measure_names[measure_count] = {"load", "traverse", "1e6 typed reads", "XPath //x", "XPath predicate",
-  "1e6 append+remove", "save", "peak memory, MB"};
-
-struct Library
+bool read_options(int argc, char** argv, Options& options)
 {
-  char const* name;
-  std::unique_ptr<Subject> (*make)();
-};
-
-Library const libraries[] = {
-  {"axs", make_axs}, {"libxml2", make_libxml2}, {"Xerces-C DOM", make_xerces}, {"pugixml", make_pugixml}};
-
-using Numbers = std::array<double, measure_count>;
-
-double now()
-{
-  timespec time;
-  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-  return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
-}
-
-double peak_megabytes()
-{
-  rusage usage;
-  getrusage(RUSAGE_SELF, &usage);
-  return static_cast<double>(usage.ru_maxrss) / 1024;
-}
-
-template <class Work>
-double timed(Work const& work)
-{
-  double const start = now();
-  work();
-  return now() - start;
-}
-
-Numbers measure(Library const& library, std::string const& file, std::string const& name)
-{
-  Numbers numbers{};
-  auto const subject = library.make();
-  double const before = peak_megabytes();
-  bool good = false;
-  numbers[measure_load] = timed([&] { good = subject->load(file); });
-  if (!good)
-    return numbers;
-  numbers[measure_memory] = peak_megabytes() - before;
-  numbers[measure_traverse] = timed([&] { subject->traverse(); });
-  numbers[measure_reads] = timed([&] { subject->read_typed(1000000); });
-  long found = 0;
-  numbers[measure_all] = timed([&] { found = subject->select("//" + name); });
-  numbers[measure_predicate] = timed([&] { subject->select("//" + name + "[position() mod 7 = 1]"); });
-  if (found < 0)
-    numbers[measure_all] = numbers[measure_predicate] = 0;
-  numbers[measure_churn] = timed([&] { subject->churn(1000000); });
-  std::string const output = file + ".saved";
-  numbers[measure_save] = timed([&] { subject->save(output); });
-  std::remove(output.c_str());
-  return numbers;
-}
-
-Numbers measure_apart(Library const& library, std::string const& file, std::string const& name)
-{
-  Numbers numbers{};
-  int ends[2];
-  if (pipe(ends) != 0)
-    return numbers;
-  std::fflush(nullptr);
-  pid_t const child = fork();
-  if (child == 0)
+  for (int i = 1; i < argc; ++i)
   {
-    numbers = measure(library, file, name);
-    bool const written = write(ends[1], numbers.data(), sizeof numbers) == sizeof numbers;
-    _exit(written ? 0 : 1);
-  }
-  close(ends[1]);
-  if (read(ends[0], numbers.data(), sizeof numbers) != sizeof numbers)
-    numbers = Numbers{};
-  close(ends[0]);
-  waitpid(child, nullptr, 0);
-  return numbers;
-}
-
-// The name of the first element below the root, by a look at the beginning.
-std::string first_name(std::string const& file)
-{
-  std::ifstream stream(file);
-  int elements = 0;
-  for (char c; stream.get(c);)
-    if (c == '<' && stream.peek() != '?' && stream.peek() != '!' && ++elements == 2)
+    std::string const argument = argv[i];
+    if (argument.compare(0, 2, "--") != 0)
     {
-      std::string name;
-      while (stream.get(c) && c != ' ' && c != '>' && c != '/' && c != '\n' && c != '\t' && c != '\r')
-        name += c;
-      return name;
+      options.files.push_back(argument);
+      continue;
     }
-  return "*";
-}
-
-template <class Part>
-void make_document(std::string const& file, std::size_t bytes, Part const& part)
-{
-  std::ofstream out(file, std::ios::binary);
-  out << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<root>\n";
-  std::size_t size = 0;
-  for (int i = 0; size < bytes; ++i)
-  {
-    std::string const text = part(i);
-    out << text;
-    size += text.size();
+    if (i + 1 == argc)
+      return false;
+    std::string const value = argv[++i];
+    if (argument == "--output")
+      options.output = value;
+    else if (argument == "--megabytes")
+      options.megabytes = std::strtoul(value.c_str(), nullptr, 10);
+    else if (argument == "--rounds")
+      options.rounds = std::atoi(value.c_str());
+    else
+      return false;
   }
-  out << "</root>\n";
+  return options.rounds > 0 && options.megabytes > 0;
 }
 
-std::string record(int i)
+std::string base_name(std::string const& file)
 {
-  std::string const n = std::to_string(i);
-  return "  <record id=\"" + n + "\">\n    <name>Name of " + n + "</name>\n    <amount>" +
-         std::to_string(i * 37 % 9999) +
-         ".50</amount>\n    <date>2024-05-17</date>\n    <comment>A short remark &amp; more</comment>\n  </record>\n";
+  return file.substr(file.find_last_of('/') + 1);
 }
 
-std::string attributes(int i)
+void add_made(Report& report, Options const& options)
 {
-  std::string const n = std::to_string(i);
-  return "  <item id=\"" + n + "\" name=\"name" + n + "\" lat=\"42.5" + n + "\" lon=\"1.5" + n +
-         "\" visible=\"true\" version=\"3\" user=\"someone\" changed=\"2024-05-17T12:00:00Z\"/>\n";
-}
-
-std::string paragraph(int i)
-{
-  std::string const words = "The quick brown fox jumps over the lazy dog and runs away into the deep dark wood. ";
-  return "  <p>" + words + words + "<em>" + std::to_string(i) + "</em> " + words + words + words + "</p>\n";
-}
-
-void print(std::string const& title, std::vector<Numbers> const& results)
-{
-  std::printf("\n%s\n%-20s", title.c_str(), "");
-  for (Library const& library : libraries)
-    std::printf("%14s", library.name);
-  std::printf("%16s\n", "axs : libxml2");
-  for (std::size_t i = 0; i < measure_count; ++i)
+  struct Made
   {
-    std::printf("%-20s", measure_names[i]);
-    for (Numbers const& numbers : results)
-      if (numbers[i] > 0)
-        std::printf("%14.1f", numbers[i]);
-      else
-        std::printf("%14s", "-");
-    std::printf("%16.2f\n", results[1][i] > 0 ? results[0][i] / results[1][i] : 0.0);
-  }
-}
-
-void compare(std::string const& title, std::string const& file, int rounds)
-{
-  std::string const name = first_name(file);
-  std::vector<Numbers> results;
-  for (Library const& library : libraries)
+    char const* title;
+    void (*make)(std::string const&, std::size_t);
+    bool like_records;
+  };
+  std::string const file = "document_benchmark_" + std::to_string(getpid()) + ".xml";
+  for (Made const& made :
+    {Made{"records", make_records, true}, Made{"attributes", make_attributes, false}, Made{"text", make_text, false}})
   {
-    Numbers best = measure_apart(library, file, name);
-    for (int round = 1; round < rounds; ++round)
-    {
-      Numbers const other = measure_apart(library, file, name);
-      std::transform(best.begin(), best.end(), other.begin(), best.begin(),
-        [](double one, double two) { return std::min(one, two); });
-    }
-    results.push_back(best);
+    made.make(file, options.megabytes * 1000000);
+    Results const results = measure(file, options.rounds);
+    report.add(std::string(made.title) + ", " + std::to_string(options.megabytes) + " MB", results,
+      disagreements(file, results), made.like_records);
   }
-  print(title, results);
+  std::remove(file.c_str());
 }
 }
 
 int main(int argc, char** argv)
 {
-  std::size_t megabytes = 50;
-  int rounds = 3;
-  std::vector<std::string> files;
-  for (int i = 1; i < argc; ++i)
+  Options options;
+  if (!read_options(argc, argv, options))
   {
-    std::string const argument = argv[i];
-    if (argument == "--megabytes" && i + 1 < argc)
-      megabytes = std::strtoul(argv[++i], nullptr, 10);
-    else if (argument == "--rounds" && i + 1 < argc)
-      rounds = std::max(std::atoi(argv[++i]), 1);
-    else
-      files.push_back(argument);
+    std::cerr << "usage: document_benchmark [--megabytes N] [--rounds N] [--output PREFIX] [FILE...]\n";
+    return 2;
   }
-  for (std::string const& file : files)
-    compare(file, file, rounds);
-  if (!files.empty())
-    return 0;
-
-  std::string const made = "document_benchmark_" + std::to_string(getpid()) + ".xml";
-  std::size_t const bytes = megabytes * 1000000;
-  make_document(made, bytes, record);
-  compare("records, " + std::to_string(megabytes) + " MB", made, rounds);
-  make_document(made, bytes, attributes);
-  compare("attributes, " + std::to_string(megabytes) + " MB", made, rounds);
-  make_document(made, bytes, paragraph);
-  compare("text, " + std::to_string(megabytes) + " MB", made, rounds);
-  std::remove(made.c_str());
+  Report report;
+  for (std::string const& file : options.files)
+  {
+    Results const results = measure(file, options.rounds);
+    report.add(base_name(file), results, disagreements(file, results), false);
+  }
+  if (options.files.empty())
+    add_made(report, options);
+  report.add_limits();
+  if (!options.output.empty() && !report.write(options.output))
+  {
+    std::cerr << "cannot write " << options.output << ".txt and .svg\n";
+    return 1;
+  }
+  return report.all_agree() ? 0 : 1;
 }

@@ -1,0 +1,156 @@
+#include "Report.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <fstream>
+#include <iostream>
+
+namespace
+{
+std::string number(double value, int digits)
+{
+  char text[64];
+  std::snprintf(text, sizeof text, "%.*f", digits, value);
+  return text;
+}
+
+std::string left(std::string const& text, std::size_t width)
+{
+  return text.size() < width ? text + std::string(width - text.size(), ' ') : text;
+}
+
+std::string right(std::string const& text, std::size_t width)
+{
+  return text.size() < width ? std::string(width - text.size(), ' ') + text : text;
+}
+
+std::string escaped(std::string const& text)
+{
+  std::string result;
+  for (char const c : text)
+    result += c == '<' ? "&lt;" : c == '&' ? "&amp;" : std::string(1, c);
+  return result;
+}
+}
+
+void Report::line(std::string const& line_text)
+{
+  std::cout << line_text << std::endl;
+  text += line_text + '\n';
+}
+
+void Report::add(
+  std::string const& title, Results const& results, std::vector<std::string> const& disagreements, bool like_records)
+{
+  documents.push_back({title, results, like_records});
+  line("");
+  std::string heading = left(title, 30);
+  for (char const* const name : library_names)
+    heading += right(name, 14);
+  line(heading + right("libxml2 : axs", 16));
+  for (std::size_t i = 0; i < measure_count; ++i)
+  {
+    std::string row = left(measure_names[i], 30);
+    for (Numbers const& numbers : results)
+      row += right(numbers.best[i] > 0 ? number(numbers.best[i], 1) : "-", 14);
+    double const axs = results[library_axs].best[i];
+    double const other = results[library_libxml2].best[i];
+    line(row + right(axs > 0 && other > 0 ? number(other / axs, 2) : "-", 16));
+  }
+  for (std::string const& disagreement : disagreements)
+    line("DISAGREEMENT: " + disagreement);
+  agree = agree && disagreements.empty();
+}
+
+void Report::add_limits()
+{
+  line("");
+  line(left("what axs is to reach", 62) + right("is", 8) + right("at least", 10));
+  for (Document const& document : documents)
+  {
+    if (document.like_records)
+      limit(document, measure_load, library_xerces, 2.5);
+    limit(document, measure_load, library_libxml2, 0.75);
+    limit(document, measure_traverse, library_libxml2, 1);
+    limit(document, measure_all, library_libxml2, 1);
+    limit(document, measure_predicate, library_libxml2, 1);
+    limit(document, measure_save, library_libxml2, 1);
+    limit(document, measure_memory, library_libxml2, 1 / 0.6);
+  }
+}
+
+void Report::limit(Document const& document, Measure measure, Library other, double least)
+{
+  double const axs = document.results[library_axs].best[measure];
+  double const ratio = axs > 0 ? document.results[other].best[measure] / axs : 0;
+  line(left(document.title + ": " + measure_names[measure] + ", " + library_names[other] + " : axs", 62) +
+       right(number(ratio, 2), 8) + right(number(least, 2), 10) + (ratio >= least ? "  met" : "  MISSED"));
+}
+
+bool Report::write(std::string const& prefix) const
+{
+  std::ofstream table(prefix + ".txt", std::ios::binary);
+  table << text;
+  table.close();
+  std::ofstream picture(prefix + ".svg", std::ios::binary);
+  picture << plot();
+  picture.close();
+  return table.good() && picture.good();
+}
+
+// For every document and measure a bar for each of the others, from 1 to its time (or memory) in times of that of axs, on
+// a scale of powers of two.
+std::string Report::plot() const
+{
+  char const* const colours[library_count] = {"", "#4477aa", "#ccbb44", "#ee6677"};
+  int const bar = 8;
+  int const row = bar * (library_count - 1) + 8;
+  int const origin = 420;
+  int const octave = 90;
+  double const least = 1.0 / 16;
+  double const most = 32;
+  auto const x = [&](double ratio)
+  { return number(origin + octave * (std::log2(std::clamp(ratio, least, most)) + 4), 1); };
+
+  std::string rows;
+  int y = 66;
+  for (Document const& document : documents)
+  {
+    rows += "<text x=\"10\" y=\"" + std::to_string(y + 12) + "\" font-weight=\"bold\">" + escaped(document.title) +
+            "</text>\n";
+    y += 18;
+    for (std::size_t i = 0; i < measure_count; ++i, y += row)
+    {
+      rows += "<text x=\"" + std::to_string(origin - 10) + "\" y=\"" + std::to_string(y + row / 2) +
+              "\" text-anchor=\"end\">" + measure_names[i] + "</text>\n";
+      double const axs = document.results[library_axs].best[i];
+      for (std::size_t library = library_libxml2; library < library_count; ++library)
+      {
+        double const ratio = axs > 0 ? document.results[library].best[i] / axs : 0;
+        if (ratio > 0)
+          rows += "<path stroke=\"" + std::string(colours[library]) + "\" stroke-width=\"" + std::to_string(bar - 1) +
+                  "\" d=\"M" + x(1) + " " + std::to_string(y + bar * static_cast<int>(library) - bar / 2) + "H" +
+                  x(ratio) + "\"/>\n";
+      }
+    }
+  }
+
+  std::string const height = std::to_string(y + 10);
+  std::string svg =
+    "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"1260\" height=\"" + height +
+    "\" font-family=\"sans-serif\" font-size=\"12\">\n<rect width=\"100%\" height=\"100%\" fill=\"white\"/>\n"
+    "<text x=\"10\" y=\"20\" font-size=\"14\">Time and memory of others in times of axs (right of 1: axs "
+    "takes less)</text>\n";
+  for (std::size_t library = library_libxml2; library < library_count; ++library)
+  {
+    int const at = 480 + 150 * static_cast<int>(library);
+    svg += "<rect x=\"" + std::to_string(at) + "\" y=\"10\" width=\"10\" height=\"10\" fill=\"" + colours[library] +
+           "\"/><text x=\"" + std::to_string(at + 15) + "\" y=\"20\">" + library_names[library] + "</text>\n";
+  }
+  for (double ratio = least; ratio <= most; ratio *= 2)
+    svg += "<path stroke=\"" + std::string(ratio == 1 ? "black" : "#dddddd") + "\" d=\"M" + x(ratio) + " 56V" + height +
+           "\"/><text text-anchor=\"middle\" x=\"" + x(ratio) + "\" y=\"50\">" +
+           (ratio < 1 ? "1/" + number(1 / ratio, 0) : number(ratio, 0)) + "</text>\n";
+  return svg + rows + "</svg>\n";
+}
