@@ -1,22 +1,19 @@
 #pragma once
 
+#include <apAtomicFile.h>
+
 #include <cstdio>
+#include <optional>
 #include <string>
 #include <string_view>
 
-/// Where a verb writes its result: standard output, or a file that takes its place in one step when it is whole.
-///
-/// Until finish() the file grows beside its target under another name, and goes if it is not finished; what is at the
-/// target stays as it is until then. A target that is there and no regular file (a pipe, a device) is written straight.
-/// Bytes are written as they come, without any change of line ends.
+/// Where a verb writes its result: standard output, or a file that takes its place in one step when it is whole (see
+/// apAtomicFile). Bytes are written as they come, without any change of line ends.
 class OutputFile
 {
 public:
   /// To the file `target`, a path in UTF-8; to standard output if it is empty.
   explicit OutputFile(std::string const& target);
-  OutputFile(OutputFile const&) = delete;
-  OutputFile& operator=(OutputFile const&) = delete;
-  ~OutputFile();
 
   /// Whether everything could be written so far.
   bool good() const;
@@ -27,9 +24,6 @@ public:
   bool finish();
 
 private:
-  bool close();
-
-  std::string target;
-  std::string written; // the file that grows, empty where the target is written straight
+  std::optional<apAtomicFile> file; // none for standard output
   std::FILE* stream;
 };

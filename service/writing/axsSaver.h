@@ -12,7 +12,7 @@ namespace axsSaver
 /// it or memory runs out.
 bool save(axsDocument const& document, apByteArray& output) noexcept;
 
-/// Writes it to a temporary file beside `path` and renames that over it. False, with nothing left behind and an old file
+/// Writes it to `path`, the way of apAtomicFile. False, with nothing left behind and an old file
 /// unchanged, when XML cannot hold the document or the file cannot be written.
 bool save(axsDocument const& document, apPath const& path) noexcept;
 }
