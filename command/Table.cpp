@@ -8,6 +8,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <cstdio>
 #include <iostream>
 #include <memory>
 #include <sstream>
@@ -72,6 +73,18 @@ std::string errors_of(axmAbstractXmlReader const& reader)
     text.pop_back();
   // For most characters that a document must have, the reader's own text is empty.
   return text.empty() ? "a character that must be there is missing" : text;
+}
+
+// By a look at the beginning, where it stands if there is one.
+bool has_document_type(std::string const& file)
+{
+  std::FILE* const stream = apPath(file.c_str()).file_open(apPath::read_mode());
+  if (stream == nullptr)
+    return false;
+  std::string head(64 * 1024, '\0');
+  head.resize(std::fread(head.data(), 1, head.size(), stream));
+  std::fclose(stream);
+  return head.find("<!DOCTYPE") != std::string::npos;
 }
 
 std::string why_not_read(axmAbstractXmlReader& reader)
@@ -155,8 +168,12 @@ int table(Request const& request)
   if (!output.finish())
     return complain(request.output.empty() ? "standard output" : request.output, "cannot be written", exit_bad_input);
   if (reader->has_error_occurred())
-    return complain(
-      request.file, errors_of(*reader) + "; rows read before that: " + std::to_string(rows), exit_bad_input);
+  {
+    std::string message = errors_of(*reader) + "; rows read before that: " + std::to_string(rows);
+    if (rows == 0 && has_document_type(request.file))
+      message += "; the streaming reader cannot pass a DOCTYPE, but 'axm select' can";
+    return complain(request.file, message, exit_bad_input);
+  }
   return exit_good;
 }
 }

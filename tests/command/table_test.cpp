@@ -158,6 +158,16 @@ TEST_F(Table, an_error_without_a_text_of_its_own_gets_one)
   EXPECT_EQ(run.err, "axm: " + document + ": a character that must be there is missing; rows read before that: 1\n");
 }
 
+TEST_F(Table, an_error_of_a_document_type_has_a_hint)
+{
+  std::string const hint =
+    "; rows read before that: 0; the streaming reader cannot pass a DOCTYPE, but 'axm select' can\n";
+  ProgramRun const run = table("<!DOCTYPE r><r><a k='1'></a></r>", {"r/a", "@k"});
+  EXPECT_EQ(run.exit_code, 1);
+  EXPECT_NE(run.err.find(hint), std::string::npos) << run.err;
+  EXPECT_EQ(table("<r><a k='1'></b></r>", {"r/a/c", "@k"}).err.find("DOCTYPE"), std::string::npos);
+}
+
 TEST_F(Table, a_file_that_is_not_there_is_an_error)
 {
   ProgramRun const run = table_of("no such file.xml", {"r", "@k"});
