@@ -38,12 +38,12 @@ apPath decoded(apPath const& path)
   return apPath(replaced(apString(path.path()), APSTRING("%20"), APSTRING(" ")));
 }
 
-// As a path comes through a code page that knows ASCII only.
+// As a path comes through a code page that knows ASCII only. Not with question marks, which Windows refuses in names.
 apPath narrowed(apPath const& path)
 {
   std::wstring text(apString(path.path()).view());
   for (wchar_t& character : text)
-    character = character > L'\x7F' ? L'?' : character;
+    character = character > L'\x7F' ? L'_' : character;
   return apPath(text.c_str());
 }
 
