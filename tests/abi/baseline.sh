@@ -46,7 +46,10 @@ describe()
 export_list()
 {
   local tool=$1 binary=$2 library=$3
-  python3 "$here/exports.py" --renew "$tool" "$binary" "$here/exports/$library.txt" "$build"/installed/include/axm/*/*.h
+  local major
+  major=$(sed -n -E 's/^project\(axm VERSION ([0-9]+).*/\1/p' "$root/CMakeLists.txt")
+  python3 "$here/exports.py" --renew "$tool" "$binary" "$major" "$here/exports/$library.txt" \
+    "$build"/installed/include/axm/*/*.h
 }
 
 # The number that stands for one state of the promises.
@@ -80,7 +83,7 @@ renew()
   local library
   for library in "${libraries[@]}"; do
     describe "$library" "$here/baseline/$library.abi"
-    export_list nm "$build/lib/lib$library.so" "$library"
+    export_list objdump "$build/lib/lib$library.so" "$library"
     export_list x86_64-w64-mingw32-objdump "$(echo "$root/build/windows/bin/lib$library"-*.dll)" "$library"
   done
   echo "Say in CHANGELOG.md what this changes for programs and engines that exist, with the words: ABI $(fingerprint)"

@@ -1,10 +1,11 @@
 """Checks that a shared library exports the public interface and nothing else.
 
-exports.py [--renew] NM_OR_OBJDUMP LIBRARY LIST HEADER...
+exports.py [--renew] OBJDUMP LIBRARY MAJOR LIST HEADER...
 
-Two rules hold. Every exported symbol belongs to a class, or is a function, of a public HEADER (those of the library and
-of what it stands on). And the set of them is the reviewed one in LIST, which is the same for ELF and DLL but for lines
-that begin with "elf " or "dll ". With --renew the list is made to hold what this library exports.
+Three rules hold. Every exported symbol belongs to a class, or is a function, of a public HEADER (those of the library and
+of what it stands on). The set of them is the reviewed one in LIST, which is the same for ELF and DLL but for lines that
+begin with "elf " or "dll ". And the name under which the system looks for the library bears the MAJOR version. With --renew
+the list is made to hold what this library exports.
 """
 
 import pathlib
@@ -15,14 +16,29 @@ import sys
 OBJECT = re.compile(r"^(?:vtable|VTT|typeinfo|construction vtable|virtual thunk|non-virtual thunk|guard variable) (?:for|to) ")
 
 
+def printed(tool, option, library):
+    return subprocess.run([tool, option, library], capture_output=True, text=True, check=True).stdout
+
+
+def kind_of(library):
+    return "dll" if library.suffix == ".dll" else "elf"
+
+
+def name_within(tool, library):
+    """What the system looks for when it starts a program that was linked to the library."""
+    found = re.search(r"^(?:  SONAME +|Name\s+[0-9a-f]+ )(\S+)$", printed(tool, "-p", library), re.M)
+    return found[1] if found else "nothing"
+
+
+def expected_name(list_path, kind, major):
+    return f"lib{list_path.stem}-{major}.dll" if kind == "dll" else f"lib{list_path.stem}.so.{major}"
+
+
 def exported(tool, library):
-    if library.suffix == ".dll":
-        text = subprocess.run([tool, "-p", library], capture_output=True, text=True, check=True).stdout
-        names = re.findall(r"^\s*\[ *\d+\] (\S+)$", text, re.M)
+    if kind_of(library) == "dll":
+        names = re.findall(r"^\s*\[ *\d+\] (\S+)$", printed(tool, "-p", library), re.M)
     else:
-        text = subprocess.run([tool, "-D", "--defined-only", "--format=posix", library], capture_output=True, text=True,
-                              check=True).stdout
-        names = [line.split()[0] for line in text.splitlines()]
+        names = re.findall(r"^[0-9a-f]+ .{7} (?!\*UND\*)\S+\t.* (\S+)$", printed(tool, "-T", library), re.M)
     readable = subprocess.run(["c++filt"], input="\n".join(names), capture_output=True, text=True, check=True).stdout
     return {normal(line) for line in readable.splitlines() if not line.startswith("typeinfo name for ")}
 
@@ -74,9 +90,9 @@ def write_list(path, symbols):
 
 def main():
     renew = sys.argv[1] == "--renew"
-    tool, library, list_path, *headers = sys.argv[2 if renew else 1:]
+    tool, library, major, list_path, *headers = sys.argv[2 if renew else 1:]
     library, list_path = pathlib.Path(library), pathlib.Path(list_path)
-    kind = "dll" if library.suffix == ".dll" else "elf"
+    kind = kind_of(library)
     actual = exported(tool, library)
     failures = [f"of no public header: {symbol}" for symbol in foreign(actual, [pathlib.Path(path) for path in headers])]
 
@@ -87,6 +103,10 @@ def main():
     elif list_path.exists():
         failures += [f"lost: {symbol}" for symbol in sorted(listed[kind] - actual)]
         failures += [f"not in the list: {symbol}" for symbol in sorted(actual - listed[kind])]
+
+    name, expected = name_within(tool, library), expected_name(list_path, kind, major)
+    if name != expected:
+        failures.append(f"programs would look for {name}, not {expected}")
 
     print(*failures, f"{library.name}: {len(actual)} symbols exported, {len(failures)} faults", sep="\n")
     sys.exit(1 if failures or not actual else 0)
