@@ -16,8 +16,8 @@
 ///   Besides the number of entity expansions, what they make of a document is bounded: to 100 times its size once that
 ///   is more than 8 MiB. A document may be nested as deep as memory lasts, one that is validated 20000 levels.
 /// - Schemas: read anew at every load, from local files only; a reference that leads to none is an error, but for the
-///   schema of the XML namespace, which is built in. Groups may be repeated up to 2000 times, elements of a schema
-///   nested up to 500 levels. A document whose root is in a namespace that no schema knows is not validated.
-/// - Save: to a temporary file beside the target, which is renamed over it; a link is replaced by the file.
+///   schema of the XML namespace, which is built in. What repeated groups come to, written out, may have up to 10000
+///   elements; elements of a schema may be nested up to 500 levels. A document whose root is in a namespace that no schema knows is not validated.
+/// - Save: to a file that takes the place of the target in one step, with its permissions; see apAtomicFile.
 ///   Text that XML cannot hold makes it fail; get_xml() of such a node is empty.
 AXS_API void axs_register();

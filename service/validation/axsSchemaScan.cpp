@@ -12,20 +12,28 @@ namespace
 {
 std::string_view const schema_namespace = "http://www.w3.org/2001/XMLSchema";
 
+axsContentSize::Id const no_content = static_cast<axsContentSize::Id>(-1);
+
 bool is_group(std::string_view local)
 {
-  return local == "sequence" || local == "choice" || local == "all" || local == "group";
+  return local == "sequence" || local == "choice" || local == "all";
 }
 
 // A number of occurrences; 1 for none and for "unbounded", which is a loop and no repetition.
-long occurrences(std::string_view text)
+double occurrences(std::string_view text)
 {
   std::string const digits(text);
-  return std::clamp(std::strtol(digits.c_str(), nullptr, 10), 1L, axsSchemaScan::most_repetitions + 1);
+  return std::max(std::strtod(digits.c_str(), nullptr), 1.0);
+}
+
+// Without its prefix.
+std::string_view local_part(std::string_view name)
+{
+  return name.substr(name.find(':') + 1);
 }
 }
 
-axsSchemaScan::axsSchemaScan(axsSource& source)
+axsSchemaScan::axsSchemaScan(axsSource& source, axsContentSize& sizes) : content_sizes(sizes)
 {
   axsXercesParser::parse(source, axmLoadOptions(), *this);
 }
@@ -61,7 +69,7 @@ void axsSchemaScan::enter()
       bindings.emplace_back(name->local(), value);
 
   bool const is_own = namespace_of(entered->prefix()) == schema_namespace;
-  Level level{is_own ? entered->local() : std::string_view(), bindings.size(), 1};
+  Level level{is_own ? entered->local() : std::string_view(), bindings.size(), no_content, 1};
   if (levels.empty())
   {
     if (level.local != "schema")
@@ -70,12 +78,7 @@ void axsSchemaScan::enter()
     target = own_attribute("targetNamespace");
   }
   else
-    level.repetitions = levels.back().repetitions;
-
-  if (is_group(level.local))
-    level.repetitions *= std::max(occurrences(own_attribute("minOccurs")), occurrences(own_attribute("maxOccurs")));
-  if (level.repetitions > most_repetitions)
-    fail(APSTRING("The element \"") + entered->wide() + APSTRING("\" repeats a group more than 2000 times"));
+    enter_content(level);
   if (levels.size() == 1 && level.local == "attribute")
   {
     std::string_view const use = own_attribute("use");
@@ -87,6 +90,38 @@ void axsSchemaScan::enter()
     fail(APSTRING("The schema is nested more than 500 levels deep"));
   entered = nullptr;
   entered_attributes.clear();
+}
+
+// What the element means for the size of the content that it stands in.
+void axsSchemaScan::enter_content(Level& level)
+{
+  level.content = levels.back().content;
+  level.repetitions = levels.back().repetitions;
+  double const times =
+    std::max(occurrences(own_attribute("minOccurs")), occurrences(own_attribute("maxOccurs"))) * level.repetitions;
+  std::string_view const reference = own_attribute("ref");
+
+  if (level.local == "complexType")
+    level.content = content_sizes.add_type(own_attribute("name"), entered_place);
+  else if (level.local == "group" && reference.empty())
+    level.content = content_sizes.add_group(own_attribute("name"), entered_place);
+  else if (level.content != no_content)
+  {
+    if (level.local == "element" || level.local == "any")
+      content_sizes.add_element(level.content, times);
+    else if (level.local == "extension")
+      content_sizes.add_base_type(level.content, local_part(own_attribute("base")));
+    else if (level.local == "group")
+      content_sizes.add_group_reference(level.content, local_part(reference), times);
+    else if (is_group(level.local))
+      level.repetitions = times;
+    else
+      return;
+    if ((level.local == "group" || is_group(level.local)) && times > levels.back().repetitions)
+      content_sizes.set_repeating(level.content);
+    return;
+  }
+  level.repetitions = 1;
 }
 
 std::string_view axsSchemaScan::namespace_of(std::string_view prefix) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "axsContentSize.h"
 #include "axsNameTable.h"
 #include "axsReadingEvents.h"
 
@@ -13,16 +14,16 @@ class axsSource;
 /// A look over one schema document before the validator gets it: that it is one, for which namespace, and that it does
 /// not ask for more than the validator can bear.
 ///
-/// The validator goes down into nested parts by recursion and writes repeated groups out; hence two bounds.
+/// The validator goes down into nested parts by recursion, hence a bound; for another one it tells axsContentSize what the
+/// schema allows.
 class axsSchemaScan final : private axsReadingEvents
 {
 public:
-  /// How deep elements of a schema may be nested, and how often a group may be repeated, counting the groups around it.
+  /// How deep elements of a schema may be nested.
   static constexpr std::size_t most_levels = 500;
-  static constexpr long most_repetitions = 2000;
 
-  /// Throws axsReadError when it is no schema or beyond a bound, std::bad_alloc when memory runs out.
-  explicit axsSchemaScan(axsSource& source);
+  /// Throws axsReadError when it is no schema or nested deeper, std::bad_alloc when memory runs out.
+  axsSchemaScan(axsSource& source, axsContentSize& sizes);
 
   /// In UTF-8, empty for none.
   std::string const& target_namespace() const noexcept { return target; }
@@ -40,7 +41,9 @@ private:
     std::string_view local;
     // What the elements around it and itself bind: prefix and namespace.
     std::size_t bindings;
-    long repetitions;
+    // The content it belongs to, and how often the groups around it, and it itself, repeat what is in it.
+    axsContentSize::Id content;
+    double repetitions;
   };
 
   void start(std::function<axsReadError()> const& place) override { current_place = place; }
@@ -55,10 +58,12 @@ private:
   void doctype(std::string_view) override {}
 
   void enter();
+  void enter_content(Level& level);
   std::string_view namespace_of(std::string_view prefix) const;
   std::string_view own_attribute(std::string_view local) const;
   [[noreturn]] void fail(apString const& message) const;
 
+  axsContentSize& content_sizes;
   std::function<axsReadError()> current_place;
   axsNameTable names;
   std::vector<Level> levels;

@@ -109,7 +109,13 @@ apPath referred(apPath const& base, std::string const& reference, XMLCh const* a
 
 struct axsSchemaSet::File
 {
-  explicit File(apPath const& given) : path(given), source(given), text(source.whole()), scan(source) {}
+  File(apPath const& given, axsContentSize& sizes)
+    : path(given),
+      source(given),
+      text(source.whole()),
+      scan(source, sizes)
+  {
+  }
 
   apPath path;
   axsSource source;
@@ -145,8 +151,11 @@ void axsSchemaSet::add(std::string const& name_space, apPath const& path)
 axsSchemaSet::File const& axsSchemaSet::file(apPath const& path)
 {
   std::unique_ptr<File>& known = files[key_of(path)];
-  if (known == nullptr)
-    known = std::make_unique<File>(path);
+  if (known != nullptr)
+    return *known;
+  known = std::make_unique<File>(path, sizes);
+  // The validator takes in all files before it writes anything out.
+  sizes.check();
   return *known;
 }
 

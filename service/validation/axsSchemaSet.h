@@ -1,5 +1,6 @@
 #pragma once
 
+#include "axsContentSize.h"
 #include "axsSchemaScan.h"
 
 #include <axmLoadOptions.h>
@@ -56,6 +57,7 @@ private:
   std::unique_ptr<xercesc::InputSource> source_of_namespace(std::string const& name_space) const;
   std::string driver_text() const;
 
+  axsContentSize sizes; // of what is in the files
   // By path.
   std::map<std::string, std::unique_ptr<File>> files;
   std::map<std::string, std::vector<File const*>> by_namespace;
