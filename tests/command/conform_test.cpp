@@ -123,6 +123,33 @@ TEST(conform, nothing_is_left_behind)
 }
 #endif
 
+#if defined(AXM_LIBRARY)
+TEST(conform, a_library_without_an_engine)
+{
+  ProgramRun const run = conform({"--service", AXM_LIBRARY});
+  EXPECT_EQ(run.exit_code, 1);
+  EXPECT_TRUE(holds(run.err, "the library does not export axm_register_engine")) << run.err;
+}
+#endif
+
+#if defined(AXM_SMALLEST_ENGINE)
+// It makes and loads no documents: what matters is that it is reached.
+TEST(conform, an_engine_in_a_folder_of_any_name_is_checked)
+{
+  namespace fs = std::filesystem;
+  fs::path const folder = fs::u8path("conform \xC3\xA4 \xD1\x84 engine");
+  fs::remove_all(folder);
+  fs::create_directory(folder);
+  fs::path const engine = folder / fs::u8path(AXM_SMALLEST_ENGINE).filename();
+  fs::copy_file(fs::u8path(AXM_SMALLEST_ENGINE), engine);
+  ProgramRun const run = conform({"--service", engine.u8string(), "axmTextNodeUtest"});
+  EXPECT_EQ(run.exit_code, 1);
+  EXPECT_EQ(run.err, "");
+  EXPECT_EQ(last_line(run.out), "0 passed, 5 failed") << run.out;
+  fs::remove_all(folder);
+}
+#endif
+
 #if defined(AXM_SECOND_ENGINE)
 TEST(conform, an_engine_of_another_make_gets_an_honest_list)
 {
@@ -154,12 +181,5 @@ TEST(conform, a_failure_is_shown_with_what_was_expected_and_what_came)
                              "  at source/utest/axmDocumentFactoryUtest:"))
     << run.out;
   EXPECT_TRUE(holds(run.out, "  Expected \"machine\"\n  Actual   \"(no node)\"\n")) << run.out;
-}
-
-TEST(conform, a_library_without_an_engine)
-{
-  ProgramRun const run = conform({"--service", AXM_LIBRARY});
-  EXPECT_EQ(run.exit_code, 1);
-  EXPECT_TRUE(holds(run.err, "the library does not export axm_register_engine")) << run.err;
 }
 #endif

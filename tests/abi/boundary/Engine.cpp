@@ -1,6 +1,7 @@
 #include "Engine.h"
 
 #include <axmDocumentFactory.h>
+#include <axmEngine.h>
 #include <axmNamedNodeMap.h>
 #include <axmNodeList.h>
 #include <utService.h>
@@ -130,4 +131,9 @@ std::shared_ptr<axmElement> engine::make_element()
 std::shared_ptr<axmElement> engine::make_throwing_element()
 {
   return std::make_shared<Element>(true);
+}
+
+extern "C" void axm_register_engine()
+{
+  utService::get_instance()->register_service(utServiceName(ut_lit("XMLService")), std::make_shared<Factory>());
 }
