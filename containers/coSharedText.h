@@ -9,11 +9,19 @@
 #include <new>
 #include <utility>
 
+#if defined(__has_include)
+#  if __has_include(<sys/single_threaded.h>)
+#    include <sys/single_threaded.h>
+#    define CO_KNOWS_SINGLE_THREADED
+#  endif
+#endif
+
 /// The storage of a text: characters with a length, closed by a NUL that does not count, or nothing at all.
 ///
-/// Copies share one block of memory, which goes with the last of them; all empty texts with storage share one that stays. The count is atomic, so copies may be made, used
-/// and dropped by several threads, while one and the same object belongs to one thread at a time. The characters are
-/// written once, before the first copy is made. Running out of memory is std::bad_alloc.
+/// Copies share one block of memory, which goes with the last of them; all empty texts with storage share one that stays.
+/// The count is atomic, so copies may be made, used and dropped by several threads, while one and the same object belongs
+/// to one thread at a time. The characters are written once, before the first copy is made. Running out of memory is
+/// std::bad_alloc.
 template <class C>
 class coSharedText
 {
@@ -107,9 +115,24 @@ private:
 
   static bool is_counted(Block const* block) noexcept { return block != nullptr && block->length != 0; }
 
+  // Whether the process is known to have this thread only: then counting needs no locked instruction, which costs more
+  // than all else that copying a text takes.
+  static bool is_only_thread() noexcept
+  {
+#if defined(CO_KNOWS_SINGLE_THREADED)
+    return __libc_single_threaded != 0;
+#else
+    return false;
+#endif
+  }
+
   static void keep(Block* block) noexcept
   {
-    if (is_counted(block))
+    if (!is_counted(block))
+      return;
+    if (is_only_thread())
+      block->owners.store(block->owners.load(std::memory_order_relaxed) + 1, std::memory_order_relaxed);
+    else
       block->owners.fetch_add(1, std::memory_order_relaxed);
   }
 
@@ -118,10 +141,16 @@ private:
     if (!is_counted(block))
       return;
     // The only owner there is cannot be joined by another one meanwhile, and reading costs less than counting.
-    if (block->owners.load(std::memory_order_acquire) == 1 ||
-        block->owners.fetch_sub(1, std::memory_order_acq_rel) == 1)
+    int const owners = block->owners.load(std::memory_order_acquire);
+    if (owners == 1)
+      std::free(block);
+    else if (is_only_thread())
+      block->owners.store(owners - 1, std::memory_order_relaxed);
+    else if (block->owners.fetch_sub(1, std::memory_order_acq_rel) == 1)
       std::free(block);
   }
 
   Block* block = nullptr;
 };
+
+#undef CO_KNOWS_SINGLE_THREADED
