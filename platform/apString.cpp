@@ -1,5 +1,7 @@
 #include <apString.h>
 
+#include <apAscii.h>
+
 #include <algorithm>
 #include <cstring>
 #include <cwchar>
@@ -139,13 +141,6 @@ Storage stored(std::wstring_view wide)
 }
 }
 
-apString::apString() noexcept = default;
-apString::apString(apString const& other) noexcept = default;
-apString::apString(apString&& other) noexcept = default;
-apString& apString::operator=(apString const& other) noexcept = default;
-apString& apString::operator=(apString&& other) noexcept = default;
-apString::~apString() = default;
-
 apString::apString(Storage owned) noexcept : text(std::move(owned)) {}
 
 apString::apString(wchar_t const* wide) : text(wide == nullptr ? Storage() : stored(wide)) {}
@@ -168,15 +163,15 @@ apString apString::from_utf8(std::string_view utf8)
   if (utf8.empty())
     return apString();
 
-  auto const* const begin = reinterpret_cast<unsigned char const*>(utf8.data());
-  auto const* const end = begin + utf8.size();
-  if (std::all_of(begin, end, [](unsigned char c) { return c < 0x80; }))
+  if (apAscii::is_ascii(utf8.data(), utf8.size()))
   {
     Storage ascii(Storage::checked_length(utf8.size()));
-    std::copy(begin, end, ascii.writable());
+    apAscii::widen(utf8.data(), utf8.size(), ascii.writable());
     return apString(std::move(ascii));
   }
 
+  auto const* const begin = reinterpret_cast<unsigned char const*>(utf8.data());
+  auto const* const end = begin + utf8.size();
   std::size_t length = 0;
   for (auto const* at = begin; at != end;)
     length += static_cast<std::size_t>(wide_units(read_utf8(at, end)));
@@ -201,26 +196,6 @@ utString apString::to_utf8() const
       for (wchar_t const* at = c_str(); at != end;)
         to = write_utf8(to, read_wide(at, end));
     });
-}
-
-wchar_t const* apString::c_str() const noexcept
-{
-  return text.data();
-}
-
-int apString::length() const noexcept
-{
-  return text.length();
-}
-
-bool apString::empty() const noexcept
-{
-  return length() == 0;
-}
-
-std::wstring_view apString::view() const noexcept
-{
-  return {c_str(), static_cast<std::size_t>(length())};
 }
 
 bool apString::operator==(apString const& other) const noexcept

@@ -4,7 +4,9 @@
 #include <coSharedText.h>
 #include <utString.h>
 
+#include <cstddef>
 #include <string_view>
+#include <utility>
 
 /// Wide text: Unicode in `wchar_t` (UTF-16 where that has 16 bits, UTF-32 where it has 32), closed by a NUL that does
 /// not count.
@@ -17,7 +19,7 @@ class AP_API apString
 {
 public:
   /// The empty text.
-  apString() noexcept;
+  AP_KEPT apString() noexcept {}
 
   /// A copy of the NUL-terminated `wide` text; empty if it is null.
   apString(wchar_t const* wide);
@@ -32,11 +34,22 @@ public:
 
   apString(utString const& utf8);
 
-  apString(apString const& other) noexcept;
-  apString(apString&& other) noexcept;
-  apString& operator=(apString const& other) noexcept;
-  apString& operator=(apString&& other) noexcept;
-  ~apString();
+  AP_KEPT apString(apString const& other) noexcept : text(other.text) {}
+  AP_KEPT apString(apString&& other) noexcept : text(std::move(other.text)) {}
+
+  AP_KEPT apString& operator=(apString const& other) noexcept
+  {
+    text = other.text;
+    return *this;
+  }
+
+  AP_KEPT apString& operator=(apString&& other) noexcept
+  {
+    text = std::move(other.text);
+    return *this;
+  }
+
+  AP_KEPT ~apString() {}
 
   /// The text of `utf8`. Each longest beginning of a sequence that is not UTF-8 (an overlong form, a surrogate or a
   /// number beyond U+10FFFF included) becomes one U+FFFD (The Unicode Standard, "Substitution of Maximal Subparts").
@@ -47,13 +60,13 @@ public:
 
   /// The characters, with a NUL behind the last one; never null. They live as long as this object or a copy of it and
   /// neither is changed.
-  wchar_t const* c_str() const noexcept;
+  AP_KEPT wchar_t const* c_str() const noexcept { return text.data(); }
 
-  int length() const noexcept;
+  AP_KEPT int length() const noexcept { return text.length(); }
 
-  bool empty() const noexcept;
+  AP_KEPT bool empty() const noexcept { return length() == 0; }
 
-  std::wstring_view view() const noexcept;
+  AP_KEPT std::wstring_view view() const noexcept { return {c_str(), static_cast<std::size_t>(length())}; }
 
   /// Equality and order of the whole texts, character by character; NULs inside count as characters.
   bool operator==(apString const& other) const noexcept;
