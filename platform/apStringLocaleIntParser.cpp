@@ -7,7 +7,8 @@ apStringLocaleIntParser::Result apStringLocaleIntParser::parse(apString const& t
 {
   wchar_t const* const begin = text.c_str();
   wchar_t const* at = begin;
-  while (std::iswspace(static_cast<std::wint_t>(*at)) != 0)
+  // A digit is no white space, and needs no question to the locale.
+  while ((*at < L'0' || *at > L'9') && std::iswspace(static_cast<std::wint_t>(*at)) != 0)
     ++at;
 
   bool const negative = *at == L'-';

@@ -1,5 +1,6 @@
 #include <axmNode.h>
 
+#include <apDecimalPoint.h>
 #include <apStringFormatter.h>
 #include <apStringLocaleDoubleParser.h>
 #include <apStringLocaleIntParser.h>
@@ -7,22 +8,10 @@
 #include <axmNamedNodeMap.h>
 
 #include <cstdio>
-#include <cwchar>
 #include <new>
 
 namespace
 {
-// The second character of "1.2" as the current C locale writes it; it may be one of two bytes.
-wchar_t decimal_separator()
-{
-  char sample[4] = "";
-  std::snprintf(sample, sizeof sample, "%2.1f", 1.2);
-  wchar_t separator = L'.';
-  std::mbstate_t state{};
-  std::mbrtowc(&separator, sample + 1, sizeof sample - 1, &state);
-  return separator;
-}
-
 // What `operation` says, false when memory runs out: that is a failure like any other here.
 template <class Operation>
 bool without_throwing(Operation operation)
@@ -46,8 +35,9 @@ bool axmNode::get_attribute(apString const& name, bool& value) const
   apString text;
   if (!get_attribute(name, text))
     return false;
-  bool const is_true = text.view() == L"true" || text.view() == L"1";
-  if (!is_true && text.view() != L"false" && text.view() != L"0")
+  std::wstring_view const word = text.view();
+  bool const is_true = word == L"true" || word == L"1";
+  if (!is_true && word != L"false" && word != L"0")
     return false;
   value = is_true;
   return true;
@@ -75,7 +65,7 @@ bool axmNode::get_attribute(apString const& name, double& value) const
   apString text;
   if (!get_attribute(name, text))
     return false;
-  wchar_t const separator = decimal_separator();
+  wchar_t const separator = apDecimalPoint::of_locale();
   if (separator == L'.')
     return parse_value_locale(text, value);
 

@@ -2,10 +2,14 @@
 
 #include "../TestLocale.h"
 
+#include <cfenv>
 #include <cfloat>
 #include <cmath>
+#include <cwchar>
 #include <gtest/gtest.h>
 #include <limits>
+#include <random>
+#include <string>
 
 namespace
 {
@@ -103,12 +107,52 @@ TEST(apStringLocaleDoubleParser, keeps_the_sign_of_0)
   EXPECT_TRUE(std::signbit(Parser::parse(L"-0").value));
 }
 
+TEST(apStringLocaleDoubleParser, reads_what_the_C_library_reads_in_every_direction_of_rounding)
+{
+#if defined(_WIN32)
+  // The C library there knows one direction only.
+  int const directions[] = {FE_TONEAREST};
+#else
+  int const directions[] = {FE_TONEAREST, FE_UPWARD, FE_DOWNWARD, FE_TOWARDZERO};
+#endif
+  // The forms in which numbers stand in documents, and those just beyond: digits around the number of them that a double
+  // holds exactly, points, exponents and signs in places good and bad.
+  std::mt19937 random(1);
+  auto const up_to = [&](unsigned most) { return static_cast<unsigned>(random() % (most + 1)); };
+  auto const digits = [&](unsigned most)
+  {
+    std::wstring text;
+    for (unsigned count = up_to(most); count > 0; --count)
+      text += static_cast<wchar_t>(L'0' + up_to(9));
+    return text;
+  };
+  wchar_t const* const signs[] = {L"", L"-", L"+", L" -"};
+  wchar_t const* const points[] = {L"", L".", L".", L","};
+  wchar_t const* const ends[] = {L"", L"", L"", L"e3", L"E-7", L"x", L".5"};
+  for (int const direction : directions)
+  {
+    ASSERT_EQ(std::fesetround(direction), 0);
+    for (int round = 0; round < 20000; ++round)
+    {
+      std::wstring const text = signs[up_to(3)] + digits(17) + points[up_to(3)] + digits(17) + ends[up_to(6)];
+      wchar_t* end = nullptr;
+      double const expected = std::wcstod(text.c_str(), &end);
+      Parser::Result const result = Parser::parse(apString(text.c_str()));
+      if (result.value != expected || std::signbit(result.value) != std::signbit(expected) ||
+          result.position != end - text.c_str() || result.success != (end != text.c_str()))
+        ADD_FAILURE() << apString(text.c_str()).to_utf8() << ' ' << direction;
+    }
+  }
+  std::fesetround(FE_TONEAREST);
+}
+
 TEST(apStringLocaleDoubleParser, takes_the_decimal_comma_of_the_locale_and_no_point)
 {
   TestLocale const locale(TestLocale::comma);
   expect_read(L"1,5", 1.5, 3);
   expect_read(L"-,5e1", -5.0, 5);
   expect_read(L"1.5", 1.0, 1);
+  expect_read(L"1,5.5", 1.5, 3);
   expect_read(L"1.000,5", 1.0, 1);
 }
 
