@@ -1,7 +1,6 @@
 #include "axsArena.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <cstdlib>
 #include <utility>
 
@@ -19,8 +18,6 @@
 
 namespace
 {
-// Pages lie at multiples of their size, so that a node finds its document without a pointer of its own.
-std::size_t const page_size = 16 * 1024;
 std::size_t const most_pages = 64;
 
 std::size_t rounded(std::size_t size, std::size_t unit)
@@ -28,14 +25,6 @@ std::size_t rounded(std::size_t size, std::size_t unit)
   return (size + unit - 1) / unit * unit;
 }
 }
-
-struct axsArena::Page
-{
-  axsDocument* document;
-  // Of the first page that came with others: the one that came before them, and their number.
-  Page* older;
-  std::size_t pages;
-};
 
 struct axsArena::FreeBlock
 {
@@ -96,12 +85,6 @@ void axsArena::release(void* block, std::size_t size) noexcept
   std::size_t const units = std::max<std::size_t>((size + granule - 1) / granule, 1);
   free_blocks[units] = new (block) FreeBlock{free_blocks[units]};
   ASAN_POISON_MEMORY_REGION(block, units * granule);
-}
-
-axsDocument& axsArena::document_of(void const* block) noexcept
-{
-  auto const address = reinterpret_cast<std::uintptr_t>(block);
-  return *reinterpret_cast<Page const*>(address - address % page_size)->document;
 }
 
 void* axsArena::allocate_large(std::size_t size)

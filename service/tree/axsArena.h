@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <new>
 
 class axsDocument;
@@ -31,14 +32,27 @@ public:
   std::size_t footprint() const noexcept { return taken; }
 
   /// The document in whose arena the small block at `block` lies.
-  static axsDocument& document_of(void const* block) noexcept;
+  static axsDocument& document_of(void const* block) noexcept
+  {
+    auto const address = reinterpret_cast<std::uintptr_t>(block);
+    return *reinterpret_cast<Page const*>(address - address % page_size)->document;
+  }
 
 private:
-  struct Page;
+  struct Page
+  {
+    axsDocument* document;
+    // Of the first page that came with others: the one that came before them, and their number.
+    Page* older;
+    std::size_t pages;
+  };
   struct FreeBlock;
   struct LargeBlock;
 
   static constexpr std::size_t granule = 8;
+
+  // Pages lie at multiples of their size, so that a node finds its document without a pointer of its own.
+  static constexpr std::size_t page_size = 16 * 1024;
 
   void* allocate_large(std::size_t size);
   void release_large(void* block) noexcept;

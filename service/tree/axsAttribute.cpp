@@ -1,11 +1,17 @@
 #include "axsAttribute.h"
 
 #include "axsElement.h"
+#include "axsName.h"
 
 axsAttribute::axsAttribute(std::uint32_t room_behind, axsName const& name) noexcept
   : axsNodeOf(axsKind::attribute, this + 1, room_behind)
 {
   attribute_name = &name;
+}
+
+apString axsAttribute::getNodeName() const
+{
+  return full_name().wide();
 }
 
 axsElement* axsAttribute::owner() const noexcept

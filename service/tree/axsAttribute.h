@@ -11,6 +11,8 @@ class axsAttribute final : public axsNodeOf<axmNode, axsLeaf>
 public:
   axsAttribute(std::uint32_t room_behind, axsName const& name) noexcept;
 
+  apString getNodeName() const override;
+
   axsName const& full_name() const noexcept { return *attribute_name; }
 
   axsElement* owner() const noexcept;

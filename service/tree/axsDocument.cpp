@@ -69,12 +69,12 @@ void axsDocument::reserved_document_7() {}
 
 std::shared_ptr<axmNodeList> axsDocument::getElementsByTagName(apString const& name)
 {
-  std::vector<axsNode*> found;
+  std::vector<axsXPathNode> found;
   if (axsName const* const wanted = names().find(narrow(name.to_utf8())))
     for (axsNode* node = first_child(); node != nullptr; node = node->next_in_tree(*this))
       if (node->is_element() && node->name() == wanted)
         found.push_back(node);
-  return std::allocate_shared<axsResultList>(axsHandleAllocator<axsResultList>(handle_pool()), std::move(found));
+  return std::allocate_shared<axsResultList>(axsHandleAllocator<axsResultList>(handle_pool()), *this, std::move(found));
 }
 
 axsElement* axsDocument::root_element() const noexcept
@@ -172,6 +172,12 @@ void axsDocument::free_node(axsNode& node) noexcept
   case axsKind::doctype:
     return free_as(static_cast<axsDoctype&>(node));
   }
+}
+
+void axsDocument::result_lists_hold_nodes() noexcept
+{
+  while (result_lists != nullptr)
+    result_lists->nodes_leaving();
 }
 
 axsChildList*& axsDocument::lists_of(axsNode const& parent) noexcept

@@ -18,6 +18,7 @@ class axsCommentNode;
 class axsDoctype;
 class axsElement;
 class axsProcessingInstruction;
+class axsResultList;
 class axsTextNode;
 
 /// A document of the tree: owner of all its nodes, their names and texts.
@@ -57,6 +58,13 @@ public:
   /// Gives the memory of one node back.
   void free_node(axsNode& node) noexcept;
 
+  /// To be called before a node, an attribute too, is taken out of its tree.
+  void nodes_leaving() noexcept
+  {
+    if (result_lists != nullptr)
+      result_lists_hold_nodes();
+  }
+
   /// Counts the changes to which attributes there are, anywhere in the document.
   std::uint64_t attribute_changes = 0;
 
@@ -64,6 +72,7 @@ private:
   friend class axsNode;
   friend class axsTree;
   friend class axsChildList;
+  friend class axsResultList;
 
   struct PoolAbandoner
   {
@@ -76,6 +85,7 @@ private:
   template <class Leaf, class... Arguments>
   Leaf* make_leaf(std::string_view text, Arguments&&... arguments);
 
+  void result_lists_hold_nodes() noexcept;
   axsChildList*& lists_of(axsNode const& parent) noexcept;
   void child_linked(axsParent& parent, axsNode const& child) noexcept;
   void child_unlinking(axsParent& parent, axsNode const& child) noexcept;
@@ -89,4 +99,6 @@ private:
   axsXPathCache expressions;
   // The child lists that are out, in chains by the address of their parent.
   axsChildList* lists[list_buckets] = {};
+  // The result lists that hold the root of their nodes only.
+  axsResultList* result_lists = nullptr;
 };

@@ -1,6 +1,7 @@
 #include "axsElement.h"
 
 #include "axsAttribute.h"
+#include "axsAttributeMap.h"
 #include "axsDocument.h"
 #include "axsXmlName.h"
 
@@ -13,6 +14,16 @@ std::string_view narrow(utString const& text)
 }
 
 axsElement::axsElement(axsName const& name) noexcept : axsNodeOf(axsKind::element), tag(&name) {}
+
+apString axsElement::getNodeName() const
+{
+  return tag->wide();
+}
+
+std::shared_ptr<axmNamedNodeMap> axsElement::getAttributes()
+{
+  return std::allocate_shared<axsAttributeMap>(axsHandleAllocator<axsAttributeMap>(document().handle_pool()), *this);
+}
 
 void axsElement::reserved_element_0() {}
 void axsElement::reserved_element_7() {}
@@ -75,9 +86,16 @@ bool axsElement::get_attribute(apString const& name, apString& value) const
 
 axsAttribute* axsElement::find_attribute(apString const& name) const noexcept
 {
+  std::wstring_view const wanted = name.view();
+  if (wanted.empty())
+    return nullptr;
   for (axsAttribute* at = attributes; at != nullptr; at = at->next_attribute())
-    if (at->full_name().wide() == name)
+  {
+    // Most names differ in their length or at their beginning, and need no comparison of all characters.
+    std::wstring_view const found = at->full_name().wide_view();
+    if (found.size() == wanted.size() && found.front() == wanted.front() && found.substr(1) == wanted.substr(1))
       return at;
+  }
   return nullptr;
 }
 
@@ -117,6 +135,7 @@ void axsElement::put_attribute(axsAttribute& attribute, axsAttribute* replaced) 
 
 void axsElement::take_attribute(axsAttribute& attribute) noexcept
 {
+  document().nodes_leaving();
   axsAttribute* last = nullptr;
   for (axsAttribute* at = attributes; at != &attribute; at = at->next_attribute())
     last = at;

@@ -17,6 +17,10 @@ public:
 
   axsName const& element_name() const noexcept { return *tag; }
 
+  apString getNodeName() const override;
+  bool hasAttributes() const override { return attributes != nullptr; }
+  std::shared_ptr<axmNamedNodeMap> getAttributes() override;
+
   void reserved_element_0() override;
   apString getAttribute(apString const& name) const override;
   void setAttribute(apString const& name, apString const& value) override;

@@ -32,22 +32,15 @@ void axsHandlePool::abandon() noexcept
     delete this;
 }
 
-void* axsHandlePool::allocate(std::size_t size)
+void* axsHandlePool::allocate_large(std::size_t size)
 {
-  if (size > limit)
-  {
-    void* const memory = ::operator new(size);
-    ++out;
-    return memory;
-  }
+  void* const memory = ::operator new(size);
+  ++out;
+  return memory;
+}
 
-  std::size_t const units = (size + granule - 1) / granule;
-  if (Block* const block = free_blocks[units])
-  {
-    free_blocks[units] = block->next;
-    ++out;
-    return block;
-  }
+void* axsHandlePool::allocate_fresh(std::size_t units)
+{
   if (static_cast<std::size_t>(room_end - room) < units * granule)
   {
     void* const memory = std::malloc(slab_size);
@@ -59,17 +52,4 @@ void* axsHandlePool::allocate(std::size_t size)
   }
   ++out;
   return std::exchange(room, room + units * granule);
-}
-
-void axsHandlePool::release(void* block, std::size_t size) noexcept
-{
-  if (size > limit)
-    ::operator delete(block);
-  else
-  {
-    std::size_t const units = (size + granule - 1) / granule;
-    free_blocks[units] = new (block) Block{free_blocks[units]};
-  }
-  if (--out == 0 && abandoned)
-    delete this;
 }

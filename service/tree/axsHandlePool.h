@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <new>
 
 /// The memory of what the shared pointers to the nodes of one document need besides the nodes: small blocks, taken and
 /// given back often.
@@ -17,9 +18,31 @@ public:
   void abandon() noexcept;
 
   /// A block for `size` bytes. Throws std::bad_alloc when memory runs out.
-  void* allocate(std::size_t size);
+  void* allocate(std::size_t size)
+  {
+    if (size > limit)
+      return allocate_large(size);
+    Block*& free_ones = free_blocks[units_of(size)];
+    Block* const block = free_ones;
+    if (block == nullptr)
+      return allocate_fresh(units_of(size));
+    free_ones = block->next;
+    ++out;
+    return block;
+  }
 
-  void release(void* block, std::size_t size) noexcept;
+  void release(void* block, std::size_t size) noexcept
+  {
+    if (size > limit)
+      ::operator delete(block);
+    else
+    {
+      Block*& free_ones = free_blocks[units_of(size)];
+      free_ones = new (block) Block{free_ones};
+    }
+    if (--out == 0 && abandoned)
+      delete this;
+  }
 
 private:
   struct Block
@@ -31,8 +54,13 @@ private:
   static constexpr std::size_t granule = 16;
   static constexpr std::size_t limit = 192;
 
+  static constexpr std::size_t units_of(std::size_t size) noexcept { return (size + granule - 1) / granule; }
+
   axsHandlePool() noexcept = default;
   ~axsHandlePool();
+
+  void* allocate_large(std::size_t size);
+  void* allocate_fresh(std::size_t units);
 
   Block* free_blocks[limit / granule + 1] = {};
   Slab* slabs = nullptr;

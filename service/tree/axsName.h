@@ -12,12 +12,14 @@ class axsName
 public:
   explicit axsName(std::string_view text)
     : wide_text(apString::from_utf8(text)),
+      wide_characters(wide_text.view()),
       narrow_text(text),
       colon(narrow_text.find(':'))
   {
   }
 
   apString const& wide() const noexcept { return wide_text; }
+  std::wstring_view wide_view() const noexcept { return wide_characters; }
   std::string_view utf8() const noexcept { return narrow_text; }
 
   /// What stands before the first colon; empty without one.
@@ -31,6 +33,7 @@ public:
 
 private:
   apString wide_text;
+  std::wstring_view wide_characters;
   std::string narrow_text;
   std::size_t colon;
 };

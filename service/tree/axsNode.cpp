@@ -61,24 +61,6 @@ axsDocument& axsNode::document() const noexcept
   return is_document() ? const_cast<axsDocument&>(static_cast<axsDocument const&>(*this)) : axsArena::document_of(this);
 }
 
-axsNode* axsNode::previous_sibling() const noexcept
-{
-  if (is_attribute() || up == nullptr || up->first_child() == this)
-    return nullptr;
-  return previous;
-}
-
-axsNode* axsNode::first_child() const noexcept
-{
-  return is_parent() ? static_cast<axsParent const*>(this)->first : nullptr;
-}
-
-axsNode* axsNode::last_child() const noexcept
-{
-  axsNode* const child = first_child();
-  return child == nullptr ? nullptr : child->previous;
-}
-
 axsNode* axsNode::first_attribute() const noexcept
 {
   return is_element() ? static_cast<axsElement const*>(this)->first_attribute() : nullptr;
@@ -92,18 +74,11 @@ axsNode& axsNode::root() noexcept
   return *node;
 }
 
-axsNode* axsNode::next_in_tree(axsNode const& top) const noexcept
+std::string_view axsNode::value_of_instruction() const noexcept
 {
-  axsNode* const child = first_child();
-  return child != nullptr ? child : next_behind(top);
-}
-
-axsNode* axsNode::next_behind(axsNode const& top) const noexcept
-{
-  for (axsNode const* node = this; node != &top; node = node->up)
-    if (node->next != nullptr)
-      return node->next;
-  return nullptr;
+  std::string_view text = static_cast<axsProcessingInstruction const*>(this)->text();
+  text.remove_prefix(std::min(node_name().size() + 1, text.size()));
+  return text;
 }
 
 axsName const* axsNode::name() const noexcept
@@ -130,30 +105,6 @@ std::string_view axsNode::node_name() const noexcept
     return first_word(static_cast<axsProcessingInstruction const*>(this)->text());
   case axsKind::doctype:
     return doctype_name(static_cast<axsDoctype const*>(this)->text());
-  }
-  return {};
-}
-
-std::string_view axsNode::value() const noexcept
-{
-  switch (node_kind)
-  {
-  case axsKind::document:
-  case axsKind::element:
-  case axsKind::doctype:
-    return {};
-  case axsKind::attribute:
-    return static_cast<axsAttribute const*>(this)->text();
-  case axsKind::text:
-    return static_cast<axsTextNode const*>(this)->text();
-  case axsKind::comment:
-    return static_cast<axsCommentNode const*>(this)->text();
-  case axsKind::processing_instruction:
-  {
-    std::string_view text = static_cast<axsProcessingInstruction const*>(this)->text();
-    text.remove_prefix(std::min(node_name().size() + 1, text.size()));
-    return text;
-  }
   }
   return {};
 }
@@ -199,33 +150,22 @@ std::shared_ptr<axmElement> axsNode::item_handle()
   return std::allocate_shared<axsNodeView>(axsHandleAllocator<axsNodeView>(document().handle_pool()), *this);
 }
 
-void axsNode::acquire() noexcept
+void axsNode::root_acquired() noexcept
 {
-  axsNode* node = this;
-  while (node->busy++ == 0 && !node->is_document())
-    node = node->up != nullptr ? node->up : &node->document();
+  if (!is_document())
+    document().acquire();
 }
 
-void axsNode::release() noexcept
+void axsNode::root_released() noexcept
 {
-  axsNode* node = this;
-  while (--node->busy == 0)
+  if (is_document())
   {
-    if (node->is_document())
-    {
-      delete static_cast<axsDocument*>(node);
-      return;
-    }
-    axsNode* const above = node->up;
-    if (above == nullptr)
-    {
-      axsDocument& owner = node->document();
-      axsTree::free_tree(*node);
-      node = &owner;
-    }
-    else
-      node = above;
+    delete static_cast<axsDocument*>(this);
+    return;
   }
+  axsDocument& owner = document();
+  axsTree::free_tree(*this);
+  owner.release();
 }
 
 void axsLeaf::set_text(std::string_view text)

@@ -92,8 +92,19 @@ public:
   std::shared_ptr<axmElement> item_handle();
 
   /// Holds the node, and no longer: it may be gone afterwards.
-  void acquire() noexcept;
-  void release() noexcept;
+  void acquire() noexcept
+  {
+    for (axsNode* node = this; node->busy++ == 0; node = node->up)
+      if (node->up == nullptr)
+        return node->root_acquired();
+  }
+
+  void release() noexcept
+  {
+    for (axsNode* node = this; --node->busy == 0; node = node->up)
+      if (node->up == nullptr)
+        return node->root_released();
+  }
 
   bool is_busy() const noexcept { return busy != 0; }
 
@@ -102,6 +113,11 @@ protected:
   ~axsNode() = default;
 
 private:
+  std::string_view value_of_instruction() const noexcept;
+
+  void root_acquired() noexcept;
+  void root_released() noexcept;
+
   friend class axsDocument;
   friend class axsTree;
   friend class axsAttribute;
@@ -173,3 +189,51 @@ private:
   std::uint32_t length = 0;
   std::uint32_t room;
 };
+
+inline axsNode* axsNode::previous_sibling() const noexcept
+{
+  return is_attribute() || up == nullptr || up->first_child() == this ? nullptr : previous;
+}
+
+inline axsNode* axsNode::first_child() const noexcept
+{
+  return is_parent() ? static_cast<axsParent const*>(this)->first : nullptr;
+}
+
+inline axsNode* axsNode::last_child() const noexcept
+{
+  axsNode* const child = first_child();
+  return child == nullptr ? nullptr : child->previous;
+}
+
+inline axsNode* axsNode::next_in_tree(axsNode const& top) const noexcept
+{
+  axsNode* const child = first_child();
+  return child != nullptr ? child : next_behind(top);
+}
+
+inline axsNode* axsNode::next_behind(axsNode const& top) const noexcept
+{
+  for (axsNode const* node = this; node != &top; node = node->up)
+    if (node->next != nullptr)
+      return node->next;
+  return nullptr;
+}
+
+inline std::string_view axsNode::value() const noexcept
+{
+  switch (node_kind)
+  {
+  case axsKind::document:
+  case axsKind::element:
+  case axsKind::doctype:
+    return {};
+  case axsKind::attribute:
+  case axsKind::text:
+  case axsKind::comment:
+    return static_cast<axsLeaf const*>(this)->text();
+  case axsKind::processing_instruction:
+    return value_of_instruction();
+  }
+  return {};
+}

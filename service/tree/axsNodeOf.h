@@ -8,8 +8,8 @@
 
 #include <typeinfo>
 
-/// The operations of axmNode, the same for every kind of node: what is derived from this is a node of the tree and
-/// implements `Interface`.
+/// The operations of axmNode, the same for every kind of node but for those that only elements have another answer to:
+/// what is derived from this is a node of the tree and implements `Interface`.
 template <class Interface, class Record>
 class axsNodeOf : public Interface, public Record
 {
@@ -46,8 +46,8 @@ public:
 
   bool hasChildNodes() const override { return this->first_child() != nullptr; }
   void reserved_node_15() override {}
-  bool hasAttributes() const override { return this->first_attribute() != nullptr; }
-  std::shared_ptr<axmNamedNodeMap> getAttributes() override { return axsTree::attributes(*this); }
+  bool hasAttributes() const override { return false; }
+  std::shared_ptr<axmNamedNodeMap> getAttributes() override { return nullptr; }
   bool operator==(axmNode const& other) const override { return axsNode::of(other) == this; }
   apString get_text() const override { return axsTree::text(*this); }
   void set_text(apString const& text) override { axsTree::set_text(*this, text); }

@@ -1,7 +1,6 @@
 #include "axsTree.h"
 
 #include "axsAttribute.h"
-#include "axsAttributeMap.h"
 #include "axsChildList.h"
 #include "axsCommentNode.h"
 #include "axsElement.h"
@@ -91,29 +90,12 @@ bool report_attached(axsNode const& child)
 
 apString axsTree::node_name(axsNode const& node)
 {
-  if (axsName const* const name = node.name())
-    return name->wide();
   if (node.kind() == axsKind::text && !node.is_cdata())
   {
     static apString const text_name = APSTRING("#text");
     return text_name;
   }
   return apString::from_utf8(node.node_name());
-}
-
-std::shared_ptr<axmNode> axsTree::handle(axsNode* node)
-{
-  return node == nullptr ? nullptr : node->handle();
-}
-
-std::shared_ptr<axmNode> axsTree::parent(axsNode& node)
-{
-  return node.is_attribute() ? nullptr : handle(node.parent());
-}
-
-std::shared_ptr<axmNode> axsTree::next_sibling(axsNode& node)
-{
-  return node.is_attribute() ? nullptr : handle(node.next_sibling());
 }
 
 std::shared_ptr<axmNodeList> axsTree::children(axsNode& node)
@@ -124,14 +106,6 @@ std::shared_ptr<axmNodeList> axsTree::children(axsNode& node)
 std::shared_ptr<axmDocument> axsTree::owner_document(axsNode& node)
 {
   return axs_handle<axmDocument>(node.document());
-}
-
-std::shared_ptr<axmNamedNodeMap> axsTree::attributes(axsNode& node)
-{
-  if (!node.is_element())
-    return nullptr;
-  return std::allocate_shared<axsAttributeMap>(
-    axsHandleAllocator<axsAttributeMap>(node.document().handle_pool()), static_cast<axsElement&>(node));
 }
 
 std::shared_ptr<axmNode> axsTree::insert_before(
@@ -297,8 +271,10 @@ void axsTree::link(axsParent& parent, axsNode& child, axsNode* before) noexcept
 void axsTree::unlink(axsNode& child) noexcept
 {
   auto& parent = static_cast<axsParent&>(*child.up);
+  axsDocument& document = child.document();
+  document.nodes_leaving();
   if (parent.listed)
-    parent.document().child_unlinking(parent, child);
+    document.child_unlinking(parent, child);
   axsNode* const first = parent.first;
   if (&child == first)
   {

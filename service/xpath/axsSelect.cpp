@@ -17,7 +17,7 @@ std::shared_ptr<axmNodeList> axsTree::select_nodes(axsNode& context, apString co
   axsXPathError error;
   utString const expression = xpath.to_utf8();
   return std::allocate_shared<axsResultList>(axsHandleAllocator<axsResultList>(context.document().handle_pool()),
-    axsXPathQuery::select(context, view_of(expression), error));
+    context, axsXPathQuery::select(context, view_of(expression), error));
 }
 
 std::shared_ptr<axmNode> axsTree::select_single_node(axsNode& context, apString const& xpath)

@@ -18,18 +18,22 @@ axsNode* handed_out(axsXPathNode node) noexcept
   return node.is_extra() ? node.extra().declaration : node.node();
 }
 
-std::vector<axsNode*> handed_out(std::vector<axsXPathNode> const& nodes)
+std::vector<axsXPathNode> handed_out(std::vector<axsXPathNode> nodes)
 {
-  std::vector<axsNode*> result;
-  result.reserve(nodes.size());
   std::unordered_set<axsNode*> declarations;
-  for (axsXPathNode const node : nodes)
+  auto const place = [&](axsXPathNode& node)
   {
-    axsNode* const shown = handed_out(node);
-    if (shown != nullptr && (!node.is_extra() || declarations.insert(shown).second))
-      result.push_back(shown);
-  }
-  return result;
+    if (!node.is_extra())
+      return true;
+    node = handed_out(node);
+    return !node.is_none() && declarations.insert(node.node()).second;
+  };
+  auto kept = nodes.begin();
+  for (axsXPathNode& node : nodes)
+    if (place(node))
+      *kept++ = node;
+  nodes.erase(kept, nodes.end());
+  return nodes;
 }
 
 bool bind(axsXPathEvaluator& evaluator, std::string_view text, axsXPathError& error)
@@ -56,7 +60,7 @@ std::vector<axsXPathNode> select_nodes(axsXPathEvaluator& evaluator, axsXPathExp
 }
 }
 
-std::vector<axsNode*> axsXPathQuery::select(axsNode& context, std::string_view text, axsXPathError& error)
+std::vector<axsXPathNode> axsXPathQuery::select(axsNode& context, std::string_view text, axsXPathError& error)
 {
   auto const expression = context.document().xpath_cache().compile(text, error);
   if (expression == nullptr)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <axsXPathError.h>
+#include <axsXPathNode.h>
 #include <axsXPathType.h>
 
 #include <string>
@@ -11,7 +12,7 @@ class axsNode;
 
 /// Queries of the tree, from the text of an expression to what it gives; see axsXPath.
 ///
-/// Nothing is kept beyond a call, and the nodes given are not held: they are good until the tree changes.
+/// Nothing is kept beyond a call, and the nodes given are nodes of the tree, and not held: they are good until it changes.
 /// All throw std::bad_alloc when memory runs out. One document belongs to one thread at a time.
 class axsXPathQuery
 {
@@ -20,7 +21,7 @@ public:
   struct Value
   {
     axsXPathType type = axsXPathType::node_set;
-    std::vector<axsNode*> nodes;
+    std::vector<axsXPathNode> nodes;
     bool boolean = false;
     double number = 0;
     /// The value as a string.
@@ -29,7 +30,7 @@ public:
 
   /// The nodes that `expression`, UTF-8, selects, in document order, each once. Where it is wrong or does not give a
   /// node-set, none, with the reason in `error`, which is without a message otherwise.
-  static std::vector<axsNode*> select(axsNode& context, std::string_view expression, axsXPathError& error);
+  static std::vector<axsXPathNode> select(axsNode& context, std::string_view expression, axsXPathError& error);
 
   /// The first of them, null if there is none, without looking for the others where that can be spared.
   static axsNode* select_first(axsNode& context, std::string_view expression, axsXPathError& error);

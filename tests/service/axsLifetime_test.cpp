@@ -77,6 +77,64 @@ TEST(axsLifetime, a_result_list_holds_nodes_that_are_removed_meanwhile)
   EXPECT_EQ(narrow(found->at(0)->get_text()), "1");
 }
 
+TEST(axsLifetime, a_result_list_holds_its_nodes_through_every_way_out_of_the_tree)
+{
+  auto const root = load_root("<r><a n='1'>1</a><a n='2'>2</a><a n='3'>3</a><a n='4'>4<c/></a></r>");
+  auto const document = root->getOwnerDocument();
+  auto const texts_of = [](axmNodeList& list)
+  {
+    std::string texts;
+    for (int i = 0; i < list.length(); ++i)
+      texts += narrow(list.at(i)->get_text()) + narrow(list.at(i)->getNodeValue()) + ' ';
+    return texts;
+  };
+
+  auto const elements = root->selectNodes(APSTRING("//a"));
+  root->replaceChild(document->createElement(APSTRING("new")), root->getFirstChild());
+  auto const texts = root->selectNodes(APSTRING("//a/text()"));
+  root->getLastChild()->set_text(APSTRING("5"));
+  auto const attributes = root->selectNodes(APSTRING("//@n"));
+  root->getChildNodes()->at(1)->removeAttribute(APSTRING("n"));
+  root->getChildNodes()->at(2)->getAttributes()->removeNamedItem(APSTRING("n"));
+  auto const all = document->getElementsByTagName(APSTRING("a"));
+  root->set_text(APSTRING("gone"));
+  // What was freed by mistake is used again.
+  for (int i = 0; i < 20; ++i)
+    root->appendChild(document->createElement(APSTRING("a")))->set_text(APSTRING("other"));
+
+  EXPECT_EQ(texts_of(*elements), "1 2 3 5 ");
+  EXPECT_EQ(texts_of(*texts), "22 33 44 ");
+  EXPECT_EQ(texts_of(*attributes), "22 33 44 ");
+  EXPECT_EQ(texts_of(*all), "2 3 5 ");
+}
+
+TEST(axsLifetime, a_result_list_holds_what_was_moved_into_a_detached_tree)
+{
+  auto const root = load_root("<r><a>1</a></r>");
+  auto const found = root->selectNodes(APSTRING("//a"));
+  auto detached = root->getOwnerDocument()->createElement(APSTRING("d"));
+  detached->appendChild(root->getFirstChild());
+  detached.reset();
+  for (int i = 0; i < 5; ++i)
+    root->appendChild(root->getOwnerDocument()->createElement(APSTRING("new")));
+  EXPECT_EQ(narrow(found->at(0)->getParentNode()->get_xml()), "<d><a>1</a></d>");
+}
+
+TEST(axsLifetime, a_result_list_holds_a_detached_tree_and_the_document)
+{
+  auto root = load_root("<r><a><b>1</b></a></r>");
+  auto detached = root->removeChild(root->getFirstChild());
+  auto const inside = dynamic_cast<axmElement&>(*detached->getFirstChild()).selectNodes(APSTRING("//b"));
+  detached.reset();
+  root->appendChild(root->getOwnerDocument()->createElement(APSTRING("new")));
+  auto others = root->selectNodes(APSTRING("//new"));
+  auto const last = root->selectNodes(APSTRING("//*"));
+  root.reset();
+  EXPECT_EQ(narrow(inside->at(0)->getParentNode()->get_xml()), "<a><b>1</b></a>");
+  others.reset();
+  EXPECT_EQ(narrow(last->at(0)->get_xml()), "<r><new/></r>");
+}
+
 TEST(axsLifetime, a_weak_pointer_holds_no_node)
 {
   auto root = load_root("<r><a/></r>");
