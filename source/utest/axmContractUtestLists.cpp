@@ -72,9 +72,11 @@ void axmContractUtest::test_live_lists(Factory const& factory) const
   group.check(names_in(list), APSTRING("a b c"), "names(list)", __LINE__, "a list follows an append");
   remove(root, first_of(root));
   group.check(names_in(list), APSTRING("b c"), "names(list)", __LINE__, "a list follows a removal");
-  insert(root, created(document, APSTRING("x")), last_of(root));
+  Node const x = created(document, APSTRING("x"));
+  insert(root, x, last_of(root));
   group.check(names_in(list), APSTRING("b x c"), "names(list)", __LINE__, "a list follows an insertion");
-  replace(root, created(document, APSTRING("y")), first_of(root));
+  Node const y = created(document, APSTRING("y"));
+  replace(root, y, first_of(root));
   group.check(names_in(list), APSTRING("y x c"), "names(list)", __LINE__, "a list follows a replacement");
   group.check(
     names_of_children(root), APSTRING("y x c"), "names(root->getChildNodes())", __LINE__, "as does one fetched now");
