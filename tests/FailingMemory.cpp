@@ -1,5 +1,6 @@
 #include "FailingMemory.h"
 
+#include <cerrno>
 #include <cstddef>
 #include <cstdlib>
 #include <new>
@@ -10,10 +11,12 @@ extern "C"
   void* __interceptor_malloc(std::size_t size) __attribute__((weak));
   void* __interceptor_calloc(std::size_t count, std::size_t size) __attribute__((weak));
   void* __interceptor_realloc(void* block, std::size_t size) __attribute__((weak));
+  void* __interceptor_aligned_alloc(std::size_t alignment, std::size_t size) __attribute__((weak));
   void __interceptor_free(void* block) __attribute__((weak));
   void* __libc_malloc(std::size_t size);
   void* __libc_calloc(std::size_t count, std::size_t size);
   void* __libc_realloc(void* block, std::size_t size);
+  void* __libc_memalign(std::size_t alignment, std::size_t size);
   void __libc_free(void* block);
 }
 
@@ -93,6 +96,24 @@ extern "C" void* realloc(void* block, std::size_t size)
   void* const moved =
     __interceptor_realloc != nullptr ? __interceptor_realloc(block, size) : __libc_realloc(block, size);
   return block == nullptr ? counted(moved) : moved;
+}
+
+// Where libc++ takes the memory for exceptions from.
+extern "C" void* aligned_alloc(std::size_t alignment, std::size_t size)
+{
+  if (!admitted())
+    return nullptr;
+  return counted(__interceptor_aligned_alloc != nullptr ? __interceptor_aligned_alloc(alignment, size)
+                                                        : __libc_memalign(alignment, size));
+}
+
+extern "C" int posix_memalign(void** block, std::size_t alignment, std::size_t size)
+{
+  void* const made = aligned_alloc(alignment, size);
+  if (made == nullptr)
+    return ENOMEM;
+  *block = made;
+  return 0;
 }
 
 extern "C" void free(void* block)
