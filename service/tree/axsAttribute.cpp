@@ -3,8 +3,8 @@
 #include "axsElement.h"
 #include "axsName.h"
 
-axsAttribute::axsAttribute(std::uint32_t room_behind, axsName const& name) noexcept
-  : axsNodeOf(axsKind::attribute, this + 1, room_behind)
+axsAttribute::axsAttribute(std::uint8_t units, axsName const& name) noexcept
+  : axsNodeOf(axsKind::attribute, this + 1, units)
 {
   attribute_name = &name;
 }

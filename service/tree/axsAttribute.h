@@ -9,7 +9,7 @@ class axsName;
 class axsAttribute final : public axsNodeOf<axmNode, axsLeaf>
 {
 public:
-  axsAttribute(std::uint32_t room_behind, axsName const& name) noexcept;
+  axsAttribute(std::uint8_t units, axsName const& name) noexcept;
 
   apString getNodeName() const override;
 

@@ -8,7 +8,7 @@
 class axsCommentNode final : public axsNodeOf<axmCommentNode, axsLeaf>
 {
 public:
-  explicit axsCommentNode(std::uint32_t room_behind) noexcept : axsNodeOf(axsKind::comment, this + 1, room_behind) {}
+  explicit axsCommentNode(std::uint8_t units) noexcept : axsNodeOf(axsKind::comment, this + 1, units) {}
 
   apString getData() const override { return getNodeValue(); }
 };

@@ -9,5 +9,5 @@
 class axsDoctype final : public axsNodeOf<axmNode, axsLeaf>
 {
 public:
-  explicit axsDoctype(std::uint32_t room_behind) noexcept : axsNodeOf(axsKind::doctype, this + 1, room_behind) {}
+  explicit axsDoctype(std::uint8_t units) noexcept : axsNodeOf(axsKind::doctype, this + 1, units) {}
 };

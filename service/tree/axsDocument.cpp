@@ -95,16 +95,17 @@ template <class Leaf, class... Arguments>
 Leaf* axsDocument::make_leaf(std::string_view text, Arguments&&... arguments)
 {
   bool const within = sizeof(Leaf) + text.size() <= axsArena::small_limit;
-  auto const room = static_cast<std::uint32_t>(within ? (text.size() + 7) / 8 * 8 : 0);
-  void* const block = memory.allocate(sizeof(Leaf) + room);
-  auto* const leaf = new (block) Leaf(room, std::forward<Arguments>(arguments)...);
+  std::size_t const units = within ? axsLeaf::units_for<Leaf>(text.size()) : 1;
+  std::size_t const size = sizeof(Leaf) + units * axsLeaf::unit;
+  void* const block = memory.allocate(size);
+  auto* const leaf = new (block) Leaf(static_cast<std::uint8_t>(units), std::forward<Arguments>(arguments)...);
   try
   {
     static_cast<axsLeaf*>(leaf)->set_text(text);
   }
   catch (...)
   {
-    memory.release(block, sizeof(Leaf) + room);
+    memory.release(block, size);
     throw;
   }
   return leaf;
@@ -146,8 +147,8 @@ void axsDocument::free_node(axsNode& node) noexcept
   {
     auto& text = static_cast<axsLeaf&>(leaf);
     if (text.apart())
-      memory.release(text.bytes, text.length);
-    memory.release(&leaf, sizeof leaf + text.room);
+      memory.release(text.bytes_apart(), text.length);
+    memory.release(&leaf, sizeof leaf + text.room_units * axsLeaf::unit);
   };
 
   switch (node.kind())

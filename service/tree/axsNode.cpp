@@ -34,24 +34,25 @@ std::string_view doctype_name(std::string_view declaration)
 
 axsNode* axsNode::of(axmNode const& node) noexcept
 {
-  // Comparing types and asking for the whole object is a good deal cheaper than casting across to this record.
-  std::type_info const& type = typeid(node);
+  // Asking for the type and the whole object is a good deal cheaper than casting across to this record. The types are
+  // known to this library only, so that each has one description.
+  std::type_info const* const type = &typeid(node);
   void* const object = const_cast<void*>(dynamic_cast<void const*>(&node));
-  if (type == typeid(axsElement))
+  if (type == &typeid(axsElement))
     return static_cast<axsElement*>(object);
-  if (type == typeid(axsTextNode))
+  if (type == &typeid(axsTextNode))
     return static_cast<axsTextNode*>(object);
-  if (type == typeid(axsNodeView))
+  if (type == &typeid(axsNodeView))
     return &static_cast<axsNodeView*>(object)->node();
-  if (type == typeid(axsAttribute))
+  if (type == &typeid(axsAttribute))
     return static_cast<axsAttribute*>(object);
-  if (type == typeid(axsCommentNode))
+  if (type == &typeid(axsCommentNode))
     return static_cast<axsCommentNode*>(object);
-  if (type == typeid(axsDocument))
+  if (type == &typeid(axsDocument))
     return static_cast<axsDocument*>(object);
-  if (type == typeid(axsProcessingInstruction))
+  if (type == &typeid(axsProcessingInstruction))
     return static_cast<axsProcessingInstruction*>(object);
-  if (type == typeid(axsDoctype))
+  if (type == &typeid(axsDoctype))
     return static_cast<axsDoctype*>(object);
   return nullptr;
 }
@@ -170,19 +171,22 @@ void axsNode::root_released() noexcept
 
 void axsLeaf::set_text(std::string_view text)
 {
-  axsArena& arena = document().arena();
-  char* const old_bytes = bytes;
-  std::size_t const old_length = length;
   bool const old_apart = apart();
+  char* const old_bytes = old_apart ? bytes_apart() : nullptr;
+  std::size_t const old_length = length;
 
-  char* const new_bytes = text.size() <= room ? inside() : allocate_apart(text.size());
   // The old text may be where the new one goes, or be the new one.
-  if (!text.empty())
-    std::memmove(new_bytes, text.data(), text.size());
-  bytes = new_bytes;
+  if (text.size() > room())
+  {
+    char* const bytes = allocate_apart(text.size());
+    std::memcpy(bytes, text.data(), text.size());
+    std::memcpy(inside(), &bytes, sizeof bytes);
+  }
+  else if (!text.empty())
+    std::memmove(inside(), text.data(), text.size());
   length = static_cast<std::uint32_t>(text.size());
   if (old_apart)
-    arena.release(old_bytes, old_length);
+    document().arena().release(old_bytes, old_length);
 }
 
 char* axsLeaf::allocate_apart(std::size_t size)

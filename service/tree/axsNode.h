@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -129,9 +131,14 @@ private:
   axsKind node_kind;
   // Of a text: it stood in a CDATA section.
   bool from_cdata = false;
-  // Of a parent: child lists of it may be out.
-  bool listed = false;
-  // Of a leaf: how far behind this record the room for its text is.
+  union
+  {
+    // Of a parent: child lists of it may be out.
+    bool listed = false;
+    // Of a leaf: the units of room for its text behind the object.
+    std::uint8_t room_units;
+  };
+  // Of a leaf: how far behind the start of this record the room for its text is.
   std::uint8_t room_offset = 0;
   axsNode* up = nullptr;
   axsNode* next = nullptr;
@@ -163,31 +170,55 @@ private:
 class axsLeaf : public axsNode
 {
 public:
-  std::string_view text() const noexcept { return {bytes, length}; }
+  std::string_view text() const noexcept { return {apart() ? bytes_apart() : inside(), length}; }
 
   /// Throws std::bad_alloc, with the text as it was, when memory runs out or the text is too long for an apString.
   void set_text(std::string_view text);
 
-protected:
-  /// `end` is where the object ends; behind it there are `room_behind` bytes for the text.
-  axsLeaf(axsKind kind, void* end, std::uint32_t room_behind) noexcept : axsNode(kind), room(room_behind)
+  /// Room for a text behind a leaf comes in units of so many bytes, of which there is at least one.
+  static constexpr std::size_t unit = 8;
+
+  /// The units that let a text of `size` bytes stand in a leaf.
+  template <class Leaf>
+  static constexpr std::size_t units_for(std::size_t size) noexcept
   {
-    room_offset = static_cast<std::uint8_t>(static_cast<char*>(end) - reinterpret_cast<char*>(this));
-    bytes = inside();
+    std::size_t const within = sizeof(Leaf) == sizeof(void*) + sizeof(axsLeaf) ? sizeof rest : 0;
+    return size <= within + unit ? 1 : (size - within + unit - 1) / unit;
+  }
+
+protected:
+  /// `end` is where the object ends, behind which the units of room are.
+  axsLeaf(axsKind kind, void* end, std::uint8_t units) noexcept : axsNode(kind)
+  {
+    room_units = units;
+    // Where nothing of the object comes behind this record, the text begins in what the object would be padded with.
+    char* const begin = end == rest + sizeof rest ? rest : static_cast<char*>(end);
+    room_offset = static_cast<std::uint8_t>(begin - reinterpret_cast<char*>(this));
   }
   ~axsLeaf() = default;
 
 private:
   friend class axsDocument;
 
+  char const* inside() const noexcept { return reinterpret_cast<char const*>(this) + room_offset; }
   char* inside() noexcept { return reinterpret_cast<char*>(this) + room_offset; }
-  bool apart() const noexcept { return length > room; }
+
+  std::size_t room() const noexcept { return room_units * unit + (inside() == rest ? sizeof rest : 0); }
+
+  // A short text stands in the room that there is; a longer one has a block of its own, whose address stands there.
+  bool apart() const noexcept { return length > room(); }
+
+  char* bytes_apart() const noexcept
+  {
+    char* bytes;
+    std::memcpy(&bytes, inside(), sizeof bytes);
+    return bytes;
+  }
+
   char* allocate_apart(std::size_t size);
 
-  // A short text stands behind the object, where it has `room` bytes; a longer one has a block of its own.
-  char* bytes;
   std::uint32_t length = 0;
-  std::uint32_t room;
+  char rest[sizeof(void*) - sizeof(std::uint32_t)];
 };
 
 inline axsNode* axsNode::previous_sibling() const noexcept

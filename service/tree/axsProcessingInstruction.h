@@ -8,8 +8,8 @@
 class axsProcessingInstruction final : public axsNodeOf<axmProcessingInstruction, axsLeaf>
 {
 public:
-  explicit axsProcessingInstruction(std::uint32_t room_behind) noexcept
-    : axsNodeOf(axsKind::processing_instruction, this + 1, room_behind)
+  explicit axsProcessingInstruction(std::uint8_t units) noexcept
+    : axsNodeOf(axsKind::processing_instruction, this + 1, units)
   {
   }
 

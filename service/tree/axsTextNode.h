@@ -8,7 +8,7 @@
 class axsTextNode final : public axsNodeOf<axmTextNode, axsLeaf>
 {
 public:
-  explicit axsTextNode(std::uint32_t room_behind) noexcept : axsNodeOf(axsKind::text, this + 1, room_behind) {}
+  explicit axsTextNode(std::uint8_t units) noexcept : axsNodeOf(axsKind::text, this + 1, units) {}
 
   apString getData() const override { return getNodeValue(); }
 };

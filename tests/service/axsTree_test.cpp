@@ -188,6 +188,28 @@ TEST(axsTree, keeps_attributes_in_their_order_and_of_any_length)
   EXPECT_EQ(xml(root), "<r a=\"z\" b=\"3\" d=\"\"/>");
 }
 
+TEST(axsTree, keeps_a_text_of_any_length_in_the_place_of_one_of_any_other)
+{
+  // Short ones stand in their node, longer ones behind it, the longest apart.
+  std::string const all(1200, 'x');
+  for (std::size_t first = 0; first < all.size(); first += first < 30 ? 1 : 97)
+  {
+    std::string const before = all.substr(0, first);
+    auto const root = load_root("<r a='" + before + "'>" + before + "<s/>after</r>");
+    for (std::size_t next = 0; next < all.size(); next += next < 30 ? 1 : 93)
+    {
+      std::string const text = std::string(next, 'y') + std::to_string(next);
+      root->setAttribute(APSTRING("a"), wide(text));
+      ASSERT_EQ(narrow(root->getAttribute(APSTRING("a"))), text) << first;
+      if (first == 0)
+        continue;
+      root->getFirstChild()->set_text(wide(text));
+      ASSERT_EQ(narrow(root->get_text()), text + "after") << first;
+    }
+    EXPECT_EQ(narrow(root->getLastChild()->get_text()), "after") << first;
+  }
+}
+
 TEST(axsTree, puts_a_removed_attribute_node_in_again)
 {
   auto const document = load("<r a='1' b='2' c='3'><s a='0'/></r>");
