@@ -7,7 +7,7 @@ axsChildList::axsChildList(axsNode& node) noexcept : parent(&node)
   parent->acquire();
   if (!parent->is_parent())
     return;
-  parent->listed = true;
+  parent->is_marked = true;
   axsChildList*& chain = parent->document().lists_of(*parent);
   next_list = chain;
   if (chain != nullptr)

@@ -95,7 +95,7 @@ template <class Leaf, class... Arguments>
 Leaf* axsDocument::make_leaf(std::string_view text, Arguments&&... arguments)
 {
   bool const within = sizeof(Leaf) + text.size() <= axsArena::small_limit;
-  std::size_t const units = within ? axsLeaf::units_for<Leaf>(text.size()) : 1;
+  std::size_t const units = within ? axsLeaf::units_for(text.size()) : 1;
   std::size_t const size = sizeof(Leaf) + units * axsLeaf::unit;
   void* const block = memory.allocate(size);
   auto* const leaf = new (block) Leaf(static_cast<std::uint8_t>(units), std::forward<Arguments>(arguments)...);
@@ -119,7 +119,7 @@ axsAttribute* axsDocument::make_attribute(axsName const& name, std::string_view 
 axsTextNode* axsDocument::make_text(std::string_view data, bool cdata)
 {
   auto* const text = make_leaf<axsTextNode>(data);
-  text->from_cdata = cdata;
+  text->is_marked = cdata;
   return text;
 }
 
@@ -146,8 +146,8 @@ void axsDocument::free_node(axsNode& node) noexcept
   auto const free_as = [&](auto& leaf)
   {
     auto& text = static_cast<axsLeaf&>(leaf);
-    if (text.apart())
-      memory.release(text.bytes_apart(), text.length);
+    if (text.is_apart())
+      memory.release(text.apart(), text.apart()->size());
     memory.release(&leaf, sizeof leaf + text.room_units * axsLeaf::unit);
   };
 
@@ -188,22 +188,22 @@ axsChildList*& axsDocument::lists_of(axsNode const& parent) noexcept
 
 void axsDocument::child_linked(axsParent& parent, axsNode const& child) noexcept
 {
-  parent.listed = false;
+  parent.is_marked = false;
   for (axsChildList* list = lists_of(parent); list != nullptr; list = list->next_list)
     if (list->parent == &parent)
     {
-      parent.listed = true;
+      parent.is_marked = true;
       list->child_linked(child);
     }
 }
 
 void axsDocument::child_unlinking(axsParent& parent, axsNode const& child) noexcept
 {
-  parent.listed = false;
+  parent.is_marked = false;
   for (axsChildList* list = lists_of(parent); list != nullptr; list = list->next_list)
     if (list->parent == &parent)
     {
-      parent.listed = true;
+      parent.is_marked = true;
       list->child_unlinking(child);
     }
 }

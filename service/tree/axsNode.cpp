@@ -99,7 +99,7 @@ std::string_view axsNode::node_name() const noexcept
   case axsKind::attribute:
     return name()->utf8();
   case axsKind::text:
-    return from_cdata ? "#cdata-section" : "#text";
+    return is_marked ? "#cdata-section" : "#text";
   case axsKind::comment:
     return "#comment";
   case axsKind::processing_instruction:
@@ -171,28 +171,29 @@ void axsNode::root_released() noexcept
 
 void axsLeaf::set_text(std::string_view text)
 {
-  bool const old_apart = apart();
-  char* const old_bytes = old_apart ? bytes_apart() : nullptr;
-  std::size_t const old_length = length;
-
   // The old text may be where the new one goes, or be the new one.
-  if (text.size() > room())
+  Apart* const old = is_apart() ? apart() : nullptr;
+  if (text.size() <= room_units * unit)
   {
-    char* const bytes = allocate_apart(text.size());
-    std::memcpy(bytes, text.data(), text.size());
-    std::memcpy(inside(), &bytes, sizeof bytes);
+    if (!text.empty())
+      std::memmove(room(), text.data(), text.size());
+    length_within = static_cast<std::uint16_t>(text.size());
   }
-  else if (!text.empty())
-    std::memmove(inside(), text.data(), text.size());
-  length = static_cast<std::uint32_t>(text.size());
-  if (old_apart)
-    document().arena().release(old_bytes, old_length);
+  else
+  {
+    new (room()) Apart*(make_apart(text));
+    length_within = length_of_apart;
+  }
+  if (old != nullptr)
+    document().arena().release(old, old->size());
 }
 
-char* axsLeaf::allocate_apart(std::size_t size)
+axsLeaf::Apart* axsLeaf::make_apart(std::string_view text)
 {
   // What is longer could not be handed out.
-  if (size > INT_MAX / sizeof(wchar_t) - 64)
+  if (text.size() > INT_MAX / sizeof(wchar_t) - 64)
     throw std::bad_alloc();
-  return static_cast<char*>(document().arena().allocate(size));
+  auto* const made = new (document().arena().allocate(sizeof(Apart) + text.size())) Apart{text.size()};
+  std::memcpy(made->bytes(), text.data(), text.size());
+  return made;
 }

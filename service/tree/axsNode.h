@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -48,7 +47,7 @@ public:
   bool is_parent() const noexcept { return node_kind <= axsKind::element; }
 
   /// Whether it is a text that stood in a CDATA section, and will again.
-  bool is_cdata() const noexcept { return from_cdata; }
+  bool is_cdata() const noexcept { return node_kind == axsKind::text && is_marked; }
 
   axsDocument& document() const noexcept;
 
@@ -111,7 +110,7 @@ public:
   bool is_busy() const noexcept { return busy != 0; }
 
 protected:
-  explicit axsNode(axsKind kind) noexcept : node_kind(kind) {}
+  explicit axsNode(axsKind kind) noexcept : node_kind(kind), is_marked(false), room_start(0) {}
   ~axsNode() = default;
 
 private:
@@ -128,18 +127,14 @@ private:
   friend class axsChildList;
 
   std::uint32_t busy = 0;
-  axsKind node_kind;
-  // Of a text: it stood in a CDATA section.
-  bool from_cdata = false;
-  union
-  {
-    // Of a parent: child lists of it may be out.
-    bool listed = false;
-    // Of a leaf: the units of room for its text behind the object.
-    std::uint8_t room_units;
-  };
-  // Of a leaf: how far behind the start of this record the room for its text is.
-  std::uint8_t room_offset = 0;
+  axsKind node_kind : 3;
+  // Of a parent: child lists of it may be out. Of a text: it stood in a CDATA section.
+  bool is_marked : 1;
+  // Of a leaf: where the room for its text begins, in units behind the start of this record; the units of room; and the
+  // length of the text, if it stands there.
+  std::uint8_t room_start : 4;
+  std::uint8_t room_units = 0;
+  std::uint16_t length_within = 0;
   axsNode* up = nullptr;
   axsNode* next = nullptr;
   // The previous child, which of the first child is the last one. Unused by attributes, which have their name there.
@@ -170,7 +165,10 @@ private:
 class axsLeaf : public axsNode
 {
 public:
-  std::string_view text() const noexcept { return {apart() ? bytes_apart() : inside(), length}; }
+  std::string_view text() const noexcept
+  {
+    return is_apart() ? std::string_view(apart()->bytes(), apart()->length) : std::string_view(room(), length_within);
+  }
 
   /// Throws std::bad_alloc, with the text as it was, when memory runs out or the text is too long for an apString.
   void set_text(std::string_view text);
@@ -178,47 +176,39 @@ public:
   /// Room for a text behind a leaf comes in units of so many bytes, of which there is at least one.
   static constexpr std::size_t unit = 8;
 
-  /// The units that let a text of `size` bytes stand in a leaf.
-  template <class Leaf>
-  static constexpr std::size_t units_for(std::size_t size) noexcept
+  static constexpr std::size_t units_for(std::size_t length) noexcept
   {
-    std::size_t const within = sizeof(Leaf) == sizeof(void*) + sizeof(axsLeaf) ? sizeof rest : 0;
-    return size <= within + unit ? 1 : (size - within + unit - 1) / unit;
+    return length <= unit ? 1 : (length + unit - 1) / unit;
   }
 
 protected:
   /// `end` is where the object ends, behind which the units of room are.
   axsLeaf(axsKind kind, void* end, std::uint8_t units) noexcept : axsNode(kind)
   {
+    room_start = static_cast<std::uint8_t>((static_cast<char*>(end) - reinterpret_cast<char*>(this)) / unit) & 0xFu;
     room_units = units;
-    // Where nothing of the object comes behind this record, the text begins in what the object would be padded with.
-    char* const begin = end == rest + sizeof rest ? rest : static_cast<char*>(end);
-    room_offset = static_cast<std::uint8_t>(begin - reinterpret_cast<char*>(this));
   }
   ~axsLeaf() = default;
 
 private:
   friend class axsDocument;
 
-  char const* inside() const noexcept { return reinterpret_cast<char const*>(this) + room_offset; }
-  char* inside() noexcept { return reinterpret_cast<char*>(this) + room_offset; }
-
-  std::size_t room() const noexcept { return room_units * unit + (inside() == rest ? sizeof rest : 0); }
-
-  // A short text stands in the room that there is; a longer one has a block of its own, whose address stands there.
-  bool apart() const noexcept { return length > room(); }
-
-  char* bytes_apart() const noexcept
+  // A text that is too long for the room, which holds its address.
+  struct Apart
   {
-    char* bytes;
-    std::memcpy(&bytes, inside(), sizeof bytes);
-    return bytes;
-  }
+    std::size_t length;
 
-  char* allocate_apart(std::size_t size);
+    std::size_t size() const noexcept { return sizeof(Apart) + length; }
+    char* bytes() noexcept { return reinterpret_cast<char*>(this + 1); }
+  };
 
-  std::uint32_t length = 0;
-  char rest[sizeof(void*) - sizeof(std::uint32_t)];
+  static constexpr std::uint16_t length_of_apart = 0xFFFF;
+
+  char* room() const noexcept { return reinterpret_cast<char*>(const_cast<axsLeaf*>(this)) + room_start * unit; }
+
+  bool is_apart() const noexcept { return length_within == length_of_apart; }
+  Apart* apart() const noexcept { return *reinterpret_cast<Apart**>(room()); }
+  Apart* make_apart(std::string_view text);
 };
 
 inline axsNode* axsNode::previous_sibling() const noexcept

@@ -264,7 +264,7 @@ void axsTree::link(axsParent& parent, axsNode& child, axsNode* before) noexcept
     else
       child.previous->next = &child;
   }
-  if (parent.listed)
+  if (parent.is_marked)
     parent.document().child_linked(parent, child);
 }
 
@@ -273,7 +273,7 @@ void axsTree::unlink(axsNode& child) noexcept
   auto& parent = static_cast<axsParent&>(*child.up);
   axsDocument& document = child.document();
   document.nodes_leaving();
-  if (parent.listed)
+  if (parent.is_marked)
     document.child_unlinking(parent, child);
   axsNode* const first = parent.first;
   if (&child == first)
