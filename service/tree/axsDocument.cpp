@@ -72,7 +72,7 @@ std::shared_ptr<axmNodeList> axsDocument::getElementsByTagName(apString const& n
   std::vector<axsXPathNode> found;
   if (axsName const* const wanted = names().find(narrow(name.to_utf8())))
     for (axsNode* node = first_child(); node != nullptr; node = node->next_in_tree(*this))
-      if (node->is_element() && node->name() == wanted)
+      if (node->is_element() && static_cast<axsElement*>(node)->is_named(*wanted))
         found.push_back(node);
   return std::allocate_shared<axsResultList>(axsHandleAllocator<axsResultList>(handle_pool()), *this, std::move(found));
 }
@@ -87,7 +87,7 @@ axsElement* axsDocument::root_element() const noexcept
 
 axsElement* axsDocument::make_element(axsName const& name)
 {
-  return new (memory.allocate(sizeof(axsElement))) axsElement(name);
+  return new (memory.allocate(axsElement::size_for(name))) axsElement(name);
 }
 
 // A text that a small block can hold stands in the block of its node.
@@ -160,7 +160,7 @@ void axsDocument::free_node(axsNode& node) noexcept
     auto& element = static_cast<axsElement&>(node);
     for (axsAttribute* at = element.first_attribute(); at != nullptr;)
       free_as(*std::exchange(at, at->next_attribute()));
-    return memory.release(&element, sizeof element);
+    return memory.release(&element, element.size());
   }
   case axsKind::attribute:
     return free_as(static_cast<axsAttribute&>(node));

@@ -13,11 +13,23 @@ std::string_view narrow(utString const& text)
 }
 }
 
-axsElement::axsElement(axsName const& name) noexcept : axsNodeOf(axsKind::element), tag(&name) {}
+axsElement::axsElement(axsName const& name) noexcept : axsNodeOf(axsKind::element)
+{
+  name_number = name.number();
+  if (name_number == axsName::no_number)
+    new (this + 1) axsName const*(&name);
+}
+
+axsName const& axsElement::element_name() const noexcept
+{
+  if (name_number == axsName::no_number)
+    return *name_behind();
+  return axsArena::document_of(this).names().numbered(name_number);
+}
 
 apString axsElement::getNodeName() const
 {
-  return tag->wide();
+  return element_name().wide();
 }
 
 std::shared_ptr<axmNamedNodeMap> axsElement::getAttributes()

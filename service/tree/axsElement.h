@@ -1,5 +1,6 @@
 #pragma once
 
+#include "axsName.h"
 #include "axsNodeOf.h"
 
 #include <axmElement.h>
@@ -7,15 +8,25 @@
 #include <string_view>
 
 class axsAttribute;
-class axsName;
 
 /// An element of the tree.
 class axsElement final : public axsNodeOf<axmElement, axsParent>
 {
 public:
+  /// Takes size_for(name) bytes.
   explicit axsElement(axsName const& name) noexcept;
 
-  axsName const& element_name() const noexcept { return *tag; }
+  /// The bytes that an element of that name takes, and this one.
+  static std::size_t size_for(axsName const& name) noexcept { return size_for(name.number()); }
+  std::size_t size() const noexcept { return size_for(name_number); }
+
+  axsName const& element_name() const noexcept;
+
+  /// Whether `name`, of this document, is the name. Costs less than asking for that.
+  bool is_named(axsName const& name) const noexcept
+  {
+    return name.number() == name_number && (name_number != axsName::no_number || &name == name_behind());
+  }
 
   apString getNodeName() const override;
   bool hasAttributes() const override { return attributes != nullptr; }
@@ -55,6 +66,13 @@ public:
 private:
   friend class axsTree;
 
-  axsName const* tag;
+  static std::size_t size_for(std::uint16_t number) noexcept
+  {
+    return sizeof(axsElement) + (number == axsName::no_number ? sizeof(axsName const*) : 0);
+  }
+
+  // An element whose name has no number has its address behind the object.
+  axsName const* name_behind() const noexcept { return *reinterpret_cast<axsName const* const*>(this + 1); }
+
   axsAttribute* attributes = nullptr;
 };

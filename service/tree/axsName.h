@@ -2,6 +2,7 @@
 
 #include <apString.h>
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -10,17 +11,24 @@
 class axsName
 {
 public:
-  explicit axsName(std::string_view text)
+  /// What takes the place of a number where numbers have run out.
+  static constexpr std::uint16_t no_number = 0xFFFF;
+
+  /// `given` is the number by which the table of names finds it, or no_number.
+  axsName(std::string_view text, std::uint16_t given)
     : wide_text(apString::from_utf8(text)),
       wide_characters(wide_text.view()),
       narrow_text(text),
-      colon(narrow_text.find(':'))
+      colon(narrow_text.find(':')),
+      place(given)
   {
   }
 
   apString const& wide() const noexcept { return wide_text; }
   std::wstring_view wide_view() const noexcept { return wide_characters; }
   std::string_view utf8() const noexcept { return narrow_text; }
+
+  std::uint16_t number() const noexcept { return place; }
 
   /// What stands before the first colon; empty without one.
   std::string_view prefix() const noexcept
@@ -36,4 +44,5 @@ private:
   std::wstring_view wide_characters;
   std::string narrow_text;
   std::size_t colon;
+  std::uint16_t place;
 };

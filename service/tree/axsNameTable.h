@@ -2,9 +2,11 @@
 
 #include "axsName.h"
 
+#include <cstdint>
 #include <memory>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 /// The names of one document.
 class axsNameTable
@@ -16,7 +18,11 @@ public:
   /// The object for the name `text`, null if no node ever had it.
   axsName const* find(std::string_view text) const noexcept;
 
+  /// The name that has the number, which is not axsName::no_number.
+  axsName const& numbered(std::uint16_t number) const noexcept { return *by_number[number]; }
+
 private:
   // The keys lie in the names, which the map keeps in their places.
   std::unordered_map<std::string_view, std::unique_ptr<axsName const>> names;
+  std::vector<axsName const*> by_number;
 };

@@ -134,7 +134,12 @@ private:
   // length of the text, if it stands there.
   std::uint8_t room_start : 4;
   std::uint8_t room_units = 0;
-  std::uint16_t length_within = 0;
+  union
+  {
+    std::uint16_t length_within = 0;
+    // Of an element: the number of its name.
+    std::uint16_t name_number;
+  };
   axsNode* up = nullptr;
   axsNode* next = nullptr;
   // The previous child, which of the first child is the last one. Unused by attributes, which have their name there.

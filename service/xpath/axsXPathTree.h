@@ -100,7 +100,7 @@ private:
   {
     if (test.has_prefix)
       return element.element_name().local() == test.local && namespaces.uri_of_element(element) == test.uri;
-    return &element.element_name() == test.name && namespaces.is_without_namespace(element);
+    return test.name != nullptr && element.is_named(*test.name) && namespaces.is_without_namespace(element);
   }
 
   bool passes_other(axsNode& node, axsXPathTest const& test);

@@ -210,6 +210,37 @@ TEST(axsTree, keeps_a_text_of_any_length_in_the_place_of_one_of_any_other)
   }
 }
 
+TEST(axsTree, holds_more_names_than_have_a_number)
+{
+  int const names = 66000;
+  auto const document = load("<r/>");
+  auto const root = document->getDocumentElement();
+  auto const name_of = [](int i) { return wide("n" + std::to_string(i)); };
+  for (int i = 0; i < names; ++i)
+    root->appendChild(document->createElement(name_of(i)));
+
+  auto const children = root->getChildNodes();
+  for (int i = 0; i < names; ++i)
+    ASSERT_TRUE(children->at(i)->getNodeName() == name_of(i)) << i;
+  for (int const i : {0, 65530, 65533, 65534, 65535, names - 1})
+  {
+    EXPECT_EQ(document->getElementsByTagName(name_of(i))->length(), 1) << i;
+    auto const found = root->selectNodes(apString(L"//") + name_of(i));
+    ASSERT_EQ(found->length(), 1) << i;
+    EXPECT_TRUE(*found->at(0) == *children->at(i)) << i;
+  }
+  EXPECT_EQ(xml(root->getLastChild()), "<n65999/>");
+
+  auto const last = root->removeChild(root->getLastChild());
+  EXPECT_TRUE(last->getNodeName() == name_of(names - 1));
+  root->set_text(APSTRING("gone"));
+  for (int i = names; i > 0; i -= 1000)
+    root->appendChild(document->createElement(name_of(i - 1)));
+  EXPECT_TRUE(root->getLastChild()->getNodeName() == name_of(999));
+  EXPECT_TRUE(root->getFirstChild()->getNextSibling()->getNodeName() == name_of(names - 1));
+  EXPECT_TRUE(last->getNodeName() == name_of(names - 1));
+}
+
 TEST(axsTree, puts_a_removed_attribute_node_in_again)
 {
   auto const document = load("<r a='1' b='2' c='3'><s a='0'/></r>");
