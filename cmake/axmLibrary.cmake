@@ -103,3 +103,10 @@ function(axm_add_library name)
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
 endfunction()
+
+# axm_use_inside(TARGET LIBRARY): TARGET gets the objects of LIBRARY and its include folders, so that it can use what the
+# library does not export. It links what LIBRARY links itself.
+function(axm_use_inside target library)
+  target_sources(${target} PRIVATE $<TARGET_OBJECTS:${library}>)
+  target_include_directories(${target} PRIVATE $<TARGET_PROPERTY:${library},INCLUDE_DIRECTORIES>)
+endfunction()

@@ -4,11 +4,10 @@
 #include "axsElement.h"
 #include "axsHandle.h"
 #include "axsReadError.h"
+#include "axsReader.h"
 #include "axsSaver.h"
 #include "axsSource.h"
-#include "axsTreeBuilder.h"
 #include "axsValidator.h"
-#include "axsXercesParser.h"
 
 #include <apStringFormatter.h>
 
@@ -26,18 +25,21 @@ apString new_uri()
   return apStringFormatter::format(L"axs:document:%u", ++documents);
 }
 
+axsDocument* own_document(std::shared_ptr<axmDocument> const& document)
+{
+  axsNode* const node = document == nullptr ? nullptr : axsNode::of(*document);
+  return node == nullptr || !node->is_document() ? nullptr : static_cast<axsDocument*>(node);
+}
+
 std::shared_ptr<axmDocument> read(axsSource& source, axmLoadOptions const& options)
 {
   bool const validates = axsValidator::is_wanted(options);
   if (validates)
     source.whole();
   apString const url = source.url();
-  std::shared_ptr<axmDocument> document = axsDocument::make(url.empty() ? new_uri() : url);
-  auto& tree = static_cast<axsDocument&>(*axsNode::of(*document));
-  axsTreeBuilder builder(tree);
-  axsXercesParser::parse(source, options, builder);
+  std::shared_ptr<axmDocument> document = axsReader::read(source, options, url.empty() ? new_uri() : url);
   if (validates)
-    axsValidator::validate(source, options, *tree.root_element());
+    axsValidator::validate(source, options, *own_document(document)->root_element());
   return document;
 }
 
@@ -61,12 +63,6 @@ catch (std::exception const& failure)
 {
   error = axmParseError(apString(failure.what()));
   return nullptr;
-}
-
-axsDocument* own_document(std::shared_ptr<axmDocument> const& document)
-{
-  axsNode* const node = document == nullptr ? nullptr : axsNode::of(*document);
-  return node == nullptr || !node->is_document() ? nullptr : static_cast<axsDocument*>(node);
 }
 }
 

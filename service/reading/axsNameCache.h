@@ -1,38 +1,44 @@
 #pragma once
 
-#include <xercesc/util/XercesDefs.hpp>
+#include "axsPrefix.h"
+#include "axsReadName.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <string>
+#include <string_view>
+#include <unordered_map>
 #include <vector>
 
-class axsName;
 class axsReadingEvents;
 
-/// Finds the names of one document by the parser's text of them: a document has few names and says them often.
+/// Finds the names of one document by their text: a document has few names and says them often.
 class axsNameCache
 {
 public:
   /// Asks `events` for every name once; they must live longer.
   explicit axsNameCache(axsReadingEvents& events);
 
-  axsName const& find(XMLCh const* text, std::size_t length);
+  /// The name `text`, in UTF-8. It stays where it is.
+  axsReadName& find(std::string_view text);
 
 private:
   struct Entry
   {
     std::uint64_t hash = 0;
-    std::basic_string<XMLCh> const* text = nullptr;
-    axsName const* name = nullptr;
+    axsReadName* name = nullptr;
+    // Of the name; here, so that comparing takes no way over it.
+    std::string_view text;
   };
 
-  axsName const& add(Entry& entry, std::uint64_t hash, XMLCh const* text, std::size_t length);
+  axsReadName& add(Entry& entry, std::uint64_t hash, std::string_view text);
+  axsPrefix& prefix(std::string_view text);
   void grow();
 
   axsReadingEvents& asked;
-  std::deque<std::basic_string<XMLCh>> texts;
+  std::unordered_map<std::string, axsPrefix> prefixes;
+  std::deque<axsReadName> names;
   // Of a power of two, at least half of them empty; an entry stands at its hash or behind.
   std::vector<Entry> entries;
 };

@@ -1,12 +1,12 @@
 #include "axsNamespaceScope.h"
 
-#include "axsXmlName.h"
+#include "axsName.h"
+#include "axsPrefix.h"
 
 #include <algorithm>
 
 namespace
 {
-std::string_view const xml_namespace = "http://www.w3.org/XML/1998/namespace";
 std::string_view const xmlns_namespace = "http://www.w3.org/2000/xmlns/";
 
 apString quoted(std::string_view text)
@@ -14,99 +14,99 @@ apString quoted(std::string_view text)
   return APSTRING("'") + apString::from_utf8(text) + APSTRING("'");
 }
 
-bool has_prefix(axsName const& name)
+// Empty when it is not bound.
+std::string_view namespace_of(axsPrefix const& prefix)
 {
-  return name.local().size() != name.utf8().size();
+  return prefix.bound.empty() ? std::string_view() : std::string_view(prefix.bound.back());
 }
 
-// Whether it is prefix, colon, local part, each without a colon (Namespaces in XML, 4, [7] QName).
-bool is_qualified(axsName const& name)
+// Whether its prefix stands for a namespace that the document says.
+bool is_prefixed(axsReadAttribute const& attribute)
 {
-  return !name.prefix().empty() && name.local().find(':') == std::string_view::npos &&
-         axsXmlName::is_name(apString::from_utf8(name.local()));
+  return attribute.name->prefix != nullptr && attribute.name->declared == nullptr;
 }
 }
 
-apString axsNamespaceScope::open(axsName const& name, Attributes const& attributes)
+bool axsNamespaceScope::open(axsReadName const& name, Attributes const& attributes)
 {
   ++depth;
-  std::size_t prefixed = has_prefix(name) ? 1 : 0;
-  for (auto const& [attribute, value] : attributes)
+  bool has_prefix = name.prefix != nullptr;
+  for (axsReadAttribute const& attribute : attributes)
   {
-    if (has_prefix(*attribute))
-      ++prefixed;
-    if (attribute->utf8() == "xmlns" || attribute->prefix() == "xmlns")
-    {
-      apString wrong = declare(*attribute, value);
-      if (!wrong.empty())
-        return wrong;
-    }
+    has_prefix = has_prefix || attribute.name->prefix != nullptr;
+    if (attribute.name->declared != nullptr && !declare(attribute))
+      return false;
   }
-  if (prefixed == 0)
-    return apString();
+  if (!has_prefix)
+    return true;
 
-  apString wrong = check_name(name, false);
-  for (auto at = attributes.begin(); wrong.empty() && at != attributes.end(); ++at)
-    wrong = check_name(*at->first, true);
-  return wrong.empty() && prefixed > 1 ? check_repetition(attributes) : wrong;
+  if (!check_name(name, false))
+    return false;
+  for (axsReadAttribute const& attribute : attributes)
+    if (!check_name(*attribute.name, true))
+      return false;
+  return check_repetition(attributes);
 }
 
 void axsNamespaceScope::close()
 {
   while (!declared.empty() && declared.back().first == depth)
   {
-    bound[declared.back().second].pop_back();
+    declared.back().second->bound.pop_back();
     declared.pop_back();
   }
   --depth;
 }
 
-apString axsNamespaceScope::declare(axsName const& name, std::string const& value)
+bool axsNamespaceScope::declare(axsReadAttribute const& attribute)
 {
-  std::string const prefix(has_prefix(name) ? name.local() : std::string_view());
-  if (prefix == "xmlns" || (prefix == "xml") != (value == xml_namespace) || value == xmlns_namespace)
-    return APSTRING("the prefix ") + quoted(prefix) + APSTRING(" cannot be bound to the namespace ") + quoted(value);
-  if (!prefix.empty() && value.empty())
-    return APSTRING("the prefix ") + quoted(prefix) + APSTRING(" cannot be bound to no namespace");
-  bound[prefix].push_back(value);
-  declared.emplace_back(depth, prefix);
-  return apString();
+  axsPrefix& prefix = *attribute.name->declared;
+  std::string_view const value = attribute.value;
+  if (prefix.text == "xmlns" || (prefix.text == "xml") != (value == xml_namespace) || value == xmlns_namespace)
+    return fail(
+      APSTRING("the prefix ") + quoted(prefix.text) + APSTRING(" cannot be bound to the namespace ") + quoted(value));
+  if (!prefix.text.empty() && value.empty())
+    return fail(APSTRING("the prefix ") + quoted(prefix.text) + APSTRING(" cannot be bound to no namespace"));
+  prefix.bound.emplace_back(value);
+  declared.emplace_back(depth, &prefix);
+  return true;
 }
 
-apString axsNamespaceScope::check_name(axsName const& name, bool is_attribute) const
+bool axsNamespaceScope::check_name(axsReadName const& name, bool is_attribute)
 {
-  if (!has_prefix(name))
-    return apString();
-  if (!is_qualified(name))
-    return quoted(name.utf8()) + APSTRING(" is not a name with a prefix");
-  if (is_attribute && name.prefix() == "xmlns")
-    return apString();
-  if (find(name.prefix()).empty())
-    return APSTRING("the prefix ") + quoted(name.prefix()) + APSTRING(" of ") + quoted(name.utf8()) +
-           APSTRING(" is not bound to a namespace");
-  return apString();
+  if (name.prefix == nullptr)
+    return true;
+  if (!name.is_qualified)
+    return fail(quoted(name.name->utf8()) + APSTRING(" is not a name with a prefix"));
+  if ((is_attribute && name.declared != nullptr) || !namespace_of(*name.prefix).empty())
+    return true;
+  return fail(APSTRING("the prefix ") + quoted(name.prefix->text) + APSTRING(" of ") + quoted(name.name->utf8()) +
+              APSTRING(" is not bound to a namespace"));
 }
 
-// Two attributes of one element must not have the same name in the same namespace.
-apString axsNamespaceScope::check_repetition(Attributes const& attributes) const
+// Two attributes of one element must not have the same name in the same namespace. With one prefix they have not.
+bool axsNamespaceScope::check_repetition(Attributes const& attributes)
 {
+  auto const first = std::find_if(attributes.begin(), attributes.end(), is_prefixed);
+  if (std::all_of(first, attributes.end(),
+        [&](axsReadAttribute const& attribute)
+        { return !is_prefixed(attribute) || attribute.name->prefix == first->name->prefix; }))
+    return true;
+
   std::vector<std::pair<std::string_view, std::string_view>> names;
-  for (auto const& [name, value] : attributes)
-    if (has_prefix(*name) && name->prefix() != "xmlns")
-      names.emplace_back(find(name->prefix()), name->local());
+  for (axsReadAttribute const& attribute : attributes)
+    if (is_prefixed(attribute))
+      names.emplace_back(namespace_of(*attribute.name->prefix), attribute.name->name->local());
   std::sort(names.begin(), names.end());
   auto const repeated = std::adjacent_find(names.begin(), names.end());
   if (repeated == names.end())
-    return apString();
-  return APSTRING("the attribute ") + quoted(repeated->second) + APSTRING(" of the namespace ") +
-         quoted(repeated->first) + APSTRING(" is given twice");
+    return true;
+  return fail(APSTRING("the attribute ") + quoted(repeated->second) + APSTRING(" of the namespace ") +
+              quoted(repeated->first) + APSTRING(" is given twice"));
 }
 
-// Empty when it is not bound.
-std::string_view axsNamespaceScope::find(std::string_view prefix) const
+bool axsNamespaceScope::fail(apString const& text)
 {
-  if (prefix == "xml")
-    return xml_namespace;
-  auto const found = bound.find(std::string(prefix));
-  return found == bound.end() || found->second.empty() ? std::string_view() : found->second.back();
+  error = text;
+  return false;
 }

@@ -1,38 +1,41 @@
 #pragma once
 
-#include "axsName.h"
+#include "axsReadName.h"
 
 #include <apString.h>
 
-#include <string>
+#include <cstddef>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
 /// Follows the namespace declarations of a document and finds what is wrong with them and with the names that need them
-/// (Namespaces in XML 1.0). The parser itself could do it, but takes a time that grows with the square of the depth.
+/// (Namespaces in XML 1.0). The names are those of one axsNameCache, in whose prefixes the scope keeps what they are
+/// bound to. Xerces-C could do it itself, but takes a time that grows with the square of the depth.
 class axsNamespaceScope
 {
 public:
-  /// The attributes of one element: name and value.
-  using Attributes = std::vector<std::pair<axsName const*, std::string>>;
+  static constexpr std::string_view xml_namespace = "http://www.w3.org/XML/1998/namespace";
 
-  /// An element begins. What is wrong with it, empty if nothing is.
-  apString open(axsName const& name, Attributes const& attributes);
+  using Attributes = std::vector<axsReadAttribute>;
+
+  /// An element begins, of whose attributes no two have the same name. Whether nothing is wrong with it.
+  bool open(axsReadName const& name, Attributes const& attributes);
 
   /// The element that began last ends.
   void close();
 
-private:
-  apString declare(axsName const& name, std::string const& value);
-  apString check_name(axsName const& name, bool is_attribute) const;
-  apString check_repetition(Attributes const& attributes) const;
-  std::string_view find(std::string_view prefix) const;
+  /// What is wrong with the element that did not open.
+  apString const& wrong() const noexcept { return error; }
 
-  // The namespaces that a prefix is bound to, the innermost at the end.
-  std::unordered_map<std::string, std::vector<std::string>> bound;
+private:
+  bool declare(axsReadAttribute const& attribute);
+  bool check_name(axsReadName const& name, bool is_attribute);
+  bool check_repetition(Attributes const& attributes);
+  bool fail(apString const& text);
+
+  apString error;
   // The prefixes declared by the open elements, and at which depth.
-  std::vector<std::pair<std::size_t, std::string>> declared;
+  std::vector<std::pair<std::size_t, axsPrefix*>> declared;
   std::size_t depth = 0;
 };

@@ -15,7 +15,7 @@ class axsReadingEvents
 public:
   virtual ~axsReadingEvents() = default;
 
-  /// Comes first: `place` tells url, line and column of where the parser is, as long as it runs.
+  /// Comes first, from a parser that knows places: `place` tells url, line and column of where it is, as long as it runs.
   virtual void start(std::function<axsReadError()> const& place) { static_cast<void>(place); }
 
   /// The object for a name, the same at every call with that name.
@@ -28,8 +28,8 @@ public:
   /// The element that began last and has not ended ends.
   virtual void end_element() = 0;
 
-  /// A part of a text: what comes in a row is one text.
-  virtual void text(std::string_view part) = 0;
+  /// A whole text, from markup to markup.
+  virtual void text(std::string_view text) = 0;
 
   /// A whole CDATA section.
   virtual void cdata(std::string_view section) = 0;

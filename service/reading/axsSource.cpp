@@ -77,6 +77,18 @@ std::size_t axsSource::read(char* to, std::size_t size)
   return count;
 }
 
+void axsSource::rewind() noexcept
+{
+  if (stream != nullptr)
+    static_cast<void>(std::fseek(stream, static_cast<long>(kept.size()), SEEK_SET));
+  position = 0;
+}
+
+bool axsSource::can_rewind() const noexcept
+{
+  return stream == nullptr || std::fseek(stream, 0, SEEK_CUR) == 0;
+}
+
 bool axsSource::has_stray_zero() const noexcept
 {
   // Every document begins with a '<' or a byte-order mark, in which such an encoding shows.

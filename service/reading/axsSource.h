@@ -46,8 +46,11 @@ public:
   /// take it for the end.
   bool has_stray_zero() const noexcept;
 
-  /// The next read() is at the start again. Only when is_whole().
-  void rewind() noexcept { position = 0; }
+  /// The next read() is at the start again. Only when can_rewind().
+  void rewind() noexcept;
+
+  /// Whether what has been read can be read again: all is in memory, or the file is no pipe.
+  bool can_rewind() const noexcept;
 
 private:
   std::size_t read_next(char* to, std::size_t size);

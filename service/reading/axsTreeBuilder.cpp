@@ -8,11 +8,18 @@
 #include "axsProcessingInstruction.h"
 #include "axsTextNode.h"
 
+#include <algorithm>
+
 namespace
 {
+bool is_space(char c)
+{
+  return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
 bool is_dropped(std::string_view text)
 {
-  return text != " " && text.find_first_not_of(" \t\r\n") == std::string_view::npos;
+  return text != " " && std::all_of(text.begin(), text.end(), is_space);
 }
 }
 
@@ -25,7 +32,6 @@ axsName const& axsTreeBuilder::name(std::string_view text)
 
 void axsTreeBuilder::start_element(axsName const& name)
 {
-  end_text();
   axsElement* const element = built.make_element(name);
   axsTree::append(*open, *element);
   open = element;
@@ -41,44 +47,32 @@ void axsTreeBuilder::attribute(axsName const& name, std::string_view value)
 
 void axsTreeBuilder::end_element()
 {
-  end_text();
   open = static_cast<axsParent*>(open->parent());
 }
 
-void axsTreeBuilder::text(std::string_view part)
+void axsTreeBuilder::text(std::string_view text)
 {
-  pending += part;
+  append_text(text, false);
 }
 
 void axsTreeBuilder::cdata(std::string_view section)
 {
-  end_text();
   append_text(section, true);
 }
 
 void axsTreeBuilder::comment(std::string_view data)
 {
-  end_text();
   axsTree::append(*open, *built.make_comment(data));
 }
 
 void axsTreeBuilder::processing_instruction(std::string_view target, std::string_view data)
 {
-  end_text();
   axsTree::append(*open, *built.make_processing_instruction(target, data));
 }
 
 void axsTreeBuilder::doctype(std::string_view declaration)
 {
   axsTree::append(*open, *built.make_doctype(declaration));
-}
-
-void axsTreeBuilder::end_text()
-{
-  if (pending.empty())
-    return;
-  append_text(pending, false);
-  pending.clear();
 }
 
 void axsTreeBuilder::append_text(std::string_view text, bool cdata)

@@ -2,8 +2,6 @@
 
 #include "axsReadingEvents.h"
 
-#include <string>
-
 class axsAttribute;
 class axsDocument;
 class axsElement;
@@ -22,18 +20,16 @@ public:
   void start_element(axsName const& name) override;
   void attribute(axsName const& name, std::string_view value) override;
   void end_element() override;
-  void text(std::string_view part) override;
+  void text(std::string_view text) override;
   void cdata(std::string_view section) override;
   void comment(std::string_view data) override;
   void processing_instruction(std::string_view target, std::string_view data) override;
   void doctype(std::string_view declaration) override;
 
 private:
-  void end_text();
   void append_text(std::string_view text, bool cdata);
 
   axsDocument& built;
   axsParent* open;
   axsAttribute* last_attribute = nullptr;
-  std::string pending;
 };

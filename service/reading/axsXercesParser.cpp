@@ -26,6 +26,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace
 {
@@ -81,6 +82,7 @@ private:
   std::string_view utf8(XMLCh const* text) { return utf8(text, axsUtf16::length(text)); }
   std::string document_in_utf8();
   void count(std::size_t length);
+  void end_text();
   void read_attributes(xercesc::RefVectorOf<xercesc::XMLAttr> const& attributes, XMLSize_t number);
   void end_element();
   [[noreturn]] void fail(apString const& message) const;
@@ -94,10 +96,13 @@ private:
   axsEntityHandler entities;
   axsNameCache names;
   axsNamespaceScope namespaces;
-  axsNamespaceScope::Attributes attribute_values;
+  axsNamespaceScope::Attributes read;
+  std::vector<std::string> values;
   std::unique_ptr<xercesc::GrammarResolver> grammars;
   std::unique_ptr<xercesc::XMLScanner> scanner;
   std::string converted;
+  // The text that has not ended.
+  std::string pending;
   std::size_t produced = 0;
 };
 
@@ -199,10 +204,21 @@ void Run::docCharacters(XMLCh const* text, XMLSize_t length, bool cdata)
 {
   std::string_view const characters = utf8(text, length);
   count(characters.size());
-  if (cdata)
-    events.cdata(characters);
-  else
-    events.text(characters);
+  if (!cdata)
+  {
+    pending += characters;
+    return;
+  }
+  end_text();
+  events.cdata(characters);
+}
+
+// The parser tells of a text piece by piece.
+void Run::end_text()
+{
+  if (!pending.empty())
+    events.text(pending);
+  pending.clear();
 }
 
 void Run::ignorableWhitespace(XMLCh const* text, XMLSize_t length, bool cdata)
@@ -212,6 +228,7 @@ void Run::ignorableWhitespace(XMLCh const* text, XMLSize_t length, bool cdata)
 
 void Run::docComment(XMLCh const* comment)
 {
+  end_text();
   events.comment(utf8(comment));
 }
 
@@ -220,22 +237,22 @@ void Run::docPI(XMLCh const* target, XMLCh const* data)
   std::string const name = axsUtf16::to_utf8(target);
   if (name.find(':') != std::string::npos)
     fail(APSTRING("the target of a processing instruction cannot have a colon"));
+  end_text();
   events.processing_instruction(name, utf8(data));
 }
 
 void Run::startElement(xercesc::XMLElementDecl const& decl, unsigned int, XMLCh const*,
   xercesc::RefVectorOf<xercesc::XMLAttr> const& attributes, XMLSize_t number, bool is_empty, bool)
 {
-  XMLCh const* const full_name = decl.getFullName();
-  axsName const& name = names.find(full_name, axsUtf16::length(full_name));
+  end_text();
+  axsReadName const& name = names.find(utf8(decl.getFullName()));
   read_attributes(attributes, number);
-  apString const wrong = namespaces.open(name, attribute_values);
-  if (!wrong.empty())
-    fail(wrong);
+  if (!namespaces.open(name, read))
+    fail(namespaces.wrong());
 
-  events.start_element(name);
-  for (auto const& [attribute, value] : attribute_values)
-    events.attribute(*attribute, value);
+  events.start_element(*name.name);
+  for (axsReadAttribute const& attribute : read)
+    events.attribute(*attribute.name->name, attribute.value);
   if (is_empty)
     end_element();
 }
@@ -247,23 +264,24 @@ void Run::endElement(xercesc::XMLElementDecl const&, unsigned int, bool, XMLCh c
 
 void Run::end_element()
 {
+  end_text();
   namespaces.close();
   events.end_element();
 }
 
-// The texts keep their memory from element to element.
+// The values keep their memory from element to element.
 void Run::read_attributes(xercesc::RefVectorOf<xercesc::XMLAttr> const& attributes, XMLSize_t number)
 {
-  attribute_values.resize(number);
+  read.clear();
+  values.resize(std::max(values.size(), number));
   count(sizeof(void*));
   for (XMLSize_t i = 0; i < number; ++i)
   {
     xercesc::XMLAttr const& attribute = *attributes.elementAt(i);
-    auto& [name, value] = attribute_values[i];
-    XMLCh const* const full_name = attribute.getQName();
-    name = &names.find(full_name, axsUtf16::length(full_name));
+    std::string& value = values[i];
     value.clear();
     axsUtf16::append_utf8(attribute.getValue(), axsUtf16::length(attribute.getValue()), value);
+    read.push_back({&names.find(utf8(attribute.getQName())), value});
     count(value.size());
   }
 }

@@ -1,0 +1,131 @@
+#pragma once
+
+#include "axsByteBlock.h"
+
+#include <array>
+#include <cstddef>
+#include <cstring>
+#include <string>
+#include <string_view>
+
+/// The characters of XML 1.0 in UTF-8, for who reads them out of memory in which a zero byte stands behind the last one
+/// and `axsByteBlock::size` bytes more may be read.
+namespace axsCharacters
+{
+enum Class : unsigned char
+{
+  space = 1,
+  name_start = 2,
+  name = 4
+};
+
+constexpr std::array<unsigned char, 256> make_classes()
+{
+  std::array<unsigned char, 256> made{};
+  for (unsigned char const c : {' ', '\t', '\r', '\n'})
+    made[c] = space;
+  for (std::size_t c = 0; c < 26; ++c)
+    made['a' + c] = made['A' + c] = name_start | name;
+  made[':'] = made['_'] = name_start | name;
+  for (std::size_t c = '0'; c <= '9'; ++c)
+    made[c] = name;
+  made['-'] = made['.'] = name;
+  return made;
+}
+
+/// Of ASCII; of other bytes nothing is known.
+inline constexpr std::array<unsigned char, 256> classes = make_classes();
+
+inline bool is(char c, Class of)
+{
+  return (classes[static_cast<unsigned char>(c)] & of) != 0;
+}
+
+inline bool is_ascii(char c)
+{
+  return static_cast<unsigned char>(c) < 0x80;
+}
+
+inline char const* behind_spaces(char const* at)
+{
+  while (is(*at, space))
+    ++at;
+  return at;
+}
+
+inline bool begins(char const* at, std::string_view with)
+{
+  return std::strncmp(at, with.data(), with.size()) == 0;
+}
+
+/// Moves behind `expected`, if that stands at `at`. Whether it does.
+inline bool skip(char const*& at, std::string_view expected)
+{
+  bool const found = begins(at, expected);
+  at += found ? expected.size() : 0;
+  return found;
+}
+
+/// Moves behind white space. Whether there is some.
+inline bool skip_spaces(char const*& at)
+{
+  char const* const before = at;
+  at = behind_spaces(at);
+  return at != before;
+}
+
+/// Whether the two differ at most in capital letters of ASCII.
+bool is_equal_in_any_case(std::string_view text, std::string_view lower_case);
+
+/// The character at `at` and its length in bytes, which is 0 where the bytes are no UTF-8 or no character of XML (2.2,
+/// [2] Char).
+struct Character
+{
+  char32_t code;
+  std::size_t length;
+};
+Character character(char const* at);
+
+bool is_character(char32_t code);
+
+/// Moves behind characters beyond ASCII. Whether there was one, and nothing wrong among them.
+bool skip_multibyte(char const*& at);
+
+void append_utf8(char32_t code, std::string& text);
+
+/// Behind the name at `at`; `at` itself if there is none. What is a name is a matter of the parser's tables, names with
+/// characters beyond U+FFFF are passed over.
+char const* behind_name(char const* at);
+
+/// Behind the rest of a name, of which the character before `at` is a part.
+char const* behind_rest_of_name(char const* at);
+
+/// The first byte at or behind `at` that is one of `stops`, not ASCII or a control character other than tab and line
+/// feed.
+template <class Block, char... stops>
+char const* behind_text(char const* at)
+{
+  while (true)
+  {
+    Block const block(at);
+    auto const found = (block.is_no_ascii_text() | ... | block.is(stops));
+    if (found.any())
+      return at + found.first();
+    at += Block::size;
+  }
+}
+
+/// The first byte at or behind `at` that is `quote`, '<', '&', not ASCII or a control character.
+template <class Block = axsByteBlock>
+char const* behind_value(char const* at, char quote)
+{
+  while (true)
+  {
+    Block const block(at);
+    auto const found = block.is_no_ascii_or_control() | block.is(quote) | block.is('<') | block.is('&');
+    if (found.any())
+      return at + found.first();
+    at += Block::size;
+  }
+}
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+/// A namespace prefix of one document; the default namespace is that of the prefix without characters.
+struct axsPrefix
+{
+  std::string text;
+
+  /// The namespaces that it is bound to, the innermost at the end.
+  std::vector<std::string> bound;
+};

@@ -1,0 +1,20 @@
+#pragma once
+
+/// What stands before the root element of ordinary documents, besides comments and processing instructions. What is
+/// unusual there is not taken.
+namespace axsProlog
+{
+enum class Encoding
+{
+  utf8,
+  ascii
+};
+
+/// Moves from the start of a document behind the byte-order mark and the XML declaration (XML 1.0, 2.8, [23] XMLDecl),
+/// either of which may be missing. False where there is another declaration; `at` is then of no use.
+bool skip_declaration(char const*& at, Encoding& encoding);
+
+/// Moves behind a document type declaration without an internal subset (2.8, [28] doctypedecl). False where there is
+/// none; `at` is then where that shows.
+bool skip_doctype(char const*& at);
+}

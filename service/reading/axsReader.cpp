@@ -1,0 +1,39 @@
+#include "axsReader.h"
+
+#include "axsDocument.h"
+#include "axsScanner.h"
+#include "axsSource.h"
+#include "axsTreeBuilder.h"
+#include "axsXercesParser.h"
+
+namespace
+{
+axsDocument& tree_of(axmDocument& document)
+{
+  return static_cast<axsDocument&>(*axsNode::of(document));
+}
+}
+
+std::shared_ptr<axmDocument> axsReader::read(axsSource& source, axmLoadOptions const& options, apString const& uri)
+{
+  std::shared_ptr<axmDocument> document = source.can_rewind() ? scan(source, uri) : nullptr;
+  return document != nullptr ? document : parse(source, options, uri);
+}
+
+std::shared_ptr<axmDocument> axsReader::scan(axsSource& source, apString const& uri)
+{
+  std::shared_ptr<axmDocument> document = axsDocument::make(uri);
+  axsTreeBuilder builder(tree_of(*document));
+  if (axsScanner::scan(source, builder))
+    return document;
+  source.rewind();
+  return nullptr;
+}
+
+std::shared_ptr<axmDocument> axsReader::parse(axsSource& source, axmLoadOptions const& options, apString const& uri)
+{
+  std::shared_ptr<axmDocument> document = axsDocument::make(uri);
+  axsTreeBuilder builder(tree_of(*document));
+  axsXercesParser::parse(source, options, builder);
+  return document;
+}

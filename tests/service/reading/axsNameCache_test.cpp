@@ -1,0 +1,94 @@
+#include "axsNameCache.h"
+
+#include "axsName.h"
+#include "axsNameTable.h"
+#include "axsReadingEvents.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace
+{
+// Knows names only, and how often it was asked.
+class Names final : public axsReadingEvents
+{
+public:
+  axsName const& name(std::string_view text) override
+  {
+    ++asked;
+    return table.intern(text);
+  }
+  void start_element(axsName const&) override {}
+  void attribute(axsName const&, std::string_view) override {}
+  void end_element() override {}
+  void text(std::string_view) override {}
+  void cdata(std::string_view) override {}
+  void comment(std::string_view) override {}
+  void processing_instruction(std::string_view, std::string_view) override {}
+  void doctype(std::string_view) override {}
+
+  int asked = 0;
+
+private:
+  axsNameTable table;
+};
+}
+
+TEST(axsNameCache, finds_each_name_again_and_asks_for_it_once)
+{
+  Names names;
+  axsNameCache cache(names);
+  std::vector<axsReadName*> found;
+  int const count = 3000;
+  auto const text = [](int i) { return std::string(static_cast<std::size_t>(i % 20 + 1), 'a') + std::to_string(i); };
+  for (int i = 0; i < count; ++i)
+    found.push_back(&cache.find(text(i)));
+  for (int i = 0; i < count; ++i)
+  {
+    EXPECT_EQ(&cache.find(text(i)), found[static_cast<std::size_t>(i)]);
+    EXPECT_EQ(found[static_cast<std::size_t>(i)]->name->utf8(), text(i));
+  }
+  EXPECT_EQ(names.asked, count);
+}
+
+TEST(axsNameCache, tells_names_of_all_lengths_apart)
+{
+  Names names;
+  axsNameCache cache(names);
+  for (std::size_t length = 1; length < 40; ++length)
+    for (std::size_t place = 0; place < length; ++place)
+      for (char const c : {'b', 'c'})
+      {
+        std::string text(length, 'a');
+        text[place] = c;
+        EXPECT_EQ(cache.find(text).name->utf8(), text);
+      }
+}
+
+TEST(axsNameCache, knows_what_namespaces_make_of_a_name)
+{
+  Names names;
+  axsNameCache cache(names);
+  axsReadName const& plain = cache.find("a");
+  EXPECT_EQ(plain.prefix, nullptr);
+  EXPECT_EQ(plain.declared, nullptr);
+  EXPECT_TRUE(plain.is_qualified);
+
+  axsReadName const& prefixed = cache.find("p:a");
+  ASSERT_NE(prefixed.prefix, nullptr);
+  EXPECT_EQ(prefixed.prefix->text, "p");
+  EXPECT_EQ(prefixed.prefix, cache.find("p:b").prefix);
+  EXPECT_EQ(prefixed.prefix, cache.find("xmlns:p").declared);
+  EXPECT_NE(prefixed.prefix, cache.find("q:a").prefix);
+  EXPECT_EQ(prefixed.declared, nullptr);
+  EXPECT_TRUE(prefixed.is_qualified);
+
+  ASSERT_NE(cache.find("xmlns").declared, nullptr);
+  EXPECT_EQ(cache.find("xmlns").declared->text, "");
+  EXPECT_EQ(cache.find("xmlns").prefix, nullptr);
+  EXPECT_EQ(cache.find("xml:a").prefix->bound.size(), 1u);
+  EXPECT_TRUE(cache.find("xmlns:a").prefix->bound.empty());
+  for (char const* const text : {":a", "a:", "a:b:c", ":", "a::b", "a:1", "a:-"})
+    EXPECT_FALSE(cache.find(text).is_qualified) << text;
+}

@@ -1,0 +1,84 @@
+// Documents that chance has changed: most are wrong, and what is not must be the same to both.
+
+#include "BothRoads.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+namespace
+{
+std::vector<std::string> const documents = {
+  "<?xml version='1.0' encoding='UTF-8'?>\n<r a='1' b=\"2\"><c>text</c><!--d--><?e f?><![CDATA[g]]></r>\n",
+  "<p:r xmlns:p='u' xmlns:q='v' xmlns='w'><p:a q:b='1' p:b='2'/><q:c xmlns:q='u'><d xmlns=''/></q:c></p:r>",
+  "<r>a&lt;b&#65;c&#x20AC;]]d\r\ne\xC3\xA4\xE2\x82\xAC\xF0\x9D\x84\x9E</r>",
+  "<a><b><c x='&quot;\t\n\r'/></b><b/></a><!-- - -->", "\xEF\xBB\xBF<?a b?><r> <x> </x>\n</r>",
+  "<!DOCTYPE r PUBLIC '-//p//' \"s.dtd\">\n<r a=' b  c '/>", "<!DOCTYPE r SYSTEM 's'><!--a--><r>&amp;</r>"};
+
+std::vector<std::string> const parts = {"<", ">", "/>", "</", "<!--", "-->", "--", "-", "<![CDATA[", "]]>", "]]", "]",
+  "<?", "?>", "?", "&", ";", "&lt;", "&amp;", "&#", "&#x", "&#65;", "&#xD;", "&#0;", "&e;", "'", "\"", "=", " ", "\t",
+  "\n", "\r", "\r\n", ":", "xmlns", "xmlns:", "xml", "p:", "q:", " a='1'", " p:b='1'", " xmlns:p='u'", " xmlns:q='u'",
+  " xmlns=''", "<a>", "</a>", "<b/>", "\xC3\xA4", "\xC3", "\xA4", "\xE2\x82\xAC", "\xED\xA0\x80", "\xEF\xBF\xBE",
+  "\xC2\xB7", "\xEF\xBB\xBF", "\x01", std::string(1, '\0'), "\x7F", "<!DOCTYPE r>", "<!DOCTYPE r SYSTEM 's'>", "[]",
+  "SYSTEM", "<?xml version='1.0'?>", " standalone='yes'", "version", "1"};
+
+class Mutator
+{
+public:
+  explicit Mutator(unsigned int seed) : random(seed) {}
+
+  std::string next()
+  {
+    std::string document = documents[below(documents.size())];
+    for (std::size_t changes = 1 + below(3); changes > 0; --changes)
+      change(document);
+    return document;
+  }
+
+private:
+  std::size_t below(std::size_t bound) { return std::uniform_int_distribution<std::size_t>(0, bound - 1)(random); }
+
+  void change(std::string& document)
+  {
+    std::size_t const at = below(document.size() + 1);
+    std::size_t const length = std::min(below(8), document.size() - at);
+    switch (below(5))
+    {
+    case 0:
+      document.erase(at, length);
+      return;
+    case 1:
+      document.insert(at, document.substr(below(document.size() + 1), length));
+      return;
+    case 2:
+      document.replace(at, length, parts[below(parts.size())]);
+      return;
+    default:
+      document.insert(at, parts[below(parts.size())]);
+      return;
+    }
+  }
+
+  std::mt19937 random;
+};
+}
+
+TEST(axsScanner_mutation, what_the_scanner_takes_the_parser_takes_with_the_same_tree)
+{
+  Mutator mutator(20240607);
+  int scanned = 0;
+  int refused = 0;
+  for (int i = 0; i < 30000; ++i)
+  {
+    std::string const document = mutator.next();
+    BothRoads const roads(document);
+    ASSERT_EQ(roads.difference(), "") << document;
+    scanned += roads.scanned() ? 1 : 0;
+    refused += roads.parsed() ? 0 : 1;
+  }
+  // There must be enough of both for the comparison to say something.
+  EXPECT_GT(scanned, 2000);
+  EXPECT_GT(refused, 2000);
+}

@@ -1,0 +1,29 @@
+// Reading a document without the parser, with each allocation failing in turn.
+
+#include "../../FailingMemory.h"
+#include "axsReader.h"
+#include "axsSource.h"
+
+#include <apByteArray.h>
+
+#include <string>
+
+TEST(reading_memory, the_scanner_fails_cleanly)
+{
+  std::string document = "<!DOCTYPE r><r xmlns='u' xmlns:p='v' p:a='&lt;'><!--a--><?b c?>";
+  for (int i = 0; i < 40; ++i)
+    document += "<p:name" + std::to_string(i) + " b='" + std::string(2000, 'x') + "'>\xC3\xA4&amp;</p:name" +
+                std::to_string(i) + '>';
+  document += "<![CDATA[" + std::string(70000, 'x') + "]]></r>";
+  apByteArray const data(document.data(), document.size());
+  axsSource source(data);
+  apString const uri = APSTRING("uri");
+  int const allocations = fails_cleanly(
+    [&]
+    {
+      source.rewind();
+      if (axsReader::scan(source, uri) == nullptr)
+        ADD_FAILURE();
+    });
+  EXPECT_GT(allocations, 100);
+}
