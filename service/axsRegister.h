@@ -17,7 +17,8 @@
 ///   is more than 8 MiB. A document may be nested as deep as memory lasts, one that is validated 20000 levels.
 /// - Schemas: read anew at every load, from local files only; a reference that leads to none is an error, but for the
 ///   schema of the XML namespace, which is built in. What repeated groups come to, written out, may have up to 10000
-///   elements; elements of a schema may be nested up to 500 levels. A document whose root is in a namespace that no schema knows is not validated.
-/// - Save: to a file that takes the place of the target in one step, with its permissions; see apAtomicFile.
-///   Text that XML cannot hold makes it fail; get_xml() of such a node is empty.
+///   elements; elements of a schema may be nested up to 500 levels. A document whose root is in a namespace that no
+///   schema knows is not validated.
+/// - Save: to a file that takes the place of the target in one step, with its permissions; see apAtomicFile. What was
+///   loaded as XML 1.1 is saved as that. Text that XML cannot hold makes it fail; get_xml() of such a node is empty.
 AXS_API void axs_register();

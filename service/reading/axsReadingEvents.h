@@ -18,6 +18,9 @@ public:
   /// Comes first, from a parser that knows places: `place` tells url, line and column of where it is, as long as it runs.
   virtual void start(std::function<axsReadError()> const& place) { static_cast<void>(place); }
 
+  /// The document says that it is XML of that version; without it, it is 1.0.
+  virtual void version(std::string_view number) { static_cast<void>(number); }
+
   /// The object for a name, the same at every call with that name.
   virtual axsName const& name(std::string_view text) = 0;
 

@@ -25,6 +25,11 @@ bool is_dropped(std::string_view text)
 
 axsTreeBuilder::axsTreeBuilder(axsDocument& document) noexcept : built(document), open(&document) {}
 
+void axsTreeBuilder::version(std::string_view number)
+{
+  built.is_xml_1_1 = number == "1.1";
+}
+
 axsName const& axsTreeBuilder::name(std::string_view text)
 {
   return built.names().intern(text);

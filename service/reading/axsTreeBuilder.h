@@ -16,6 +16,7 @@ class axsTreeBuilder final : public axsReadingEvents
 public:
   explicit axsTreeBuilder(axsDocument& document) noexcept;
 
+  void version(std::string_view number) override;
   axsName const& name(std::string_view text) override;
   void start_element(axsName const& name) override;
   void attribute(axsName const& name, std::string_view value) override;

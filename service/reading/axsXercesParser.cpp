@@ -198,6 +198,7 @@ void Run::XMLDecl(XMLCh const* version, XMLCh const*, XMLCh const*, XMLCh const*
   if (number.size() < 3 || number.compare(0, 2, "1.") != 0 ||
       number.find_first_not_of("0123456789", 2) != std::string::npos)
     fail(APSTRING("there is no XML version \"") + apString::from_utf8(number) + APSTRING("\""));
+  events.version(number);
 }
 
 void Run::docCharacters(XMLCh const* text, XMLSize_t length, bool cdata)

@@ -65,6 +65,9 @@ public:
       result_lists_hold_nodes();
   }
 
+  /// Whether it was read as XML 1.1, which can hold more characters than 1.0.
+  bool is_xml_1_1 = false;
+
   /// Counts the changes to which attributes there are, anywhere in the document.
   std::uint64_t attribute_changes = 0;
 

@@ -20,19 +20,23 @@ enum Class : unsigned char
   white,      // the same, for reading makes spaces of it
   carriage,   // needs a reference everywhere, for reading makes a line feed of it
   last_plane, // may begin U+FFFE or U+FFFF
+  restricted, // may begin what XML 1.1 wants a reference for; XML 1.0 takes it as it is
+  control,    // the same, but XML 1.0 does not take it
   forbidden
 };
 
 constexpr std::array<Class, 256> make_classes()
 {
   std::array<Class, 256> classes{};
-  for (std::size_t c = 0; c < 0x20; ++c)
-    classes[c] = forbidden;
+  for (std::size_t c = 1; c < 0x20; ++c)
+    classes[c] = control;
+  classes[0] = forbidden;
   classes['\t'] = classes['\n'] = white;
   classes['\r'] = carriage;
   classes['&'] = classes['<'] = classes['>'] = markup;
   classes['"'] = quote;
   classes[0xEF] = last_plane;
+  classes[0x7F] = classes[0xC2] = classes[0xE2] = restricted;
   return classes;
 }
 
@@ -47,6 +51,16 @@ Class class_of(char c)
 bool is_no_character(std::string_view text, std::size_t at)
 {
   return text.compare(at, 3, "\xEF\xBF\xBE") == 0 || text.compare(at, 3, "\xEF\xBF\xBF") == 0;
+}
+
+// The number of the character at `at`, which has up to three bytes.
+unsigned int number(std::string_view text, std::size_t at)
+{
+  auto const byte = [&](std::size_t i) { return static_cast<unsigned char>(text[at + i]); };
+  if (byte(0) < 0x80)
+    return byte(0);
+  return byte(0) < 0xE0 ? (byte(0) & 0x1Fu) << 6 | (byte(1) & 0x3Fu)
+                        : (byte(0) & 0x0Fu) << 12 | (byte(1) & 0x3Fu) << 6 | (byte(2) & 0x3Fu);
 }
 
 std::string_view reference(char c)
@@ -71,16 +85,23 @@ std::string_view reference(char c)
 }
 }
 
+axsWriter::axsWriter(axsNode const& top, std::string& buffer, std::FILE* target)
+  : xml(buffer),
+    file(target),
+    is_xml_1_1(top.is_document() && top.document().is_xml_1_1)
+{
+}
+
 bool axsWriter::write(axsNode const& node, std::string& xml)
 {
-  return axsWriter(xml, nullptr).write_tree(node);
+  return axsWriter(node, xml, nullptr).write_tree(node);
 }
 
 bool axsWriter::write(axsNode const& node, std::FILE* file)
 {
   std::string buffer;
   buffer.reserve(2 * piece);
-  axsWriter writer(buffer, file);
+  axsWriter writer(node, buffer, file);
   return writer.write_tree(node) && writer.flush(0);
 }
 
@@ -117,7 +138,7 @@ bool axsWriter::open(axsNode const& node)
   switch (node.kind())
   {
   case axsKind::document:
-    xml += "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
+    xml += is_xml_1_1 ? "<?xml version=\"1.1\" encoding=\"UTF-8\"?>\n" : "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
     return static_cast<axsDocument const&>(node).root_element() != nullptr;
   case axsKind::element:
   {
@@ -170,10 +191,12 @@ bool axsWriter::write_attributes(axsElement const& element)
 
 bool axsWriter::write_text(axsNode const& node)
 {
-  if (node.is_cdata() && node.value().find("]]>") == std::string_view::npos &&
-      node.value().find('\r') == std::string_view::npos)
-    return write_cdata(node.value());
-  return write_escaped(node.value(), false);
+  std::string_view const text = node.value();
+  bool whole =
+    node.is_cdata() && text.find("]]>") == std::string_view::npos && text.find('\r') == std::string_view::npos;
+  for (std::size_t at = 0; whole && is_xml_1_1 && at < text.size(); ++at)
+    whole = needs_reference(text, at) == 0;
+  return whole ? write_cdata(text) : write_escaped(text, false);
 }
 
 bool axsWriter::write_cdata(std::string_view text)
@@ -212,7 +235,8 @@ bool axsWriter::write_raw(std::string_view text)
   for (std::size_t at = 0; at < text.size(); ++at)
   {
     Class const found = class_of(text[at]);
-    if (found == forbidden || (found == last_plane && is_no_character(text, at)))
+    if (found >= control || (found == restricted && needs_reference(text, at) != 0) ||
+        (found == last_plane && is_no_character(text, at)))
       return false;
   }
   xml += text;
@@ -227,16 +251,48 @@ bool axsWriter::write_escaped(std::string_view text, bool in_attribute)
     Class const found = class_of(text[at]);
     if (found == plain || (!in_attribute && (found == quote || found == white)))
       continue;
-    if (found == forbidden || (found == last_plane && is_no_character(text, at)))
-      return false;
-    if (found == last_plane)
+    if (found < last_plane)
+    {
+      xml.append(text.substr(written, at - written));
+      xml += reference(text[at]);
+      written = at + 1;
       continue;
-    xml.append(text.substr(written, at - written));
-    xml += reference(text[at]);
-    written = at + 1;
+    }
+    if (std::size_t const length = needs_reference(text, at))
+    {
+      xml.append(text.substr(written, at - written));
+      xml += "&#" + std::to_string(number(text, at)) + ";";
+      written = at + length;
+      at = written - 1;
+    }
+    else if (found >= control || (found == last_plane && is_no_character(text, at)))
+      return false;
   }
   xml.append(text.substr(written));
   return true;
+}
+
+// The length of the character at `at` if it is one that XML 1.1 wants a reference for, in what is XML 1.1: controls, and
+// what it makes line feeds of. 0 otherwise.
+std::size_t axsWriter::needs_reference(std::string_view text, std::size_t at) const
+{
+  if (!is_xml_1_1)
+    return 0;
+  switch (class_of(text[at]))
+  {
+  case control:
+    return 1;
+  case restricted:
+    break;
+  default:
+    return 0;
+  }
+  auto const c = static_cast<unsigned char>(text[at]);
+  if (c == 0x7F)
+    return 1;
+  if (c == 0xC2)
+    return at + 1 < text.size() && static_cast<unsigned char>(text[at + 1]) < 0xA0 ? 2 : 0;
+  return text.compare(at, 3, "\xE2\x80\xA8") == 0 ? 3 : 0;
 }
 
 // Hands what was written to the file, if there is more than `limit` of it.

@@ -12,6 +12,9 @@ class axsElement;
 ///
 /// What reading would change is written as a reference; what XML cannot hold at all (control characters, a comment with
 /// "--" in it, a document without a root element) is not written: the operations are false then. It does not recurse.
+///
+/// A document that was read as XML 1.1 is written as such, with references to the control characters that may be there
+/// (XML 1.1, 2.2 and 2.11). Any other node by itself is XML 1.0.
 class axsWriter
 {
 public:
@@ -23,7 +26,7 @@ public:
   static bool write(axsNode const& node, std::FILE* file);
 
 private:
-  axsWriter(std::string& buffer, std::FILE* target) : xml(buffer), file(target) {}
+  axsWriter(axsNode const& top, std::string& buffer, std::FILE* target);
 
   bool write_tree(axsNode const& top);
   bool open(axsNode const& node);
@@ -35,8 +38,10 @@ private:
   bool write_instruction(std::string_view text);
   bool write_raw(std::string_view text);
   bool write_escaped(std::string_view text, bool in_attribute);
+  std::size_t needs_reference(std::string_view text, std::size_t at) const;
   bool flush(std::size_t limit);
 
   std::string& xml;
   std::FILE* file;
+  bool const is_xml_1_1;
 };

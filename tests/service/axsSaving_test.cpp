@@ -64,6 +64,38 @@ TEST(axsSaving, writes_a_cdata_section_as_text_where_it_cannot_be_one)
   EXPECT_EQ(narrow(document->getDocumentElement()->get_xml()), "<r><![CDATA[<]]></r>");
 }
 
+TEST(axsSaving, keeps_a_document_of_xml_1_1_one)
+{
+  std::string const start = "<?xml version=\"1.1\" encoding=\"UTF-8\"?>\n";
+  std::string const text =
+    "<r a=\"&#1;&#127;&#133;&#8232;&#160;\">&#31;x&#128;&#159;\xC2\xA0\xE2\x80\xA9\xE2\x82\xAC</r>\n";
+  auto const document = load("<?xml version='1.1'?><!DOCTYPE r [<!ENTITY e '&#1;'>]>" + text);
+  std::string const expected = start + "<!DOCTYPE r [<!ENTITY e '&#1;'>]>\n"
+                                       "<r a=\"&#1;&#127;&#133;&#8232;\xC2\xA0\">&#31;x&#128;&#159;\xC2\xA0\xE2\x80\xA9"
+                                       "\xE2\x82\xAC</r>\n";
+  EXPECT_EQ(saved(document), expected);
+  EXPECT_EQ(narrow(document->get_xml()), expected);
+  EXPECT_EQ(saved(load(expected)), expected);
+
+  // What has no references cannot hold them, and a CDATA section becomes a text for them.
+  auto const root = document->getDocumentElement();
+  for (char const* const restricted : {"\x01", "\x7F", "\xC2\x85", "\xE2\x80\xA8"})
+  {
+    auto const comment = root->appendChild(document->createComment(wide(restricted)));
+    refuses(document);
+    root->removeChild(comment);
+  }
+  auto const with_section = load("<?xml version='1.1'?><r><![CDATA[x]]></r>");
+  with_section->getDocumentElement()->getFirstChild()->set_text(wide("a\x01\xC2\x80"));
+  EXPECT_EQ(saved(with_section), start + "<r>a&#1;&#128;</r>\n");
+  with_section->getDocumentElement()->getFirstChild()->set_text(wide("\xC2\xA0"));
+  EXPECT_EQ(saved(with_section), start + "<r><![CDATA[\xC2\xA0]]></r>\n");
+
+  // A part of it by itself is XML 1.0, and so is what others hold.
+  EXPECT_EQ(narrow(root->get_xml()), "");
+  EXPECT_EQ(saved(load("<r>\xC2\x80\xC2\x85\x7F</r>")), declaration + "<r>\xC2\x80\xC2\x85\x7F</r>\n");
+}
+
 TEST(axsSaving, refuses_what_xml_cannot_hold)
 {
   for (char const* const text : {"\x01", "\x1F", "\xEF\xBF\xBE", "\xEF\xBF\xBF"})
