@@ -20,5 +20,6 @@
 ///   elements; elements of a schema may be nested up to 500 levels. A document whose root is in a namespace that no
 ///   schema knows is not validated.
 /// - Save: to a file that takes the place of the target in one step, with its permissions; see apAtomicFile. What was
-///   loaded as XML 1.1 is saved as that. Text that XML cannot hold makes it fail; get_xml() of such a node is empty.
+///   loaded as XML 1.1 is saved as that. Text that XML cannot hold makes it fail, and get_xml() of such a node is
+///   empty. A prefix that is not declared where it is used makes it fail as well, though not get_xml().
 AXS_API void axs_register();

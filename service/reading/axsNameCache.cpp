@@ -1,8 +1,8 @@
 #include "axsNameCache.h"
 
 #include "axsName.h"
+#include "axsNames.h"
 #include "axsNamespaceScope.h"
-#include "axsReadingEvents.h"
 #include "axsXmlName.h"
 
 #include <cstring>
@@ -51,7 +51,7 @@ bool is_qualified(axsName const& name)
 }
 }
 
-axsNameCache::axsNameCache(axsReadingEvents& events) : asked(events), entries(64) {}
+axsNameCache::axsNameCache(axsNames& all) : asked(all), entries(64) {}
 
 axsReadName& axsNameCache::find(std::string_view text)
 {

@@ -11,14 +11,14 @@
 #include <unordered_map>
 #include <vector>
 
-class axsReadingEvents;
+class axsNames;
 
 /// Finds the names of one document by their text: a document has few names and says them often.
 class axsNameCache
 {
 public:
-  /// Asks `events` for every name once; they must live longer.
-  explicit axsNameCache(axsReadingEvents& events);
+  /// Asks `all` for every name once; it must live longer.
+  explicit axsNameCache(axsNames& all);
 
   /// The name `text`, in UTF-8. It stays where it is.
   axsReadName& find(std::string_view text);
@@ -36,7 +36,7 @@ private:
   axsPrefix& prefix(std::string_view text);
   void grow();
 
-  axsReadingEvents& asked;
+  axsNames& asked;
   std::unordered_map<std::string, axsPrefix> prefixes;
   std::deque<axsReadName> names;
   // Of a power of two, at least half of them empty; an entry stands at its hash or behind.

@@ -1,28 +1,22 @@
 #pragma once
 
+#include "axsNames.h"
 #include "axsReadError.h"
 
 #include <functional>
 #include <string_view>
 
-class axsName;
-
 /// What a parser tells of a document, in the order of the document, in UTF-8. The seam between what parses and what
 /// builds: neither knows the other. Views live for the duration of the call.
 /// Whoever is told may stop the parser by throwing axsReadError.
-class axsReadingEvents
+class axsReadingEvents : public axsNames
 {
 public:
-  virtual ~axsReadingEvents() = default;
-
   /// Comes first, from a parser that knows places: `place` tells url, line and column of where it is, as long as it runs.
   virtual void start(std::function<axsReadError()> const& place) { static_cast<void>(place); }
 
   /// The document says that it is XML of that version; without it, it is 1.0.
   virtual void version(std::string_view number) { static_cast<void>(number); }
-
-  /// The object for a name, the same at every call with that name.
-  virtual axsName const& name(std::string_view text) = 0;
 
   /// An element begins; its attributes follow, in their order.
   virtual void start_element(axsName const& name) = 0;

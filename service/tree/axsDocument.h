@@ -51,6 +51,7 @@ public:
   axsDoctype* make_doctype(std::string_view declaration);
 
   axsNameTable& names() noexcept { return name_table; }
+  axsNameTable const& names() const noexcept { return name_table; }
   axsArena& arena() noexcept { return memory; }
   axsHandlePool& handle_pool() noexcept { return *handles; }
   axsXPathCache& xpath_cache() noexcept { return expressions; }

@@ -13,6 +13,7 @@ axsName const& axsNameTable::intern(std::string_view text)
   axsName const& name = *names.emplace(key, std::move(made)).first->second;
   if (has_number)
     by_number.push_back(&name);
+  namespaces = namespaces || text == "xmlns" || text.find(':') != std::string_view::npos;
   return name;
 }
 

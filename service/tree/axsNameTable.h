@@ -18,6 +18,9 @@ public:
   /// The object for the name `text`, null if no node ever had it.
   axsName const* find(std::string_view text) const noexcept;
 
+  /// Whether a name has a prefix or declares a namespace, or once did.
+  bool has_namespaces() const noexcept { return namespaces; }
+
   /// The name that has the number, which is not axsName::no_number.
   axsName const& numbered(std::uint16_t number) const noexcept { return *by_number[number]; }
 
@@ -25,4 +28,5 @@ private:
   // The keys lie in the names, which the map keeps in their places.
   std::unordered_map<std::string_view, std::unique_ptr<axsName const>> names;
   std::vector<axsName const*> by_number;
+  bool namespaces = false;
 };

@@ -1,6 +1,7 @@
 #include "axsSaver.h"
 
 #include "axsDocument.h"
+#include "axsNamespaceCheck.h"
 #include "axsWriter.h"
 
 #include <apAtomicFile.h>
@@ -9,7 +10,7 @@ bool axsSaver::save(axsDocument const& document, apByteArray& output) noexcept
 try
 {
   std::string xml;
-  if (!axsWriter::write(document, xml))
+  if (!axsNamespaceCheck::holds(document) || !axsWriter::write(document, xml))
     return false;
   output = apByteArray(xml.data(), xml.size());
   return true;
@@ -22,6 +23,8 @@ catch (...)
 bool axsSaver::save(axsDocument const& document, apPath const& path) noexcept
 try
 {
+  if (!axsNamespaceCheck::holds(document))
+    return false;
   apAtomicFile file(path);
   return file.stream() != nullptr && axsWriter::write(document, file.stream()) && file.commit();
 }

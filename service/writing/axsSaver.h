@@ -9,10 +9,10 @@ class axsDocument;
 namespace axsSaver
 {
 /// Puts the document into `output`, in the place of what it held. False, with `output` unchanged, when XML cannot hold
-/// it or memory runs out.
+/// it, its names lack their namespaces, or memory runs out.
 bool save(axsDocument const& document, apByteArray& output) noexcept;
 
 /// Writes it to `path`, the way of apAtomicFile. False, with nothing left behind and an old file
-/// unchanged, when XML cannot hold the document or the file cannot be written.
+/// unchanged, when XML cannot hold the document, its names lack their namespaces, or the file cannot be written.
 bool save(axsDocument const& document, apPath const& path) noexcept;
 }

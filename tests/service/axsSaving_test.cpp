@@ -127,6 +127,46 @@ TEST(axsSaving, refuses_what_xml_cannot_hold)
   refuses(nullptr);
 }
 
+TEST(axsSaving, refuses_names_without_their_namespaces)
+{
+  auto const document = engine()->createDocument(APSTRING("r"));
+  auto const root = document->getDocumentElement();
+  auto const child = document->createElement(APSTRING("p:x"));
+  EXPECT_EQ(saved(document), declaration + "<r/>\n");
+  root->appendChild(child);
+  refuses(document);
+  EXPECT_EQ(narrow(root->get_xml()), "<r><p:x/></r>");
+  root->setAttribute(APSTRING("xmlns:p"), APSTRING("urn:p"));
+  EXPECT_NE(load(saved(document)), nullptr);
+
+  child->setAttribute(APSTRING("p:a"), APSTRING("1"));
+  child->setAttribute(APSTRING("a"), APSTRING("1"));
+  EXPECT_NE(load(saved(document)), nullptr);
+  root->setAttribute(APSTRING("xmlns:q"), APSTRING("urn:p"));
+  child->setAttribute(APSTRING("q:a"), APSTRING("1"));
+  refuses(document);
+  child->removeAttribute(APSTRING("q:a"));
+  EXPECT_NE(load(saved(document)), nullptr);
+
+  // A declaration ends with its element.
+  root->removeAttribute(APSTRING("xmlns:p"));
+  child->setAttribute(APSTRING("xmlns:p"), APSTRING("urn:p"));
+  EXPECT_NE(load(saved(document)), nullptr);
+  auto const behind = root->appendChild(document->createElement(APSTRING("p:y")));
+  refuses(document);
+  root->removeChild(behind);
+  for (char const* const value : {"", "http://www.w3.org/2000/xmlns/", "http://www.w3.org/XML/1998/namespace"})
+  {
+    root->setAttribute(APSTRING("xmlns:q"), wide(value));
+    refuses(document);
+  }
+  root->removeAttribute(APSTRING("xmlns:q"));
+  root->setAttribute(APSTRING("xml:lang"), APSTRING("en"));
+  EXPECT_NE(load(saved(document)), nullptr);
+  root->appendChild(document->createElement(APSTRING("p:x:y")));
+  refuses(document);
+}
+
 TEST(axsSaving, replaces_a_file_and_leaves_nothing_else_behind)
 {
   auto const document = engine()->createDocument(APSTRING("r"));
