@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds the benchmarks and runs them: reader and engine, each beside other libraries, in one run.
-#   benchmarks/run.sh CALLER [FOLDER]     FOLDER (relative to the folder CALLER) holds documents, *.xml; without it,
-#                                         the benchmarks generate their own
+#   benchmarks/run.sh CALLER [FOLDER]     FOLDER (relative to the folder CALLER) holds documents, *.xml; the benchmarks
+#                                         generate others, for the reader always, for the engine where there is no folder
 # Tables and plots are written to build/benchmark/results/.
 set -euo pipefail
 caller=$1
@@ -19,6 +19,11 @@ results=build/benchmark/results
 mkdir -p "$results"
 status=0
 build/benchmark/bin/bench_reader ${folder:+"$folder"} --output "$results/reader" || status=1
+if grep -q -m 1 -w avx2 /proc/cpuinfo; then
+  echo "The same with SSE2 only:"
+  build/benchmark/bin/bench_reader_ways ${folder:+"$folder"} --way sse2 --only-pugixml --output "$results/reader_sse2" ||
+    status=1
+fi
 documents=()
 [ -z "$folder" ] || documents=("$folder"/*.xml)
 build/benchmark/bin/document_benchmark --output "$results/document" "${documents[@]}" || status=1

@@ -33,8 +33,8 @@ void Report::ratios(std::string const& what, std::vector<double> const& values)
 void Report::target(std::string const& what, double value, double limit, bool at_most)
 {
   bool const reached = at_most ? value <= limit : value >= limit;
-  line(padded(what, 62) + padded(number(value, 2), 10) + (at_most ? "at most " : "at least ") +
-       padded(number(limit, 2), 8) + (reached ? "yes" : "NO"));
+  line(padded(what, 79) + " " + padded(number(value, 3), 10) + padded(at_most ? "at most" : "at least", 9) +
+       padded(number(limit, 2), 7) + (reached ? "met" : "MISSED"));
 }
 
 void Report::finish()

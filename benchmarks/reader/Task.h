@@ -1,82 +1,41 @@
 #pragma once
 
-#include <cstdint>
-#include <cstring>
 #include <string>
 #include <string_view>
 #include <vector>
 
-// What is taken out of a document: of each record, some attributes and the text of some children.
+// What is taken out of each element of one path: attributes, the text, and what its children hold.
+struct Element
+{
+  std::string name;
+  int field = 0; // the number of the first attribute; each attribute is a field, and the text is the one behind them
+  std::vector<std::string> attributes;
+  bool has_text = false;
+  bool is_single = false; // no parent has two of them, and all parents have their children in the order given here
+  std::vector<Element> children;
+
+  int text_field() const { return field + static_cast<int>(attributes.size()); }
+};
+
 struct Task
 {
-  std::vector<std::string> path; // the names from the root to the record
-  std::vector<std::string> attributes;
-  std::vector<std::string> children;
-
-  std::string name() const
-  {
-    std::string text;
-    for (std::string const& step : path)
-      text += (text.empty() ? "" : "/") + step;
-    for (std::string const& attribute : attributes)
-      text += " @" + attribute;
-    for (std::string const& child : children)
-      text += " " + child;
-    return text;
-  }
+  Element root;
+  int fields = 0;
 };
 
-// Takes the values of a task as they are found, and makes sure that nobody leaves one out or need not have looked.
-class Digest
+// Where `name` stands among `names`, which most often is at `expected`; the number of names if it is not there. What a
+// program that meets names one after the other does at best.
+template <class Names, class Equals>
+std::size_t position_of(Names const& names, std::size_t expected, Equals const& equals)
 {
-public:
-  void add(std::string_view value)
-  {
-    ++values;
-    bytes += value.size();
-    if (!value.empty())
-      hash = hash * 31 + static_cast<unsigned char>(value.front()) * 256u + static_cast<unsigned char>(value.back());
-    if (whole)
-      add_whole(value);
-  }
-
-  // The same values, whatever was done about entities and white space.
-  bool agrees_with(Digest const& other) const { return values == other.values && normal == other.normal; }
-
-  bool operator==(Digest const& other) const
-  {
-    return values == other.values && bytes == other.bytes && hash == other.hash;
-  }
-  bool operator!=(Digest const& other) const { return !(*this == other); }
-
-  bool whole = false; // also look at every character: for the comparison of contenders, which is not timed
-  std::uint64_t values = 0;
-  std::uint64_t bytes = 0;
-  std::uint64_t hash = 0;
-
-private:
-  void add_whole(std::string_view value);
-
-  std::uint64_t normal = 0;
-};
-
-// A way to take fields out of a file.
-struct Contender
-{
-  char const* name;
-  // False where the contender cannot do it.
-  bool (*extract)(std::string const& file, Task const& task, Digest& digest);
-};
-
-bool extract_with_reader(std::string const& file, Task const& task, Digest& digest);
-bool extract_with_pugixml(std::string const& file, Task const& task, Digest& digest);
-bool extract_with_pugixml_minimal(std::string const& file, Task const& task, Digest& digest);
-bool extract_with_rapidxml(std::string const& file, Task const& task, Digest& digest);
-bool extract_with_rapidxml_fastest(std::string const& file, Task const& task, Digest& digest);
-bool extract_with_expat(std::string const& file, Task const& task, Digest& digest);
-bool extract_with_libxml2_sax(std::string const& file, Task const& task, Digest& digest);
-bool extract_with_libxml2_reader(std::string const& file, Task const& task, Digest& digest);
-
-// The tasks that suit a document: its most frequent records, one task with attributes and one with children if it has
-// such, most promising first.
-std::vector<Task> find_tasks(std::string const& file);
+  std::size_t const count = names.size();
+  for (std::size_t i = expected; i < count; ++i)
+    if (equals(names[i]))
+      return i;
+  if (expected > count)
+    expected = count;
+  for (std::size_t i = 0; i < expected; ++i)
+    if (equals(names[i]))
+      return i;
+  return count;
+}

@@ -11,6 +11,7 @@
 #include <cmath>
 #include <ctime>
 #include <exception>
+#include <iostream>
 #include <stdexcept>
 
 namespace
@@ -22,20 +23,30 @@ double peak_megabytes()
   return static_cast<double>(usage.ru_maxrss) / 1024;
 }
 
+double processor_seconds()
+{
+  timespec time = {};
+  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
 // In the process of its own.
-Cost measured(std::function<void()> const& call)
+Cost measured(Run const& run)
 {
   try
   {
+    if (run.warm_up)
+      run.warm_up();
     double const megabytes = peak_megabytes();
     long const allocations = allocations_so_far();
-    std::clock_t const start = std::clock();
-    call();
-    double const seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+    double const start = processor_seconds();
+    run.work();
+    double const seconds = processor_seconds() - start;
     return {seconds, peak_megabytes() - megabytes, allocations_so_far() - allocations};
   }
-  catch (std::exception const&)
+  catch (std::exception const& error)
   {
+    std::cerr << error.what() << '\n';
     return {-1, 0, 0};
   }
 }
@@ -48,7 +59,7 @@ Cost median(std::vector<Cost> costs, Member member)
 }
 }
 
-Cost cost_of(std::function<void()> const& call)
+Cost cost_of(Run const& run)
 {
   // What this process has freed is not to be there for the other one, which would have to copy it besides.
   malloc_trim(0);
@@ -60,7 +71,7 @@ Cost cost_of(std::function<void()> const& call)
     throw std::runtime_error("no process");
   if (child == 0)
   {
-    Cost const cost = measured(call);
+    Cost const cost = measured(run);
     ssize_t const written = write(ends[1], &cost, sizeof cost);
     _exit(written == sizeof cost ? 0 : 1);
   }
@@ -71,19 +82,19 @@ Cost cost_of(std::function<void()> const& call)
   int status = 0;
   waitpid(child, &status, 0);
   if (got != sizeof cost || cost.seconds < 0)
-    throw std::runtime_error("a run has failed or has found something else than before");
+    throw std::runtime_error("a run has failed");
   return cost;
 }
 
-std::vector<Cost> interleaved(std::vector<std::function<void()>> const& calls, int runs)
+std::vector<Cost> interleaved(std::vector<Run> const& runs, int times)
 {
-  std::vector<std::vector<Cost>> costs(calls.size());
-  for (int run = 0; run < runs; ++run)
-    for (std::size_t i = 0; i < calls.size(); ++i)
-      costs[i].push_back(cost_of(calls[i]));
+  std::vector<std::vector<Cost>> costs(runs.size());
+  for (int time = 0; time < times; ++time)
+    for (std::size_t i = 0; i < runs.size(); ++i)
+      costs[i].push_back(cost_of(runs[i]));
   std::vector<Cost> medians;
-  for (auto const& of_call : costs)
-    medians.push_back(median(of_call, &Cost::seconds));
+  for (auto const& of_run : costs)
+    medians.push_back(median(of_run, &Cost::seconds));
   return medians;
 }
 

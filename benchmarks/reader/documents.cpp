@@ -1,142 +1,141 @@
-#include "Task.h"
-#include "Timing.h"
+#include "Contender.h"
+#include "made.h"
 #include "measures.h"
 
 #include <algorithm>
-#include <functional>
-#include <iostream>
+#include <filesystem>
 #include <stdexcept>
 
 namespace
 {
 Contender const contenders[] = {
-  {"reader", extract_with_reader},
-  {"pugixml", extract_with_pugixml},
-  {"pugixml minimal", extract_with_pugixml_minimal},
-  {"rapidxml", extract_with_rapidxml},
-  {"rapidxml fastest", extract_with_rapidxml_fastest},
-  {"expat", extract_with_expat},
-  {"libxml2 SAX2", extract_with_libxml2_sax},
-  {"libxml2 reader", extract_with_libxml2_reader},
+  {"reader", false, extract_with_reader},
+  {"pugixml", true, extract_with_pugixml},
+  {"pugixml minimal", false, extract_with_pugixml_minimal},
+  {"rapidxml", true, extract_with_rapidxml},
+  {"rapidxml fastest", false, extract_with_rapidxml_fastest},
+  {"expat", true, extract_with_expat},
+  {"libxml2 SAX2", true, extract_with_libxml2_sax},
+  {"libxml2 reader", true, extract_with_libxml2_reader},
 };
 
-Digest whole_digest(Contender const& contender, std::string const& file, Task const& task)
-{
-  Digest digest;
-  digest.whole = true;
-  if (!contender.extract(file, task, digest))
-    digest.values = 0;
-  return digest;
-}
+std::size_t const pugixml = 1;
+std::size_t const rapidxml = 3;
+std::size_t const rapidxml_fastest = 4;
+std::size_t const expat = 5;
 
-// The first task with attributes and the first with children that the rules of the reader allow: names are not the
-// beginnings of others, and so on.
-std::vector<Task> choose_tasks(std::string const& file)
+// The least of some ratios, and the file it is of.
+struct Least
 {
-  std::vector<Task> chosen;
-  bool attributes = false;
-  bool children = false;
-  int tried = 0;
-  for (Task const& task : find_tasks(file))
+  void take(double ratio, std::string const& name)
   {
-    if ((task.attributes.empty() ? children : attributes) || ++tried > 40)
-      continue;
-    Digest const expected = whole_digest(contenders[1], file, task);
-    if (expected.values < 20 || !whole_digest(contenders[0], file, task).agrees_with(expected))
-      continue;
-    (task.attributes.empty() ? children : attributes) = true;
-    chosen.push_back(task);
+    if (ratio >= value)
+      return;
+    value = ratio;
+    file = name;
   }
-  return chosen;
-}
 
-// The ratios of one task; 0 for a contender that cannot do it.
-std::vector<double> measure(
-  std::string const& file, Task const& task, int runs, double& reader_seconds, std::vector<double>& megabytes)
+  double value = 1e9;
+  std::string file;
+};
+
+std::string cell(double value, int digits)
 {
-  Digest const expected = whole_digest(contenders[0], file, task);
-  std::vector<std::function<void()>> calls;
-  std::vector<bool> takes_part;
-  for (Contender const& contender : contenders)
-  {
-    takes_part.push_back(whole_digest(contender, file, task).agrees_with(expected));
-    if (!takes_part.back())
-      continue;
-    Digest first;
-    contender.extract(file, task, first);
-    calls.emplace_back(
-      [&contender, &file, &task, first]
-      {
-        Digest digest;
-        if (!contender.extract(file, task, digest) || digest != first)
-          throw std::runtime_error(std::string(contender.name) + " found something else in " + file);
-      });
-  }
-  std::vector<Cost> const costs = interleaved(calls, runs);
-  reader_seconds = costs[0].seconds;
-  megabytes = {costs[0].megabytes};
-  std::vector<double> ratios;
-  std::size_t next = 1;
-  for (std::size_t i = 1; i < takes_part.size(); ++i)
-  {
-    megabytes.push_back(takes_part[i] ? costs[next].megabytes : 0);
-    ratios.push_back(takes_part[i] ? costs[next++].seconds / costs[0].seconds : 0);
-  }
-  return ratios;
+  return padded(number(value, digits), 17);
 }
 }
 
-void measure_documents(std::vector<std::string> const& files, int runs, double least_mean, Report& report)
+Run extraction(Contender const& contender, Document const& document)
 {
-  report.contenders.clear();
-  std::string heading = padded("times of the reader's time", 62) + padded("MB", 7) + padded("reader ms", 11);
-  for (std::size_t i = 1; i < std::size(contenders); ++i)
+  Digest const& expected = contender.decodes ? document.decoded : document.written;
+  return {{}, [&contender, &document, &expected]
+    {
+      Digest digest(document.task.fields);
+      if (!contender.extract(document.file, document.task, digest))
+        throw std::runtime_error(std::string(contender.name) + " reports an error in " + document.file);
+      if (digest != expected)
+        throw std::runtime_error(std::string(contender.name) + " finds something else in " + document.file);
+    }};
+}
+
+void measure_documents(
+  TemporaryFolder const& folder, std::vector<std::string> const& files, Extent const& extent, Report& report)
+{
+  std::size_t const count = extent.only_pugixml ? pugixml + 1 : std::size(contenders);
+  report.line("Extraction of all fields: the time of each library in times of the reader's, and the peak of memory");
+  std::string heading = padded("document", 34) + padded("MB", 7) + padded("values", 10) + padded("of all", 8);
+  for (std::size_t i = 0; i < count; ++i)
   {
-    report.contenders.push_back(contenders[i].name);
-    heading += padded(contenders[i].name, 17);
+    heading += padded(i == 0 ? "reader, ms" : contenders[i].name, 17);
+    if (i > 0)
+      report.contenders.push_back(contenders[i].name);
   }
   report.line(heading);
 
-  std::vector<double> pugixml;
-  double least_pugixml = 1e9;
-  double least_rapidxml = 1e9;
-  double least_expat = 1e9;
+  Document const sample(write_document(folder, "sample.xml", records(200)), folder.file("sample_copy.xml"));
+  std::vector<double> of_pugixml;
+  Least least_pugixml;
+  Least least_rapidxml;
+  Least least_expat;
   for (std::string const& file : files)
   {
     std::string const name = std::filesystem::path(file).filename().string();
-    std::vector<Task> const tasks = choose_tasks(file);
-    if (tasks.empty())
-      report.line(padded(name, 62) + "no records by the rules of the reader");
-    std::vector<double> of_file;
-    for (Task const& task : tasks)
+    std::unique_ptr<Document> document;
+    try
     {
-      double reader_seconds = 0;
-      std::vector<double> megabytes;
-      std::vector<double> const ratios = measure(file, task, runs, reader_seconds, megabytes);
-      std::string line = padded(name + " " + task.name(), 61) + " " +
-                         padded(number(static_cast<double>(std::filesystem::file_size(file)) / 1e6, 1), 7) +
-                         padded(number(reader_seconds * 1e3, 2), 11);
-      for (double const ratio : ratios)
-        line += padded(ratio > 0 ? number(ratio, 2) : "-", 17);
-      report.line(line);
-      std::string memory = padded("  peak MB of memory", 69) + padded(number(megabytes[0], 1), 11);
-      for (std::size_t i = 1; i < megabytes.size(); ++i)
-        memory += padded(ratios[i - 1] > 0 ? number(megabytes[i], 1) : "-", 17);
-      report.line(memory);
-      report.ratios(name + (task.attributes.empty() ? " (children)" : " (attributes)"), ratios);
-      of_file.push_back(ratios[0]);
-      least_pugixml = std::min(least_pugixml, ratios[0]);
-      if (ratios[3] > 0)
-        least_rapidxml = std::min(least_rapidxml, ratios[3]);
-      if (ratios[4] > 0)
-        least_expat = std::min(least_expat, ratios[4]);
+      document = std::make_unique<Document>(file, folder.file("copy.xml"));
     }
-    if (!of_file.empty())
-      pugixml.push_back(geometric_mean(of_file));
+    catch (std::runtime_error const& error)
+    {
+      report.line(padded(name, 34) + "not measured: " + error.what());
+      continue;
+    }
+    if (document->values_taken == 0)
+    {
+      report.line(padded(name, 34) + "not measured: the reader can take nothing out of it");
+      continue;
+    }
+    std::vector<Run> runs;
+    for (std::size_t i = 0; i < count; ++i)
+      runs.push_back({extraction(contenders[i], sample).work, extraction(contenders[i], *document).work});
+    std::vector<Cost> const costs = interleaved(runs, extent.runs);
+
+    std::vector<double> ratios;
+    for (std::size_t i = 1; i < count; ++i)
+      ratios.push_back(costs[i].seconds / costs[0].seconds);
+    double const all = static_cast<double>(document->values_taken + document->values_left_out);
+    std::string line = padded(name, 34) +
+                       padded(number(static_cast<double>(std::filesystem::file_size(document->file)) / 1e6, 1), 7) +
+                       padded(std::to_string(document->values_taken), 10) +
+                       padded(number(100 * static_cast<double>(document->values_taken) / all, 0) + " %", 8) +
+                       cell(costs[0].seconds * 1e3, 2);
+    std::string memory = padded("  memory, MB", 59);
+    for (std::size_t i = 0; i < count; ++i)
+    {
+      if (i > 0)
+        line += cell(ratios[i - 1], 2);
+      memory += cell(costs[i].megabytes, 1);
+    }
+    report.line(line);
+    report.line(memory);
+    for (std::string const& note : document->notes)
+      report.line("  given to all without " + note);
+    report.ratios(name, ratios);
+
+    of_pugixml.push_back(ratios[pugixml - 1]);
+    least_pugixml.take(ratios[pugixml - 1], name);
+    if (extent.only_pugixml)
+      continue;
+    least_rapidxml.take(std::min(ratios[rapidxml - 1], ratios[rapidxml_fastest - 1]), name);
+    least_expat.take(ratios[expat - 1], name);
   }
   report.line("");
-  report.target("geometric mean over the files, against pugixml", geometric_mean(pugixml), least_mean, false);
-  report.target("least of any task, against pugixml", least_pugixml, 1, false);
-  report.target("least of any task, against rapidxml fastest", least_rapidxml, 1, false);
-  report.target("least of any task, against expat", least_expat, 4, false);
+  report.target(
+    "extraction, geometric mean over the files, against pugixml", geometric_mean(of_pugixml), extent.least_mean, false);
+  if (extent.only_pugixml)
+    return;
+  report.target("least of any file, against pugixml: " + least_pugixml.file, least_pugixml.value, 1, false);
+  report.target(
+    "least of any file, against rapidxml's faster mode: " + least_rapidxml.file, least_rapidxml.value, 1, false);
+  report.target("least of any file, against expat: " + least_expat.file, least_expat.value, 4, false);
 }

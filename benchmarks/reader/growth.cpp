@@ -1,65 +1,18 @@
-#include "Task.h"
-#include "Timing.h"
+#include "Bytes.h"
+#include "Contender.h"
+#include "made.h"
 #include "measures.h"
 
 #include <axmSimpleXmlFactory.h>
 #include <pugixml.hpp>
 
-#include <unistd.h>
-
-#include <fstream>
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
 
 namespace
 {
-std::string const declaration = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
-
-std::string write(TemporaryFolder const& folder, std::string const& name, std::string const& root)
-{
-  std::string const file = folder.file(name);
-  std::ofstream(file, std::ios::binary) << declaration << root << '\n';
-  return file;
-}
-
-std::string repeated(std::string const& part, std::size_t times)
-{
-  std::string text;
-  text.reserve(part.size() * times);
-  for (std::size_t i = 0; i < times; ++i)
-    text += part;
-  return text;
-}
-
-std::string record(std::size_t i)
-{
-  std::string const n = std::to_string(i);
-  return "<item id=\"" + n + "\" kind=\"k" + std::to_string(i % 7) + "\"><name>Name of item " + n + "</name><value>" +
-         std::to_string(i * 37 % 1000) + ".25</value></item>\n";
-}
-
-// Records of two kinds of fields up to a size.
-std::string records(std::size_t bytes)
-{
-  std::string text = "<r>\n";
-  for (std::size_t i = 0; text.size() < bytes; ++i)
-    text += record(i);
-  return text + "</r>";
-}
-
-// The same number of bytes with the records so many levels down, a hundred in a branch.
-std::string nested_records(std::size_t bytes, std::size_t depth)
-{
-  std::string text = "<r>\n";
-  for (std::size_t i = 0; text.size() < bytes;)
-  {
-    text += repeated("<d>", depth - 2);
-    for (std::size_t k = 0; k < 100; ++k)
-      text += record(i++);
-    text += repeated("</d>", depth - 2);
-  }
-  return text + "</r>";
-}
+Contender const reader_itself = {"reader", false, extract_with_reader};
 
 std::unique_ptr<axmAbstractXmlReader> read(std::string const& file)
 {
@@ -69,45 +22,44 @@ std::unique_ptr<axmAbstractXmlReader> read(std::string const& file)
   return reader;
 }
 
-std::function<void()> extraction(std::string const& file, Task const& task)
+// Documents of the same kind, each with a copy that all get.
+std::vector<Document> documents_of(TemporaryFolder const& folder, std::vector<std::string> const& roots)
 {
-  return [=]
-  {
-    Digest digest;
-    if (!extract_with_reader(file, task, digest) || digest.values == 0)
-      throw std::runtime_error("nothing in " + file);
-  };
+  std::vector<Document> documents;
+  for (std::string const& root : roots)
+    documents.emplace_back(
+      write_document(folder, "given.xml", root), folder.file("growth" + std::to_string(documents.size()) + ".xml"));
+  return documents;
+}
+
+std::vector<Cost> extraction_costs(std::vector<Document> const& documents, int times)
+{
+  std::vector<Run> runs;
+  for (Document const& document : documents)
+    runs.push_back(extraction(reader_itself, document));
+  return interleaved(runs, times);
 }
 
 void measure_size(TemporaryFolder const& folder, int runs, Report& report)
 {
-  Task const task = {{"r", "item"}, {"id"}, {"value"}};
-  std::vector<double> per_megabyte;
-  for (std::size_t const megabytes : {1, 10, 100})
-  {
-    std::string const file = write(folder, "size.xml", records(megabytes * 1000000));
-    double const seconds = interleaved({extraction(file, task)}, runs)[0].seconds;
-    per_megabyte.push_back(seconds * 1e3 / static_cast<double>(megabytes));
-    report.line(padded("  " + std::to_string(megabytes) + " MB, ms a MB", 62) + number(per_megabyte.back(), 3));
-  }
-  report.target("100 MB against 1 MB, per byte", per_megabyte[2] / per_megabyte[0], 1.3, true);
+  std::vector<double> const megabytes = {1, 10, 100};
+  std::vector<Cost> const costs =
+    extraction_costs(documents_of(folder, {records(1000000), records(10000000), records(100000000)}), runs);
+  for (std::size_t i = 0; i < megabytes.size(); ++i)
+    report.line(
+      padded("  " + number(megabytes[i], 0) + " MB, ms a MB", 80) + number(costs[i].seconds * 1e3 / megabytes[i], 3));
+  report.target("100 MB against 1 MB, per byte", costs[2].seconds / costs[0].seconds / 100, 1.3, true);
 }
 
 void measure_depth(TemporaryFolder const& folder, int runs, Report& report)
 {
-  std::vector<std::function<void()>> calls;
   std::vector<std::size_t> const depths = {2, 4, 8, 16, 32, 64};
+  std::vector<std::string> roots;
   for (std::size_t const depth : depths)
-  {
-    Task task = {{"r"}, {"id"}, {"value"}};
-    task.path.insert(task.path.end(), depth - 2, "d");
-    task.path.push_back("item");
-    calls.push_back(
-      extraction(write(folder, "depth" + std::to_string(depth) + ".xml", nested_records(10000000, depth)), task));
-  }
-  std::vector<Cost> const costs = interleaved(calls, runs);
+    roots.push_back(nested_records(10000000, depth));
+  std::vector<Cost> const costs = extraction_costs(documents_of(folder, roots), runs);
   for (std::size_t i = 0; i < depths.size(); ++i)
-    report.line(padded("  depth " + std::to_string(depths[i]) + ", ms", 62) + number(costs[i].seconds * 1e3, 2));
+    report.line(padded("  depth " + std::to_string(depths[i]) + ", ms", 80) + number(costs[i].seconds * 1e3, 2));
   report.target("depth 64 against depth 2, same size", costs.back().seconds / costs.front().seconds, 1.25, true);
 }
 
@@ -116,9 +68,9 @@ void measure_depth(TemporaryFolder const& folder, int runs, Report& report)
 void measure_siblings(TemporaryFolder const& folder, int runs, Report& report)
 {
   int const turns = 1000;
-  for (std::size_t const siblings : {10, 1000, 100000})
+  for (std::size_t const siblings : {10, 100, 1000, 10000, 100000})
   {
-    std::string const file = write(folder, "siblings.xml",
+    std::string const file = write_document(folder, "siblings.xml",
       "<r><first k=\"1\"></first>" + repeated("<item k=\"2\"></item>", siblings - 2) + "<last k=\"3\"></last></r>");
     auto const with_reader = [&](int times)
     {
@@ -153,10 +105,11 @@ void measure_siblings(TemporaryFolder const& folder, int runs, Report& report)
       };
     };
     std::vector<Cost> const costs = interleaved(
-      {with_reader(1), with_reader(turns + 1), with_pugixml(1), with_pugixml(turns + 1)}, std::min(runs, 3));
+      {{{}, with_reader(1)}, {{}, with_reader(turns + 1)}, {{}, with_pugixml(1)}, {{}, with_pugixml(turns + 1)}},
+      std::min(runs, 3));
     double const reader_seconds = costs[1].seconds - costs[0].seconds;
     double const pugixml_seconds = costs[3].seconds - costs[2].seconds;
-    report.line(padded("  " + std::to_string(siblings) + " siblings, ms, reader and pugixml", 62) +
+    report.line(padded("  " + std::to_string(siblings) + " siblings, ms, reader and pugixml", 80) +
                 padded(number(reader_seconds * 1e3, 2), 10) + number(pugixml_seconds * 1e3, 2));
     if (siblings == 100000)
       report.target(
@@ -166,95 +119,101 @@ void measure_siblings(TemporaryFolder const& folder, int runs, Report& report)
 
 void measure_absent_attributes(TemporaryFolder const& folder, int runs, Report& report)
 {
-  std::vector<std::function<void()>> calls;
+  std::vector<Run> calls;
   std::vector<std::size_t> const counts = {1000, 4000, 16000};
   for (std::size_t const count : counts)
-    calls.push_back(extraction(write(folder, "absent" + std::to_string(count) + ".xml",
-                                 "<r>" + repeated("<item k=\"1\"/>\n", count) + "<z k=\"1\"></z></r>"),
-      {{"r", "item"}, {"absent", "missing"}, {}}));
+  {
+    std::string const file = write_document(folder, "absent" + std::to_string(count) + ".xml",
+      "<r>" + repeated("<item k=\"1\"/>\n", count) + "<z k=\"1\"></z></r>");
+    calls.push_back({{}, [file, count]
+      {
+        auto const reader = read(file);
+        utString const item("item");
+        utString const names[] = {"absent", "missing"};
+        utString const none;
+        std::size_t seen = 0;
+        std::size_t found = 0;
+        if (reader->down_to("r"))
+          for (; reader->down_to(item); reader->up(), ++seen)
+            for (utString const& name : names)
+              found += reader->attribute(name, none).has_storage();
+        if (seen != count || found != 0)
+          throw std::runtime_error("absent attributes");
+      }});
+  }
   std::vector<Cost> const costs = interleaved(calls, runs);
   for (std::size_t i = 0; i < counts.size(); ++i)
-    report.line(padded("  absent attributes of " + std::to_string(counts[i]) + " self-closing siblings, ms", 62) +
+    report.line(padded("  absent attributes of " + std::to_string(counts[i]) + " self-closing siblings, ms", 80) +
                 number(costs[i].seconds * 1e3, 3));
   report.target("absent attributes, 16,000 against 1,000", costs.back().seconds / costs.front().seconds, 20, true);
 }
 
 void measure_first_record(TemporaryFolder const& folder, int runs, Report& report)
 {
-  std::string const file = write(folder, "first.xml", records(10000000));
-  std::vector<Cost> const costs =
-    interleaved({[&] { read(file); },
-                  [&]
-                  {
-                    auto const reader = read(file);
-                    if (!reader->down_to("r") || !reader->down_to("item") || reader->attribute("id", "").length() != 1)
-                      throw std::runtime_error("no first record");
-                  }},
-      runs);
+  std::string const file = write_document(folder, "first.xml", records(10000000));
+  auto const plainly = [&]
+  {
+    Bytes bytes(file);
+    if (bytes.size() < 10000000)
+      throw std::runtime_error("cannot read " + file);
+  };
+  auto const first_record = [&]
+  {
+    auto const reader = read(file);
+    if (!reader->down_to("r") || !reader->down_to("item") || reader->attribute("id", "").length() != 1)
+      throw std::runtime_error("no first record");
+  };
+  std::vector<Cost> const costs = interleaved({{{}, plainly}, {{}, first_record}}, std::max(runs, 9));
+  report.line(padded("  first record of 10 MB, ms, and reading the file alone", 80) +
+              padded(number(costs[1].seconds * 1e3, 3), 10) + number(costs[0].seconds * 1e3, 3));
   report.target("first record of 10 MB against reading the file", costs[1].seconds / costs[0].seconds, 1.2, true);
 }
 
 void measure_memory(TemporaryFolder const& folder, Report& report)
 {
   std::size_t const elements = 2000000;
-  std::string const file = write(folder, "memory.xml", "<r>" + repeated("<a/>\n", elements) + "</r>");
-  Cost const only_read = cost_of([&] { read(file); });
-  Cost const passed = cost_of(
-    [&]
+  std::string const file = write_document(folder, "memory.xml", "<r>" + repeated("<a/>\n", elements) + "</r>");
+  Cost const only_read = cost_of({{}, [&] { read(file); }});
+  Cost const entered = cost_of({{}, [&] { read(file)->down_to("r"); }});
+  Cost const passed = cost_of({{}, [&]
     {
       auto const reader = read(file);
       reader->down_to("r");
       reader->down_to("none");
-    });
+    }});
+  double const mega = 1024 * 1024;
+  report.line(padded("  kB of memory beside the file before anything is passed", 80) +
+              number((entered.megabytes - only_read.megabytes) * 1024, 0));
   report.target("bytes of memory for each element passed",
-    (passed.megabytes - only_read.megabytes) * 1024 * 1024 / static_cast<double>(elements), 16.5, true);
-
-  Digest digest;
-  std::string const values = write(folder, "values.xml", records(1000000));
-  Task const task = {{"r", "item"}, {"id"}, {"value"}};
-  extract_with_reader(values, task, digest);
-  Cost const cost = cost_of(extraction(values, task));
-  report.target("allocations for each value that is not empty",
-    static_cast<double>(cost.allocations) / static_cast<double>(digest.values), 1.01, true);
-}
+    (passed.megabytes - entered.megabytes) * mega / static_cast<double>(elements), 16, true);
 }
 
-TemporaryFolder::TemporaryFolder()
-  : path(std::filesystem::temp_directory_path() / ("bench_reader_" + std::to_string(getpid())))
+// What comes on top of one allocation for each value must stay few, however many values there are: long values, each of
+// which needs one, and short ones.
+void measure_allocations(TemporaryFolder const& folder, Report& report)
 {
-  std::filesystem::create_directories(path);
-}
-
-TemporaryFolder::~TemporaryFolder()
-{
-  std::error_code failed;
-  std::filesystem::remove_all(path, failed);
-}
-
-std::string generate_documents(TemporaryFolder const& folder)
-{
-  std::filesystem::create_directories(folder.path / "documents");
-  write(folder, "documents/records.xml", records(10000000));
-  write(folder, "documents/deep.xml", nested_records(10000000, 16));
-  std::string dense = "<r>\n";
-  std::string wide = "<r>\n";
-  std::string texts = "<r>\n";
-  for (std::size_t i = 0; i < 200000; ++i)
-    dense += "<line number=\"" + std::to_string(i % 3000) + "\" hits=\"" + std::to_string(i % 2) + "\"/>\n";
-  for (std::size_t i = 0; i < 40000; ++i)
+  for (bool const is_long : {false, true})
   {
-    wide += "\t<node id=\"" + std::to_string(1000000 + i);
-    for (char name = 'a'; name < 'h'; ++name)
-      wide += std::string("\" ") + name + "=\"" + std::to_string(i * 7919 % 100003) + "." + std::to_string(i % 97);
-    wide += "\"/>\n";
+    std::string const value = is_long ? "a value that has no place in the text itself" : "value";
+    std::string const part = "<item id=\"" + value + "\"><value>" + value + "</value><none></none></item>\n";
+    long more = 0;
+    for (long const values : {2000, 40000, 400000})
+    {
+      Document const document(
+        write_document(folder, "given.xml", "<r>" + repeated(part, static_cast<std::size_t>(values) / 2) + "</r>"),
+        folder.file("allocations.xml"));
+      long const allocations = cost_of(extraction(reader_itself, document)).allocations;
+      more = is_long ? allocations - values : allocations;
+      report.line(padded("  allocations for " + std::to_string(values) + (is_long ? " long" : " short") +
+                           " values that are not empty",
+                    80) +
+                  std::to_string(allocations));
+    }
+    report.target(
+      is_long ? "allocations beyond one for each of 400,000 long values" : "allocations for 400,000 short values",
+      static_cast<double>(more), 100, true);
   }
-  for (std::size_t i = 0; i < 10000; ++i)
-    texts += "<p n=\"" + std::to_string(i) + "\"><body>" + repeated("some words of a longer text, ", 20 + i % 30) +
-             "end</body></p>\n";
-  write(folder, "documents/dense.xml", dense + "</r>");
-  write(folder, "documents/wide.xml", wide + "</r>");
-  write(folder, "documents/texts.xml", texts + "</r>");
-  return folder.file("documents");
+}
 }
 
 void measure_growth(TemporaryFolder const& folder, int runs, Report& report)
@@ -266,4 +225,5 @@ void measure_growth(TemporaryFolder const& folder, int runs, Report& report)
   measure_absent_attributes(folder, runs, report);
   measure_first_record(folder, runs, report);
   measure_memory(folder, report);
+  measure_allocations(folder, report);
 }

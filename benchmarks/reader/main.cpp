@@ -1,7 +1,7 @@
 // Takes the same fields out of the same documents with the streaming reader and with other libraries.
 
 #include "Report.h"
-#include "Task.h"
+#include "made.h"
 #include "measures.h"
 
 #if defined(AXM_BENCH_WAYS)
@@ -22,12 +22,13 @@ struct Options
 {
   std::string folder;
   std::string output = "bench-reader";
-  int runs = 9;
+  Extent extent;
 };
 
 char const usage[] =
-  "usage: bench_reader [FOLDER] [--output PREFIX] [--runs N] [--way words|sse2|avx2]\n"
-  "Measures on the documents in FOLDER, or on generated ones, and writes PREFIX.txt and PREFIX.svg.\n";
+  "usage: bench_reader [FOLDER] [--output PREFIX] [--runs N] [--only-pugixml] [--way words|sse2|avx2]\n"
+  "Measures on the documents in FOLDER and on generated ones, and writes PREFIX.txt and PREFIX.svg.\n"
+  "With --only-pugixml, only the extraction, and against pugixml alone.\n";
 
 #if defined(AXM_BENCH_WAYS)
 bool choose_way(std::string const& name)
@@ -67,7 +68,9 @@ bool parse(int argc, char** argv, Options& options)
     if (argument == "--output" && has_value)
       options.output = argv[++i];
     else if (argument == "--runs" && has_value)
-      options.runs = std::max(1, std::atoi(argv[++i]));
+      options.extent.runs = std::max(1, std::atoi(argv[++i]));
+    else if (argument == "--only-pugixml")
+      options.extent.only_pugixml = true;
     else if (argument == "--way" && has_value)
     {
       if (!choose_way(argv[++i]))
@@ -106,9 +109,16 @@ int main(int argc, char** argv)
   {
     TemporaryFolder const folder;
     Report report(options.output);
-    measure_documents(documents_in(options.folder.empty() ? generate_documents(folder) : options.folder), options.runs,
-      least_mean(), report);
-    measure_growth(folder, options.runs, report);
+    std::vector<std::string> files = write_documents(folder);
+    if (!options.folder.empty())
+    {
+      std::vector<std::string> const given = documents_in(options.folder);
+      files.insert(files.begin(), given.begin(), given.end());
+    }
+    options.extent.least_mean = least_mean();
+    measure_documents(folder, files, options.extent, report);
+    if (!options.extent.only_pugixml)
+      measure_growth(folder, options.extent.runs, report);
     report.finish();
     return report.good() ? 0 : 1;
   }

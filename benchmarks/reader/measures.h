@@ -1,31 +1,28 @@
 #pragma once
 
+#include "Document.h"
+#include "Folder.h"
 #include "Report.h"
+#include "Timing.h"
 
-#include <filesystem>
 #include <string>
 #include <vector>
 
-// A folder that goes at the end.
-class TemporaryFolder
+struct Contender;
+
+// Extraction of all that a document's task has. The run fails when anything else is found than is there.
+Run extraction(Contender const& contender, Document const& document);
+
+struct Extent
 {
-public:
-  TemporaryFolder();
-  TemporaryFolder(TemporaryFolder const&) = delete;
-  TemporaryFolder& operator=(TemporaryFolder const&) = delete;
-  ~TemporaryFolder();
-
-  std::string file(std::string const& name) const { return (path / name).string(); }
-
-  std::filesystem::path path;
+  int runs = 9;
+  double least_mean = 1.6; // against pugixml
+  bool only_pugixml = false;
 };
 
-// Writes documents of several kinds and returns the folder in which they are.
-std::string generate_documents(TemporaryFolder const& folder);
-
-// Extraction from each document by each contender, as ratios to the reader, whose geometric mean against pugixml is to be
-// at least `least_mean`.
-void measure_documents(std::vector<std::string> const& files, int runs, double least_mean, Report& report);
+// Extraction from each document by each contender, as ratios to the reader.
+void measure_documents(
+  TemporaryFolder const& folder, std::vector<std::string> const& files, Extent const& extent, Report& report);
 
 // How the cost grows with size, depth, siblings and absent attributes, and what the first record and memory cost.
 void measure_growth(TemporaryFolder const& folder, int runs, Report& report);

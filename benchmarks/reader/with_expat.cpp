@@ -1,7 +1,9 @@
-#include "Bytes.h"
 #include "Events.h"
 
 #include <expat.h>
+
+#include <cstdio>
+#include <cstring>
 
 namespace
 {
@@ -13,12 +15,20 @@ Events& events_of(void* data)
 void XMLCALL on_start(void* data, XML_Char const* name, XML_Char const** attributes)
 {
   Events& events = events_of(data);
-  if (!events.start(name))
+  Element const* const element =
+    events.start([&](std::string const& wanted) { return std::strcmp(wanted.c_str(), name) == 0; });
+  if (element == nullptr || element->attributes.empty())
     return;
-  for (std::string const& wanted : events.task.attributes)
-    for (XML_Char const** attribute = attributes; *attribute != nullptr; attribute += 2)
-      if (wanted == attribute[0])
-        events.digest.add(attribute[1]);
+  std::size_t next = 0;
+  for (; *attributes != nullptr; attributes += 2)
+  {
+    std::size_t const found = position_of(element->attributes, next,
+      [&](std::string const& wanted) { return std::strcmp(wanted.c_str(), attributes[0]) == 0; });
+    if (found == element->attributes.size())
+      continue;
+    events.digest.add(element->field + static_cast<int>(found), attributes[1]);
+    next = found + 1;
+  }
 }
 
 void XMLCALL on_end(void* data, XML_Char const*)
@@ -28,7 +38,7 @@ void XMLCALL on_end(void* data, XML_Char const*)
 
 void XMLCALL on_characters(void* data, XML_Char const* text, int length)
 {
-  events_of(data).characters({text, static_cast<std::size_t>(length)});
+  events_of(data).characters(text, static_cast<std::size_t>(length));
 }
 }
 
@@ -41,8 +51,7 @@ bool extract_with_expat(std::string const& file, Task const& task, Digest& diges
   XML_Parser const parser = XML_ParserCreate(nullptr);
   XML_SetUserData(parser, &events);
   XML_SetElementHandler(parser, on_start, on_end);
-  if (!task.children.empty())
-    XML_SetCharacterDataHandler(parser, on_characters);
+  XML_SetCharacterDataHandler(parser, on_characters);
   int const block = 64 * 1024;
   bool good = true;
   for (bool last = false; good && !last;)

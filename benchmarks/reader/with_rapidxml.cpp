@@ -1,32 +1,45 @@
 #include "Bytes.h"
-#include "Task.h"
+#include "Contender.h"
 
 #include <rapidxml/rapidxml.hpp>
 
 namespace
 {
 using Node = rapidxml::xml_node<>;
+using Attribute = rapidxml::xml_attribute<>;
 
-void visit(Node const& parent, Task const& task, std::size_t depth, Digest& digest)
+// As for pugixml, with names that need not end with a NUL.
+void visit(Node const& node, Element const& element, Digest& digest)
 {
-  std::string const& step = task.path[depth];
-  for (Node const* node = parent.first_node(step.data(), step.size()); node != nullptr;
-       node = node->next_sibling(step.data(), step.size()))
+  if (!element.attributes.empty())
   {
-    if (depth + 1 < task.path.size())
+    std::size_t next = 0;
+    for (Attribute const* attribute = node.first_attribute(); attribute != nullptr;
+         attribute = attribute->next_attribute())
     {
-      visit(*node, task, depth + 1, digest);
+      std::string_view const name(attribute->name(), attribute->name_size());
+      std::size_t const found =
+        position_of(element.attributes, next, [&](std::string const& wanted) { return wanted == name; });
+      if (found == element.attributes.size())
+        continue;
+      digest.add(element.field + static_cast<int>(found), {attribute->value(), attribute->value_size()});
+      next = found + 1;
+    }
+  }
+  if (element.has_text)
+    digest.add_text(element.text_field(), {node.value(), node.value_size()});
+  if (element.children.empty())
+    return;
+  std::size_t next = 0;
+  for (Node const* child = node.first_node(); child != nullptr; child = child->next_sibling())
+  {
+    std::string_view const name(child->name(), child->name_size());
+    std::size_t const found =
+      position_of(element.children, next, [&](Element const& wanted) { return wanted.name == name; });
+    if (found == element.children.size())
       continue;
-    }
-    for (std::string const& name : task.attributes)
-    {
-      auto const* const attribute = node->first_attribute(name.data(), name.size());
-      digest.add(
-        attribute == nullptr ? std::string_view() : std::string_view(attribute->value(), attribute->value_size()));
-    }
-    for (std::string const& name : task.children)
-      if (Node const* const child = node->first_node(name.data(), name.size()))
-        digest.add({child->value(), child->value_size()});
+    visit(*child, element.children[found], digest);
+    next = found + element.children[found].is_single;
   }
 }
 
@@ -38,7 +51,10 @@ bool extract(std::string const& file, Task const& task, Digest& digest)
   {
     rapidxml::xml_document<> document;
     document.parse<flags>(bytes.data());
-    visit(document, task, 0, digest);
+    Node const* const root = document.first_node(task.root.name.c_str());
+    if (root == nullptr)
+      return false;
+    visit(*root, task.root, digest);
     return true;
   }
   catch (rapidxml::parse_error const&)

@@ -1,69 +1,71 @@
-#include "Task.h"
+#include "Contender.h"
 
 #include <axmSimpleXmlFactory.h>
 
 namespace
 {
-std::string_view view(utString const& text)
+// A task in the words of the reader.
+struct Wanted
 {
-  return {text.c_str(), static_cast<std::size_t>(text.length())};
-}
+  explicit Wanted(Element const& element)
+    : name(element.name.c_str()),
+      field(element.field),
+      has_text(element.has_text),
+      is_single(element.is_single),
+      children(element.children.begin(), element.children.end())
+  {
+    for (std::string const& attribute : element.attributes)
+      attributes.emplace_back(attribute.c_str());
+  }
 
-std::vector<utString> strings(std::vector<std::string> const& names)
-{
-  std::vector<utString> made;
-  for (std::string const& name : names)
-    made.emplace_back(name.c_str());
-  return made;
-}
+  utString name;
+  int field;
+  std::vector<utString> attributes;
+  bool has_text;
+  bool is_single;
+  std::vector<Wanted> children;
+};
 
 class Walk
 {
 public:
-  Walk(axmAbstractXmlReader& walked, Task const& task, Digest& found)
-    : reader(walked),
-      path(strings(task.path)),
-      attributes(strings(task.attributes)),
-      children(strings(task.children)),
-      digest(found)
-  {
-  }
+  Walk(axmAbstractXmlReader& walked, Digest& found) : reader(walked), digest(found) {}
 
-  void visit(std::size_t depth)
+  void read(Wanted const& element)
   {
-    if (depth == path.size())
-      return read_record();
-    for (; reader.down_to(path[depth]); reader.up())
-      visit(depth + 1);
-  }
-
-private:
-  void read_record()
-  {
-    for (utString const& name : attributes)
-      digest.add(view(reader.attribute(name, none)));
-    for (utString const& name : children)
-      if (reader.down_to(name) || reader.down_to(name)) // one that failed goes back to the first child
+    int field = element.field;
+    for (utString const& name : element.attributes)
+    {
+      utString const value = reader.attribute(name, absent);
+      if (value.has_storage())
+        digest.add(field, value.view());
+      ++field;
+    }
+    if (element.has_text)
+      digest.add_text(field, reader.text_node().view());
+    for (Wanted const& child : element.children)
+      while (reader.down_to(child.name))
       {
-        digest.add(view(reader.text_node()));
+        read(child);
         reader.up();
+        if (child.is_single)
+          break;
       }
   }
 
+private:
   axmAbstractXmlReader& reader;
-  std::vector<utString> const path;
-  std::vector<utString> const attributes;
-  std::vector<utString> const children;
   Digest& digest;
-  utString const none;
+  utString const absent;
 };
 }
 
 bool extract_with_reader(std::string const& file, Task const& task, Digest& digest)
 {
   auto const reader = axmSimpleXmlFactory().create_xml_reader_path(utPtrReleaseToCaller, apPath(file.c_str()));
-  if (!reader->read_file() || !reader->down_to(task.path.front().c_str()))
+  Wanted const root(task.root);
+  if (!reader->read_file() || !reader->down_to(root.name))
     return false;
-  Walk(*reader, task, digest).visit(1);
+  Walk(*reader, digest).read(root);
   return !reader->has_error_occurred();
 }
