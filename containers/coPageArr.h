@@ -72,7 +72,8 @@ public:
     assert(index >= 0);
     if (index >= used)
     {
-      if (index == INT_MAX || !get_block(index >> page_shift))
+      // The page that is current exists.
+      if (index >> page_shift != current_block && (index == INT_MAX || !get_block(index >> page_shift)))
         throw std::bad_alloc();
       used = index + 1;
     }

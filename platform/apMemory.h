@@ -8,8 +8,8 @@
 class AP_API apMemory
 {
 public:
-  /// Says that all `size` bytes from `block` on will be written and read before long. Where they are many, the system may
-  /// then hand them out in large pages, which is several times as fast as in small ones. Changes nothing else, and does
-  /// nothing where there is no such thing.
+  /// Says that all `size` bytes from `block` on, one at least, will be written before long. The system may then hand them
+  /// out in large pages where they are many, and all at once where they are few, either of which is much faster than one
+  /// small page after the other. Changes nothing else, and does nothing where there is no such thing.
   static void will_fill(void* block, std::size_t size) noexcept;
 };

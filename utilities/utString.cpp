@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <ostream>
+#include <utility>
 
 namespace
 {
@@ -12,38 +13,18 @@ char folded(char c) noexcept
 }
 }
 
-utString::utString() noexcept = default;
-utString::utString(utString const& other) noexcept = default;
-utString::utString(utString&& other) noexcept = default;
-utString& utString::operator=(utString const& other) noexcept = default;
-utString& utString::operator=(utString&& other) noexcept = default;
-utString::~utString() = default;
-
-utString::utString(char const* bytes)
+utString::utString(char const* bytes) : utString()
 {
   if (bytes != nullptr)
-    text = coSharedText<char>(bytes, coSharedText<char>::checked_length(std::strlen(bytes)));
+    *this = utString(bytes, coSharedText<char>::checked_length(std::strlen(bytes)));
 }
 
-utString::utString(char const* bytes, int length)
+utString::utString(char const* bytes, int length) : utString()
 {
-  if (bytes != nullptr)
-    text = coSharedText<char>(bytes, std::max(length, 0));
-}
-
-char const* utString::c_str() const noexcept
-{
-  return text.data();
-}
-
-int utString::length() const noexcept
-{
-  return text.length();
-}
-
-bool utString::has_storage() const noexcept
-{
-  return text.has_storage();
+  if (bytes == nullptr)
+    return;
+  std::size_t const size = static_cast<std::size_t>(std::max(length, 0));
+  *this = written(static_cast<int>(size), [&](char* to) { std::memcpy(to, bytes, size); });
 }
 
 bool utString::operator==(utString const& other) const noexcept
@@ -66,6 +47,23 @@ int utString::case_compare(utString const& other) const noexcept
     ++right;
   }
   return static_cast<unsigned char>(folded(*left)) - static_cast<unsigned char>(folded(*right));
+}
+
+void utString::take(coSharedText<char>& text) noexcept
+{
+  new (place.inside) coSharedText<char>(std::move(text));
+  place.inside[state_at] = outside;
+}
+
+// To be called when the bytes of `other`, which refers to a shared text, have been copied.
+void utString::share(utString const& other) noexcept
+{
+  new (place.inside) coSharedText<char>(other.shared());
+}
+
+void utString::drop_shared() noexcept
+{
+  shared().~coSharedText<char>();
 }
 
 utString operator+(utString const& left, utString const& right)

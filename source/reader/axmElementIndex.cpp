@@ -1,5 +1,7 @@
 #include "axmElementIndex.h"
 
+#include <apMemory.h>
+
 #include <cstring>
 #include <new>
 #include <utility>
@@ -59,6 +61,7 @@ void axmElementIndex::restart(char const* given, Place given_size, Place root)
   used = 0;
   open = none;
   last_closed = none;
+  markup_in_sections = false;
   block = axmMarks::blocks; // no marks of this text are known yet
   seek(root);
   pass(0, none);
@@ -69,7 +72,7 @@ axmElementIndex::Id axmElementIndex::find(Place place)
   while (!halted && frontier <= place)
     pass(used, none);
   Id const id = first_from(place);
-  return id < used && start(id) == place ? id : none;
+  return id < used && (*this)[id].start() == place ? id : none;
 }
 
 axmElementIndex::Id axmElementIndex::first_from(Place place) const
@@ -79,7 +82,7 @@ axmElementIndex::Id axmElementIndex::first_from(Place place) const
   while (low < high)
   {
     Id const middle = low + (high - low) / 2;
-    if (start(middle) < place)
+    if ((*this)[middle].start() < place)
       low = middle + 1;
     else
       high = middle;
@@ -87,8 +90,8 @@ axmElementIndex::Id axmElementIndex::first_from(Place place) const
   return low;
 }
 
-// Goes on until there is an element `wanted` or `parent` is closed; false when the pass halts before. What changes with
-// every tag is kept at hand meanwhile.
+// Goes on until there is an element `wanted` or `parent` is closed, and from there on to the end of the marks at hand;
+// false when the pass halts before. What changes with every tag is kept in variables meanwhile.
 bool axmElementIndex::pass(Id const wanted, Id const parent)
 {
   if (halted)
@@ -101,24 +104,6 @@ bool axmElementIndex::pass(Id const wanted, Id const parent)
   Id closed = last_closed;
   Id count_so_far = used;
 
-  // The place of the next `<`, `>` or NUL.
-  auto const next_mark = [&]
-  {
-    while (bits == 0)
-    {
-      if (++block == axmMarks::blocks)
-      {
-        marks_begin += axmMarks::bytes;
-        find_marks();
-        block = 0;
-      }
-      block_begin = marks_begin + static_cast<Place>(block * axmMarks::block_bytes);
-      bits = marks[block];
-    }
-    Place const at = block_begin + static_cast<Place>(lowest_bit(bits));
-    bits &= bits - 1;
-    return at;
-  };
   auto const put_back = [&]
   {
     block_marks = bits;
@@ -126,12 +111,43 @@ bool axmElementIndex::pass(Id const wanted, Id const parent)
     last_closed = closed;
     used = count_so_far;
   };
+  auto const has_come_far_enough = [&]
+  { return wanted < count_so_far || (parent != none && (*this)[parent].is_closed()); };
+  auto const next_block = [&]
+  {
+    if (++block == axmMarks::blocks)
+    {
+      marks_begin += axmMarks::bytes;
+      find_marks();
+      block = 0;
+    }
+    block_begin = marks_begin + static_cast<Place>(block * axmMarks::block_bytes);
+    bits = marks[block];
+  };
+  // The place of the next `<`, `>` or NUL.
+  auto const next_mark = [&]
+  {
+    while (bits == 0)
+      next_block();
+    Place const at = block_begin + static_cast<Place>(lowest_bit(bits));
+    bits &= bits - 1;
+    return at;
+  };
 
   for (;;)
   {
-    Place at = next_mark();
-    while (bytes[at] == '>')
-      at = next_mark();
+    while (bits == 0)
+    {
+      if (block == axmMarks::blocks - 1 && has_come_far_enough())
+      {
+        put_back();
+        return true;
+      }
+      next_block();
+    }
+    Place const at = next_mark();
+    if (bytes[at] == '>')
+      continue;
     if (bytes[at] == '\0')
       break;
 
@@ -140,7 +156,7 @@ bool axmElementIndex::pass(Id const wanted, Id const parent)
     {
       put_back();
       if (!pass_special(at))
-        return halt();
+        break;
       bits = block_marks;
       block_begin = marks_begin + static_cast<Place>(block * axmMarks::block_bytes);
       continue;
@@ -155,43 +171,46 @@ bool axmElementIndex::pass(Id const wanted, Id const parent)
 
     if (kind == '/')
     {
-      Entry& passed = entry(innermost);
-      if (!matches(passed, at + 2, tag_end))
+      Element& passed = element(innermost);
+      if (!matches(passed.start(), at + 2, tag_end))
         break;
       closed = innermost;
-      innermost = passed.next;
-      passed.end = tag_end + 1;
-      passed.next = count_so_far;
+      innermost = passed.next_and_flag;
+      passed.end_and_flag = tag_end + 1;
+      passed.next_and_flag = count_so_far;
     }
     else
     {
-      if (count_so_far >> page_shift == pages.size() && !make_room())
+      if (count_so_far == room && !make_room())
         break;
-      Entry& opened = entry(count_so_far);
+      Element& opened = element(count_so_far);
+      opened.start_and_flag = at;
       if (bytes[tag_end - 1] == '/')
       {
         closed = count_so_far;
-        opened = {at, tag_end + 1, tag_end + 1, count_so_far + 1};
+        opened.end_and_flag = tag_end + 1;
+        opened.next_and_flag = (count_so_far + 1) | flag;
       }
       else
       {
-        opened = {at, tag_end + 1, 0, innermost};
+        opened.end_and_flag = 0;
+        opened.next_and_flag = innermost;
         innermost = count_so_far;
         closed = none;
       }
       ++count_so_far;
     }
     frontier = tag_end + 1;
-    if (innermost == none)
-      halted = true; // the root is closed, and is all there is
-    if (wanted < count_so_far || (parent == closed && closed != none) || halted)
+    if (innermost == none) // the root is closed, and is all there is
     {
       put_back();
+      halted = true;
       return true;
     }
   }
   put_back();
-  return halt();
+  halted = true;
+  return has_come_far_enough();
 }
 
 // Passes a comment or a CDATA section.
@@ -203,7 +222,10 @@ bool axmElementIndex::pass_special(Place at)
   if (!pass_marked(content, is_comment ? '-' : ']', behind))
     return false;
   if (!is_comment && std::memchr(text + content, '<', behind - content) != nullptr)
-    (last_closed == none ? entry(open).content : entry(last_closed).end) |= flag;
+  {
+    (last_closed == none ? element(open).start_and_flag : element(last_closed).end_and_flag) |= flag;
+    markup_in_sections = true;
+  }
   seek(behind);
   return true;
 }
@@ -230,9 +252,9 @@ bool axmElementIndex::pass_marked(Place from, char mark, Place& behind) const
 }
 
 // Whether the name that ends at the first space from `name` on, at `tag_end` at the latest, is that of an opened element.
-inline bool axmElementIndex::matches(Entry const& opened, Place name, Place tag_end) const
+inline bool axmElementIndex::matches(Place start, Place name, Place tag_end) const
 {
-  char const* const open_name = text + opened.start + 1;
+  char const* const open_name = text + start + 1;
   Place const length = tag_end - name;
   // Without a space in the name, which is the rule, its length need not be looked for; with one, names that are equal
   // beyond it are equal up to it.
@@ -243,24 +265,34 @@ inline bool axmElementIndex::matches(Entry const& opened, Place name, Place tag_
   return name_length == open_length && std::memcmp(open_name, text + name, name_length) == 0;
 }
 
+// Takes one page more into use. There is always a quarter more of them, so that allocations stay few.
 bool axmElementIndex::make_room()
+{
+  std::size_t const in_use = room >> page_shift;
+  if (in_use == pages.size() && !add_pages(in_use / 4 + 1))
+    return false;
+  if (in_use > 0)
+    apMemory::will_fill(pages[in_use], page_size * sizeof(Element));
+  room += page_size;
+  return true;
+}
+
+bool axmElementIndex::add_pages(std::size_t count)
 {
   try
   {
-    std::unique_ptr<Entry[]> page(new Entry[1u << page_shift]);
-    pages.push_back(std::move(page));
+    pages.reserve(pages.size() + count);
+    std::unique_ptr<Element[]> block_of_pages(new Element[count * page_size]);
+    Element* page = block_of_pages.get();
+    blocks_of_pages.push_back(std::move(block_of_pages));
+    for (; count > 0; --count, page += page_size)
+      pages.push_back(page);
     return true;
   }
   catch (std::bad_alloc const&)
   {
     return false;
   }
-}
-
-bool axmElementIndex::halt()
-{
-  halted = true;
-  return false;
 }
 
 // Goes on from `place`.

@@ -2,158 +2,113 @@
 
 #include "axmFind.h"
 #include "axmPositionSteps.h"
+#include "axmText.h"
 
 #include <axmEndException.h>
 
+#include <algorithm>
+#include <cstring>
 #include <new>
 
 namespace
 {
-utString text_between(char const* begin, char const* end)
+// Those bits of a word that are its first `count` bytes in memory, fewer than all.
+std::uint64_t first_bytes(std::size_t count)
 {
-  return utString(begin, static_cast<int>(end - begin));
+#if defined(__BYTE_ORDER__) && __BYTE_ORDER__ == __ORDER_BIG_ENDIAN__
+  return ~(~std::uint64_t(0) >> (8 * count));
+#else
+  return ~(~std::uint64_t(0) << (8 * count));
+#endif
 }
 }
 
 axmElementWalk::axmElementWalk(char const* given, int given_size)
   : text(const_cast<char*>(given)),
     text_end(given + given_size),
-    size(static_cast<Place>(given_size))
+    size(static_cast<Place>(given_size)),
+    attributes(text_end)
 {
 }
 
-bool axmElementWalk::down_to_root(axmPositionX& document, utString const& name, axmPositionX& root)
+void axmElementWalk::add_cursor(axmPositionX& cursor)
 {
-  make_room(0);
+  Standing const nowhere = {axmElementIndex::none, axmElementIndex::none, axmElementIndex::none, true};
+  if (!levels.append({&cursor, nowhere, false, 0}))
+    throw std::bad_alloc();
+}
+
+bool axmElementWalk::down_to_root(axmPositionX& document, utString const& name)
+{
   if (!document.find_sub_tag(name))
     return false;
-  Place const place = place_of(document);
-  if (index.count() == 0 || index.start(0) != place)
+  Place const place = place_of(document.current_pos);
+  if (index.count() == 0 || index[0].start() != place)
     index.restart(text, size, place);
-  enter(index.count() == 0 ? axmElementIndex::none : 0, document, root);
-  levels[0] = at_start_of(index.count() == 0 ? axmElementIndex::none : 0);
+  Id const id = index.count() == 0 ? axmElementIndex::none : 0;
+  enter(id, document, 0, *levels[0].cursor);
+  levels[0].standing = at_start_of(id);
+  levels[0].has_traces = false;
   return true;
 }
 
-bool axmElementWalk::down_to_child(axmPositionX& parent, int depth, utString const& name, axmPositionX& child)
+bool axmElementWalk::down_to_child(int depth, utString const& name)
 {
-  make_room(depth + 1);
   Level& level = levels[depth];
-  axmTagName const wanted = axmTagName::of(name);
-  if (!(level.by_itself ? find_child_step_by_step(parent, level, wanted) : find_child(parent, level, wanted)))
+  Wanted const wanted(name);
+  if (!(level.standing.by_itself ? find_child_step_by_step(level, wanted.name) : find_child(level, wanted)))
     return false;
-  Id const id = level.by_itself ? index.find(place_of(parent)) : level.upcoming;
-  enter(id, parent, child);
-  levels[depth + 1] = at_start_of(id);
+  Id const id = level.standing.by_itself ? index.find(place_of(level.cursor->current_pos)) : level.standing.upcoming;
+  enter(id, *level.cursor, wanted.is_plain ? static_cast<Place>(wanted.name.length()) : 0, *levels[depth + 1].cursor);
+  levels[depth + 1].standing = at_start_of(id);
+  levels[depth + 1].has_traces = false;
   return true;
 }
 
-void axmElementWalk::pass_child(axmPositionX& parent, int depth)
+void axmElementWalk::pass_child(int depth)
 {
-  Id const id = levels[depth + 1].element;
+  Level& level = levels[depth];
+  axmPositionX& cursor = *level.cursor;
+  Id const id = levels[depth + 1].standing.element;
   if (id == axmElementIndex::none || !index.reach_end(id))
   {
-    levels[depth].by_itself = true;
-    return parent.skip_object();
+    level.standing.by_itself = true;
+    level.has_traces = false;
+    cursor.skip_object();
   }
-  parent.current_pos = text + index.end(id);
-  levels[depth].upcoming = index.next(id);
-  levels[depth].passed = id;
-}
-
-void axmElementWalk::pass_children(axmPositionX& root)
-{
-  // No tag has a NUL in its name.
-  static char const no_name[] = "";
-  Level& level = levels[0];
-  axmTagName const none = {no_name, no_name + 1};
-  if (level.by_itself)
-    find_child_step_by_step(root, level, none);
   else
-    find_child(root, level, none);
-}
-
-inline char const* axmElementWalk::skip_space(char const* at) const
-{
-  while (*at == ' ' || *at == '\t' || *at == '\n' || *at == '\r')
-    ++at;
-  if (*at == '\0')
-    throw axmEndException();
-  return at;
-}
-
-// The place where the attributes of a tag begin.
-inline char const* axmElementWalk::first_attribute(char const* start) const
-{
-  char const* at = start;
-  while (*at != ' ' && *at != '>')
-    if (*at++ == '\0')
-      throw axmEndException();
-  return skip_space(at);
-}
-
-// The attribute at `at`, as axmPositionX::find_attribute() takes it.
-inline void axmElementWalk::read_attribute(char const* at, Attribute& found) const
-{
-  char const* const name_end = axm_find(at, text_end, '=');
-  if (*name_end == '\0' || name_end[1] == '\0' || name_end[2] == '\0')
-    throw axmEndException();
-  char const* const value = name_end + 2;
-  char const* const value_end = axm_find(value, text_end, name_end[1]);
-  if (*value_end == '\0' || value_end[1] == '\0')
-    throw axmEndException();
-  found.name = {at, name_end};
-  found.value = value;
-  found.value_end = value_end;
-  found.behind = skip_space(value_end + 1);
-}
-
-utString axmElementWalk::attribute(axmPositionX const& element, utString const& name, utString const& default_value)
-{
-  if (tag.start != element.object_start)
   {
-    tag.start = nullptr;
-    tag.rest = first_attribute(element.object_start);
-    tag.start = element.object_start;
-    tag.count = 0;
+    axmElementIndex::Element const& child = index[id];
+    cursor.current_pos = text + child.end();
+    level.standing.upcoming = child.next();
+    level.standing.passed = id;
   }
-
-  axmTagName const wanted = axmTagName::of(name);
-  for (Attribute const* known = tag.attributes; known != tag.attributes + tag.count; ++known)
-    if (known->name == wanted)
-      return text_between(known->value, known->value_end);
-
-  char const* at = tag.rest;
-  while (*at != '>')
-  {
-    if (*at == '/')
-    {
-      Search const& search = search_beyond(at, name);
-      return search.value == nullptr ? default_value : text_between(search.value, search.value_end);
-    }
-    Attribute& found = tag.attributes[tag.count];
-    read_attribute(at, found);
-    at = found.behind;
-    if (tag.count < Tag::most)
-    {
-      ++tag.count;
-      tag.rest = at;
-    }
-    if (found.name == wanted)
-      return text_between(found.value, found.value_end);
-  }
-  return default_value;
+  tag = cursor.object_start;
 }
 
-utString axmElementWalk::text_node(axmPositionX& element, int depth)
+void axmElementWalk::pass_children()
+{
+  Level& level = levels[0];
+  if (!level.standing.by_itself && index.reach_end(level.standing.element) && !index.has_markup_in_sections())
+  {
+    return_to_start(level);
+    return;
+  }
+  // No tag has a NUL in its name.
+  char const no_name[] = "";
+  find_child_step_by_step(level, {no_name, no_name + 1});
+}
+
+utString axmElementWalk::text_node(int depth)
 {
   Level& level = levels[depth];
-  level.upcoming = axmElementIndex::none;
+  axmPositionX& element = *level.cursor;
+  level.standing.upcoming = axmElementIndex::none;
 
   // Most often a text is all there is up to the next tag.
-  char* at = element.current_pos;
-  while (*at == ' ' || *at == '\t' || *at == '\n' || *at == '\r')
-    ++at;
+  char const* at = element.current_pos;
+  if (static_cast<unsigned char>(*at) <= ' ')
+    at = axm_find_no_space(at, text_end);
   if (*at != '<' && *at != '\0')
   {
     char const* const next = axm_find(at, text_end, '<');
@@ -161,176 +116,221 @@ utString axmElementWalk::text_node(axmPositionX& element, int depth)
     {
       char const* const begin = element.current_pos;
       element.current_pos = text + (next - text);
-      return text_between(begin, next);
+      return axm_text(begin, next, text_end);
     }
   }
   return element.text_of([&](auto& sink) { return element.pass_text_node(sink, [&] { skip(element); }); });
 }
 
-// What a search for `name` from `at` on, a place behind an attribute, comes to.
-axmElementWalk::Search const& axmElementWalk::search_beyond(char const* at, utString const& name)
+inline axmElementWalk::Wanted::Wanted(utString const& given) : name(axmTagName::of(given))
 {
-  Search& known = search_of(name);
-  Attribute found;
-  if (known.at <= at && at <= known.end)
+  std::size_t const length = static_cast<std::size_t>(given.length());
+  std::memcpy(&word, name.begin, sizeof word);
+  if (length <= sizeof word)
   {
-    while (known.at < at)
-    {
-      read_attribute(known.at, found);
-      known.at = found.behind;
-    }
-    if (known.at == at)
-      return known;
+    mask = length < sizeof word ? first_bytes(length) : ~std::uint64_t(0);
+    word &= mask;
+    // No byte is a `>` when none is 0 where `>` has been taken away.
+    std::uint64_t const low_bits = 0x0101010101010101u;
+    std::uint64_t const without = word ^ (low_bits * '>');
+    is_plain = ((without - low_bits) & ~without & (low_bits << 7)) == 0;
   }
-
-  axmTagName const wanted = axmTagName::of(name);
-  Search search = {name, at, at, nullptr, nullptr};
-  while (*search.end != '>')
+  else
   {
-    read_attribute(search.end, found);
-    if (found.name == wanted)
-    {
-      search.value = found.value;
-      search.value_end = found.value_end;
-      break;
-    }
-    search.end = found.behind;
+    mask = ~std::uint64_t(0);
+    is_plain = std::memchr(name.begin, '>', length) == nullptr;
   }
-  return search_of(name) = search;
 }
 
-// What is kept for `name`. Whoever looks for very many names that are not there gets the place of another one.
-axmElementWalk::Search& axmElementWalk::search_of(utString const& name)
+// Whether no child has such a name; only for some of those names that no child has.
+inline bool axmElementWalk::is_without_trace(Level const& level, Wanted const& wanted)
 {
-  std::size_t const most = 64;
-  axmTagName const wanted = axmTagName::of(name);
-  for (Search& search : searches)
-    if (axmTagName::of(search.name) == wanted)
-      return search;
-  Search const nothing = {name, text_end, nullptr, nullptr, nullptr};
-  if (searches.size() < most)
-  {
-    searches.push_back(nothing);
-    return searches.back();
-  }
-  next_search = (next_search + 1) % most;
-  return searches[next_search] = nothing;
+  return level.has_traces && wanted.is_plain && wanted.name.length() >= 2 &&
+         (level.traces & trace_of(wanted.name.begin)) == 0;
+}
+
+inline std::uint64_t axmElementWalk::trace_of(char const* name)
+{
+  unsigned const number = static_cast<unsigned char>(name[0]) * 5u + static_cast<unsigned char>(name[1]);
+  return std::uint64_t(1) << (number % 64);
 }
 
 // Behind the opening tag of an element. What is read from a self-closing element is not in it.
-axmElementWalk::Level axmElementWalk::at_start_of(Id element) const
+inline axmElementWalk::Standing axmElementWalk::at_start_of(Id id) const
 {
-  if (element == axmElementIndex::none || index.is_self_closing(element))
-    return {element, axmElementIndex::none, axmElementIndex::none, true};
-  return {element, element + 1, element, false};
+  if (id == axmElementIndex::none)
+    return {id, axmElementIndex::none, axmElementIndex::none, true};
+  axmElementIndex::Element const& element = index[id];
+  if (element.is_closed() && element.is_self_closing())
+    return {id, axmElementIndex::none, axmElementIndex::none, true};
+  return {id, id + 1, id, false};
 }
 
 // Moves to the next child of that name by the index.
-bool axmElementWalk::find_child(axmPositionX& parent, Level& level, axmTagName const& name)
+[[gnu::always_inline]] inline bool axmElementWalk::find_child(Level& level, Wanted const& wanted)
 {
-  if (level.upcoming == axmElementIndex::none)
-    find_upcoming(parent, level);
-  Id const element = level.element;
-  Id child = level.upcoming;
-  Id passed = level.passed;
+  if (is_without_trace(level, wanted))
+    return return_to_start(level);
+
+  Standing& standing = level.standing;
+  axmPositionX& cursor = *level.cursor;
+  if (standing.upcoming == axmElementIndex::none)
+    find_upcoming(level);
+  Id const id = standing.element;
+  Id child = standing.upcoming;
+  Id passed = standing.passed;
+  bool const sees_all = passed == id;
+  std::uint64_t traces = 0;
   for (;;)
   {
-    if (!index.reach_child(element, child) || has_markup_in_section(level, passed))
-      return find_child_step_by_step(parent, level, name);
-    if (index.is_closed(element) && child >= index.next(element))
+    if (!index.reach_child(id, child) || (index.has_markup_in_sections() && has_markup_in_section(standing, passed)))
+      break;
+    if (index[id].is_closed() && child >= index[id].next())
     {
-      level = at_start_of(element);
-      parent.current_pos = text + index.content(element);
-      return false;
+      if (sees_all)
+      {
+        level.has_traces = true;
+        level.traces = traces;
+      }
+      return return_to_start(level);
     }
-    parent.current_pos = text + index.start(child);
-    passed = axmElementIndex::none;
-    if (is_named(child, name))
+    Place const start = index[child].start();
+    cursor.current_pos = text + start;
+    if (is_named(start, wanted))
     {
-      level.upcoming = child;
-      level.passed = axmElementIndex::none;
+      standing.upcoming = child;
+      standing.passed = axmElementIndex::none;
       return true;
     }
+    traces |= trace_of(cursor.current_pos + 1);
     if (!index.reach_end(child))
-      return find_child_step_by_step(parent, level, name);
-    parent.current_pos = text + index.end(child);
+      break;
     passed = child;
-    child = index.next(child);
+    child = index[child].next();
+    if (!index.has_markup_in_sections())
+      pass_others(id, wanted, passed, child, traces);
+    cursor.current_pos = text + index[passed].end();
   }
+  return find_child_step_by_step(level, wanted.name);
+}
+
+// Passes the children of an element, from one behind a closed one on, as long as they are closed and have other names.
+void axmElementWalk::pass_others(Id id, Wanted const& wanted, Id& passed, Id& child, std::uint64_t& traces) const
+{
+  Id const behind = index[id].is_closed() ? index[id].next() : index.count();
+  if (child >= behind)
+    return;
+  axmElementIndex::Element const* element = &index[child];
+  while (element->is_closed() && !is_named(element->start(), wanted))
+  {
+    traces |= trace_of(text + element->start() + 1);
+    passed = child;
+    child = element->next();
+    if (child >= behind)
+      break;
+    element = index.moved(element, passed, child);
+  }
+}
+
+// Back behind the opening tag of an element that the index knows; there is no such child.
+bool axmElementWalk::return_to_start(Level& level)
+{
+  level.cursor->current_pos = text + place_of(content_of(level.standing.element, 0));
+  level.standing = at_start_of(level.standing.element);
+  return false;
 }
 
 // The same by the steps of the cursor. Where these find something, the element may have been left: a closing tag in a
 // CDATA section is one to them.
-bool axmElementWalk::find_child_step_by_step(axmPositionX& parent, Level& level, axmTagName const& name)
+bool axmElementWalk::find_child_step_by_step(Level& level, axmTagName const& name)
 {
-  level.by_itself = true;
-  if (parent.find_sub_tag_by(name, [&] { skip(parent); }))
+  axmPositionX& cursor = *level.cursor;
+  level.standing.by_itself = true;
+  level.has_traces = false;
+  if (cursor.find_sub_tag_by(name, [&] { skip(cursor); }))
     return true;
-  level = at_start_of(level.element);
+  level.standing = at_start_of(level.standing.element);
   return false;
 }
 
 // Finds out where a cursor stands after it has read text: on a tag, or back behind the opening tag.
-void axmElementWalk::find_upcoming(axmPositionX const& cursor, Level& level) const
+void axmElementWalk::find_upcoming(Level& level) const
 {
-  Place const place = place_of(cursor);
-  if (place == index.content(level.element))
-    level = at_start_of(level.element);
+  Place const place = place_of(level.cursor->current_pos);
+  if (place == place_of(content_of(level.standing.element, 0)))
+    level.standing = at_start_of(level.standing.element);
   else
   {
-    level.upcoming = index.first_from(place);
-    level.passed = axmElementIndex::none;
+    level.standing.upcoming = index.first_from(place);
+    level.standing.passed = axmElementIndex::none;
   }
 }
 
-bool axmElementWalk::has_markup_in_section(Level const& level, Id passed) const
+bool axmElementWalk::has_markup_in_section(Standing const& standing, Id passed) const
 {
   if (passed == axmElementIndex::none)
     return false;
-  return passed == level.element ? index.has_markup_in_section_at_start(passed)
-                                 : index.has_markup_in_section_behind(passed);
+  return passed == standing.element ? index.has_markup_in_section_at_start(passed)
+                                    : index.has_markup_in_section_behind(passed);
 }
 
-// As axmPositionX::is_tag_name() has it.
-inline bool axmElementWalk::is_named(Id id, axmTagName const& name) const
+// As axmPositionX::is_tag_name() has it, for a tag that the index knows: behind its `>` is at least one character, so a
+// comparison that does not go on behind the `>` does not come to the end of the document.
+inline bool axmElementWalk::is_named(Place start, Wanted const& wanted) const
 {
-  char const* at = text + index.start(id) + 1;
-  for (char const* wanted = name.begin; wanted != name.end; ++wanted, ++at)
-  {
-    if (at[0] == '\0' || at[1] == '\0')
-      return axmPositionX(text + index.start(id)).is_tag_named(name); // which throws
-    if (*at != *wanted)
+  char const* const name = text + start + 1;
+  if (!wanted.is_plain || text_end - name < static_cast<std::ptrdiff_t>(sizeof wanted.word))
+    return axmPositionX(text + start).is_tag_named(wanted.name);
+  std::uint64_t word;
+  std::memcpy(&word, name, sizeof word);
+  if ((word & wanted.mask) != wanted.word)
+    return false;
+  char const* at = name + sizeof word;
+  for (char const* rest = wanted.name.begin + sizeof word; rest < wanted.name.end; ++rest, ++at)
+    if (*at != *rest)
       return false;
-  }
   return true;
 }
 
 // Moves a cursor past the element on which it stands.
 void axmElementWalk::skip(axmPositionX& cursor)
 {
-  Id const id = index.count() == 0 ? axmElementIndex::none : index.find(place_of(cursor));
+  Id const id = index.count() == 0 ? axmElementIndex::none : index.find(place_of(cursor.current_pos));
   if (id == axmElementIndex::none || !index.reach_end(id))
     return cursor.skip_object();
-  cursor.current_pos = text + index.end(id);
+  cursor.current_pos = text + index[id].end();
+}
+
+// Behind the opening tag of an element that the index knows; `name_length` characters behind its `<` are part of its name.
+inline char const* axmElementWalk::content_of(Id id, Place name_length) const
+{
+  axmElementIndex::Element const& element = index[id];
+  if (element.is_closed() && element.is_self_closing())
+    return text + element.end();
+  char const* const name_end = text + element.start() + 1 + name_length;
+  return (*name_end == '>' ? name_end : axm_find(name_end, text_end, '>')) + 1;
 }
 
 // Makes `child` stand in the content of the element on which `parent` stands.
-void axmElementWalk::enter(Id id, axmPositionX& parent, axmPositionX& child)
+inline void axmElementWalk::enter(Id id, axmPositionX const& parent, Place name_length, axmPositionX& child)
 {
   child.object_start = parent.current_pos;
   child.current_pos = parent.current_pos;
   if (id == axmElementIndex::none)
-    return child.object_setup();
-  child.current_pos = text + (skip_space(text + index.content(id)) - text);
+    child.object_setup();
+  else
+  {
+    char const* content = content_of(id, name_length);
+    if (static_cast<unsigned char>(*content) <= ' ')
+      content = axm_find_no_space(content, text_end);
+    if (*content == '\0')
+      throw axmEndException();
+    child.current_pos = text + place_of(content);
+  }
+  tag = child.object_start;
 }
 
-void axmElementWalk::make_room(int depth)
+axmElementWalk::Place axmElementWalk::place_of(char const* at) const
 {
-  if (depth >= levels.count() && !levels.set_count(depth + 1))
-    throw std::bad_alloc();
-}
-
-axmElementWalk::Place axmElementWalk::place_of(axmPositionX const& cursor) const
-{
-  return static_cast<Place>(cursor.current_pos - text);
+  return static_cast<Place>(at - text);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "axmAttributes.h"
 #include "axmElementIndex.h"
 #include "axmTagName.h"
 
@@ -7,42 +8,51 @@
 #include <coDynArr.h>
 #include <utString.h>
 
-#include <cstddef>
-#include <vector>
+#include <cstdint>
 
 // Moves the cursors of a reader as they would move themselves, with the help of an index of the elements: an element that
 // has been passed once is never scanned again. Where the index does not tell, the cursors take their own steps.
 //
-// It refers to the text of the reader. Cursors and their depths (0 for that of the outermost element) are the reader's;
-// here is only what can be told again from the cursors and the text. Not installed.
+// It refers to the text and the cursors of the reader, of which there is one for each depth (0 for that of the outermost
+// element). What is kept here can be told again from the cursors and the text. Not installed.
 class axmElementWalk
 {
 public:
   // A walk over the `size` bytes before the NUL at the end of `text`.
   axmElementWalk(char const* text, int size);
 
-  // Moves the cursor of the document to the next root element of that name, and makes `root` stand in its content.
-  bool down_to_root(axmPositionX& document, utString const& name, axmPositionX& root);
+  bool has_cursor(int depth) const { return depth < levels.count(); }
 
-  // The same for a child, from the cursor at `depth` on.
-  bool down_to_child(axmPositionX& parent, int depth, utString const& name, axmPositionX& child);
+  // The cursor for the next depth, which must stay where it is. Throws std::bad_alloc when memory runs out.
+  void add_cursor(axmPositionX& cursor);
+
+  // Moves the cursor of the document to the next root element of that name, and makes that at depth 0 stand in its
+  // content.
+  bool down_to_root(axmPositionX& document, utString const& name);
+
+  // The same for a child, from the cursor at `depth` on: makes that at the next depth stand in its content.
+  bool down_to_child(int depth, utString const& name);
 
   // Moves the cursor at `depth`, which stands on a child, behind that child.
-  void pass_child(axmPositionX& parent, int depth);
+  void pass_child(int depth);
 
   // Moves the cursor at depth 0 past all children that are left, and back behind its opening tag.
-  void pass_children(axmPositionX& root);
+  void pass_children();
 
-  utString attribute(axmPositionX const& element, utString const& name, utString const& default_value);
+  // An attribute of the element entered last, or come back to.
+  utString attribute(utString const& name, utString const& default_value)
+  {
+    return attributes.value(tag, name, default_value);
+  }
 
-  utString text_node(axmPositionX& element, int depth);
+  utString text_node(int depth);
 
 private:
   using Place = axmElementIndex::Place;
   using Id = axmElementIndex::Id;
 
   // What is known about a cursor: its element, and where in the content it stands.
-  struct Level
+  struct Standing
   {
     Id element;     // none where the index does not know it
     Id upcoming;    // the first child that is not passed yet, as soon as the index has come to it; none if not known
@@ -50,63 +60,50 @@ private:
     bool by_itself; // whether the cursor has to take its own steps
   };
 
-  // The search for an attribute beyond its tag, which a self-closing tag without that attribute sends on its way. From
-  // the place behind an attribute on, it depends on that place and the name alone: a search that comes to a place where
-  // an earlier one has been ends as that one did. Of the earlier one it is enough to follow its way, once.
-  struct Search
+  struct Level
   {
-    utString name;
-    char const* at;    // a place on its way
-    char const* end;   // the last one
-    char const* value; // what it found, null if it found nothing
-    char const* value_end;
+    axmPositionX* cursor;
+    Standing standing;
+
+    // What the names of all children begin with, one bit of 64 for the first two characters, as soon as a search in vain
+    // has seen them all: another name of which there is no trace need not be looked for.
+    bool has_traces;
+    std::uint64_t traces;
   };
 
-  // An attribute as it stands in a tag, and the place behind it.
-  struct Attribute
+  // A name to look for, and what speeds that up.
+  struct Wanted
   {
+    explicit Wanted(utString const& given);
+
     axmTagName name;
-    char const* value;
-    char const* value_end;
-    char const* behind;
+    std::uint64_t word; // the first eight bytes, 0 where there are fewer
+    std::uint64_t mask; // those that count
+    bool is_plain;      // without `>`: it cannot be found beyond a tag
   };
 
-  // What has been read of an opening tag: the attributes in front, and the place where reading goes on. Each is read once,
-  // however many are asked for.
-  struct Tag
-  {
-    static constexpr int most = 16;
+  static std::uint64_t trace_of(char const* name);
+  static bool is_without_trace(Level const& level, Wanted const& wanted);
 
-    char const* start = nullptr; // none yet
-    char const* rest = nullptr;
-    int count = 0;
-    Attribute attributes[most + 1] = {}; // the last one for those for which there is no room
-  };
-
-  char const* first_attribute(char const* start) const;
-  void read_attribute(char const* at, Attribute& found) const;
-  char const* skip_space(char const* at) const;
-  Search const& search_beyond(char const* at, utString const& name);
-  Search& search_of(utString const& name);
-
-  Level at_start_of(Id element) const;
-  bool find_child(axmPositionX& parent, Level& level, axmTagName const& name);
-  bool find_child_step_by_step(axmPositionX& parent, Level& level, axmTagName const& name);
-  void find_upcoming(axmPositionX const& cursor, Level& level) const;
-  bool has_markup_in_section(Level const& level, Id passed) const;
-  bool is_named(Id id, axmTagName const& name) const;
+  Standing at_start_of(Id element) const;
+  bool find_child(Level& level, Wanted const& wanted);
+  void pass_others(Id id, Wanted const& wanted, Id& passed, Id& child, std::uint64_t& traces) const;
+  bool return_to_start(Level& level);
+  bool find_child_step_by_step(Level& level, axmTagName const& name);
+  void find_upcoming(Level& level) const;
+  bool has_markup_in_section(Standing const& standing, Id passed) const;
+  bool is_named(Place start, Wanted const& wanted) const;
   void skip(axmPositionX& cursor);
-  void enter(Id id, axmPositionX& parent, axmPositionX& child);
-  void make_room(int depth);
+  void enter(Id id, axmPositionX const& parent, Place name_length, axmPositionX& child);
+  char const* content_of(Id id, Place name_length) const;
 
-  Place place_of(axmPositionX const& cursor) const;
+  Place place_of(char const* at) const;
 
   char* text;
   char const* text_end; // the NUL
   Place size;
+  char const* tag = nullptr; // where the current element begins
   axmElementIndex index;
   coDynArr<Level> levels;
-  Tag tag;
-  std::vector<Search> searches;
-  std::size_t next_search = 0;
+  axmAttributes attributes;
 };

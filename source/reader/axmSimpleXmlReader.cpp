@@ -38,10 +38,10 @@ void axmSimpleXmlReader::up()
   try
   {
     if (depth == 1)
-      walk->pass_children(top());
+      walk->pass_children();
     positions.shrink(depth - 1, 0);
     if (depth > 1)
-      walk->pass_child(top(), depth - 2);
+      walk->pass_child(depth - 2);
   }
   catch (axmException const& error)
   {
@@ -51,7 +51,7 @@ void axmSimpleXmlReader::up()
 
 bool axmSimpleXmlReader::down_to(utString const& name)
 {
-  if (has_error_occurred())
+  if (error_flag)
     return false;
   if (!initial_position)
   {
@@ -61,9 +61,9 @@ bool axmSimpleXmlReader::down_to(utString const& name)
   try
   {
     int const depth = positions.count();
-    axmPositionX& child = cursor_above(depth);
-    if (!(depth == 0 ? walk->down_to_root(*initial_position, name, child)
-                     : walk->down_to_child(top(), depth - 1, name, child)))
+    if (!walk->has_cursor(depth))
+      add_cursor(depth);
+    if (!(depth == 0 ? walk->down_to_root(*initial_position, name) : walk->down_to_child(depth - 1, name)))
       return false;
     positions[depth]; // takes it into use
     return true;
@@ -81,7 +81,7 @@ utString axmSimpleXmlReader::attribute(utString const& name, utString const& def
     return default_value;
   try
   {
-    return walk->attribute(top(), name, default_value);
+    return walk->attribute(name, default_value);
   }
   catch (axmException const& error)
   {
@@ -96,7 +96,7 @@ utString axmSimpleXmlReader::text_node()
     return ut_lit("");
   try
   {
-    return walk->text_node(top(), positions.count() - 1);
+    return walk->text_node(positions.count() - 1);
   }
   catch (axmException const& error)
   {
@@ -177,17 +177,12 @@ bool axmSimpleXmlReader::is_inside()
   return false;
 }
 
-axmPositionX& axmSimpleXmlReader::top()
-{
-  return *positions[positions.count() - 1];
-}
-
-// The cursor in the slot above the stack, where an earlier way down may have left it.
-axmPositionX& axmSimpleXmlReader::cursor_above(int depth)
+// Puts a cursor in the slot above the stack, where an earlier walk may have left one, and hands it to the walk.
+void axmSimpleXmlReader::add_cursor(int depth)
 {
   axmPositionXcoPageArrPrgcoPrg& slot = positions[depth];
   positions.shrink(depth, 0);
   if (!slot)
     slot = new axmPositionX(nullptr);
-  return *slot;
+  walk->add_cursor(*slot);
 }

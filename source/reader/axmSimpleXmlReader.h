@@ -63,8 +63,7 @@ private:
   bool read_bytes(int size);
   bool read_declaration();
   bool is_inside();
-  axmPositionX& top();
-  axmPositionX& cursor_above(int depth);
+  void add_cursor(int depth);
 
   utString encoding_name;
   axmInitialPositionXcoPrg initial_position;

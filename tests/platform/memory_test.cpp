@@ -36,7 +36,7 @@ TEST(apString_memory, empty_texts_copies_and_moves_need_none)
 
 TEST(apString_memory, conversion_to_UTF_8_throws_and_leaks_nothing)
 {
-  apString const text(L"\u0444");
+  apString const text(L"\u0444 and more than has room in an object");
   EXPECT_EQ(fails_cleanly([&text] { utString const utf8 = text.to_utf8(); }), 1);
 }
 
@@ -79,7 +79,7 @@ TEST(apStringFormatter_memory, throws_and_leaks_nothing)
 TEST(apPath_memory, throws_and_leaks_nothing)
 {
   EXPECT_GT(fails_cleanly([] { apPath const path(L"a/path"); }), 0);
-  EXPECT_GT(fails_cleanly([] { apPath const path("a/path"); }), 0);
+  EXPECT_GT(fails_cleanly([] { apPath const path("a/path/that/is/too/long/to/lie/in/an/object"); }), 0);
 }
 
 TEST(apByteArray_memory, failed_growth_leaves_the_bytes)

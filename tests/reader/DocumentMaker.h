@@ -44,6 +44,34 @@ public:
     return pick({"a", "a", "ab", "abc", "b", "b", "item", "items", "Invalid", "Invalidated", "x:y", "?p", ""});
   }
 
+  // A document like those that are in use: elements with many children of few names and with many attributes, over many
+  // blocks. Most are not damaged.
+  std::string next_wide()
+  {
+    text = "<?xml version=\"1.0\"?>\n<root>";
+    std::size_t const kinds = below(9) + 1;
+    for (std::size_t i = below(60) + 1; i-- > 0;)
+      wide_element(3, kinds);
+    text += "</root>\n";
+    if (one_in(4))
+      damage_once();
+    return text;
+  }
+
+  // One of the first `kinds` names, if there are so many.
+  std::string wide_name(std::size_t kinds = 100)
+  {
+    char const* const names[] = {
+      "one", "two", "three", "o", "onetwo", "abcdefgh", "abcdefghi", "a_name_of_twenty_chars", "th", "line"};
+    return names[below(kinds < 10 ? kinds : 10)];
+  }
+
+  std::string wide_attribute()
+  {
+    return pick({"x", "id", "number", "a_name_of_16_char", "a_name_of_16_chars", "another_long_attribute", "n"}) +
+           (one_in(3) ? std::to_string(below(12)) : std::string());
+  }
+
   std::string attribute_name() { return pick({"id", "id", "i", "name", "n", "x", "absent", ""}); }
 
 private:
@@ -92,6 +120,28 @@ private:
     while (!one_in(3))
       content(depth);
     text += "</" + (one_in(40) ? element_name() : name) + pick({">", ">", ">", " >", "\n>", " x>"});
+  }
+
+  void wide_element(int depth, std::size_t kinds)
+  {
+    std::string const name = wide_name(kinds);
+    text += (one_in(3) ? "\n  <" : "<") + name;
+    for (std::size_t i = one_in(20) ? 90 : below(5); i-- > 0;)
+      text += " " + wide_attribute() + "=\"" + std::string(below(one_in(10) ? 60 : 12), 'v') + "\"";
+    if (one_in(4))
+    {
+      text += "/>";
+      return;
+    }
+    text += ">";
+    if (depth == 0 || one_in(3))
+      text += std::string(below(one_in(30) ? 3000 : 20), 't');
+    else
+      for (std::size_t i = one_in(10) ? 40 : below(6); i-- > 0;)
+        wide_element(depth - 1, kinds);
+    if (one_in(40))
+      text += pick({"<!--comment-->", "<![CDATA[text]]>", "<![CDATA[<one>]]>", "\n", "text"});
+    text += "</" + name + ">";
   }
 
   void content(int depth)

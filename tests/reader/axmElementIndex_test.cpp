@@ -8,6 +8,9 @@ namespace
 {
 using Id = axmElementIndex::Id;
 
+// More characters than are looked at together.
+std::string const far(2 * axmMarks::bytes, 'x');
+
 // An index of a document that begins with its root.
 class Index
 {
@@ -18,6 +21,7 @@ public:
   }
 
   axmElementIndex* operator->() { return &index; }
+  axmElementIndex::Element const& operator[](Id id) const { return index[id]; }
 
   std::string from(axmElementIndex::Place place) const { return text.substr(place); }
 
@@ -28,27 +32,35 @@ public:
 
 TEST(axmElementIndex, begins_with_the_root_and_goes_no_further)
 {
-  Index index("<r a='1'><a/></r>\n");
+  Index index("<r a='1'>" + far + "<a/></r>\n");
   EXPECT_EQ(index->count(), 1u);
-  EXPECT_EQ(index->start(0), 0u);
-  EXPECT_EQ(index.from(index->content(0)), "<a/></r>\n");
-  EXPECT_FALSE(index->is_closed(0));
+  EXPECT_EQ(index[0].start(), 0u);
+  EXPECT_FALSE(index[0].is_closed());
 }
 
 TEST(axmElementIndex, goes_on_only_as_far_as_asked)
 {
-  Index index("<r><a>x</a><b/><c/></r>\n");
+  Index index("<r><a>" + far + "</a>" + far + "<b/>" + far + "<c/></r>\n");
   EXPECT_TRUE(index->reach_child(0, 1));
   EXPECT_EQ(index->count(), 2u);
-  EXPECT_FALSE(index->is_closed(1));
+  EXPECT_FALSE(index[1].is_closed());
   EXPECT_TRUE(index->reach_end(1));
   EXPECT_EQ(index->count(), 2u);
-  EXPECT_EQ(index.from(index->end(1)), "<b/><c/></r>\n");
-  EXPECT_EQ(index->next(1), 2u);
+  EXPECT_EQ(index.from(index[1].end()).substr(0, 1), "x");
+  EXPECT_EQ(index[1].next(), 2u);
   EXPECT_TRUE(index->reach_child(0, 2));
   EXPECT_EQ(index->count(), 3u);
-  EXPECT_TRUE(index->is_self_closing(2));
-  EXPECT_FALSE(index->is_self_closing(1));
+  EXPECT_TRUE(index[2].is_self_closing());
+  EXPECT_FALSE(index[1].is_self_closing());
+}
+
+TEST(axmElementIndex, knows_what_stands_in_front_of_a_halt)
+{
+  Index index("<r><a></a><b></c></r>\n");
+  EXPECT_TRUE(index->reach_end(1));
+  EXPECT_TRUE(index->reach_child(0, 2));
+  EXPECT_FALSE(index->reach_child(0, 3));
+  EXPECT_FALSE(index->reach_end(2));
 }
 
 TEST(axmElementIndex, knows_where_children_end)
@@ -56,11 +68,11 @@ TEST(axmElementIndex, knows_where_children_end)
   Index index("<r><a><b/><c></c></a></r>\n");
   EXPECT_TRUE(index->reach_end(0));
   EXPECT_EQ(index->count(), 4u);
-  EXPECT_EQ(index->next(1), 4u);
-  EXPECT_EQ(index->next(2), 3u);
-  EXPECT_EQ(index->next(3), 4u);
-  EXPECT_EQ(index->next(0), 4u);
-  EXPECT_EQ(index.from(index->end(0)), "\n");
+  EXPECT_EQ(index[1].next(), 4u);
+  EXPECT_EQ(index[2].next(), 3u);
+  EXPECT_EQ(index[3].next(), 4u);
+  EXPECT_EQ(index[0].next(), 4u);
+  EXPECT_EQ(index.from(index[0].end()), "\n");
   EXPECT_TRUE(index->reach_child(0, 4)); // the root is closed
 }
 
@@ -126,16 +138,14 @@ TEST(axmElementIndex, marks_the_gaps_in_which_a_section_has_markup)
   EXPECT_TRUE(index->has_markup_in_section_behind(2));
   EXPECT_FALSE(index->has_markup_in_section_behind(3));
   EXPECT_FALSE(index->has_markup_in_section_at_start(2));
-  EXPECT_EQ(index.from(index->content(0)).substr(0, 9), "<![CDATA[");
-  EXPECT_EQ(index.from(index->end(2)).substr(0, 3), " <!");
-  EXPECT_EQ(index->next(2), 3u);
+  EXPECT_EQ(index.from(index[2].end()).substr(0, 3), " <!");
+  EXPECT_EQ(index[2].next(), 3u);
 }
 
 TEST(axmElementIndex, finds_elements_by_their_place)
 {
   Index index("<r><a><b/></a><c/></r>\n");
-  EXPECT_EQ(index->find(6), 2u); // goes as far as that
-  EXPECT_EQ(index->count(), 3u);
+  EXPECT_EQ(index->find(6), 2u);
   EXPECT_EQ(index->find(0), 0u);
   EXPECT_EQ(index->find(3), 1u);
   EXPECT_EQ(index->find(4), axmElementIndex::none);
@@ -146,13 +156,22 @@ TEST(axmElementIndex, finds_elements_by_their_place)
   EXPECT_EQ(index->first_from(15), index->count());
 }
 
+TEST(axmElementIndex, goes_as_far_as_the_place_asked_for)
+{
+  Index index("<r>" + far + "<a/>" + far + "<b/></r>\n");
+  EXPECT_EQ(index->find(static_cast<axmElementIndex::Place>(3 + far.size())), 1u);
+  EXPECT_EQ(index->count(), 2u);
+}
+
 TEST(axmElementIndex, forgets_everything_at_a_restart)
 {
-  Index index("<r><a/></r><s></t>\n");
+  Index index("<r><![CDATA[<]]></r>x<s></t>\n");
   EXPECT_TRUE(index->reach_end(0));
-  index->restart(index.text.c_str(), static_cast<axmElementIndex::Place>(index.text.size()), 11);
+  EXPECT_TRUE(index->has_markup_in_sections());
+  index->restart(index.text.c_str(), static_cast<axmElementIndex::Place>(index.text.size()), 21);
   EXPECT_EQ(index->count(), 1u);
-  EXPECT_EQ(index->start(0), 11u);
+  EXPECT_EQ(index[0].start(), 21u);
+  EXPECT_FALSE(index->has_markup_in_sections());
   EXPECT_FALSE(index->reach_end(0));
 }
 
@@ -166,8 +185,8 @@ TEST(axmElementIndex, holds_more_elements_than_a_page)
   EXPECT_EQ(index->count(), 20001u);
   for (Id id = 1; id < 20001; id += 2)
   {
-    ASSERT_EQ(index->start(id), 3 + 11 * (id / 2));
-    ASSERT_EQ(index->end(id), index->start(id) + 11);
-    ASSERT_EQ(index->next(id), id + 2);
+    ASSERT_EQ(index[id].start(), 3 + 11 * (id / 2));
+    ASSERT_EQ(index[id].end(), index[id].start() + 11);
+    ASSERT_EQ(index[id].next(), id + 2);
   }
 }

@@ -423,4 +423,48 @@ TEST_P(PlainModel, the_library_answers_as_the_plain_model_does)
   }
 }
 
+// Long walks over documents of some length, in which what the library remembers is of use.
+TEST_P(PlainModel, the_library_answers_as_the_plain_model_does_on_long_walks)
+{
+  for (int i = 0; i < documents_per_share / 130; ++i)
+  {
+    std::string const document = maker.next_wide();
+    SCOPED_TRACE("document " + std::to_string(i) + ":\n" + document);
+    auto const ours = reader_of(document);
+    PlainReader plain(document);
+    ASSERT_EQ(ours->read_file(), plain.read_file());
+    int depth = 0;
+    for (int step = 0; step < 300 && !plain.has_error_occurred(); ++step)
+    {
+      std::string const attribute = maker.wide_attribute();
+      std::string const name = depth == 0 ? "root" : maker.wide_name();
+      std::size_t const operation = maker.below(12);
+      if (operation < 5)
+      {
+        bool const found = plain.down_to(name);
+        ASSERT_EQ(ours->down_to(ut(name)), found) << name;
+        depth += found ? 1 : 0;
+      }
+      else if (operation < 8 && depth > 1)
+      {
+        ours->up();
+        plain.up();
+        --depth;
+      }
+      else if (operation < 11 && depth > 0)
+      {
+        ASSERT_EQ(text(ours->attribute(ut(attribute), ut(absent))), plain.attribute(attribute, absent)) << attribute;
+      }
+      else if (depth > 0)
+      {
+        ASSERT_EQ(text(ours->text_node()), plain.text_node());
+      }
+      ASSERT_EQ(errors_of(*ours), plain.all_errors());
+    }
+    ours->up();
+    plain.up();
+    ASSERT_EQ(errors_of(*ours), plain.all_errors());
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(shares, PlainModel, testing::Range(0, shares));

@@ -454,11 +454,34 @@ TEST(axmSimpleXmlReader, after_an_error_every_answer_is_neutral_and_nothing_is_r
   EXPECT_EQ(reader.errors(), "e");
 }
 
+TEST(axmSimpleXmlReader, what_is_known_of_names_after_searches_in_vain_is_whole)
+{
+  Reader reader = Reader::of("<r><one/><two/><three/><four/><five/></r>\n");
+  ASSERT_TRUE(reader.down("r"));
+  for (int round = 0; round < 2; ++round)
+  {
+    EXPECT_FALSE(reader.down("none")); // all names have been seen
+    EXPECT_TRUE(reader.down("three"));
+    reader->up();
+    EXPECT_FALSE(reader.down("one")); // the last ones have been seen again
+    for (char const* const name : {"one", "two", "th", "four", "five", "fi"})
+    {
+      EXPECT_TRUE(reader.down(name) || reader.down(name)) << name;
+      reader->up();
+    }
+    EXPECT_TRUE(reader.down("t") || reader.down("t"));
+    reader->up();
+    EXPECT_FALSE(reader.down("twos") || reader.down("twos"));
+  }
+  reader->up();
+  EXPECT_EQ(reader.errors(), "");
+}
+
 TEST(axmSimpleXmlReader, a_default_handed_back_is_the_one_given)
 {
   Reader reader = Reader::of("<r k='1'></r>");
   ASSERT_TRUE(reader.down("r"));
-  utString const given = ut_lit("given");
+  utString const given = ut_lit("a text that is long enough to be shared by its copies");
   EXPECT_EQ(reader->attribute(ut_lit("x"), given).c_str(), given.c_str());
   reader->error_has_occurred(ut_lit("e"));
   EXPECT_EQ(reader->attribute(ut_lit("k"), given).c_str(), given.c_str());

@@ -10,10 +10,13 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <new>
+#include <string>
 #include <utility>
 
 namespace
 {
+char const long_text[] = "a text that is too long to lie in the object itself";
+
 class Clock : public utService
 {
 };
@@ -21,14 +24,30 @@ class Clock : public utService
 
 TEST(utString_memory, constructors_throw_and_leak_nothing)
 {
-  EXPECT_EQ(fails_cleanly([] { utString const text("abc"); }), 1);
-  EXPECT_EQ(fails_cleanly([] { utString const text("abc", 2); }), 1);
-  EXPECT_EQ(fails_cleanly([] { utString const text(ut_lit("abc")); }), 1);
+  std::string const name(utString::most_inside + 1, 'x');
+  EXPECT_EQ(fails_cleanly([&] { utString const text(name.c_str()); }), 1);
+  EXPECT_EQ(fails_cleanly([&] { utString const text(long_text, 30); }), 1);
+  EXPECT_EQ(fails_cleanly([] { utString const text(ut_lit(long_text)); }), 1);
+}
+
+TEST(utString_memory, a_short_text_needs_none)
+{
+  std::string const name(utString::most_inside, 'x');
+  EXPECT_EQ(fails_cleanly(
+              [&]
+              {
+                utString const text(name.c_str());
+                utString const with_length(long_text, utString::most_inside);
+                utString const sum = utString("ab") + utString("cd");
+                utString copy(sum);
+                copy = text;
+              }),
+    0);
 }
 
 TEST(utString_memory, no_storage_copies_and_moves_need_none)
 {
-  utString const text("abc");
+  utString const text(long_text);
   EXPECT_EQ(fails_cleanly(
               [&text]
               {
@@ -44,20 +63,21 @@ TEST(utString_memory, no_storage_copies_and_moves_need_none)
 
 TEST(utString_memory, failed_assignment_keeps_the_old_text)
 {
-  utString const old("old");
+  utString const old(long_text);
   utString text(old);
-  fails_cleanly(
-    [&]
-    {
-      text = utString("new");
-      text = old;
-    },
-    [&] { return text.c_str() == old.c_str(); });
+  EXPECT_EQ(fails_cleanly(
+              [&]
+              {
+                text = utString("another text that is too long to lie in the object itself");
+                text = old;
+              },
+              [&] { return text.c_str() == old.c_str(); }),
+    1);
 }
 
 TEST(utString_memory, sum_throws_and_leaks_nothing)
 {
-  utString const left("ab");
+  utString const left(long_text);
   utString const right("cd");
   EXPECT_EQ(fails_cleanly([&] { utString const sum = left + right; }), 1);
   EXPECT_EQ(fails_cleanly([&] { utString const sum = left + utString(); }), 0);
@@ -65,7 +85,7 @@ TEST(utString_memory, sum_throws_and_leaks_nothing)
 
 TEST(utServiceName_memory, failed_dequalify_keeps_the_name)
 {
-  utServiceName const given(ut_lit("a::b"));
+  utServiceName const given(ut_lit("a::a_name_that_is_too_long_to_lie_in_the_object"));
   utServiceName name(given);
   EXPECT_EQ(fails_cleanly(
               [&]

@@ -16,6 +16,8 @@
 
 namespace
 {
+char const long_text[] = "a text that is too long to lie in the object itself";
+
 std::string bytes(utString const& text)
 {
   return {text.c_str(), static_cast<std::size_t>(text.length())};
@@ -89,9 +91,61 @@ TEST(utString, written_by_a_writer_that_throws_throws_on)
   EXPECT_THROW(utString::written(3, [](char*) { throw std::runtime_error("no"); }), std::runtime_error);
 }
 
-TEST(utString, copies_share_the_storage)
+TEST(utString, a_text_of_any_length_is_kept_whole)
 {
-  utString const text("abc");
+  for (int length = 0; length < 80; ++length)
+  {
+    std::string const given(static_cast<std::size_t>(length), 'x');
+    utString const text(given.c_str());
+    utString const with_length((given + "y").c_str(), length);
+    for (utString const& one : {text, with_length, text + utString(), utString(text)})
+    {
+      EXPECT_EQ(bytes(one), given);
+      EXPECT_EQ(one.length(), length);
+      EXPECT_EQ(one.c_str()[length], '\0');
+      EXPECT_TRUE(one.has_storage());
+      EXPECT_EQ(one, text);
+    }
+  }
+}
+
+TEST(utString, a_short_text_lies_in_the_object)
+{
+  std::string const longest(utString::most_inside, 'x');
+  utString const text(longest.c_str());
+  char const* const object = reinterpret_cast<char const*>(&text);
+  EXPECT_TRUE(text.c_str() >= object && text.c_str() + text.length() < object + sizeof text);
+  utString const longer((longest + "x").c_str());
+  char const* const other = reinterpret_cast<char const*>(&longer);
+  EXPECT_FALSE(longer.c_str() >= other && longer.c_str() < other + sizeof longer);
+}
+
+TEST(utString, values_go_between_short_long_and_no_storage)
+{
+  std::vector<utString> const values = {utString(), utString(""), utString("short"), utString(long_text)};
+  for (utString const& from : values)
+    for (utString const& to : values)
+    {
+      utString copied(to);
+      copied = from;
+      EXPECT_EQ(bytes(copied), bytes(from));
+      EXPECT_EQ(copied.has_storage(), from.has_storage());
+      utString source(from);
+      utString moved(to);
+      moved = std::move(source);
+      EXPECT_EQ(bytes(moved), bytes(from));
+      EXPECT_EQ(moved.has_storage(), from.has_storage());
+      EXPECT_FALSE(source.has_storage());
+      EXPECT_EQ(source.length(), 0);
+      utString const made(std::move(moved));
+      EXPECT_EQ(bytes(made), bytes(from));
+      EXPECT_FALSE(moved.has_storage());
+    }
+}
+
+TEST(utString, copies_of_a_long_text_share_the_storage)
+{
+  utString const text(long_text);
   utString const copy(text);
   utString assigned("x");
   assigned = text;
@@ -103,10 +157,10 @@ TEST(utString, a_copy_keeps_the_text_alive)
 {
   utString copy;
   {
-    utString const text("abc");
+    utString const text(long_text);
     copy = text;
   }
-  EXPECT_STREQ(copy.c_str(), "abc");
+  EXPECT_STREQ(copy.c_str(), long_text);
 }
 
 TEST(utString, assignment_of_itself_keeps_the_text)
@@ -121,7 +175,7 @@ TEST(utString, assignment_of_itself_keeps_the_text)
 
 TEST(utString, moving_hands_the_storage_over)
 {
-  utString text("abc");
+  utString text(long_text);
   char const* const storage = text.c_str();
   utString taken(std::move(text));
   EXPECT_EQ(taken.c_str(), storage);
@@ -198,7 +252,7 @@ TEST(utString, sum_is_the_one_text_and_then_the_other)
 
 TEST(utString, sum_with_an_empty_text_shares_the_other)
 {
-  utString const text("abc");
+  utString const text(long_text);
   EXPECT_EQ((text + utString()).c_str(), text.c_str());
   EXPECT_EQ((utString("") + text).c_str(), text.c_str());
   EXPECT_FALSE((utString() + utString()).has_storage());
@@ -228,7 +282,7 @@ TEST(utString, ut_lit_makes_a_text_of_a_literal)
 
 TEST(utString, copies_are_made_used_and_dropped_by_several_threads)
 {
-  utString const shared("shared between threads");
+  utString const shared(long_text);
   std::atomic<int> equal(0);
   std::vector<std::thread> threads;
   for (int i = 0; i < 4; ++i)
@@ -240,7 +294,7 @@ TEST(utString, copies_are_made_used_and_dropped_by_several_threads)
         {
           copies.push_back(shared);
           utString last(copies.back());
-          if (last == shared && last.length() == 22)
+          if (last == shared && last.length() == static_cast<int>(std::strlen(long_text)))
             ++equal;
           if (round % 10 == 0)
             copies.clear();
@@ -249,7 +303,7 @@ TEST(utString, copies_are_made_used_and_dropped_by_several_threads)
   for (std::thread& thread : threads)
     thread.join();
   EXPECT_EQ(equal, 4000);
-  EXPECT_STREQ(shared.c_str(), "shared between threads");
+  EXPECT_STREQ(shared.c_str(), long_text);
 }
 
 TEST(utString, the_last_of_several_threads_frees_what_another_one_made)
@@ -258,12 +312,12 @@ TEST(utString, the_last_of_several_threads_frees_what_another_one_made)
   {
     std::vector<std::thread> threads;
     {
-      utString const text("made here");
+      utString const text(long_text);
       for (int i = 0; i < 3; ++i)
         threads.emplace_back(
           [copy = text]() mutable
           {
-            EXPECT_STREQ(copy.c_str(), "made here");
+            EXPECT_STREQ(copy.c_str(), long_text);
             copy = utString();
           });
     }

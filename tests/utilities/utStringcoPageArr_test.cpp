@@ -13,11 +13,11 @@ TEST(utStringcoPageArr, is_a_growing_list_of_texts)
 
 TEST(utStringcoPageArr, copies_share_the_texts_and_leave_the_source)
 {
-  utStringcoPageArr source{"one", "two"};
+  utStringcoPageArr source{"one", "a text that is long enough to be shared by its copies"};
   utStringcoPageArr copy(utCopy(), source);
   EXPECT_EQ(copy.count(), 2);
   EXPECT_EQ(copy[1].c_str(), source[1].c_str());
-  EXPECT_EQ(source[1], utString("two"));
+  EXPECT_EQ(source[1], utString("a text that is long enough to be shared by its copies"));
 }
 
 TEST(utStringcoPageArr, repaginates_and_turns_around)
