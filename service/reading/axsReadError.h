@@ -11,6 +11,8 @@ struct axsReadError
   // Counted from 1, -1 where not known.
   int line = -1;
   int column = -1;
+  // Whether it may be that bytes are no characters; then the place is somewhere before them.
+  bool is_about_encoding = false;
 
   axmParseError record() const;
 };

@@ -1,5 +1,6 @@
 #include "axsXercesParser.h"
 
+#include "axsBadBytes.h"
 #include "axsDoctypeText.h"
 #include "axsEntityHandler.h"
 #include "axsErrorReporter.h"
@@ -334,7 +335,12 @@ std::string Run::document_in_utf8()
 }
 
 void axsXercesParser::parse(axsSource& source, axmLoadOptions const& options, axsReadingEvents& events)
+try
 {
   axsXerces::initialise();
   Run(source, options, events).parse();
+}
+catch (axsReadError const& error)
+{
+  throw axsBadBytes::explained(source, error);
 }

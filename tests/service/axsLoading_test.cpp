@@ -163,3 +163,62 @@ TEST(axsLoading, leaves_the_error_untouched_when_it_succeeds)
   EXPECT_EQ(narrow(error.message()), "old");
   EXPECT_EQ(error.line_number(), 7);
 }
+
+namespace
+{
+// Line and column, and what is wrong there.
+std::string fault_of(std::string_view text)
+{
+  axmParseError const error = error_of(text);
+  return std::to_string(error.line_number()) + ":" + std::to_string(error.column_number()) + " " +
+         narrow(error.message());
+}
+
+std::string const undeclared = " is not UTF-8; a document in another encoding has to declare it";
+std::string const declared = " is not UTF-8, which the document says that it is";
+}
+
+TEST(axsLoading, bytes_that_are_no_utf8_are_named_with_their_place)
+{
+  EXPECT_EQ(fault_of("<a>\n<b>caf\xE9</b>\n</a>"), "2:7 The byte 0xE9" + undeclared);
+  EXPECT_EQ(fault_of("<a>\r\n\r<b>\xE9</b></a>"), "3:4 The byte 0xE9" + undeclared);
+  EXPECT_EQ(fault_of("<?xml version='1.0'?><a x='\xFF'/>"), "1:28 The byte 0xFF" + undeclared);
+  EXPECT_EQ(fault_of("<?xml version='1.0' encoding='utf-8'?>\n<a>\xC3\xA9\xE9 x</a>"), "2:5 The byte 0xE9" + declared);
+  EXPECT_EQ(fault_of("<a>\xF0\x9F\x98\x80\xC3</a>"), "1:6 The byte 0xC3" + undeclared);
+  for (char const* const broken : {"\x80", "\xC1\x81", "\xE0\x9F\xBF", "\xED\xA0\x80", "\xF0\x8F\xBF\xBF",
+         "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xE2\x82"})
+    EXPECT_EQ(
+      fault_of("<a>" + std::string(broken) + "</a>").substr(0, 17), "1:4 The byte 0x" +
+                                                                      [&]
+                                                                      {
+                                                                        char hex[3];
+                                                                        std::snprintf(hex, sizeof hex, "%02X",
+                                                                          static_cast<unsigned char>(broken[0]));
+                                                                        return std::string(hex);
+                                                                      }());
+  EXPECT_EQ(fault_of("<a>\xE2\x82"), "1:4 The byte 0xE2" + undeclared);
+  // Far behind the beginning, across the blocks that are read, and in a file.
+  std::string const before(70000 - 5, 'x');
+  EXPECT_EQ(fault_of("<a>" + before + "\xE2\x82\xAC\n\xE9</a>"), "2:1 The byte 0xE9" + undeclared);
+  TestFile const file("engine_latin.xml", "<a>\n" + before + "\n\xE9</a>");
+  axmParseError error;
+  EXPECT_EQ(engine()->loadDocument(file.path(), axmLoadOptions(axmValidateNone), error), nullptr);
+  EXPECT_EQ(error.line_number(), 3);
+  EXPECT_EQ(narrow(error.url()), "engine_latin.xml");
+}
+
+TEST(axsLoading, a_zero_byte_is_named_with_its_place)
+{
+  EXPECT_EQ(fault_of(std::string_view("<a>\n\0</a>", 9)), "2:1 A zero byte stands in the document");
+  EXPECT_EQ(fault_of(std::string_view("<a/>\n\0", 6)), "2:1 A zero byte stands in the document");
+  EXPECT_EQ(fault_of(std::string_view("<a/\0>", 5)), "1:4 A zero byte stands in the document");
+}
+
+TEST(axsLoading, an_error_before_bytes_that_are_no_utf8_comes_first)
+{
+  std::string const far(200000, 'x');
+  EXPECT_EQ(fault_of("<a><b></a>" + far + "\xE9"), "1:9 expected end of tag 'b'");
+  EXPECT_EQ(fault_of("<a><b></a>" + far + "\xE9\n"), "1:9 expected end of tag 'b'");
+  // What is in another encoding, or in an unusual declaration, is left to the parser.
+  EXPECT_EQ(fault_of("<?xml version='1.0' encoding='iso-8859-1'?><a>\xE9</b>").find("The byte"), std::string::npos);
+}
