@@ -43,6 +43,22 @@ public:
     widen_block(text + length - block, wide + length - block);
   }
 
+  /// Whether the `length` characters at `text` are all ASCII.
+  static bool is_ascii(wchar_t const* text, std::size_t length) noexcept
+  {
+    unsigned long all = 0;
+    for (std::size_t i = 0; i < length; ++i)
+      all |= static_cast<unsigned long>(text[i]);
+    return all < 0x80;
+  }
+
+  /// Puts the `length` ASCII characters at `text` to `narrow`, which they do not overlap.
+  static void narrow(wchar_t const* __restrict text, std::size_t length, char* __restrict narrow) noexcept
+  {
+    for (std::size_t i = 0; i < length; ++i)
+      narrow[i] = static_cast<char>(text[i]);
+  }
+
 private:
   static constexpr std::size_t block = 8;
 

@@ -185,6 +185,9 @@ apString apString::from_utf8(std::string_view utf8)
 
 utString apString::to_utf8() const
 {
+  if (apAscii::is_ascii(c_str(), view().size()))
+    return utString::written(length(), [&](char* to) { apAscii::narrow(c_str(), view().size(), to); });
+
   wchar_t const* const end = c_str() + length();
   std::size_t bytes = 0;
   for (wchar_t const* at = c_str(); at != end;)

@@ -35,6 +35,34 @@ TEST(apAscii, one_other_byte_anywhere_is_found)
     }
 }
 
+TEST(apAscii, one_other_wide_character_anywhere_is_found)
+{
+  for (std::size_t length = 1; length <= longest; ++length)
+    for (std::size_t at = 0; at < length; ++at)
+    {
+      std::string const narrow = letters(length);
+      std::wstring text(narrow.begin(), narrow.end());
+      EXPECT_TRUE(apAscii::is_ascii(text.data(), length)) << length;
+      for (wchar_t const other : {L'\x80', L'\x100', L'\x20AC', static_cast<wchar_t>(-1)})
+      {
+        text[at] = other;
+        EXPECT_FALSE(apAscii::is_ascii(text.data(), length)) << length << ' ' << at;
+      }
+    }
+}
+
+TEST(apAscii, narrows_text_of_any_length_and_writes_nothing_around_it)
+{
+  for (std::size_t length = 0; length <= longest; ++length)
+  {
+    std::string const text = letters(length);
+    std::wstring const wide(text.begin(), text.end());
+    std::string narrow(length + 2, '#');
+    apAscii::narrow(wide.data(), length, narrow.data() + 1);
+    EXPECT_EQ(narrow, '#' + text + '#') << length;
+  }
+}
+
 TEST(apAscii, bytes_behind_the_text_do_not_count)
 {
   for (std::size_t length = 0; length <= longest; ++length)
