@@ -9,7 +9,6 @@
 #include "axsProcessingInstruction.h"
 #include "axsResultList.h"
 #include "axsTextNode.h"
-#include "axsXmlName.h"
 
 #include <string>
 #include <utility>
@@ -38,9 +37,8 @@ std::shared_ptr<axmDocument> axsDocument::make(apString const& uri)
 
 std::shared_ptr<axmElement> axsDocument::createElement(apString const& name)
 {
-  if (!axsXmlName::is_name(name))
-    return nullptr;
-  return axs_handle<axmElement>(*make_element(names().intern(narrow(name.to_utf8()))));
+  axsName const* const known = names().given(name);
+  return known == nullptr ? nullptr : axs_handle<axmElement>(*make_element(*known));
 }
 
 std::shared_ptr<axmTextNode> axsDocument::createTextNode(apString const& data)

@@ -3,7 +3,6 @@
 #include "axsAttribute.h"
 #include "axsAttributeMap.h"
 #include "axsDocument.h"
-#include "axsXmlName.h"
 
 namespace
 {
@@ -56,14 +55,13 @@ void axsElement::setAttribute(apString const& name, apString const& value)
   axsAttribute* last = nullptr;
   for (axsAttribute* at = attributes; at != nullptr; at = at->next_attribute())
   {
-    if (at->full_name().wide() == name)
+    if (at->full_name().wide_view() == name.view())
       return static_cast<axsLeaf*>(at)->set_text(narrow(utf8));
     last = at;
   }
-  if (!axsXmlName::is_name(name))
-    return;
-  axsName const& interned = document().names().intern(narrow(name.to_utf8()));
-  append_attribute(*document().make_attribute(interned, narrow(utf8)), last);
+  axsName const* const known = document().names().given(name);
+  if (known != nullptr)
+    append_attribute(*document().make_attribute(*known, narrow(utf8)), last);
 }
 
 void axsElement::removeAttribute(apString const& name)

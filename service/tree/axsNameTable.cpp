@@ -1,5 +1,9 @@
 #include "axsNameTable.h"
 
+#include "axsXmlName.h"
+
+#include <iterator>
+
 axsName const& axsNameTable::intern(std::string_view text)
 {
   if (axsName const* const known = find(text))
@@ -21,4 +25,20 @@ axsName const* axsNameTable::find(std::string_view text) const noexcept
 {
   auto const found = names.find(text);
   return found == names.end() ? nullptr : found->second.get();
+}
+
+axsName const* axsNameTable::given(apString const& text)
+{
+  std::wstring_view const name = text.view();
+  if (name.empty())
+    return nullptr;
+  axsName const*& place =
+    recent[(name.size() + 3 * static_cast<std::size_t>(name.front()) + 5 * static_cast<std::size_t>(name.back())) %
+           std::size(recent)];
+  if (place != nullptr && place->wide_view() == name)
+    return place;
+  if (!axsXmlName::is_name(text))
+    return nullptr;
+  place = &intern(text.to_utf8().view());
+  return place;
 }

@@ -21,6 +21,10 @@ public:
   /// Whether a name has a prefix or declares a namespace, or once did.
   bool has_namespaces() const noexcept { return namespaces; }
 
+  /// The object for the name that a caller gives, null if it is no XML name. Throws std::bad_alloc when memory runs out.
+  /// A name that was given a short time ago is found without a look at each character's right to stand there.
+  axsName const* given(apString const& text);
+
   /// The name that has the number, which is not axsName::no_number.
   axsName const& numbered(std::uint16_t number) const noexcept { return *by_number[number]; }
 
@@ -29,4 +33,6 @@ private:
   std::unordered_map<std::string_view, std::unique_ptr<axsName const>> names;
   std::vector<axsName const*> by_number;
   bool namespaces = false;
+  // Names that callers gave, each in a place that follows from its length and its ends.
+  axsName const* recent[16] = {};
 };

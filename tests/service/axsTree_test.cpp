@@ -210,6 +210,31 @@ TEST(axsTree, keeps_a_text_of_any_length_in_the_place_of_one_of_any_other)
   }
 }
 
+TEST(axsTree, tells_names_apart_that_are_alike_and_refuses_what_is_none_every_time)
+{
+  auto const document = load("<r/>");
+  auto const element = document->createElement(APSTRING("aXb"));
+  for (int round = 0; round < 3; ++round)
+  {
+    for (wchar_t const* const name : {L"aXb", L"aYb", L"aZb", L"ab", L"aXXb"})
+    {
+      EXPECT_TRUE(document->createElement(name)->getNodeName() == apString(name));
+      element->removeAttribute(name);
+      element->setAttribute(name, name);
+      EXPECT_TRUE(element->getAttribute(name) == apString(name));
+    }
+    for (wchar_t const* const name : {L"a b", L"a<b", L"", L"1",
+           L"a\xFFFF"
+           L"b"})
+    {
+      EXPECT_EQ(document->createElement(name), nullptr);
+      element->setAttribute(name, name);
+      EXPECT_FALSE(element->hasAttribute(name));
+    }
+  }
+  EXPECT_EQ(xml(element), "<aXb aXb=\"aXb\" aYb=\"aYb\" aZb=\"aZb\" ab=\"ab\" aXXb=\"aXXb\"/>");
+}
+
 TEST(axsTree, holds_more_names_than_have_a_number)
 {
   int const names = 66000;
