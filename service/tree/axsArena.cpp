@@ -65,16 +65,22 @@ void* axsArena::allocate(std::size_t size)
     free_blocks[units] = block->next;
     return block;
   }
-  if (static_cast<std::size_t>(room_end - room) < units * granule)
+  std::size_t const bytes = units * granule;
+  if (rest.left() >= bytes)
+    return rest.take(bytes);
+  if (room.left() < bytes)
   {
     if (untouched == untouched_end)
       add_pages();
     next_page();
   }
-  char* const block = room;
-  room += units * granule;
-  ASAN_UNPOISON_MEMORY_REGION(block, units * granule);
-  return block;
+  return room.take(bytes);
+}
+
+void* axsArena::Room::take(std::size_t size) noexcept
+{
+  ASAN_UNPOISON_MEMORY_REGION(begin, size);
+  return std::exchange(begin, begin + size);
 }
 
 void axsArena::release(void* block, std::size_t size) noexcept
@@ -121,12 +127,14 @@ void axsArena::add_pages()
   next_pages = std::min(next_pages * 2, most_pages);
 }
 
+// What is left of the page before is for smaller blocks.
 void axsArena::next_page() noexcept
 {
+  if (room.left() > rest.left())
+    rest = room;
   if (untouched != reinterpret_cast<char*>(newest))
     new (untouched) Page{document, nullptr, 0};
-  room = untouched + rounded(sizeof(Page), granule);
-  room_end = untouched + page_size;
-  untouched = room_end;
-  ASAN_POISON_MEMORY_REGION(room, static_cast<std::size_t>(room_end - room));
+  room = {untouched + rounded(sizeof(Page), granule), untouched + page_size};
+  untouched = room.end;
+  ASAN_POISON_MEMORY_REGION(room.begin, room.left());
 }

@@ -49,6 +49,16 @@ private:
   struct FreeBlock;
   struct LargeBlock;
 
+  // Where blocks can still be taken in a page.
+  struct Room
+  {
+    std::size_t left() const noexcept { return static_cast<std::size_t>(end - begin); }
+    void* take(std::size_t size) noexcept;
+
+    char* begin = nullptr;
+    char* end = nullptr;
+  };
+
   static constexpr std::size_t granule = 8;
 
   // Pages lie at multiples of their size, so that a node finds its document without a pointer of its own.
@@ -61,8 +71,8 @@ private:
 
   axsDocument* document;
   FreeBlock* free_blocks[small_limit / granule + 1] = {};
-  char* room = nullptr;
-  char* room_end = nullptr;
+  Room room;
+  Room rest;
   char* untouched = nullptr;
   char* untouched_end = nullptr;
   Page* newest = nullptr;
