@@ -119,7 +119,7 @@ void measure_documents(
     report.line(line);
     report.line(memory);
     for (std::string const& note : document->notes)
-      report.line("  given to all without " + note);
+      report.line("  changed in the copy that all get: " + note);
     report.ratios(name, ratios);
 
     of_pugixml.push_back(ratios[pugixml - 1]);
