@@ -25,10 +25,10 @@ public:
     /// The number of the first one, counted from 0; there is one.
     std::size_t first() const noexcept
     {
-      unsigned char bytes[size];
-      std::memcpy(bytes, &bits, size);
+      unsigned char each_byte[size];
+      std::memcpy(each_byte, &bits, size);
       std::size_t number = 0;
-      while (bytes[number] == 0)
+      while (each_byte[number] == 0)
         ++number;
       return number;
     }

@@ -22,8 +22,7 @@ enum Class : unsigned char
 constexpr std::array<unsigned char, 256> make_classes()
 {
   std::array<unsigned char, 256> made{};
-  for (unsigned char const c : {' ', '\t', '\r', '\n'})
-    made[c] = space;
+  made[' '] = made['\t'] = made['\r'] = made['\n'] = space;
   for (std::size_t c = 0; c < 26; ++c)
     made['a' + c] = made['A' + c] = name_start | name;
   made[':'] = made['_'] = name_start | name;

@@ -190,7 +190,8 @@ protected:
   /// `end` is where the object ends, behind which the units of room are.
   axsLeaf(axsKind kind, void* end, std::uint8_t units) noexcept : axsNode(kind)
   {
-    room_start = static_cast<std::uint8_t>((static_cast<char*>(end) - reinterpret_cast<char*>(this)) / unit) & 0xFu;
+    auto const bytes = static_cast<std::size_t>(static_cast<char*>(end) - reinterpret_cast<char*>(this));
+    room_start = static_cast<std::uint8_t>(bytes / unit) & 0xFu;
     room_units = units;
   }
   ~axsLeaf() = default;

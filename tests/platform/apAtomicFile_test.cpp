@@ -156,7 +156,7 @@ TEST(apAtomicFile, keeps_the_permissions_of_the_target)
   Folder const folder;
   apPath const path = folder.file("a.xml");
   write_file(path, "old");
-  for (mode_t const mode : {0600, 0640, 0666})
+  for (mode_t const mode : {0600U, 0640U, 0666U})
   {
     ASSERT_EQ(chmod(path.path().c_str(), mode), 0);
     EXPECT_TRUE(put(path, "new"));

@@ -16,7 +16,8 @@ using Blocks = testing::Types<axsWordBlock, axsSse2Block>;
 #else
 using Blocks = testing::Types<axsWordBlock>;
 #endif
-TYPED_TEST_SUITE(axsByteBlock_, Blocks);
+// The comma, because clang wants an argument where none has to be.
+TYPED_TEST_SUITE(axsByteBlock_, Blocks, );
 
 // Every byte at every place, between every two neighbours out of some that differ from what is looked for by a carry.
 template <class Block, class Find, class Expected>
