@@ -18,7 +18,7 @@
 
 namespace
 {
-std::size_t const most_pages = 64;
+std::size_t const most_pages = 256;
 
 std::size_t rounded(std::size_t size, std::size_t unit)
 {
