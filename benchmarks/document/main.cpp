@@ -26,7 +26,7 @@ namespace
 struct Options
 {
   std::size_t megabytes = 50;
-  int rounds = 3;
+  int rounds = 5;
   std::string output;
   std::vector<std::string> files;
 };

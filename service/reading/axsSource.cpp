@@ -14,6 +14,17 @@ std::size_t const head_size = 64 * 1024;
 {
   throw axsReadError{apString(what) + apString(path.path()), apString(path.path())};
 }
+
+// How many bytes follow in the file, which may still change; 0 where that cannot be told, as in a pipe.
+std::size_t rest_of(std::FILE* stream)
+{
+  long const here = std::ftell(stream);
+  if (here < 0 || std::fseek(stream, 0, SEEK_END) != 0)
+    return 0;
+  long const end = std::ftell(stream);
+  bool const is_back = std::fseek(stream, here, SEEK_SET) == 0;
+  return is_back && end > here ? static_cast<std::size_t>(end - here) : 0;
+}
 }
 
 axsSource::axsSource(apByteArray const& data) noexcept : present(data.data(), data.size()) {}
@@ -59,10 +70,13 @@ std::string_view axsSource::whole()
   while (stream != nullptr)
   {
     std::size_t const before = kept.size();
-    kept.resize(before * 2);
-    std::size_t const more = read_file(kept.data() + before, before);
+    // One more than there should be shows the end.
+    std::size_t const rest = rest_of(stream);
+    std::size_t const room = rest == 0 ? before : rest + 1;
+    kept.resize(before + room);
+    std::size_t const more = read_file(kept.data() + before, room);
     kept.resize(before + more);
-    if (more < before)
+    if (more < room)
       close();
   }
   if (!kept.empty())
