@@ -60,7 +60,39 @@ TEST(axsSource, can_be_whole_after_it_was_read)
   EXPECT_EQ(source.whole(), long_text);
 }
 
+TEST(axsSource, is_whole_at_any_size)
+{
+  for (std::size_t const size : {1u, 65535u, 65536u, 65537u, 131071u, 131072u, 131073u, 200000u})
+  {
+    TestFile const file("source_size.xml", long_text.substr(0, size));
+    axsSource source(file.path());
+    EXPECT_EQ(source.whole(), long_text.substr(0, size)) << size;
+    EXPECT_TRUE(source.is_whole());
+  }
+}
+
 #if !defined(_WIN32)
+TEST(axsSource, is_whole_from_a_pipe)
+{
+  char const* const name = "source_whole_pipe";
+  std::remove(name);
+  ASSERT_EQ(mkfifo(name, 0600), 0);
+  std::string const text = long_text + long_text + long_text;
+  std::thread writer(
+    [&]
+    {
+      std::FILE* const stream = std::fopen(name, "w");
+      std::fwrite(text.data(), 1, text.size(), stream);
+      std::fclose(stream);
+    });
+  {
+    axsSource source{apPath(name)};
+    EXPECT_EQ(source.whole(), text);
+  }
+  writer.join();
+  std::remove(name);
+}
+
 TEST(axsSource, cannot_go_back_in_a_pipe)
 {
   char const* const name = "source_pipe";
