@@ -1,8 +1,23 @@
 #pragma once
 
 #include <axmDocumentFactory.h>
+#include <axmNode.h>
 
 #include <memory>
+#include <optional>
+#include <string>
 
 /// The factory of the engine that the program was built with, registered under "XMLService"; empty if it has none.
 std::shared_ptr<axmDocumentFactory> built_in_engine();
+
+/// What there is to say of an XPath expression that selects no nodes.
+struct XPathAnswer
+{
+  /// Why it cannot be used, with the place in it; empty if it can.
+  std::string fault;
+  /// Its value as a text, if it is no expression for nodes.
+  std::optional<std::string> value;
+};
+
+/// The answer for the expression `xpath`, seen from `context`, a node of that engine.
+XPathAnswer built_in_answer(axmNode& context, std::string const& xpath);

@@ -35,9 +35,16 @@ std::size_t separator(std::string const& schema)
   return schema.rfind('=');
 }
 
+// An empty file name, as an unset variable of a script leaves it, must not pass for "no schema".
 std::string wrong_schema(std::string const& schema)
 {
-  return separator(schema) == std::string::npos ? schema + " is not of the form NS=XSD" : std::string();
+  bool const has_file = separator(schema) != std::string::npos && separator(schema) + 1 != schema.size();
+  return has_file ? std::string() : schema + " is not of the form NS=XSD";
+}
+
+std::string wrong_file(std::string const& file)
+{
+  return file.empty() ? "the file name is empty" : std::string();
 }
 
 axmLoadOptions make_options(Request const& request)
@@ -73,7 +80,8 @@ void add_check(CLI::App& app, int& exit_code)
   verb->add_option("--schema", request->schemas, "NS=XSD: a schema file for a namespace; may be given again")
     ->check(wrong_schema)
     ->allow_extra_args(false);
-  verb->add_option("--no-namespace-schema", request->plain_schema, "The schema file for elements in no namespace");
+  verb->add_option("--no-namespace-schema", request->plain_schema, "The schema file for elements in no namespace")
+    ->check(wrong_file);
   verb->footer(footer);
   verb->callback([request, &exit_code] { exit_code = check(*request); });
 }

@@ -1,9 +1,9 @@
 #include "BuiltInEngine.h"
+#include "Complaint.h"
 #include "ConformListener.h"
 #include "ConformanceData.h"
 #include "EngineLibrary.h"
 #include "ScratchFolder.h"
-#include "Verb.h"
 
 #include <apPath.h>
 #include <axmCommentNodeUtest.h>
@@ -97,12 +97,6 @@ std::vector<std::string> names_of_classes()
   return names;
 }
 
-int complain(std::string const& about, std::string const& message)
-{
-  std::cerr << "axm: " << about << ": " << message << '\n';
-  return exit_bad_input;
-}
-
 struct FileCloser
 {
   void operator()(std::FILE* file) const { std::fclose(file); }
@@ -128,12 +122,12 @@ int conform(Request const& request)
   std::string error = "the program was built without an engine: name one with --service";
   Factory const factory = request.service.empty() ? built_in_engine() : EngineLibrary::load(request.service, error);
   if (factory == nullptr)
-    return complain(request.service.empty() ? "conform" : request.service, error);
+    return complain(request.service.empty() ? "conform" : request.service, error, exit_bad_input);
   // Opened before the program goes to work elsewhere: the name may be relative.
   File const junit_file(
     request.junit.empty() ? nullptr : apPath(request.junit.c_str()).file_open(apPath::write_mode()));
   if (!request.junit.empty() && junit_file == nullptr)
-    return complain(request.junit, "the file cannot be written");
+    return complain(request.junit, "the file cannot be written", exit_bad_input);
 
   ConformListener listener;
   utUnitTestCounter counter;
@@ -152,7 +146,7 @@ int conform(Request const& request)
   tester.finish();
   utUnitTest::set_tester(nullptr);
   if (junit_file != nullptr && std::ferror(junit_file.get()) != 0)
-    return complain(request.junit, "the file cannot be written");
+    return complain(request.junit, "the file cannot be written", exit_bad_input);
   return counter.total().failed == 0 ? exit_good : exit_bad_input;
 }
 }

@@ -1,12 +1,13 @@
+#include "BuiltInEngine.h"
+#include "Complaint.h"
 #include "Loading.h"
-#include "Verb.h"
+#include "OutputFile.h"
 
 #include <axmElement.h>
 #include <axmNodeList.h>
 
 #include <CLI/CLI.hpp>
 
-#include <iostream>
 #include <memory>
 #include <string>
 
@@ -20,11 +21,12 @@ char const footer[] =
   axm select books.xml //book --attribute id
   axm select books.xml "//book[@id='b1']" --xml
 
-The expression is XPath 1.0, seen from the root element; it must select nodes. Prefixes in
-it are those that the root element binds. White space between elements is not part of the
-document as it is loaded.
+The expression is XPath 1.0, seen from the root element. Of one that is no path, as in
+count(//book), the value is written. Prefixes in it are those that the root element binds.
+White space between elements is not part of the document as it is loaded.
 
-The exit code is 1 if the document cannot be read or nothing is selected, 2 for wrong usage.)";
+The exit code is 1 if the document cannot be read or nothing is selected, 2 for wrong usage,
+such as an expression that is none.)";
 
 struct Request
 {
@@ -35,18 +37,45 @@ struct Request
   bool as_xml = false;
 };
 
-bool write_node(axmNode const& node, Request const& request)
+void write_line(OutputFile& output, apString const& text)
+{
+  utString const utf8 = text.to_utf8();
+  output.write({utf8.c_str(), static_cast<std::size_t>(utf8.length())});
+  output.write("\n");
+}
+
+bool write_node(axmNode const& node, Request const& request, OutputFile& output)
 {
   apString text;
-  if (!request.attribute.empty())
-  {
-    if (!node.get_attribute(apString(request.attribute.c_str()), text))
-      return false;
-  }
-  else
+  if (request.attribute.empty())
     text = request.as_xml ? node.get_xml() : node.get_text();
-  std::cout << text.to_utf8() << '\n';
+  else if (!node.get_attribute(apString(request.attribute.c_str()), text))
+    return false;
+  write_line(output, text);
   return true;
+}
+
+// For an expression that selects no nodes.
+int write_value(axmElement& root, Request const& request, OutputFile& output)
+{
+  XPathAnswer const answer = built_in_answer(root, request.xpath);
+  if (!answer.fault.empty())
+    return complain(request.xpath, answer.fault, exit_usage);
+  if (!answer.value)
+    return complain(request.xpath, "selects nothing", exit_bad_input);
+  if (request.as_xml || !request.attribute.empty())
+    return complain(request.xpath, "gives a value and no nodes", exit_usage);
+  output.write(*answer.value + "\n");
+  return exit_good;
+}
+
+int write_nodes(axmNodeList& nodes, Request const& request, OutputFile& output)
+{
+  bool written = false;
+  while (std::shared_ptr<axmElement> const node = nodes.next_node())
+    written = write_node(*node, request, output) || written;
+  return written ? exit_good
+                 : complain(request.xpath, "no selected node has the attribute " + request.attribute, exit_bad_input);
 }
 
 int select(Request const& request)
@@ -59,11 +88,11 @@ int select(Request const& request)
   if (document == nullptr)
     return exit_bad_input;
 
-  auto const found = document->getDocumentElement()->selectNodes(apString(request.xpath.c_str()));
-  bool written = false;
-  while (std::shared_ptr<axmElement> const node = found->next_node())
-    written = write_node(*node, request) || written;
-  return written ? exit_good : exit_bad_input;
+  OutputFile output{std::string()};
+  std::shared_ptr<axmElement> const root = document->getDocumentElement();
+  std::shared_ptr<axmNodeList> const found = root->selectNodes(apString(request.xpath.c_str()));
+  int const result = found->isEmpty() ? write_value(*root, request, output) : write_nodes(*found, request, output);
+  return output.finish() ? result : complain("standard output", "cannot be written", exit_bad_input);
 }
 }
 

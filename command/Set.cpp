@@ -1,12 +1,12 @@
+#include "BuiltInEngine.h"
+#include "Complaint.h"
 #include "Loading.h"
-#include "Verb.h"
 
 #include <axmElement.h>
 #include <axmNodeList.h>
 
 #include <CLI/CLI.hpp>
 
-#include <iostream>
 #include <memory>
 #include <string>
 #include <vector>
@@ -37,13 +37,11 @@ struct Request
 std::string wrong_setting(std::string const& setting)
 {
   std::size_t const sign = setting.find('=');
-  return sign == 0 || sign == std::string::npos ? setting + " is not of the form NAME=VALUE" : std::string();
-}
-
-int complain(std::string const& about, std::string const& message)
-{
-  std::cerr << "axm: " << about << ": " << message << '\n';
-  return exit_bad_input;
+  if (sign == 0 || sign == std::string::npos)
+    return setting + " is not of the form NAME=VALUE";
+  // What is not would be saved as something else.
+  bool const is_utf8 = apString(setting.c_str()).to_utf8() == utString(setting.c_str());
+  return is_utf8 ? std::string() : setting + " is not UTF-8";
 }
 
 // The first name that the element does not take; empty if it takes all.
@@ -61,6 +59,32 @@ std::string apply(axmElement& element, std::vector<std::string> const& settings)
   return std::string();
 }
 
+// For an expression that selects no nodes.
+int complain_of_nothing(axmElement& root, std::string const& xpath)
+{
+  XPathAnswer const answer = built_in_answer(root, xpath);
+  if (!answer.fault.empty())
+    return complain(xpath, answer.fault, exit_usage);
+  if (answer.value)
+    return complain(xpath, "gives a value and no nodes", exit_usage);
+  return complain(xpath, "selects nothing", exit_bad_input);
+}
+
+int save(axmDocumentFactory& factory, std::shared_ptr<axmDocument> const& document, std::string const& output)
+{
+  if (factory.saveDocument(document, apPath(output.c_str())))
+    return exit_good;
+  // Whether it is the document or the file shows where no file is needed.
+  apByteArray bytes;
+  bool const can_be_saved = factory.saveDocument(document, bytes);
+  return complain(output,
+    can_be_saved
+      ? "cannot be written"
+      : "not saved: a name has a prefix that is not bound to a namespace, or a value has a character that XML "
+        "cannot hold",
+    exit_bad_input);
+}
+
 int set(Request const& request)
 {
   std::shared_ptr<axmDocumentFactory> const factory = engine_or_complain();
@@ -71,18 +95,17 @@ int set(Request const& request)
   if (document == nullptr)
     return exit_bad_input;
 
-  auto const found = document->getDocumentElement()->selectNodes(apString(request.xpath.c_str()));
+  std::shared_ptr<axmElement> const root = document->getDocumentElement();
+  std::shared_ptr<axmNodeList> const found = root->selectNodes(apString(request.xpath.c_str()));
   if (found->isEmpty())
-    return complain(request.xpath, "selects nothing");
+    return complain_of_nothing(*root, request.xpath);
   while (std::shared_ptr<axmElement> const element = found->next_node())
   {
     std::string const refused = apply(*element, request.settings);
     if (!refused.empty())
-      return complain(request.xpath, "a selected node takes no attribute " + refused);
+      return complain(request.xpath, "a selected node takes no attribute " + refused, exit_bad_input);
   }
-
-  std::string const& output = request.output.empty() ? request.file : request.output;
-  return factory->saveDocument(document, apPath(output.c_str())) ? exit_good : complain(output, "cannot be saved");
+  return save(*factory, document, request.output.empty() ? request.file : request.output);
 }
 }
 

@@ -1,15 +1,14 @@
 #include "Columns.h"
+#include "Complaint.h"
 #include "OutputFile.h"
 #include "Progress.h"
 #include "RowFormat.h"
-#include "Verb.h"
 
 #include <axmSimpleXmlFactory.h>
 
 #include <CLI/CLI.hpp>
 
 #include <cstdio>
-#include <iostream>
 #include <memory>
 #include <sstream>
 
@@ -55,12 +54,6 @@ std::unique_ptr<RowFormat> make_format(std::string const& name)
   if (name == "jsonl")
     return std::make_unique<JsonLinesFormat>();
   return std::make_unique<CsvFormat>();
-}
-
-int complain(std::string const& about, std::string const& message, ExitCode code)
-{
-  std::cerr << "axm: " << about << ": " << message << '\n';
-  return code;
 }
 
 // What the reader has to say, in one line.

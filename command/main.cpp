@@ -1,16 +1,26 @@
 #include "Arguments.h"
+#include "Complaint.h"
 #include "Utf8Console.h"
-#include "Verb.h"
 
 #include <CLI/CLI.hpp>
 
 #include <exception>
 #include <iostream>
+#include <string>
 
 namespace
 {
 // In the order in which the help lists them.
 Verb const verbs[] = {add_check, add_select, add_set, add_table, add_conform};
+
+bool names_no_verb(CLI::App& app, Arguments const& arguments)
+{
+  if (arguments.count() < 2)
+    return false;
+  std::string const first = arguments.values()[1];
+  auto const named = [&](CLI::App const* verb) { return verb->check_name(first); };
+  return first.substr(0, 1) != "-" && app.get_subcommands(named).empty();
+}
 
 int run(Arguments const& arguments)
 {
@@ -18,10 +28,13 @@ int run(Arguments const& arguments)
   // A slash begins a path or an XPath expression on every system, never an option.
   app.allow_windows_style_options(false);
   app.require_subcommand(1);
+  app.set_version_flag("--version", "axm " AXM_VERSION);
   int exit_code = exit_good;
   for (Verb const verb : verbs)
     verb(app, exit_code);
 
+  if (names_no_verb(app, arguments))
+    return complain(arguments.values()[1], "there is no such verb; axm --help lists them", exit_usage);
   try
   {
     app.parse(arguments.count(), arguments.values());

@@ -41,6 +41,47 @@ TEST(axm_check, shows_the_part_of_a_long_line_around_the_column)
   EXPECT_LT(run.err.size(), 300u);
 }
 
+TEST(axm_check, finds_the_line_whatever_ends_lines)
+{
+  for (char const* const end : {"\n", "\r\n", "\r"})
+  {
+    TemporaryFile const bad("check_lines.xml", std::string("<a>") + end + end + "<b>" + end + "</a>" + end);
+    EXPECT_EQ(run_axm("check_lines", {"check", bad.name}).err.substr(0, 21), "check_lines.xml:4:3: ");
+    EXPECT_NE(run_axm("check_lines", {"check", bad.name}).err.find("\n</a>\n  ^\n"), std::string::npos);
+  }
+}
+
+TEST(axm_check, marks_the_column_behind_characters_of_any_size)
+{
+  TemporaryFile const bad("check_wide.xml", "<a>\xC3\xA4\xE2\x82\xAC\xF0\x9D\x84\x9E</b>");
+  EXPECT_NE(
+    run_axm("check_wide", {"check", bad.name}).err.find("\xF0\x9D\x84\x9E</b>\n        ^\n"), std::string::npos);
+}
+
+TEST(axm_check, hands_no_control_characters_to_the_terminal)
+{
+  TemporaryFile const bad("check_controls.xml", "<a>\n<!-- \x1B[31m \xC2\x9B \x7F \xE4 -->\x07</a>");
+  std::string const shown = run_axm("check_controls", {"check", bad.name}).err;
+  std::string const mark = "\xEF\xBF\xBD";
+  EXPECT_NE(shown.find("\n<!-- " + mark + "[31m " + mark + " " + mark + " " + mark + " -->" + mark + "</a>\n"),
+    std::string::npos)
+    << shown;
+
+  TemporaryFile const value("check_controls_2.xml", "<?xml version='1.1'?>\n<n>&#27;[31m&#10;</n>");
+  TemporaryFile const xsd("check_controls.xsd", plain_schema);
+  std::string const message = run_axm("check_controls", {"check", value.name, "--no-namespace-schema", xsd.name}).err;
+  EXPECT_EQ(message.find('\x1B'), std::string::npos) << message;
+  EXPECT_EQ(message.find("check_controls_2.xml:2:"), 0u) << message;
+}
+
+TEST(axm_check, shows_no_line_of_an_encoding_that_it_cannot_show)
+{
+  TemporaryFile const bad("check_utf16.xml", std::string("\xFF\xFE<\0a\0>\0", 8));
+  std::string const shown = run_axm("check_utf16", {"check", bad.name}).err;
+  EXPECT_EQ(shown.find("check_utf16.xml:1:4: "), 0u) << shown;
+  EXPECT_EQ(shown.find('\n'), shown.size() - 1) << shown;
+}
+
 TEST(axm_check, validates_against_schemas)
 {
   TemporaryFile const xsd("check.xsd", schema);
@@ -78,6 +119,9 @@ TEST(axm_check, refuses_wrong_usage)
 {
   EXPECT_EQ(run_axm("check_usage", {"check"}).exit_code, 2);
   EXPECT_EQ(run_axm("check_usage", {"check", "a.xml", "--schema", "a.xsd"}).exit_code, 2);
+  // An empty name, as from an unset variable, is no reason not to validate.
+  EXPECT_EQ(run_axm("check_usage", {"check", "a.xml", "--schema", "urn:a="}).exit_code, 2);
+  EXPECT_EQ(run_axm("check_usage", {"check", "a.xml", "--no-namespace-schema", ""}).exit_code, 2);
 }
 
 TEST(axm_select, writes_text_xml_or_an_attribute_a_line_each)
@@ -97,6 +141,43 @@ TEST(axm_select, fails_when_nothing_is_selected_or_the_file_is_bad)
   EXPECT_EQ(run_axm("select_none", {"select", "select_no_file.xml", "//none"}).exit_code, 1);
   EXPECT_EQ(run_axm("select_none", {"select", file.name, "//item", "--xml", "--text"}).exit_code, 2);
 }
+
+TEST(axm_select, says_why_nothing_is_written)
+{
+  TemporaryFile const file("select_why.xml", books);
+  auto const select = [&](std::string const& xpath) { return run_axm("select_why", {"select", file.name, xpath}); };
+  EXPECT_EQ(select("//none").err, "axm: //none: selects nothing\n");
+  EXPECT_EQ(select("//none").exit_code, 1);
+  EXPECT_EQ(select("//item[").err, "axm: //item[: a step is missing, at character 8\n");
+  EXPECT_EQ(select("//item[").exit_code, 2);
+  EXPECT_NE(select("//p:item").err.find("'p'"), std::string::npos);
+  EXPECT_EQ(select("//p:item").exit_code, 2);
+  EXPECT_EQ(run_axm("select_why", {"select", file.name, "//item", "--attribute", "no"}).err,
+    "axm: //item: no selected node has the attribute no\n");
+}
+
+TEST(axm_select, writes_the_value_of_what_is_no_path)
+{
+  TemporaryFile const file("select_value.xml", books);
+  auto const select = [&](std::string const& xpath) { return run_axm("select_value", {"select", file.name, xpath}); };
+  EXPECT_EQ(select("count(//item)").out, "2\n");
+  EXPECT_EQ(select("count(//item)").exit_code, 0);
+  EXPECT_EQ(select("//item = 'two'").out, "true\n");
+  EXPECT_EQ(select("string(//@id)").out, "1\n");
+  EXPECT_EQ(run_axm("select_value", {"select", file.name, "count(//item)", "--xml"}).exit_code, 2);
+}
+
+#if !defined(_WIN32)
+TEST(axm_select, says_so_when_its_output_is_lost)
+{
+  TemporaryFile const file("select_full.xml", books);
+  std::string const command =
+    std::string("\"") + AXM_PROGRAM + "\" select " + file.name + " //item > /dev/full 2> select_full.err";
+  EXPECT_EQ(WEXITSTATUS(std::system(command.c_str())), 1);
+  TemporaryFile const errors("select_full.err", contents_of("select_full.err"));
+  EXPECT_EQ(contents_of(errors.name), "axm: standard output: cannot be written\n");
+}
+#endif
 
 TEST(axm_set, sets_attributes_and_saves_elsewhere)
 {
@@ -126,4 +207,31 @@ TEST(axm_set, leaves_the_file_when_something_is_wrong)
   EXPECT_EQ(run_axm("set_wrong", {"set", file.name, "//item", "a=b", "--output", "no/such/folder.xml"}).exit_code, 1);
   EXPECT_EQ(run_axm("set_wrong", {"set", file.name, "//item", "ab"}).exit_code, 2);
   EXPECT_EQ(contents_of(file.name), books);
+}
+
+TEST(axm_set, says_why_it_does_not_save)
+{
+  TemporaryFile const file("set_why.xml", books);
+  auto const set = [&](std::string const& xpath, std::string const& setting, std::string const& output) {
+    return run_axm("set_why", {"set", file.name, xpath, setting, "--output", output});
+  };
+  EXPECT_EQ(set("//none", "a=b", "set_why_2.xml").err, "axm: //none: selects nothing\n");
+  EXPECT_EQ(set("//item[", "a=b", "set_why_2.xml").err, "axm: //item[: a step is missing, at character 8\n");
+  EXPECT_EQ(set("//item[", "a=b", "set_why_2.xml").exit_code, 2);
+  EXPECT_EQ(set("count(//item)", "a=b", "set_why_2.xml").exit_code, 2);
+  EXPECT_NE(set("//item", "p:a=b", "set_why_2.xml").err.find("prefix"), std::string::npos);
+  EXPECT_EQ(set("//item", "a=b", "no/such/folder.xml").err, "axm: no/such/folder.xml: cannot be written\n");
+#if !defined(_WIN32)
+  EXPECT_NE(set("//item", "a=\x01", "set_why_2.xml").err.find("character"), std::string::npos);
+  EXPECT_EQ(set("//item", "a=\xFF", "set_why_2.xml").exit_code, 2);
+#endif
+  EXPECT_EQ(contents_of("set_why_2.xml"), "");
+}
+
+TEST(axm, tells_its_version_and_what_is_no_verb)
+{
+  EXPECT_EQ(run_axm("axm_version", {"--version"}).out.substr(0, 4), "axm ");
+  ProgramRun const run = run_axm("axm_no_verb", {"chekc", "a.xml"});
+  EXPECT_EQ(run.exit_code, 2);
+  EXPECT_EQ(run.err, "axm: chekc: there is no such verb; axm --help lists them\n");
 }
