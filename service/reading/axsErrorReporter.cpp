@@ -1,5 +1,6 @@
 #include "axsErrorReporter.h"
 
+#include "axsPlainWords.h"
 #include "axsSystemId.h"
 #include "axsUtf16.h"
 
@@ -16,14 +17,18 @@ int checked(XMLFileLoc place)
 }
 }
 
-void axsErrorReporter::error(unsigned int, XMLCh const* domain, ErrTypes type, XMLCh const* text,
+void axsErrorReporter::error(unsigned int code, XMLCh const* domain, ErrTypes type, XMLCh const* text,
   XMLCh const* system_id, XMLCh const*, XMLFileLoc line, XMLFileLoc column)
 {
   if (type == ErrType_Warning)
     return;
-  axsReadError error = make(axsUtf16::to_string(text), system_id, line, column);
-  // What its transcoders throw comes that way.
-  error.is_about_encoding = xercesc::XMLString::equals(domain, xercesc::XMLUni::fgExceptDomain);
+  // What its transcoders throw comes as an exception's text.
+  bool const is_exception = xercesc::XMLString::equals(domain, xercesc::XMLUni::fgExceptDomain);
+  std::string const said = axsUtf16::to_utf8(text);
+  std::string const words =
+    is_exception ? axsPlainWords::of_exception(code, said) : axsPlainWords::of(code, said, open_line());
+  axsReadError error = make(apString::from_utf8(words), system_id, line, column);
+  error.is_about_encoding = is_exception;
   throw error;
 }
 

@@ -24,6 +24,7 @@
 #include <xercesc/validators/common/GrammarResolver.hpp>
 
 #include <algorithm>
+#include <climits>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -78,6 +79,7 @@ private:
   void make_scanner();
   // An entity that is not declared in what is read is an error, even if it may be declared in what is not.
   void expect_declarations() { scanner->setHasNoDTD(true); }
+  int line() const;
   axsReadError place() const;
   std::string_view utf8(XMLCh const* text, std::size_t length);
   std::string_view utf8(XMLCh const* text) { return utf8(text, axsUtf16::length(text)); }
@@ -99,6 +101,8 @@ private:
   axsNamespaceScope namespaces;
   axsNamespaceScope::Attributes read;
   std::vector<std::string> values;
+  // Of the elements that are open, where they began.
+  std::vector<int> open_lines;
   std::unique_ptr<xercesc::GrammarResolver> grammars;
   std::unique_ptr<xercesc::XMLScanner> scanner;
   std::string converted;
@@ -112,6 +116,7 @@ Run::Run(axsSource& given, axmLoadOptions const& options, axsReadingEvents& told
     events(told),
     has_doctype(!axsDoctypeText::is_absent(given.head())),
     memory(memory_free),
+    errors([this] { return open_lines.empty() ? 0 : open_lines.back(); }),
     entities(options.disable_entity_resolution(), [this] { return place(); }),
     names(told)
 {
@@ -156,6 +161,12 @@ void Run::parse()
         throw axsReadError{APSTRING("A zero byte stands in the document"), source.url()};
     },
     [this] { return place(); });
+}
+
+int Run::line() const
+{
+  XMLFileLoc const at = scanner->getLocator()->getLineNumber();
+  return at > INT_MAX ? 0 : static_cast<int>(at);
 }
 
 axsReadError Run::place() const
@@ -257,10 +268,13 @@ void Run::startElement(xercesc::XMLElementDecl const& decl, unsigned int, XMLCh 
     events.attribute(*attribute.name->name, attribute.value);
   if (is_empty)
     end_element();
+  else
+    open_lines.push_back(line());
 }
 
 void Run::endElement(xercesc::XMLElementDecl const&, unsigned int, bool, XMLCh const*)
 {
+  open_lines.pop_back();
   end_element();
 }
 

@@ -97,6 +97,45 @@ TEST(axsLoading, says_what_is_wrong_and_where)
   }
 }
 
+TEST(axsLoading, says_in_plain_words_how_it_is_written_right)
+{
+  std::pair<char const*, char const*> const faults[] = {
+    {"<a>\n<b>\n</a>", "the element 'b', open since line 2, must be closed first, by </b>"},
+    {"<Item>x</item>", "the element 'Item', open since line 1, must be closed first, by </Item>"},
+    {"<a>\n<b>", "the document ends, but the element 'b', open since line 2, is not closed by </b>"},
+    {"</a>", "this end tag closes no element"},
+    {"<a/></a>", "only comments and processing instructions may follow the root element"},
+    {"<a/>text", "only comments and processing instructions may follow the root element"},
+    {"{\"a\": 1}", "the root element is missing: only comments and processing instructions may stand before it"},
+    {" \n ", "the root element is missing: only comments and processing instructions may stand before it"},
+    {"<a>1 < 2</a>", "the name of an element must follow '<'; in a text, '<' is written &lt;"},
+    {"<a>Tom & Jerry</a>", "the name of an entity must follow '&'; a plain '&' is written &amp;"},
+    {"<a href='x?a=1&b=2'/>", "the reference '&b' is not ended by ';'; a plain '&' is written &amp;"},
+    {"<a>&nbsp;</a>", "the entity 'nbsp' is not declared"},
+    {"<a>&#1;</a>", "the character of this number is not allowed in XML"},
+    {"<a>&#65</a>", "a character reference must be ended by ';'"},
+    {"<a>&#x1G;</a>", "a number must follow '&#' (decimal) or '&#x' (hexadecimal)"},
+    {"<a b=1/>", "the value of an attribute must stand in quotes, \" or '"},
+    {"<a b/>", "the name of an attribute must be followed by '=' and a value in quotes"},
+    {"<a b='1'c='2'/>", "white space is missing here, as it must stand between attributes"},
+    {"<a b='1' b='2'/>", "attribute 'b' is already specified for element 'a'"},
+    {"<a b='1>\n<c/>'/>",
+      "the value of the attribute 'b' has a '<', which is written &lt; there, or the quote that ends it is missing"},
+    {"<a\n<b/></a>", "the start tag of 'a' is not ended: '>', '/>' or an attribute is expected"},
+    {"<a></a b='1'>", "'>' is expected: an end tag holds the name 'a' only"},
+    {"<a><!-- b -- c --></a>", "'--' must not stand in a comment"},
+    {"<a><!-- b </a>", "a comment is not ended by '-->'"},
+    {"<a><![CDATA[ b </a>", "a CDATA section is not ended by ']]>'"},
+    {"<a>b]]>c</a>", "']]>' must not stand in a text; '>' is written &gt; there"},
+    {"<a>\x08</a>", "invalid character 0x8"},
+    {" <?xml version='1.0'?><a/>", "the XML declaration must stand at the very beginning of the document"},
+    {"<?xml version='1.0' standalone='maybe'?><a/>", "the standalone declaration must be 'yes' or 'no'"},
+    {"<?xml version='1.0' encoding='klingon'?><a/>", "the encoding 'KLINGON' is not known"},
+  };
+  for (auto const& [text, words] : faults)
+    EXPECT_EQ(narrow(error_of(text).message()), words) << text;
+}
+
 TEST(axsLoading, says_so_when_there_is_nothing_to_read)
 {
   EXPECT_EQ(narrow(error_of("").message()), "The document is empty");
@@ -217,8 +256,10 @@ TEST(axsLoading, a_zero_byte_is_named_with_its_place)
 TEST(axsLoading, an_error_before_bytes_that_are_no_utf8_comes_first)
 {
   std::string const far(200000, 'x');
-  EXPECT_EQ(fault_of("<a><b></a>" + far + "\xE9"), "1:9 expected end of tag 'b'");
-  EXPECT_EQ(fault_of("<a><b></a>" + far + "\xE9\n"), "1:9 expected end of tag 'b'");
+  EXPECT_EQ(
+    fault_of("<a><b></a>" + far + "\xE9"), "1:9 the element 'b', open since line 1, must be closed first, by </b>");
+  EXPECT_EQ(
+    fault_of("<a><b></a>" + far + "\xE9\n"), "1:9 the element 'b', open since line 1, must be closed first, by </b>");
   // What is in another encoding, or in an unusual declaration, is left to the parser.
   EXPECT_EQ(fault_of("<?xml version='1.0' encoding='iso-8859-1'?><a>\xE9</b>").find("The byte"), std::string::npos);
 }

@@ -1,0 +1,92 @@
+#include "axsPlainWords.h"
+
+#include <xercesc/framework/XMLErrorCodes.hpp>
+#include <xercesc/util/XMLExceptMsgs.hpp>
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+
+namespace
+{
+using Codes = xercesc::XMLErrs::Codes;
+
+struct Wording
+{
+  Codes code;
+  // "%1" and "%2" stand for what the parser's text has in its first and second quotes, "%since" for where the innermost open element began.
+  char const* text;
+};
+
+Wording const wordings[] = {
+  {Codes::InvalidDocumentStructure,
+    "the root element is missing: only comments and processing instructions may stand before it"},
+  {Codes::ExpectedCommentOrPI, "only comments and processing instructions may follow the root element"},
+  {Codes::EndedWithTagsOnStack, "the document ends, but the element '%1'%since is not closed by </%1>"},
+  {Codes::ExpectedEndOfTagX, "the element '%1'%since must be closed first, by </%1>"},
+  {Codes::MoreEndThanStartTags, "this end tag closes no element"},
+  {Codes::ExpectedElementName, "the name of an element must follow '<'; in a text, '<' is written &lt;"},
+  {Codes::UnterminatedStartTag, "the start tag of '%1' is not ended: '>', '/>' or an attribute is expected"},
+  {Codes::UnterminatedEndTag, "'>' is expected: an end tag holds the name '%1' only"},
+  {Codes::ExpectedEqSign, "the name of an attribute must be followed by '=' and a value in quotes"},
+  {Codes::ExpectedAttrValue, "the value of an attribute must stand in quotes, \" or '"},
+  {Codes::ExpectedWhitespace, "white space is missing here, as it must stand between attributes"},
+  {Codes::ExpectedEntityRefName, "the name of an entity must follow '&'; a plain '&' is written &amp;"},
+  {Codes::UnterminatedEntityRef, "the reference '&%1' is not ended by ';'; a plain '&' is written &amp;"},
+  {Codes::EntityNotFound, "the entity '%1' is not declared"},
+  {Codes::UnterminatedCharRef, "a character reference must be ended by ';'"},
+  {Codes::ExpectedNumericalCharRef, "a number must follow '&#' (decimal) or '&#x' (hexadecimal)"},
+  {Codes::InvalidCharacterRef, "the character of this number is not allowed in XML"},
+  {Codes::BadSequenceInCharData, "']]>' must not stand in a text; '>' is written &gt; there"},
+  {Codes::IllegalSequenceInComment, "'--' must not stand in a comment"},
+  {Codes::UnterminatedComment, "a comment is not ended by '-->'"},
+  {Codes::UnterminatedCDATASection, "a CDATA section is not ended by ']]>'"},
+  {Codes::UnterminatedPI, "a processing instruction is not ended by '?>'"},
+  {Codes::XMLDeclMustBeFirst, "the XML declaration must stand at the very beginning of the document"},
+  {Codes::NoPIStartsWithXML,
+    "no processing instruction is named 'xml'; the XML declaration stands at the very beginning of the document only"},
+  {Codes::BracketInAttrValue,
+    "the value of the attribute '%2' has a '<', which is written &lt; there, or the quote that ends it is missing"},
+  {Codes::BadStandalone, "the standalone declaration must be 'yes' or 'no'"},
+  {Codes::XMLVersionRequired, "the XML declaration must begin with the version"},
+};
+
+// What stands in quotes, the first ones or those of another `number`.
+std::string quoted_in(std::string const& text, int number)
+{
+  std::size_t open = text.find('\'');
+  std::size_t close = text.find('\'', open + 1);
+  for (; number > 1 && close != std::string::npos; --number)
+  {
+    open = text.find('\'', close + 1);
+    close = open == std::string::npos ? open : text.find('\'', open + 1);
+  }
+  return close == std::string::npos ? std::string() : text.substr(open + 1, close - open - 1);
+}
+
+void replace_all(std::string& text, std::string const& wanted, std::string const& replacement)
+{
+  for (std::size_t at = 0; (at = text.find(wanted, at)) != std::string::npos; at += replacement.size())
+    text.replace(at, wanted.size(), replacement);
+}
+}
+
+std::string axsPlainWords::of(unsigned int code, std::string const& text, int open_since)
+{
+  auto const known = std::find_if(std::begin(wordings), std::end(wordings),
+    [code](Wording const& wording) { return wording.code == static_cast<Codes>(code); });
+  if (known == std::end(wordings))
+    return text;
+  std::string words = known->text;
+  replace_all(
+    words, "%since", open_since > 0 ? ", open since line " + std::to_string(open_since) + "," : std::string());
+  replace_all(words, "%1", quoted_in(text, 1));
+  replace_all(words, "%2", quoted_in(text, 2));
+  return words;
+}
+
+std::string axsPlainWords::of_exception(unsigned int code, std::string const& text)
+{
+  return code == xercesc::XMLExcepts::Trans_CantCreateCvtrFor ? "the encoding '" + quoted_in(text, 1) + "' is not known"
+                                                              : text;
+}
