@@ -73,6 +73,20 @@ inline bool skip_spaces(char const*& at)
   return at != before;
 }
 
+/// Moves behind the character `expected`, one of ASCII, if that stands at `at`. Whether it does.
+inline bool skip_character(char const*& at, char expected)
+{
+  bool const found = *at == expected;
+  at += found ? 1 : 0;
+  return found;
+}
+
+/// Moves behind the tab or line end at `at` (2.11).
+inline void skip_line_end(char const*& at)
+{
+  at += begins(at, "\r\n") ? 2 : 1;
+}
+
 /// Whether the two differ at most in capital letters of ASCII.
 bool is_equal_in_any_case(std::string_view text, std::string_view lower_case);
 
@@ -98,6 +112,14 @@ char const* behind_name(char const* at);
 
 /// Behind the rest of a name, of which the character before `at` is a part.
 char const* behind_rest_of_name(char const* at);
+
+/// Moves behind the name at `at`. Whether there is one.
+inline bool skip_name(char const*& at)
+{
+  char const* const before = at;
+  at = behind_name(at);
+  return at != before;
+}
 
 /// The first byte at or behind `at` that is one of `stops`, not ASCII or a control character other than tab and line
 /// feed.
@@ -126,5 +148,18 @@ char const* behind_value(char const* at, char quote)
       return at + found.first();
     at += Block::size;
   }
+}
+
+/// Reads a text in quotes and moves behind it. Whether there was one, without '<', '&', control characters and characters
+/// beyond ASCII; `at` is otherwise where that shows.
+inline bool read_literal(char const*& at, std::string_view& text)
+{
+  char const quote = *at;
+  if (quote != '"' && quote != '\'')
+    return false;
+  char const* const from = at + 1;
+  at = behind_value(from, quote);
+  text = {from, static_cast<std::size_t>(at - from)};
+  return skip_character(at, quote);
 }
 }

@@ -1,25 +1,13 @@
 #include "axsProlog.h"
 
 #include "axsCharacters.h"
+#include "axsExternalId.h"
 
-#include <algorithm>
 #include <string_view>
 
 namespace
 {
 using namespace axsCharacters;
-
-// Reads a text in quotes. Whether there was one, without any character that would be unusual there.
-bool literal(char const*& at, std::string_view& text)
-{
-  char const quote = *at;
-  if (quote != '"' && quote != '\'')
-    return false;
-  char const* const from = at + 1;
-  at = behind_value(from, quote);
-  text = {from, static_cast<std::size_t>(at - from)};
-  return skip(at, {&quote, 1});
-}
 
 // Reads, of the XML declaration, '=' and a value (2.8, [25] Eq). Empty where there is none.
 std::string_view declared_value(char const*& at)
@@ -29,29 +17,7 @@ std::string_view declared_value(char const*& at)
   if (!skip(at, "="))
     return {};
   skip_spaces(at);
-  return literal(at, value) ? value : std::string_view();
-}
-
-// 2.3, [13] PubidChar
-bool is_public_id_character(char c)
-{
-  return is(c, name) || std::string_view(" '()+,/=?;!*#@$%").find(c) != std::string_view::npos;
-}
-
-// Moves behind an external identifier (4.2.2, [75] ExternalID). Whether there was one.
-bool external_id(char const*& at)
-{
-  bool const is_public = skip(at, "PUBLIC");
-  if (!is_public && !skip(at, "SYSTEM"))
-    return false;
-  if (is_public)
-  {
-    std::string_view id;
-    if (!skip_spaces(at) || !literal(at, id) || !std::all_of(id.begin(), id.end(), is_public_id_character))
-      return false;
-  }
-  std::string_view id;
-  return skip_spaces(at) && literal(at, id);
+  return read_literal(at, value) ? value : std::string_view();
 }
 }
 
@@ -83,14 +49,12 @@ bool axsProlog::skip_declaration(char const*& at, Encoding& encoding)
   return skip(at, "?>");
 }
 
-bool axsProlog::skip_doctype(char const*& at)
+bool axsProlog::skip_doctype_begin(char const*& at)
 {
-  if (!skip(at, "<!DOCTYPE") || !skip_spaces(at))
+  if (!skip(at, "<!DOCTYPE") || !skip_spaces(at) || !skip_name(at))
     return false;
-  char const* const name = at;
-  at = behind_name(name);
-  if (at == name || (skip_spaces(at) && *at != '>' && !external_id(at)))
+  if (skip_spaces(at) && *at != '[' && *at != '>' && !axsExternalId::skip(at))
     return false;
   skip_spaces(at);
-  return skip(at, ">");
+  return *at == '[' || *at == '>';
 }

@@ -14,7 +14,7 @@ enum class Encoding
 /// either of which may be missing. False where there is another declaration; `at` is then of no use.
 bool skip_declaration(char const*& at, Encoding& encoding);
 
-/// Moves behind a document type declaration without an internal subset (2.8, [28] doctypedecl). False where there is
-/// none; `at` is then where that shows.
-bool skip_doctype(char const*& at);
+/// Moves from the start of a document type declaration (2.8, [28] doctypedecl) to the '[' of its internal subset, or to the
+/// '>' if it has none. False where there is no declaration; `at` is then where that shows.
+bool skip_doctype_begin(char const*& at);
 }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
+class axsAttributeList;
 class axsName;
 struct axsPrefix;
 
@@ -22,6 +23,9 @@ struct axsReadName
 
   /// The number of the last element that had an attribute of that name.
   std::uint64_t last_element = 0;
+
+  /// What is declared of the attributes of elements of that name; null if nothing is.
+  axsAttributeList* attributes = nullptr;
 };
 
 /// An attribute of the element that is being read.

@@ -1,13 +1,18 @@
 #include "axsScanner.h"
 
+#include "axsAttributeList.h"
+#include "axsAttributeValue.h"
 #include "axsCharacters.h"
 #include "axsName.h"
 #include "axsNameCache.h"
 #include "axsNamespaceScope.h"
 #include "axsProlog.h"
 #include "axsReadingEvents.h"
+#include "axsReference.h"
 #include "axsSource.h"
+#include "axsSubset.h"
 #include "axsWindow.h"
+#include "axsXercesParser.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -32,14 +37,6 @@ enum class Step
 // Nothing looks further ahead than this without looking at every byte up to there.
 std::ptrdiff_t const look_ahead = 16;
 
-struct Entity
-{
-  std::string_view reference;
-  char character;
-};
-
-Entity const predefined[] = {{"&lt;", '<'}, {"&gt;", '>'}, {"&amp;", '&'}, {"&quot;", '"'}, {"&apos;", '\''}};
-
 // One run over a document. Each step reads one text or piece of markup at `at` and tells of it when it has seen the
 // whole; a step that ends with `more` is made again.
 class Scan
@@ -62,17 +59,17 @@ private:
   Step processing_instruction();
 
   Step stop(char const* place) const;
-  bool attribute(char const*& p);
-  bool value(char const*& p, std::string_view& value);
+  bool attribute(char const*& p, axsReadName const& element);
+  bool add_missing_attributes(axsReadName const& element);
   bool section(char const*& p, std::string_view closing, std::string_view& data);
-  bool reference(char const*& p);
   void take(char const* from, char const* to) { normal.append(from, static_cast<std::size_t>(to - from)); }
-  void take_line_end(char const*& p, char as);
+  void take_line_end(char const*& p);
 
   axsReadingEvents& events;
   axsWindow window;
   axsNameCache names;
   axsNamespaceScope namespaces;
+  axsSubset subset;
   std::vector<axsName const*> open;
   axsNamespaceScope::Attributes attributes;
   // The texts of this step that do not stand in the window as they are. It has room for whatever can come out of the
@@ -80,12 +77,19 @@ private:
   std::string normal;
   char const* at;
   std::uint64_t elements = 0;
+  // The characters of the values that are declared and not written.
+  std::uint64_t defaulted = 0;
   bool doctype_seen = false;
   bool root_seen = false;
   axsProlog::Encoding encoding = axsProlog::Encoding::utf8;
 };
 
-Scan::Scan(axsSource& source, axsReadingEvents& told) : events(told), window(source), names(told), at(window.begin())
+Scan::Scan(axsSource& source, axsReadingEvents& told)
+  : events(told),
+    window(source),
+    names(told),
+    subset(names),
+    at(window.begin())
 {
   normal.reserve(window.capacity());
 }
@@ -157,7 +161,15 @@ Step Scan::outside()
 Step Scan::doctype()
 {
   char const* p = at;
-  if (root_seen || doctype_seen || !axsProlog::skip_doctype(p))
+  if (root_seen || doctype_seen || !axsProlog::skip_doctype_begin(p))
+    return stop(p);
+  if (skip(p, "["))
+  {
+    if (!subset.read(p))
+      return stop(p);
+    skip_spaces(p);
+  }
+  if (!skip(p, ">"))
     return stop(p);
   doctype_seen = true;
   events.doctype({at, static_cast<std::size_t>(p - at)});
@@ -183,13 +195,13 @@ Step Scan::text()
       return Step::next;
     case '&':
       take(from, p);
-      if (!reference(p))
+      if (!axsReference::read(p, normal))
         return stop(p);
       from = p;
       break;
     case '\r':
       take(from, p);
-      take_line_end(p, '\n');
+      take_line_end(p);
       from = p;
       break;
     case ']':
@@ -216,11 +228,13 @@ Step Scan::start_tag()
   attributes.clear();
   normal.clear();
   while (*p != '>' && *p != '/')
-    if (!skip_spaces(p) || (*p != '>' && *p != '/' && !attribute(p)))
+    if (!skip_spaces(p) || (*p != '>' && *p != '/' && !attribute(p, name)))
       return stop(p);
   bool const is_empty = *p == '/';
   if (!skip(p, is_empty ? "/>" : ">"))
     return stop(p);
+  if (name.attributes != nullptr && !add_missing_attributes(name))
+    return Step::refused;
   if (!namespaces.open(name, attributes) || open.size() == axsScanner::most_levels)
     return Step::refused;
 
@@ -239,7 +253,7 @@ Step Scan::start_tag()
   return Step::next;
 }
 
-bool Scan::attribute(char const*& p)
+bool Scan::attribute(char const*& p, axsReadName const& element)
 {
   char const* const begin = p;
   p = behind_name(begin);
@@ -254,56 +268,22 @@ bool Scan::attribute(char const*& p)
   if (!skip(p, "="))
     return false;
   skip_spaces(p);
-  std::string_view read;
-  if (!value(p, read))
+  std::string_view value;
+  if (!axsAttributeValue::read(p, normal, value))
     return false;
-  attributes.push_back({&name, read});
+  if (element.attributes != nullptr && element.attributes->is_of_tokens(name))
+    axsAttributeValue::collapse(normal, value);
+  attributes.push_back({&name, value});
   return true;
 }
 
-// Reads a value in quotes and normalises it as that of an attribute that nothing declares (3.3.3).
-bool Scan::value(char const*& p, std::string_view& value)
+// The other parser bounds what a document becomes (axsXercesParser::growth_limit). This one stops long before that: what
+// is written, and an element that is counted as 8 bytes, are at most three times the document.
+bool Scan::add_missing_attributes(axsReadName const& element)
 {
-  char const quote = *p;
-  if (quote != '"' && quote != '\'')
-    return false;
-  char const* const begin = ++p;
-  char const* from = begin;
-  std::size_t const before = normal.size();
-  while (true)
-  {
-    p = behind_value(p, quote);
-    if (*p == quote)
-      break;
-    switch (*p)
-    {
-    case '&':
-      take(from, p);
-      if (!reference(p))
-        return false;
-      from = p;
-      break;
-    case '\t':
-    case '\n':
-    case '\r':
-      take(from, p);
-      take_line_end(p, ' ');
-      from = p;
-      break;
-    default:
-      if (!skip_multibyte(p))
-        return false;
-    }
-  }
-  if (from == begin)
-    value = {begin, static_cast<std::size_t>(p - begin)};
-  else
-  {
-    take(from, p);
-    value = std::string_view(normal).substr(before);
-  }
-  ++p;
-  return true;
+  defaulted += element.attributes->add_missing(attributes, elements);
+  return defaulted <= axsXercesParser::growth_free / 2 ||
+         defaulted / (axsXercesParser::growth_limit / 2) <= window.position(at);
 }
 
 Step Scan::end_tag()
@@ -402,7 +382,7 @@ bool Scan::section(char const*& p, std::string_view closing, std::string_view& d
       return true;
     case '\r':
       take(from, p);
-      take_line_end(p, '\n');
+      take_line_end(p);
       from = p;
       break;
     default:
@@ -412,45 +392,10 @@ bool Scan::section(char const*& p, std::string_view closing, std::string_view& d
   }
 }
 
-// Takes the character for which the reference at `p` stands and moves behind it (4.1, [66] CharRef; 4.6).
-bool Scan::reference(char const*& p)
+void Scan::take_line_end(char const*& p)
 {
-  for (Entity const& entity : predefined)
-    if (skip(p, entity.reference))
-    {
-      normal += entity.character;
-      return true;
-    }
-  if (!skip(p, "&#"))
-    return false;
-  char32_t const base = skip(p, "x") ? 16 : 10;
-  char32_t code = 0;
-  char const* const digits = p;
-  // Eight digits make no number that does not fit.
-  for (; p - digits < 8; ++p)
-  {
-    char32_t digit = 0;
-    if (*p >= '0' && *p <= '9')
-      digit = static_cast<char32_t>(*p - '0');
-    else if (base == 16 && *p >= 'a' && *p <= 'f')
-      digit = static_cast<char32_t>(*p - 'a' + 10);
-    else if (base == 16 && *p >= 'A' && *p <= 'F')
-      digit = static_cast<char32_t>(*p - 'A' + 10);
-    else
-      break;
-    code = code * base + digit;
-  }
-  if (p == digits || !is_character(code) || !skip(p, ";"))
-    return false;
-  append_utf8(code, normal);
-  return true;
-}
-
-// Moves behind a tab or line end and takes it as one character (2.11).
-void Scan::take_line_end(char const*& p, char as)
-{
-  p += begins(p, "\r\n") ? 2 : 1;
-  normal += as;
+  skip_line_end(p);
+  normal += '\n';
 }
 }
 

@@ -6,7 +6,7 @@ class axsReadingEvents;
 class axsSource;
 
 /// Reads the ordinary document, and reads it fast: XML 1.0 with namespaces in UTF-8 or US-ASCII, well-formed, and if it
-/// has a document type declaration, one without an internal subset.
+/// has an internal subset, a usual one (axsSubset), of whose entities it makes no use.
 ///
 /// It judges nothing. Where it meets what is unusual or wrong it stops, and axsXercesParser reads the document from its
 /// start and says what is to be said. So it may refuse whatever it likes, but what it takes the other one takes, too, and

@@ -24,6 +24,7 @@ axsWindow::axsWindow(axsSource& given) : source(given), bytes(make_bytes(usual_r
 char const* axsWindow::advance(char const* from)
 {
   std::size_t const kept = static_cast<std::size_t>(end() - from);
+  passed += filled - kept;
   if (kept > room / 2)
   {
     std::unique_ptr<char[]> larger = make_bytes(room * 2);

@@ -25,6 +25,9 @@ public:
   /// The most bytes that it holds before it grows.
   std::size_t capacity() const noexcept { return room; }
 
+  /// Where in the source `at` is, which points into the window.
+  std::size_t position(char const* at) const noexcept { return passed + static_cast<std::size_t>(at - begin()); }
+
   /// Lets go what is before `from`, which points into the window, and reads more, if something comes. Returns where that
   /// byte stands now. Throws axsReadError when the source cannot be read, std::bad_alloc when memory runs out.
   char const* advance(char const* from);
@@ -36,5 +39,7 @@ private:
   std::unique_ptr<char[]> bytes;
   std::size_t room;
   std::size_t filled = 0;
+  // The bytes before the window.
+  std::size_t passed = 0;
   bool last = false;
 };

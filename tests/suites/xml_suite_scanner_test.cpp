@@ -31,6 +31,6 @@ TEST(xml_suite_scanner, agrees_with_the_parser_on_every_document)
       EXPECT_EQ(roads.difference(), "") << file;
       scanned += roads.scanned() ? 1 : 0;
     }
-  // Most documents of the suite have a document type.
-  EXPECT_GT(scanned, 400);
+  // Most documents of the suite are wrong or use entities.
+  EXPECT_GT(scanned, 1500);
 }

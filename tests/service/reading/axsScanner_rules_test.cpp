@@ -1,50 +1,10 @@
 // Each rule of XML 1.0 and its namespaces, by documents that keep and that break it. Numbers are those of the
 // productions and sections of XML 1.0.
 
-#include "BothRoads.h"
-
-#include <gtest/gtest.h>
-
-#include <initializer_list>
-#include <string>
+#include "ExpectRoads.h"
 
 namespace
 {
-using Documents = std::initializer_list<std::string>;
-
-// The scanner takes them, and the parser agrees.
-void expect_taken(Documents documents)
-{
-  for (std::string const& document : documents)
-  {
-    BothRoads const roads(document);
-    EXPECT_TRUE(roads.scanned()) << document.substr(0, 300);
-    EXPECT_EQ(roads.difference(), "") << document.substr(0, 300);
-  }
-}
-
-// They are right, but not for the scanner.
-void expect_left(Documents documents)
-{
-  for (std::string const& document : documents)
-  {
-    BothRoads const roads(document);
-    EXPECT_FALSE(roads.scanned()) << document.substr(0, 300);
-    EXPECT_TRUE(roads.parsed()) << document.substr(0, 300);
-  }
-}
-
-// They are wrong.
-void expect_refused(Documents documents)
-{
-  for (std::string const& document : documents)
-  {
-    BothRoads const roads(document);
-    EXPECT_FALSE(roads.scanned()) << document.substr(0, 300);
-    EXPECT_FALSE(roads.parsed()) << document.substr(0, 300);
-  }
-}
-
 std::string const mark = "\xEF\xBB\xBF";
 }
 
@@ -113,9 +73,7 @@ TEST(axsScanner_rules, document_types)
       "<!DOCTYPE r PUBLIC \"it's\"\n'>'\n><r/>", "<!DOCTYPE r PUBLIC '' ''><r/>", "<!DOCTYPE p:r><r/>",
       "<?xml version='1.0' standalone='yes'?><!DOCTYPE r SYSTEM 's'><r/>", "<!DOCTYPE SYSTEM><r/>",
       "<!DOCTYPE r SYSTEM 'a[b]'><r/>"});
-  expect_left({"<!DOCTYPE r []><r/>", "<!--a--><!DOCTYPE r [<!ENTITY e 'x'>]><r>&e;</r>",
-    "<!DOCTYPE r [<!ATTLIST r a NMTOKEN #IMPLIED>]><r a='  x  '/>", "<!DOCTYPE r SYSTEM 's' [<!ELEMENT r ANY>]><r/>",
-    "<!DOCTYPE r SYSTEM 'a&b'><r/>", "<!DOCTYPE r SYSTEM 's\x01'><r/>", "<!DOCTYPE r SYSTEM '\xC3\xA4'><r/>",
+  expect_left({"<!DOCTYPE r SYSTEM 'a&b'><r/>", "<!DOCTYPE r SYSTEM 's\x01'><r/>", "<!DOCTYPE r SYSTEM '\xC3\xA4'><r/>",
     "<!DOCTYPE r PUBLIC 'a\nb' 's'><r/>"});
   expect_refused({"<r/><!DOCTYPE r>", "<r><!DOCTYPE r></r>", "<!DOCTYPE r>", "<!ELEMENT r ANY><r/>", "<!DOCTYPE><r/>",
     "<!DOCTYPE ><r/>", "<!DOCTYPEr><r/>", "<!doctype r><r/>", "<!DOCTYPE r", "<!DOCTYPE r SYSTEM",

@@ -13,7 +13,11 @@
 namespace
 {
 std::string const with_everything =
-  "<!--c--><?p d?>\n<!DOCTYPE r PUBLIC 'p' \"s\"><r xmlns='u' xmlns:p='v' p:a='x\r\ny' "
+  "<!--c--><?p d?>\n<!DOCTYPE r PUBLIC 'p' \"s\" [<!ELEMENT r (#PCDATA|\xC3\xA4)*>\r\n<!ELEMENT a ((b?,c),d*)+ "
+  "><!--\xC3\xA4-->"
+  "<!ATTLIST a b NMTOKENS #FIXED ' x  y&#x20AC;' c (d|e) #REQUIRED f NOTATION (n) #IMPLIED g CDATA\r'\xC3\xA4\r\n'>"
+  "<?p \xC3\xA4?><!NOTATION n PUBLIC 'p' \t><!ENTITY e '\xE2\x82\xAC&#x20AC;&f;\r' > ]\n><r xmlns='u' xmlns:p='v' "
+  "p:a='x\r\ny' "
   "b=\"&lt;&#65;&#x20AC;\xC3\xA4\">\r\n text &amp; "
   "\xE2\x82\xAC]] <p:e \n/>"
   "<![CDATA[<]>\r]]><a>\n</a\t><!--\r--><?q  r?\r\n?>&#13;<p:e p:a='' c='&apos;'>]\r</p:e></r >\n<!--e--> ";
