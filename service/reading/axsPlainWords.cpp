@@ -1,6 +1,7 @@
 #include "axsPlainWords.h"
 
 #include <xercesc/framework/XMLErrorCodes.hpp>
+#include <xercesc/framework/XMLValidityCodes.hpp>
 #include <xercesc/util/XMLExceptMsgs.hpp>
 
 #include <algorithm>
@@ -10,15 +11,17 @@
 namespace
 {
 using Codes = xercesc::XMLErrs::Codes;
+using Validity = xercesc::XMLValid::Codes;
 
 struct Wording
 {
-  Codes code;
-  // "%1" and "%2" stand for what the parser's text has in its first and second quotes, "%since" for where the innermost open element began.
+  unsigned int code;
+  // "%1" and "%2" stand for what the parser's text has in its first and second quotes, "%since" for where the innermost
+  // open element began.
   char const* text;
 };
 
-Wording const wordings[] = {
+Wording const parser_wordings[] = {
   {Codes::InvalidDocumentStructure,
     "the root element is missing: only comments and processing instructions may stand before it"},
   {Codes::ExpectedCommentOrPI, "only comments and processing instructions may follow the root element"},
@@ -48,8 +51,29 @@ Wording const wordings[] = {
     "no processing instruction is named 'xml'; the XML declaration stands at the very beginning of the document only"},
   {Codes::BracketInAttrValue,
     "the value of the attribute '%2' has a '<', which is written &lt; there, or the quote that ends it is missing"},
+  {Codes::EntityExpansionLimitExceeded, "entities are expanded more than %1 times, which is the limit"},
   {Codes::BadStandalone, "the standalone declaration must be 'yes' or 'no'"},
   {Codes::XMLVersionRequired, "the XML declaration must begin with the version"},
+};
+
+Wording const exception_wordings[] = {
+  {xercesc::XMLExcepts::Trans_CantCreateCvtrFor, "the encoding '%1' is not known"},
+};
+
+Wording const validity_wordings[] = {
+  {Validity::NoCharDataInCM, "text is not allowed here"},
+  {Validity::EmptyElemHasContent, "it must be empty"},
+  {Validity::ElementNotQualified,
+    "element '%1' must be in the namespace of its schema: its prefix or an xmlns is missing"},
+  {Validity::ElementNotUnQualified,
+    "element '%1' must be in no namespace here: its schema has elementFormDefault unqualified"},
+  {Validity::IDNotDeclared, "there is no ID '%1', to which an IDREF refers"},
+  {Validity::IC_DuplicateKey, "its key is not unique in the element '%1'"},
+  {Validity::IC_DuplicateUnique, "what must be unique in the element '%1' is not"},
+  {Validity::IC_AbsentKeyValue, "a key of the element '%1' has no value"},
+  {Validity::IC_KeyNotEnoughValues, "a part of the key '%2' of the element '%1' has no value"},
+  {Validity::IC_KeyNotFound, "a key reference in the element '%1' has no key that it refers to"},
+  {Validity::IC_FieldMultipleMatch, "a field of a key has several values here"},
 };
 
 // What stands in quotes, the first ones or those of another `number`.
@@ -70,24 +94,35 @@ void replace_all(std::string& text, std::string const& wanted, std::string const
   for (std::size_t at = 0; (at = text.find(wanted, at)) != std::string::npos; at += replacement.size())
     text.replace(at, wanted.size(), replacement);
 }
-}
 
-std::string axsPlainWords::of(unsigned int code, std::string const& text, int open_since)
+template <std::size_t count>
+std::string reworded(Wording const (&wordings)[count], unsigned int code, std::string const& text)
 {
-  auto const known = std::find_if(std::begin(wordings), std::end(wordings),
-    [code](Wording const& wording) { return wording.code == static_cast<Codes>(code); });
+  auto const known = std::find_if(
+    std::begin(wordings), std::end(wordings), [code](Wording const& wording) { return wording.code == code; });
   if (known == std::end(wordings))
     return text;
   std::string words = known->text;
-  replace_all(
-    words, "%since", open_since > 0 ? ", open since line " + std::to_string(open_since) + "," : std::string());
   replace_all(words, "%1", quoted_in(text, 1));
   replace_all(words, "%2", quoted_in(text, 2));
   return words;
 }
+}
+
+std::string axsPlainWords::of(unsigned int code, std::string const& text, int open_since)
+{
+  std::string words = reworded(parser_wordings, code, text);
+  replace_all(
+    words, "%since", open_since > 0 ? ", open since line " + std::to_string(open_since) + "," : std::string());
+  return words;
+}
+
+std::string axsPlainWords::of_validity(unsigned int code, std::string const& text)
+{
+  return reworded(validity_wordings, code, text);
+}
 
 std::string axsPlainWords::of_exception(unsigned int code, std::string const& text)
 {
-  return code == xercesc::XMLExcepts::Trans_CantCreateCvtrFor ? "the encoding '" + quoted_in(text, 1) + "' is not known"
-                                                              : text;
+  return reworded(exception_wordings, code, text);
 }

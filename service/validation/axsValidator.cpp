@@ -127,6 +127,7 @@ void Run::scan()
   scanner->setEntityHandler(&entities);
   scanner->setErrorReporter(&errors);
   source.rewind();
+  errors.start(*scanner->getLocator(), scanner->getEmptyNamespaceId());
   axsInputSource input(source, memory);
   scanner->scanDocument(input);
   errors.finish();

@@ -66,6 +66,129 @@ TEST(axsSchemas, names_element_attribute_and_rule_with_their_place)
   EXPECT_EQ(narrow(error.url()), document.name);
 }
 
+namespace
+{
+std::string const orders =
+  "<xs:simpleType name='colour'><xs:restriction base='xs:string'><xs:enumeration value='red'/>"
+  "<xs:enumeration value='green'/></xs:restriction></xs:simpleType>"
+  "<xs:simpleType name='code'><xs:restriction base='xs:string'><xs:pattern value='[A-Z]{3}'/></xs:restriction>"
+  "</xs:simpleType>"
+  "<xs:simpleType name='percent'><xs:restriction base='xs:int'><xs:minInclusive value='0'/>"
+  "<xs:maxInclusive value='100'/></xs:restriction></xs:simpleType>"
+  "<xs:simpleType name='ints'><xs:list itemType='xs:int'/></xs:simpleType>"
+  "<xs:complexType name='item'><xs:sequence><xs:element name='name' type='xs:token'/>"
+  "<xs:element name='price' type='xs:decimal' minOccurs='0'/></xs:sequence>"
+  "<xs:attribute name='id' type='xs:int' use='required'/><xs:attribute name='colour' type='colour'/>"
+  "</xs:complexType>"
+  "<xs:complexType name='more'><xs:complexContent><xs:extension base='item'><xs:sequence>"
+  "<xs:element name='more'/></xs:sequence></xs:extension></xs:complexContent></xs:complexType>"
+  "<xs:element name='r'><xs:complexType><xs:sequence><xs:element name='item' type='item' minOccurs='0' maxOccurs='2'/>"
+  "<xs:choice minOccurs='0' maxOccurs='unbounded'><xs:element name='d' type='xs:double'/>"
+  "<xs:element name='b' type='xs:boolean'/><xs:element name='date' type='xs:date'/>"
+  "<xs:element name='code' type='code'/><xs:element name='percent' type='percent'/>"
+  "<xs:element name='ints' type='ints'/><xs:element name='id' type='xs:ID'/><xs:element name='ref' type='xs:IDREF'/>"
+  "<xs:element name='size'><xs:simpleType><xs:restriction base='xs:string'><xs:maxLength value='2'/></xs:restriction>"
+  "</xs:simpleType></xs:element></xs:choice></xs:sequence></xs:complexType>"
+  "<xs:key name='k'><xs:selector xpath='item'/><xs:field xpath='@id'/></xs:key></xs:element>";
+
+struct Invalid
+{
+  char const* text;
+  int line;
+  int column;
+  char const* message;
+};
+}
+
+TEST(axsSchemas, says_in_plain_words_what_is_not_valid_and_where)
+{
+  TestFile const file("engine_orders.xsd", schema("", orders));
+  std::string const own_type =
+    "<r><item xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xsi:type='more' id='1'>\n<name/>\n";
+  Invalid const documents[] = {
+    // Values.
+    {"<r><d>1,5</d></r>", 1, 14, "element 'd': \"1,5\" is not of the type xs:double, as in 1.5"},
+    {"<r>\n<b>yes</b></r>", 2, 11, "element 'b': \"yes\" is not of the type xs:boolean, which is true, false, 1 or 0"},
+    {"<r><b/></r>", 1, 8, "element 'b': \"\" is not of the type xs:boolean, which is true, false, 1 or 0"},
+    {"<r><date>31.12.2024</date></r>", 1, 27,
+      "element 'date': \"31.12.2024\" is not of the type xs:date, as in 2024-12-31"},
+    {"<r><date>2024-02-30</date></r>", 1, 27,
+      "element 'date': \"2024-02-30\" is not of the type xs:date: day value '2024-02-30' must be between 1 and 29"},
+    {"<r><code>ab</code></r>", 1, 19,
+      "element 'code': \"ab\" is not of the type 'code': it does not match the pattern '[A-Z]{3}'"},
+    {"<r><percent>x</percent></r>", 1, 24,
+      "element 'percent': \"x\" is not of the type 'percent', which is made from xs:int"},
+    {"<r><percent>101</percent></r>", 1, 26,
+      "element 'percent': \"101\" is not of the type 'percent': it must be less than or equal to maxInclusive facet "
+      "value '100'"},
+    {"<r><ints>1 x</ints></r>", 1, 20,
+      "element 'ints': \"1 x\" is not of the type 'ints': value 'x' does not match the pattern '[+\\-]?[0-9]+'"},
+    {"<r><size>abc</size></r>", 1, 20,
+      "element 'size': \"abc\" is not allowed: it has length '3' which exceeds maxLength facet value '2'"},
+    {"<r><item id='x'><name/></item></r>", 1, 17, "attribute 'id' of element 'item': \"x\" is not of the type xs:int"},
+    {"<r><item id='1' colour='blue'><name/></item></r>", 1, 31,
+      "attribute 'colour' of element 'item': \"blue\" is not of the type 'colour': it is none of 'red', 'green'"},
+    {"<r><item id='99999999999'><name/></item></r>", 1, 27,
+      "attribute 'id' of element 'item': \"99999999999\" is not of the type xs:int: it must be less than or equal to "
+      "maxInclusive facet value '2147483647'"},
+    {"<r><id>a</id><id>a</id></r>", 1, 24, "element 'id': ID value 'a' is not unique"},
+    // What stands where.
+    {"<r>\n<item id='1'/>\n</r>", 2, 15, "element 'item' ends too early; expected is 'name'"},
+    {"<r>\n<item id='1'>\n<price>1</price>\n</item>\n</r>", 3, 8,
+      "element 'price' may not stand here in 'item'; expected is 'name'"},
+    {"<r><item id='1'>\n<name/>\n<name/>\n<price>1</price></item></r>", 3, 8,
+      "element 'name' may not stand here in 'item'; expected is 'price' or the end of the element"},
+    {"<r>\n<item id='1'><name/></item>\n<item id='2'><name/></item>\n<item id='3'><name/></item>\n<d>1</d>\n</r>", 4,
+      14,
+      "element 'item' may not stand here in 'r'; expected is 'd', 'b', 'date', 'code', 'percent', 'ints', 'id', 'ref', "
+      "'size' or the end of the element"},
+    {"<r>\n<item id='1'><nam/></item></r>", 2, 20, "element 'nam' may not stand here in 'item'; expected is 'name'"},
+    {"<r>\n<item id='1'>text<name/></item></r>", 2, 18, "element 'item': text is not allowed here"},
+    {"<r>\n<item><name/></item></r>", 2, 7, "element 'item': missing required attribute 'id'"},
+    {"<r>\n<item id='1' ID='2'><name/></item></r>", 2, 21, "attribute 'ID' is not declared for element 'item'"},
+    {"<R/>", 1, 5, "no declaration found for element 'R'"},
+    // Across the document.
+    {"<r>\n<item id='1'><name/></item>\n<item id='1'><name/></item></r>", 3, 14,
+      "element 'item': its key is not unique in the element 'r'"},
+    {"<r>\n<ref>a</ref>\n</r>", 3, 5, "there is no ID 'a', to which an IDREF refers"},
+  };
+  for (Invalid const& document : documents)
+  {
+    axmParseError const error = error_of(document.text, plain(file.path()));
+    EXPECT_EQ(narrow(error.message()), document.message) << document.text;
+    EXPECT_EQ(error.line_number(), document.line) << document.text;
+    EXPECT_EQ(error.column_number(), document.column) << document.text;
+  }
+
+  // Of an element that names its type itself, what its declaration expects is not what is expected.
+  EXPECT_NE(load(own_type + "<more/></item></r>", plain(file.path())), nullptr);
+  axmParseError const error = error_of(own_type + "<more/><more/></item></r>", plain(file.path()));
+  EXPECT_NE(narrow(error.message()).find("'more'"), std::string::npos) << narrow(error.message());
+  EXPECT_EQ(narrow(error.message()).find("expected is"), std::string::npos) << narrow(error.message());
+}
+
+TEST(axsSchemas, names_namespaces_where_names_differ_in_nothing_else)
+{
+  TestFile const other("engine_form_2.xsd", number_schema("urn:o", "n"));
+  TestFile const file("engine_form.xsd",
+    schema(" targetNamespace='urn:m' xmlns:o='urn:o'",
+      "<xs:import namespace='urn:o' schemaLocation='engine_form_2.xsd'/><xs:element name='m'><xs:complexType>"
+      "<xs:sequence><xs:element ref='o:n'/></xs:sequence></xs:complexType></xs:element><xs:element name='n'/>"));
+  axmLoadOptions const options = with({{"urn:m", file.path()}});
+  EXPECT_EQ(narrow(error_of("<m xmlns='urn:m'><n>1</n></m>", options).message()),
+    "element 'n' of the namespace 'urn:m' may not stand here in 'm'; expected is 'n' of the namespace 'urn:o'");
+  EXPECT_EQ(narrow(error_of("<p:m xmlns:p='urn:m'><n>1</n></p:m>", options).message()),
+    "element 'n' in no namespace may not stand here in 'm'; expected is 'n' of the namespace 'urn:o'");
+}
+
+TEST(axsSchemas, a_long_value_is_shown_in_part)
+{
+  TestFile const file("engine_long_value.xsd", schema("", "<xs:element name='r' type='xs:int'/>"));
+  std::string const shown = narrow(error_of("<r>" + std::string(1000, 'x') + "</r>", plain(file.path())).message());
+  EXPECT_EQ(shown, "element 'r': \"" + std::string(100, 'x') + "...\" is not of the type xs:int");
+  EXPECT_LT(error_of("<r>" + std::string(1000000, 'x') + "</r>", plain(file.path())).message().length(), 10000);
+}
+
 TEST(axsSchemas, changes_nothing_of_what_is_loaded)
 {
   TestFile const file("engine_defaults.xsd",
