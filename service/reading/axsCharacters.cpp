@@ -1,6 +1,6 @@
 #include "axsCharacters.h"
 
-#include <xercesc/util/XMLChar.hpp>
+#include "axsXmlName.h"
 
 #include <algorithm>
 
@@ -22,14 +22,13 @@ axsCharacters::Character read_rest(char const* at, char32_t code, std::size_t le
   return {code, length};
 }
 
-// The length of the character at `at`, if a name may have it.
-template <class Test>
-std::size_t length_in_name(char const* at, Test test)
+// The length of the character at `at`, one beyond ASCII for which `test` holds; 0 of another one.
+std::size_t length_in_name(char const* at, bool (*test)(char32_t) noexcept)
 {
   if (axsCharacters::is_ascii(*at))
     return 0;
   axsCharacters::Character const found = axsCharacters::character(at);
-  return found.code <= 0xFFFF && test(static_cast<XMLCh>(found.code)) ? found.length : 0;
+  return test(found.code) ? found.length : 0;
 }
 }
 
@@ -99,7 +98,7 @@ char const* axsCharacters::behind_name(char const* at)
 {
   if (is(*at, name_start))
     return behind_rest_of_name(at + 1);
-  std::size_t const length = length_in_name(at, [](XMLCh c) { return xercesc::XMLChar1_0::isFirstNameChar(c); });
+  std::size_t const length = length_in_name(at, axsXmlName::is_start);
   return length == 0 ? at : behind_rest_of_name(at + length);
 }
 
@@ -109,7 +108,7 @@ char const* axsCharacters::behind_rest_of_name(char const* at)
   {
     while (is(*at, name))
       ++at;
-    std::size_t const length = length_in_name(at, [](XMLCh c) { return xercesc::XMLChar1_0::isNameChar(c); });
+    std::size_t const length = length_in_name(at, axsXmlName::is_part);
     if (length == 0)
       return at;
     at += length;

@@ -106,8 +106,7 @@ bool skip_multibyte(char const*& at);
 
 void append_utf8(char32_t code, std::string& text);
 
-/// Behind the name at `at`; `at` itself if there is none. What is a name is a matter of the parser's tables, names with
-/// characters beyond U+FFFF are passed over.
+/// Behind the name at `at` (axsXmlName); `at` itself if there is none.
 char const* behind_name(char const* at);
 
 /// Behind the rest of a name, of which the character before `at` is a part.

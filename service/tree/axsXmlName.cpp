@@ -26,16 +26,6 @@ bool is_in(Ranges const& ranges, char32_t c)
     std::begin(ranges), std::end(ranges), [c](Range range) { return c >= range.first && c <= range.last; });
 }
 
-bool is_name_start(char32_t c)
-{
-  return is_in(start_ranges, c);
-}
-
-bool is_name_character(char32_t c)
-{
-  return is_name_start(c) || is_in(further_ranges, c);
-}
-
 // The character at `at`, which moves behind it; half a pair is itself, and no name has it.
 char32_t read(std::wstring_view text, std::size_t& at)
 {
@@ -57,10 +47,20 @@ bool axsXmlName::is_name(apString const& text) noexcept
 {
   std::wstring_view const characters = text.view();
   std::size_t at = 0;
-  if (characters.empty() || !is_name_start(read(characters, at)))
+  if (characters.empty() || !is_start(read(characters, at)))
     return false;
   while (at < characters.size())
-    if (!is_name_character(read(characters, at)))
+    if (!is_part(read(characters, at)))
       return false;
   return true;
+}
+
+bool axsXmlName::is_start(char32_t character) noexcept
+{
+  return is_in(start_ranges, character);
+}
+
+bool axsXmlName::is_part(char32_t character) noexcept
+{
+  return is_start(character) || is_in(further_ranges, character);
 }

@@ -28,6 +28,19 @@ void refuses(std::shared_ptr<axmDocument> const& document)
   EXPECT_EQ(file.contents(), "old");
 }
 
+std::string utf8(char32_t code)
+{
+  auto const byte = [](char32_t value) { return static_cast<char>(value); };
+  if (code < 0x80)
+    return {byte(code)};
+  if (code < 0x800)
+    return {byte(0xC0 + code / 64), byte(0x80 + code % 64)};
+  if (code < 0x10000)
+    return {byte(0xE0 + code / 4096), byte(0x80 + code / 64 % 64), byte(0x80 + code % 64)};
+  return {
+    byte(0xF0 + code / 262144), byte(0x80 + code / 4096 % 64), byte(0x80 + code / 64 % 64), byte(0x80 + code % 64)};
+}
+
 int files_beginning_with(std::string const& name)
 {
   int files = 0;
@@ -221,4 +234,48 @@ TEST(axsSaving, saves_only_documents_of_its_own)
   EXPECT_EQ(saved(document), declaration + "<r/>\n");
   EXPECT_EQ(narrow(document->get_xml()), declaration + "<r/>\n");
   EXPECT_EQ(narrow(document->getDocumentElement()->get_xml()), "<r/>");
+}
+
+// The borders of XML 1.0, fifth edition, 2.3, [4] NameStartChar and [4a] NameChar.
+TEST(axsSaving, names_come_back_up_to_the_borders_of_what_is_one)
+{
+  struct
+  {
+    char32_t first;
+    char32_t last;
+    bool starts;
+  } const ranges[] = {{'A', 'Z', true}, {'_', '_', true}, {'a', 'z', true}, {0xC0, 0xD6, true}, {0xD8, 0xF6, true},
+    {0xF8, 0x2FF, true}, {0x370, 0x37D, true}, {0x37F, 0x1FFF, true}, {0x200C, 0x200D, true}, {0x2070, 0x218F, true},
+    {0x2C00, 0x2FEF, true}, {0x3001, 0xD7FF, true}, {0xF900, 0xFDCF, true}, {0xFDF0, 0xFFFD, true},
+    {0x10000, 0xEFFFF, true}, {'-', '.', false}, {'0', '9', false}, {0xB7, 0xB7, false}, {0x300, 0x36F, false},
+    {0x203F, 0x2040, false}};
+  auto const document = engine()->createDocument(APSTRING("r"));
+  auto const root = document->getDocumentElement();
+  for (auto const& range : ranges)
+    for (char32_t const code : {range.first, range.last})
+    {
+      EXPECT_EQ(document->createElement(wide(utf8(code) + "a")) != nullptr, range.starts) << utf8(code);
+      std::string const name = (range.starts ? utf8(code) : "a") + utf8(code) + "b";
+      auto const element = document->createElement(wide(name));
+      ASSERT_NE(element, nullptr) << name;
+      element->setAttribute(wide(name), wide(name));
+      root->appendChild(element);
+    }
+
+  std::string const xml = saved(document);
+  std::string const root_only = xml.substr(declaration.size());
+  // The last one is what the engine leaves to its parser.
+  for (std::string const& text : {xml, root_only, "<!DOCTYPE r [<!ATTLIST s a CDATA '1'>]>" + root_only,
+         "<!DOCTYPE r [<!ENTITY % p ''>]>" + root_only})
+  {
+    auto const loaded = load(text);
+    ASSERT_NE(loaded, nullptr);
+    EXPECT_EQ(narrow(loaded->getDocumentElement()->get_xml()), narrow(root->get_xml()));
+  }
+  for (char32_t const code : {0xBF, 0xD7, 0xF7, 0x37E, 0x2000, 0x200B, 0x200E, 0x203E, 0x2041, 0x206F, 0x2190, 0x2BFF,
+         0x2FF0, 0x3000, 0xE000, 0xF8FF, 0xFDD0, 0xFDEF, 0xF0000, 0x10FFFF})
+  {
+    EXPECT_EQ(document->createElement(wide("a" + utf8(code))), nullptr) << utf8(code);
+    error_of("<a" + utf8(code) + "/>");
+  }
 }

@@ -32,6 +32,8 @@ XmlTest read_test(axmElement& element, std::string const& documents)
   test.id = attribute(element, "ID");
   test.collection = base.substr(0, base.find_last_not_of('/') + 1);
   test.type = attribute(element, "TYPE");
+  std::string const editions = attribute(element, "EDITION");
+  test.is_of_fifth_edition = editions.empty() || editions.find('5') != std::string::npos;
   test.file = documents + base + attribute(element, "URI");
   std::string const output = attribute(element, "OUTPUT");
   if (!output.empty())

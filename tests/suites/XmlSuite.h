@@ -16,6 +16,9 @@ struct XmlTest
   /// that is in "error" a processor may say either.
   std::string type;
 
+  /// Whether it is one of the fifth edition of XML 1.0, or of all; others are of editions before that.
+  bool is_of_fifth_edition;
+
   /// The document, and the document with the same data in canonical form; the latter empty where there is none.
   std::string file;
   std::string canonical_file;

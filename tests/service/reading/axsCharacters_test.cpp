@@ -85,9 +85,10 @@ TEST(axsCharacters, knows_the_characters_of_xml)
 
 TEST(axsCharacters, finds_the_end_of_a_name)
 {
-  for (auto const& [text, expected] : {std::pair<char const*, std::size_t>{"", 0}, {" a", 0}, {"-a", 0}, {"1a", 0},
-         {".a", 0}, {"a", 1}, {"_:a-1.b=", 7}, {"a/", 1}, {"\xC3\xA4\xC3\x84\xC2\xB7z>", 7}, {"a\xC2\xB7>", 3},
-         {"\xC2\xB7", 0}, {"a\xC3\x97", 1}, {"a\xC3>", 1}, {"\xC3", 0}, {"a\xF0\x90\x80\x80", 1}, {"a\xFF", 1}})
+  for (auto const& [text, expected] :
+    {std::pair<char const*, std::size_t>{"", 0}, {" a", 0}, {"-a", 0}, {"1a", 0}, {".a", 0}, {"a", 1}, {"_:a-1.b=", 7},
+      {"a/", 1}, {"\xC3\xA4\xC3\x84\xC2\xB7z>", 7}, {"a\xC2\xB7>", 3}, {"\xC2\xB7", 0}, {"a\xC3\x97", 1}, {"a\xC3>", 1},
+      {"\xC3", 0}, {"\xF0\x90\x80\x80", 4}, {"a\xF3\xAF\xBF\xBF>", 5}, {"a\xF3\xB0\x80\x80", 1}, {"a\xFF", 1}})
     EXPECT_EQ(length(text, axsCharacters::behind_name), expected) << text;
 }
 

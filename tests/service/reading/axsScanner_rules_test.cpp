@@ -89,10 +89,14 @@ TEST(axsScanner_rules, document_types)
 TEST(axsScanner_rules, names)
 {
   expect_taken({"<_/>", "<a1.-_:b xmlns:a1.-_='u'/>", "<\xC3\xA4/>", "<a\xC2\xB7\xCC\x80/>", "<r \xC3\xA4='1'/>",
-    "<?\xC3\xA4 b?><r/>", "<r></r >", "<r ></r\r\n>", "<" + std::string(5000, 'n') + "/>"});
-  expect_refused({"<1/>", "<-/>", "<./>", "<\xC2\xB7/>", "<r 1='1'/>", "<r -a='1'/>", "<a\xC3\x97/>", "<a!/>", "<a<b/>",
-    "<r></ r>", "<r></r a='1'>", "<r></rr>", "<rr></r>", "<r></R>", "<r></>", "<r><//r>", "<r></r", "<r></",
-    "<?1 a?><r/>", "<a\xFF/>", "<a\xC3/>", "<a\xE2\x82/>", "<r><a></r></a>"});
+    "<?\xC3\xA4 b?><r/>", "<\xF0\x90\x80\x80 a\xF0\x90\x80\x80='1'></\xF0\x90\x80\x80>", "<?\xF0\x90\x80\x80 b?><r/>",
+    "<!DOCTYPE \xF0\x90\x80\x80><r/>",
+    "<\xF0\x90\x80\x80:a xmlns:\xF0\x90\x80\x80='u' \xF0\x90\x80\x80:\xF3\xAF\xBF\xBF=''/>", "<r></r >", "<r ></r\r\n>",
+    "<" + std::string(5000, 'n') + "/>"});
+  expect_refused(
+    {"<1/>", "<-/>", "<./>", "<\xC2\xB7/>", "<r 1='1'/>", "<r -a='1'/>", "<a\xC3\x97/>", "<a!/>", "<a<b/>", "<r></ r>",
+      "<r></r a='1'>", "<r></rr>", "<rr></r>", "<r></R>", "<r></>", "<r><//r>", "<r></r", "<r></", "<?1 a?><r/>",
+      "<\xF3\xB0\x80\x80/>", "<a\xF4\x8F\xBF\xBF/>", "<a\xFF/>", "<a\xC3/>", "<a\xE2\x82/>", "<r><a></r></a>"});
 }
 
 TEST(axsScanner_rules, attributes)

@@ -216,6 +216,17 @@ TEST(axsSubset, declarations_of_entities)
     with("<!ENTITY apos '&#39;'>")});
 }
 
+TEST(axsSubset, names_of_every_kind)
+{
+  for (std::string const name :
+    {"_", "a1.-_", "\xC3\xA4\xC2\xB7", "\xE2\xB0\x80\xE3\x80\x81", "\xF0\x90\x80\x80\xF3\xAF\xBF\xBF"})
+    expect_taken({with("<!ELEMENT " + name + " (" + name + ")>"), with("<!ELEMENT r (#PCDATA|" + name + ")*>"),
+      with("<!ATTLIST " + name + " " + name + " NMTOKEN ' x '>", "<" + name + "/>"),
+      with("<!NOTATION " + name + " PUBLIC 'p'>"), with("<!ENTITY " + name + " '&" + name + ";'>"),
+      with("<?" + name + "?>"), list("a (" + name + ") #IMPLIED"), list("a NOTATION (" + name + ") #IMPLIED"),
+      list("a (1" + name + ") ' 1" + name + " '")});
+}
+
 TEST(axsSubset, an_element_has_as_many_declared_attributes_as_a_list_may_have)
 {
   std::string attributes;
