@@ -17,7 +17,7 @@ struct Wording
 {
   unsigned int code;
   // "%1" and "%2" stand for what the parser's text has in its first and second quotes, "%since" for where the innermost
-  // open element began.
+  // open element began; "%name" and "%space" for the parts of the first quotes, which are a namespace and a name.
   char const* text;
 };
 
@@ -54,6 +54,9 @@ Wording const parser_wordings[] = {
   {Codes::EntityExpansionLimitExceeded, "entities are expanded more than %1 times, which is the limit"},
   {Codes::BadStandalone, "the standalone declaration must be 'yes' or 'no'"},
   {Codes::XMLVersionRequired, "the XML declaration must begin with the version"},
+  {Codes::SchemaElementContentError, "this element may not stand in 'schema'"},
+  {Codes::TypeNotFound, "there is no declaration of '%name' %space"},
+  {Codes::NoCircularDefinition, "'%name' is defined by itself"},
 };
 
 Wording const exception_wordings[] = {
@@ -76,19 +79,6 @@ Wording const validity_wordings[] = {
   {Validity::IC_FieldMultipleMatch, "a field of a key has several values here"},
 };
 
-// What stands in quotes, the first ones or those of another `number`.
-std::string quoted_in(std::string const& text, int number)
-{
-  std::size_t open = text.find('\'');
-  std::size_t close = text.find('\'', open + 1);
-  for (; number > 1 && close != std::string::npos; --number)
-  {
-    open = text.find('\'', close + 1);
-    close = open == std::string::npos ? open : text.find('\'', open + 1);
-  }
-  return close == std::string::npos ? std::string() : text.substr(open + 1, close - open - 1);
-}
-
 void replace_all(std::string& text, std::string const& wanted, std::string const& replacement)
 {
   for (std::size_t at = 0; (at = text.find(wanted, at)) != std::string::npos; at += replacement.size())
@@ -103,8 +93,13 @@ std::string reworded(Wording const (&wordings)[count], unsigned int code, std::s
   if (known == std::end(wordings))
     return text;
   std::string words = known->text;
-  replace_all(words, "%1", quoted_in(text, 1));
-  replace_all(words, "%2", quoted_in(text, 2));
+  std::string const first = axsPlainWords::quoted_in(text, 1);
+  std::size_t const split = first.find_last_of(":,");
+  bool const has_space = split != std::string::npos && split > 0;
+  replace_all(words, "%name", split == std::string::npos ? first : first.substr(split + 1));
+  replace_all(words, "%space", has_space ? "in the namespace '" + first.substr(0, split) + "'" : "in no namespace");
+  replace_all(words, "%1", first);
+  replace_all(words, "%2", axsPlainWords::quoted_in(text, 2));
   return words;
 }
 }
@@ -125,4 +120,16 @@ std::string axsPlainWords::of_validity(unsigned int code, std::string const& tex
 std::string axsPlainWords::of_exception(unsigned int code, std::string const& text)
 {
   return reworded(exception_wordings, code, text);
+}
+
+std::string axsPlainWords::quoted_in(std::string const& text, int number)
+{
+  std::size_t open = text.find('\'');
+  std::size_t close = text.find('\'', open + 1);
+  for (; number > 1 && close != std::string::npos; --number)
+  {
+    open = text.find('\'', close + 1);
+    close = open == std::string::npos ? open : text.find('\'', open + 1);
+  }
+  return close == std::string::npos ? std::string() : text.substr(open + 1, close - open - 1);
 }

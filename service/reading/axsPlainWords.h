@@ -15,4 +15,7 @@ std::string of_validity(unsigned int code, std::string const& text);
 
 /// The same for an exception `code` (XMLExcepts) of the parser's.
 std::string of_exception(unsigned int code, std::string const& text);
+
+/// What such a text has in quotes, the first ones or those of another `number`.
+std::string quoted_in(std::string const& text, int number);
 }

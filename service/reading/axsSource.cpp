@@ -10,9 +10,23 @@ namespace
 {
 std::size_t const head_size = 64 * 1024;
 
-[[noreturn]] void fail(wchar_t const* what, apPath const& path)
+// What users meet most often.
+wchar_t const* reason(int error)
 {
-  throw axsReadError{apString(what) + apString(path.path()), apString(path.path())};
+  switch (error)
+  {
+  case EACCES:
+    return L": there is no permission to read it";
+  case EISDIR:
+    return L": it is a folder";
+  default:
+    return L"";
+  }
+}
+
+[[noreturn]] void fail(wchar_t const* what, apPath const& path, int error)
+{
+  throw axsReadError{apString(what) + apString(path.path()) + apString(reason(error)), apString(path.path())};
 }
 
 // How many bytes follow in the file, which may still change; 0 where that cannot be told, as in a pipe.
@@ -35,7 +49,12 @@ axsSource::axsSource(apPath const& file) : path(file)
     throw axsReadError{APSTRING("There is no file name"), apString()};
   stream = file.file_open(apPath::read_mode());
   if (stream == nullptr)
-    fail(file.exists() ? L"Cannot open the file " : L"There is no file ", file);
+  {
+    int const error = errno;
+    if (!file.exists())
+      fail(L"There is no file ", file, 0);
+    fail(L"Cannot open the file ", file, error);
+  }
   try
   {
     // Pieces are large enough as they come.
@@ -131,6 +150,6 @@ std::size_t axsSource::read_file(char* to, std::size_t size)
 {
   std::size_t const count = std::fread(to, 1, size, stream);
   if (count < size && std::ferror(stream) != 0)
-    fail(L"Cannot read the file ", path);
+    fail(L"Cannot read the file ", path, errno);
   return count;
 }

@@ -1,6 +1,8 @@
 #include "axsSchemaSet.h"
 
+#include "axsAmbiguity.h"
 #include "axsErrorReporter.h"
+#include "axsPlainWords.h"
 #include "axsReadError.h"
 #include "axsSource.h"
 #include "axsSystemId.h"
@@ -8,6 +10,7 @@
 
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/framework/XMLErrorCodes.hpp>
+#include <xercesc/framework/XMLValidityCodes.hpp>
 #include <xercesc/sax/Locator.hpp>
 #include <xercesc/util/XMLResourceIdentifier.hpp>
 #include <xercesc/util/XMLString.hpp>
@@ -39,6 +42,12 @@ std::string narrow(apString const& text)
 {
   utString const utf8 = text.to_utf8();
   return std::string(utf8.c_str(), static_cast<std::size_t>(utf8.length()));
+}
+
+apString namespace_words(std::string const& name_space)
+{
+  return name_space.empty() ? APSTRING("elements in no namespace")
+                            : APSTRING("the namespace \"") + apString::from_utf8(name_space) + APSTRING("\"");
 }
 
 std::string key_of(apPath const& path)
@@ -80,6 +89,16 @@ std::string schema_start(std::string const& attributes)
 std::string inclusion(apPath const& path)
 {
   return "<xs:include schemaLocation='" + axsUtf16::to_utf8(axsSystemId::of(path).c_str()) + "'/>";
+}
+
+std::string words(unsigned int code, XMLCh const* domain, XMLCh const* text)
+{
+  std::string const said = axsUtf16::to_utf8(text);
+  if (xercesc::XMLString::equals(domain, xercesc::XMLUni::fgXMLErrDomain))
+    return axsPlainWords::of(code, said, 0);
+  // The validator tells of default and fixed values and of facets in this way, without saying that it is about them.
+  bool const is_value = xercesc::XMLString::equals(domain, xercesc::XMLUni::fgExceptDomain);
+  return is_value ? "a facet or value in this declaration is wrong: " + said : said;
 }
 
 // Where the reference stands.
@@ -136,11 +155,12 @@ axsSchemaSet::~axsSchemaSet() = default;
 
 void axsSchemaSet::add(std::string const& name_space, apPath const& path)
 {
+  if (path.empty())
+    throw axsReadError{APSTRING("There is no file name of the schema for ") + namespace_words(name_space), apString()};
   File const& added = file(path);
   if (added.scan.target_namespace() != name_space)
-    throw axsReadError{APSTRING("The schema is for the namespace \"") +
-                         apString::from_utf8(added.scan.target_namespace()) + APSTRING("\", not for \"") +
-                         apString::from_utf8(name_space) + APSTRING("\""),
+    throw axsReadError{APSTRING("The schema is for ") + namespace_words(added.scan.target_namespace()) +
+                         APSTRING(", not for ") + namespace_words(name_space),
       apString(path.path())};
   has_plain = has_plain || name_space.empty();
   std::vector<File const*>& present = by_namespace[name_space];
@@ -230,7 +250,12 @@ void axsSchemaSet::error(unsigned int code, XMLCh const* domain, ErrTypes type, 
 {
   if (type == ErrType_Warning)
     return;
-  axsReadError const found = axsErrorReporter::make(axsUtf16::to_string(text), system_id, line, column);
+  bool const is_ambiguity = code == xercesc::XMLValid::UniqueParticleAttributionFail &&
+                            xercesc::XMLString::equals(domain, xercesc::XMLUni::fgValidityDomain);
+  if (is_ambiguity && grammars != nullptr)
+    throw axsAmbiguity::explained(axsUtf16::to_utf8(text), *grammars);
+  axsReadError const found =
+    axsErrorReporter::make(apString::from_utf8(words(code, domain, text)), system_id, line, column);
   bool const is_about_use = code == xercesc::XMLErrs::AttributeDisallowedGlobal &&
                             xercesc::XMLString::equals(domain, xercesc::XMLUni::fgXMLErrDomain);
   auto const where = files.find(key_of(axsSystemId::path(system_id)));

@@ -7,6 +7,7 @@
 
 #include <xercesc/framework/XMLEntityHandler.hpp>
 #include <xercesc/framework/XMLErrorReporter.hpp>
+#include <xercesc/validators/common/GrammarResolver.hpp>
 
 #include <map>
 #include <memory>
@@ -37,6 +38,9 @@ public:
   /// The schema that takes in the others.
   xercesc::InputSource& whole() const noexcept { return *driver; }
 
+  /// Where the validator keeps what it has read of the schemas, for errors that it finds in it later on.
+  void set_grammars(xercesc::GrammarResolver& read) noexcept { grammars = &read; }
+
   // What the validator asks for while it reads the schemas, and the errors that it finds in them.
   xercesc::InputSource* resolveEntity(xercesc::XMLResourceIdentifier* wanted) override;
   void error(unsigned int code, XMLCh const* domain, ErrTypes type, XMLCh const* text, XMLCh const* system_id,
@@ -62,5 +66,6 @@ private:
   std::map<std::string, std::unique_ptr<File>> files;
   std::map<std::string, std::vector<File const*>> by_namespace;
   bool has_plain = false;
+  xercesc::GrammarResolver* grammars = nullptr;
   std::unique_ptr<xercesc::InputSource> driver;
 };

@@ -103,6 +103,7 @@ void Run::make_scanner()
 
 void Run::load_schemas()
 {
+  schemas.set_grammars(*grammars);
   scanner->setEntityHandler(&schemas);
   scanner->setErrorReporter(&schemas);
   grammars->cacheGrammarFromParse(true);

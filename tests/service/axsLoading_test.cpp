@@ -149,6 +149,11 @@ TEST(axsLoading, says_so_when_there_is_nothing_to_read)
     EXPECT_NE(narrow(error.message()).find("file"), std::string::npos) << narrow(error.message());
     EXPECT_EQ(error.line_number(), -1);
   }
+#if !defined(_WIN32)
+  axmParseError folder;
+  EXPECT_EQ(engine()->loadDocument(apPath("."), axmLoadOptions(axmValidateNone), folder), nullptr);
+  EXPECT_EQ(narrow(folder.message()), "Cannot read the file .: it is a folder");
+#endif
   TestFile const empty("engine_empty.xml", "");
   axmParseError error;
   EXPECT_EQ(engine()->loadDocument(empty.path(), axmLoadOptions(axmValidateNone), error), nullptr);

@@ -233,6 +233,63 @@ TEST(axsSchemas, a_schema_that_cannot_be_used_fails_the_load_with_its_own_place)
   EXPECT_NE(narrow(error_of("<r/>", plain(other.path())).message()).find("urn:a"), std::string::npos);
 }
 
+TEST(axsSchemas, an_ambiguous_content_is_told_with_its_place)
+{
+  std::string const content = "<xs:sequence><xs:element name='a' minOccurs='0'/><xs:element name='a'/></xs:sequence>";
+  std::string const words =
+    " is ambiguous: an element in it may be meant by 'a' or by 'a' (unique particle attribution)";
+  TestFile const named(
+    "engine_ambiguous.xsd", schema("", "\n<xs:complexType name='t'>" + content + "</xs:complexType>"));
+  axmParseError error = error_of("<r/>", plain(named.path()));
+  EXPECT_EQ(narrow(error.message()), "the content of the type 't'" + words);
+  EXPECT_EQ(narrow(error.url()), named.name);
+  EXPECT_EQ(error.line_number(), 3);
+
+  // Types without a name, in two files; the one meant is not the first.
+  TestFile const part("engine_ambiguous_2.xsd",
+    schema("", "\n\n<xs:element name='p'><xs:complexType>" + content + "</xs:complexType></xs:element>"));
+  TestFile const whole("engine_ambiguous_3.xsd",
+    schema("", "<xs:include schemaLocation='engine_ambiguous_2.xsd'/><xs:element name='r'><xs:complexType><xs:sequence>"
+               "<xs:element name='b'/></xs:sequence></xs:complexType></xs:element>"));
+  error = error_of("<r/>", plain(whole.path()));
+  EXPECT_EQ(narrow(error.message()), "the content of this type" + words);
+  EXPECT_EQ(narrow(error.url()), part.name);
+  EXPECT_EQ(error.line_number(), 4);
+
+  TestFile const other("engine_ambiguous_4.xsd",
+    schema(" targetNamespace='urn:o'", "<xs:element name='r'><xs:complexType><xs:sequence><xs:element name='b'/>"
+                                       "</xs:sequence></xs:complexType></xs:element>"));
+  axmLoadOptions options = with({{"urn:o", other.path()}});
+  options.set_no_namespace_schema(part.path());
+  EXPECT_EQ(narrow(error_of("<r/>", options).url()), part.name);
+}
+
+TEST(axsSchemas, says_in_plain_words_what_is_wrong_with_a_schema)
+{
+  std::pair<char const*, char const*> const faults[] = {
+    {"<xs:element name='r' type='foo'/>", "there is no declaration of 'foo' in no namespace"},
+    {"<xs:element name='r' type='xs:itn'/>",
+      "there is no declaration of 'itn' in the namespace 'http://www.w3.org/2001/XMLSchema'"},
+    {"<xs:element name='r'><xs:complexType><xs:sequence><xs:element ref='e'/></xs:sequence></xs:complexType>"
+     "</xs:element>",
+      "there is no declaration of 'e' in no namespace"},
+    {"<xs:elment name='r'/>", "this element may not stand in 'schema'"},
+    {"<xs:complexType name='A'><xs:complexContent><xs:extension base='A'/></xs:complexContent></xs:complexType>",
+      "'A' is defined by itself"},
+    {"<xs:element name='r' type='xs:boolean' default='x'/>",
+      "a facet or value in this declaration is wrong: value 'x' is invalid boolean"},
+  };
+  for (auto const& [content, words] : faults)
+  {
+    TestFile const file("engine_wrong_schema.xsd", schema("", content));
+    axmParseError const error = error_of("<r/>", plain(file.path()));
+    EXPECT_EQ(narrow(error.message()), words) << content;
+    EXPECT_EQ(error.line_number(), 2) << content;
+  }
+  EXPECT_EQ(narrow(error_of("<r/>", with({{"urn:a", apPath()}})).message()),
+    "There is no file name of the schema for the namespace \"urn:a\"");
+}
+
 TEST(axsSchemas, what_a_schema_includes_must_be_there_and_local)
 {
   TestFile const missing("engine_includes.xsd", schema("", "<xs:include schemaLocation='engine_none.xsd'/>"));
