@@ -1,5 +1,6 @@
 #include "axsAttributeValue.h"
 
+#include "axsEntities.h"
 #include "axsReference.h"
 
 #include <algorithm>
@@ -19,7 +20,8 @@ bool is_collapsed(std::string_view value)
 }
 }
 
-bool axsAttributeValue::read_special(char const*& at, std::string& normal, std::string_view& value)
+bool axsAttributeValue::read_special(
+  char const*& at, std::string& normal, std::string_view& value, axsEntities* entities)
 {
   char const quote = *at;
   if (quote != '"' && quote != '\'')
@@ -36,7 +38,8 @@ bool axsAttributeValue::read_special(char const*& at, std::string& normal, std::
     {
     case '&':
       append(normal, from, at);
-      if (!axsReference::read(at, normal))
+      if (entities == nullptr ? !axsReference::read(at, normal)
+                              : !entities->read(at, normal, axsEntities::Place::attribute))
         return false;
       from = at;
       break;

@@ -16,15 +16,15 @@ axsDocument& tree_of(axmDocument& document)
 
 std::shared_ptr<axmDocument> axsReader::read(axsSource& source, axmLoadOptions const& options, apString const& uri)
 {
-  std::shared_ptr<axmDocument> document = source.can_rewind() ? scan(source, uri) : nullptr;
+  std::shared_ptr<axmDocument> document = source.can_rewind() ? scan(source, options, uri) : nullptr;
   return document != nullptr ? document : parse(source, options, uri);
 }
 
-std::shared_ptr<axmDocument> axsReader::scan(axsSource& source, apString const& uri)
+std::shared_ptr<axmDocument> axsReader::scan(axsSource& source, axmLoadOptions const& options, apString const& uri)
 {
   std::shared_ptr<axmDocument> document = axsDocument::make(uri);
   axsTreeBuilder builder(tree_of(*document));
-  if (axsScanner::scan(source, builder))
+  if (axsScanner::scan(source, options, builder))
     return document;
   source.rewind();
   return nullptr;

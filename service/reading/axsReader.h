@@ -17,6 +17,6 @@ namespace axsReader
 std::shared_ptr<axmDocument> read(axsSource& source, axmLoadOptions const& options, apString const& uri);
 
 /// The same with one of them. Of what the scanner does not take there is no tree, and the source is where it was.
-std::shared_ptr<axmDocument> scan(axsSource& source, apString const& uri);
+std::shared_ptr<axmDocument> scan(axsSource& source, axmLoadOptions const& options, apString const& uri);
 std::shared_ptr<axmDocument> parse(axsSource& source, axmLoadOptions const& options, apString const& uri);
 }

@@ -3,16 +3,16 @@
 #include "axsAttributeList.h"
 #include "axsAttributeValue.h"
 #include "axsCharacters.h"
+#include "axsEntities.h"
+#include "axsGrowth.h"
 #include "axsName.h"
 #include "axsNameCache.h"
 #include "axsNamespaceScope.h"
 #include "axsProlog.h"
 #include "axsReadingEvents.h"
-#include "axsReference.h"
 #include "axsSource.h"
 #include "axsSubset.h"
 #include "axsWindow.h"
-#include "axsXercesParser.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -42,7 +42,7 @@ std::ptrdiff_t const look_ahead = 16;
 class Scan
 {
 public:
-  Scan(axsSource& source, axsReadingEvents& told);
+  Scan(axsSource& source, axsReadingEvents& told, std::size_t most_expansions);
 
   bool run();
 
@@ -58,9 +58,8 @@ private:
   Step cdata();
   Step processing_instruction();
 
-  Step stop(char const* place) const;
+  Step stop(char const* place);
   bool attribute(char const*& p, axsReadName const& element);
-  bool add_missing_attributes(axsReadName const& element);
   bool section(char const*& p, std::string_view closing, std::string_view& data);
   void take(char const* from, char const* to) { normal.append(from, static_cast<std::size_t>(to - from)); }
   void take_line_end(char const*& p);
@@ -69,26 +68,28 @@ private:
   axsWindow window;
   axsNameCache names;
   axsNamespaceScope namespaces;
+  axsGrowth growth;
+  axsEntities entities;
   axsSubset subset;
   std::vector<axsName const*> open;
   axsNamespaceScope::Attributes attributes;
   // The texts of this step that do not stand in the window as they are. It has room for whatever can come out of the
-  // window, so that views of it stay good.
+  // window, so that views of it stay good; where entities lack room for more, the step is made again with more room.
   std::string normal;
   char const* at;
   std::uint64_t elements = 0;
-  // The characters of the values that are declared and not written.
-  std::uint64_t defaulted = 0;
   bool doctype_seen = false;
   bool root_seen = false;
   axsProlog::Encoding encoding = axsProlog::Encoding::utf8;
 };
 
-Scan::Scan(axsSource& source, axsReadingEvents& told)
+Scan::Scan(axsSource& source, axsReadingEvents& told, std::size_t most_expansions)
   : events(told),
     window(source),
     names(told),
-    subset(names),
+    growth(window),
+    entities(window, growth, most_expansions),
+    subset(names, entities),
     at(window.begin())
 {
   normal.reserve(window.capacity());
@@ -195,7 +196,7 @@ Step Scan::text()
       return Step::next;
     case '&':
       take(from, p);
-      if (!axsReference::read(p, normal))
+      if (!entities.read(p, normal, axsEntities::Place::text))
         return stop(p);
       from = p;
       break;
@@ -233,7 +234,7 @@ Step Scan::start_tag()
   bool const is_empty = *p == '/';
   if (!skip(p, is_empty ? "/>" : ">"))
     return stop(p);
-  if (name.attributes != nullptr && !add_missing_attributes(name))
+  if (name.attributes != nullptr && !growth.add(name.attributes->add_missing(attributes, elements)))
     return Step::refused;
   if (!namespaces.open(name, attributes) || open.size() == axsScanner::most_levels)
     return Step::refused;
@@ -269,21 +270,12 @@ bool Scan::attribute(char const*& p, axsReadName const& element)
     return false;
   skip_spaces(p);
   std::string_view value;
-  if (!axsAttributeValue::read(p, normal, value))
+  if (!axsAttributeValue::read(p, normal, value, &entities))
     return false;
   if (element.attributes != nullptr && element.attributes->is_of_tokens(name))
     axsAttributeValue::collapse(normal, value);
   attributes.push_back({&name, value});
   return true;
-}
-
-// The other parser bounds what a document becomes (axsXercesParser::growth_limit). This one stops long before that: what
-// is written, and an element that is counted as 8 bytes, are at most three times the document.
-bool Scan::add_missing_attributes(axsReadName const& element)
-{
-  defaulted += element.attributes->add_missing(attributes, elements);
-  return defaulted <= axsXercesParser::growth_free / 2 ||
-         defaulted / (axsXercesParser::growth_limit / 2) <= window.position(at);
 }
 
 Step Scan::end_tag()
@@ -347,8 +339,13 @@ Step Scan::processing_instruction()
 }
 
 // Where a step finds what it does not take: at the end of the window it may be only a part of what it is.
-Step Scan::stop(char const* place) const
+Step Scan::stop(char const* place)
 {
+  if (std::size_t const room = entities.take_lacking_room(); room > 0)
+  {
+    normal.reserve(2 * room);
+    return Step::next;
+  }
   return window.is_last() || window.end() - place >= look_ahead ? Step::refused : Step::more;
 }
 
@@ -399,7 +396,7 @@ void Scan::take_line_end(char const*& p)
 }
 }
 
-bool axsScanner::scan(axsSource& source, axsReadingEvents& events)
+bool axsScanner::scan(axsSource& source, axmLoadOptions const& options, axsReadingEvents& events)
 {
-  return Scan(source, events).run();
+  return Scan(source, events, static_cast<std::size_t>(std::max(options.entity_expansion_limit(), 0))).run();
 }

@@ -3,6 +3,7 @@
 #include "axsAttributeValue.h"
 #include "axsCharacters.h"
 #include "axsContentModel.h"
+#include "axsEntities.h"
 #include "axsExternalId.h"
 #include "axsNameCache.h"
 #include "axsReference.h"
@@ -82,54 +83,56 @@ bool is_predefined(std::string_view entity)
   return entity == "lt" || entity == "gt" || entity == "amp" || entity == "quot" || entity == "apos";
 }
 
-// A reference in the value of an entity.
-bool skip_reference(char const*& at)
+// A reference in the value of an entity: those to characters are expanded, others stay (4.4.7).
+bool read_reference(char const*& at, std::string& replacement)
 {
-  std::string character;
-  if (axsReference::read(at, character))
-    return true;
-  return skip_character(at, '&') && skip_name(at) && skip_character(at, ';');
+  if (begins(at, "&#"))
+    return axsReference::read(at, replacement);
+  char const* const begin = at++;
+  if (!skip_name(at) || !skip_character(at, ';'))
+    return false;
+  replacement += between(begin, at);
+  return true;
 }
 
-// 2.3, [9] EntityValue, without references to parameter entities.
-bool skip_entity_value(char const*& at)
+// 2.3, [9] EntityValue, without references to parameter entities. Appends the replacement text (4.5).
+bool read_entity_value(char const*& at, std::string& replacement)
 {
   char const quote = *at;
   if (quote != '"' && quote != '\'')
     return false;
-  ++at;
+  char const* from = ++at;
   while (true)
   {
     at = behind_text<axsByteBlock, '"', '\'', '&', '%', '\r'>(at);
-    if (skip_character(at, quote))
-      return true;
     switch (*at)
     {
     case '&':
-      if (!skip_reference(at))
+      replacement += between(from, at);
+      if (!read_reference(at, replacement))
         return false;
+      from = at;
       break;
     case '"':
     case '\'':
-    case '\r':
+      if (*at == quote)
+      {
+        replacement += between(from, at++);
+        return true;
+      }
       ++at;
+      break;
+    case '\r':
+      replacement += between(from, at);
+      skip_line_end(at);
+      replacement += '\n';
+      from = at;
       break;
     default:
       if (!skip_multibyte(at))
         return false;
     }
   }
-}
-
-// Behind "<!ENTITY", of one in the document (4.2, [71] GEDecl).
-bool skip_rest_of_entity(char const*& at)
-{
-  if (!skip_spaces(at))
-    return false;
-  char const* const begin = at;
-  if (!skip_name(at) || std::find(begin, at, ':') != at || is_predefined(between(begin, at)))
-    return false;
-  return skip_spaces(at) && skip_entity_value(at) && skip_end(at);
 }
 
 // Names or, where they are none, name tokens in parentheses (3.3.1, [58] NotationType, [59] Enumeration).
@@ -196,10 +199,28 @@ bool axsSubset::declaration(char const*& at)
   if (skip(at, "<!--"))
     return skip_rest_of_comment(at);
   if (skip(at, "<!ENTITY"))
-    return skip_rest_of_entity(at);
+    return entity(at);
   if (skip(at, "<?"))
     return skip_rest_of_instruction(at);
   return skip(at, "<!NOTATION") && skip_rest_of_notation(at);
+}
+
+// Behind "<!ENTITY", of one in the document (4.2, [71] GEDecl).
+bool axsSubset::entity(char const*& at)
+{
+  if (!skip_spaces(at))
+    return false;
+  char const* const begin = at;
+  if (!skip_name(at))
+    return false;
+  std::string_view const name = between(begin, at);
+  if (!skip_spaces(at) || name.find(':') != std::string_view::npos || is_predefined(name))
+    return false;
+  std::string replacement;
+  if (!read_entity_value(at, replacement) || !skip_end(at))
+    return false;
+  all_entities.declare(name, replacement);
+  return true;
 }
 
 // Behind "<!ATTLIST" (3.3, [52] AttlistDecl).
@@ -245,7 +266,7 @@ bool axsSubset::default_value(char const*& at, axsAttributeList& list, axsAttrib
     return false;
   std::string_view value;
   normal.clear();
-  if (!axsAttributeValue::read(at, normal, value))
+  if (!axsAttributeValue::read(at, normal, value, nullptr))
     return false;
   if (type == axsAttributeList::Type::tokens)
   {
@@ -274,4 +295,5 @@ void axsSubset::forget()
     element->attributes = nullptr;
   declared.clear();
   lists.clear();
+  all_entities.forget();
 }

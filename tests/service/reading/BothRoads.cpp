@@ -83,17 +83,17 @@ std::string compare_trees(axsNode const& scanned, axsNode const& parsed)
 }
 }
 
-BothRoads::BothRoads(std::string_view document)
+BothRoads::BothRoads(std::string_view document, axmLoadOptions const& options)
 {
   apByteArray const bytes(document.data(), document.size());
   axsSource source(bytes);
   apString const uri = APSTRING("uri");
-  std::shared_ptr<axmDocument> const scanned = axsReader::scan(source, uri);
+  std::shared_ptr<axmDocument> const scanned = axsReader::scan(source, options, uri);
   was_scanned = scanned != nullptr;
   source.rewind();
   try
   {
-    std::shared_ptr<axmDocument> const parsed = axsReader::parse(source, axmLoadOptions(axmValidateNone), uri);
+    std::shared_ptr<axmDocument> const parsed = axsReader::parse(source, options, uri);
     was_parsed = true;
     if (was_scanned)
       found = compare_trees(*axsNode::of(*scanned), *axsNode::of(*parsed));

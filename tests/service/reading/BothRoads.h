@@ -1,5 +1,7 @@
 #pragma once
 
+#include <axmLoadOptions.h>
+
 #include <string>
 #include <string_view>
 
@@ -7,7 +9,7 @@
 class BothRoads
 {
 public:
-  explicit BothRoads(std::string_view document);
+  explicit BothRoads(std::string_view document, axmLoadOptions const& options = axmLoadOptions(axmValidateNone));
 
   /// Whether the scanner took it, and whether the parser did.
   bool scanned() const noexcept { return was_scanned; }

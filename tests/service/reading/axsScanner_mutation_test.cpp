@@ -20,7 +20,9 @@ std::vector<std::string> const documents = {
   "<!DOCTYPE r [<!ATTLIST r a CDATA '1' b NMTOKENS #FIXED ' 2  3 '><!ATTLIST c b (d|e) #IMPLIED>]><r><c b=' d '/></r>",
   "<!DOCTYPE r SYSTEM 's' [<!ENTITY e '&#65;&f;'> <!ATTLIST r xmlns:p CDATA 'u' p:a NOTATION (n) #IMPLIED>]><r "
   "p:a=''/>",
-  "<!DOCTYPE r [<!ATTLIST r a ID '&#32;&lt;\xC3\xA4\t'>\n<!ENTITY e \"x\"><!ELEMENT r ANY>]><r b='&#9; '>&amp;</r>"};
+  "<!DOCTYPE r [<!ATTLIST r a ID '&#32;&lt;\xC3\xA4\t'>\n<!ENTITY e \"x\"><!ELEMENT r ANY>]><r b='&#9; '>&amp;</r>",
+  "<!DOCTYPE r [<!ENTITY e '\t&#65; '><!ENTITY f \"'\"><!ATTLIST r a NMTOKENS ''>]><r a='x&e; y' "
+  "b='&f;'>]]&e;z&f;<a/></r>"};
 
 std::vector<std::string> const parts = {"<", ">", "/>", "</", "<!--", "-->", "--", "-", "<![CDATA[", "]]>", "]]", "]",
   "<?", "?>", "?", "&", ";", "&lt;", "&amp;", "&#", "&#x", "&#65;", "&#xD;", "&#0;", "&e;", "'", "\"", "=", " ", "\t",

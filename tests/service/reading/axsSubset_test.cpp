@@ -210,10 +210,96 @@ TEST(axsSubset, declarations_of_entities)
     with("<!ENTITY e '&#0;'>"), with("<!ENTITY e '&#65'>"), with("<!ENTITY e '%'>"), with("<!ENTITY e '%p;'>"),
     with("<!ENTITY e '\x01'>"), with("<!ENTITY e '\xE4'>"), with("<!ENTITY 1 'x'>"), with("<!ENTITY e 'x' NDATA n>"),
     with("<!ENTITY e 'x'>", "<r>&f;</r>"), with("<!ENTITY e '&e;'>", "<r>&e;</r>")});
-  expect_left({with("<!ENTITY e 'x'>", "<r>&e;</r>"), with("<!ENTITY e 'x'>", "<r a='&e;'/>"),
-    with("<!ENTITY e 'x'><!ATTLIST r a CDATA '&e;'>"), with("<!ENTITY lt '&#38;#60;'>"),
+  expect_left({with("<!ENTITY e 'x'><!ATTLIST r a CDATA '&e;'>"), with("<!ENTITY lt '&#38;#60;'>"),
     with("<!ENTITY amp '&#38;#38;'>"), with("<!ENTITY gt '&#62;'>"), with("<!ENTITY quot '&#34;'>"),
     with("<!ENTITY apos '&#39;'>")});
+}
+
+// 4.4.2, 4.4.5, 4.5
+TEST(axsSubset, entities_of_plain_text_are_used)
+{
+  for (std::string const value : {"x", " ", "  ", " x  y ", "\t", "\n", "\r\n\r", "x\ty\nz", "&#9;", "&#10;&#32;",
+         "&#65;&#x20AC;", "\xC3\xA4\xF0\x9D\x84\x9E", "\"", "a &#34; b", "--", "?", "%&#37;"})
+  {
+    std::string const declared = "<!ENTITY e '" + value + "'>";
+    if (value[0] == '%')
+    {
+      expect_refused({with(declared)});
+      continue;
+    }
+    expect_taken({with(declared, "<r>&e;</r>"), with(declared, "<r> &e; &e;&e;<a/>&e;<!--&e;--></r>"),
+      with(declared, "<r>x&e;&lt;&e;\r\n]]&e;&#65;\xC3\xA4<![CDATA[&e;]]>]&e;></r>"), with(declared, "<r a='&e;'/>"),
+      with(declared, "<r a=\" &e; x\ty&e;&e;&amp;&e;\" b='&e;' c=' z '/>"),
+      list("a NMTOKENS #IMPLIED>" + declared + "<!ATTLIST r b CDATA 'd'", "<r a=' &e;  x &e;&e; ' c='&e;'>&e;</r>")});
+  }
+  expect_taken(
+    {with("<!ENTITY e 'x'><!ENTITY e 'y'>", "<r>&e;</r>"), with("<!ENTITY e 'x'><!ENTITY e '&lt;'>", "<r>&e;</r>"),
+      with("<!ENTITY e \"'\">", "<r a='&e;'>&e;</r>"), with("<!ENTITY a.\xC3\xA4 'x'>", "<r>&a.\xC3\xA4;</r>"),
+      with("<!ENTITY e 'u'>", "<r xmlns='&e;' xmlns:p='&e;'><p:a/></r>"),
+      with("<!ENTITY e 'x'>", "<!--&e;--><r/><?p &e;?>"),
+      "<?xml version='1.0' encoding='US-ASCII'?>" + with("<!ENTITY e '&#xE4;'>", "<r>&e;</r>"),
+      "<?xml version='1.0' standalone='yes'?>" + with("<!ENTITY e 'x'>", "<r>&e;</r>"),
+      "<!DOCTYPE r SYSTEM 's' [<!ENTITY e 'x'>]><r>&e;</r>"});
+  expect_refused({with("<!ENTITY e 'x'>", "<r>&E;</r>"), with("<!ENTITY e 'x'>", "<r>&e</r>"),
+    with("<!ENTITY e 'x'>", "<r>& e;</r>"), with("<!ENTITY e 'x'>", "<r>&e ;</r>"),
+    with("<!ENTITY e 'x'>", "<r>&ee;</r>"), with("<!ENTITY e 'x'>", "<r>&#e;</r>"),
+    with("<!ENTITY e 'x'>", "<r>&#&e;</r>"), with("<!ENTITY e 'x'>", "<r>&#65&e;</r>"),
+    with("<!ENTITY e 'x'>", "<r a='&#&e;'/>"), with("<!ENTITY e 'x'>", "<r>]]&e;]]></r>"),
+    with("<!ENTITY e 'x'>", "<r/>&e;"), with("<!ENTITY e ' '>", "&e;<r/>"), with("<!ENTITY e 'x'>", "<&e;/>"),
+    with("<!ENTITY e 'x'>", "<r &e;='1'/>"), with("<!ENTITY e 'u'>", "<r xmlns:p='u' xmlns:q='&e;' p:a='' q:a=''/>"),
+    with("<!ENTITY e '&f;'>", "<r>&e;</r>"), with("<!ENTITY e '<'>", "<r a='&e;'/>"),
+    with("<!ENTITY e '<a>'>", "<r>&e;</r>"), with("<!ENTITY e '&#38;'>", "<r>&e;</r>")});
+  // What they stand for is to be parsed, or nearly.
+  expect_left({with("<!ENTITY e '<a/>'>", "<r>&e;</r>"), with("<!ENTITY e ''>", "<r>&e;</r>"),
+    with("<!ENTITY e '&lt;'>", "<r>&e;</r>"), with("<!ENTITY e '&#38;lt;'>", "<r>&e;</r>"),
+    with("<!ENTITY e 'x'><!ENTITY f '&e;'>", "<r>&f;</r>"), with("<!ENTITY e ']'>", "<r>&e;</r>"),
+    with("<!ENTITY e '>'>", "<r>&e;</r>"), with("<!ENTITY e '&#13;'>", "<r>&e;</r>"),
+    with("<!ENTITY e '<a/>'><!ENTITY e 'x'>", "<r>&e;</r>")});
+}
+
+TEST(axsSubset, uses_as_many_entities_as_the_options_allow)
+{
+  axmLoadOptions options(axmValidateNone);
+  for (int const limit : {0, 1, 7})
+  {
+    options.set_entity_expansion_limit(limit);
+    std::string const some = repeated("&e;", static_cast<std::size_t>(limit) / 2);
+    std::string const others = repeated("&e;", static_cast<std::size_t>(limit) - static_cast<std::size_t>(limit) / 2);
+    BothRoads const most(with("<!ENTITY e 'x'>", "<r a='&lt;" + some + "'>&amp;" + others + "</r>"), options);
+    EXPECT_TRUE(most.parsed());
+    EXPECT_EQ(most.difference(), "");
+    BothRoads const more(with("<!ENTITY e 'x'>", "<r a='" + some + "'>" + others + "<a>&e;</a></r>"), options);
+    EXPECT_FALSE(more.scanned());
+    EXPECT_FALSE(more.parsed());
+  }
+}
+
+// What entities make of a text or of the attributes of an element has the room that it needs.
+TEST(axsSubset, entities_may_be_larger_than_a_piece)
+{
+  std::string const declared =
+    "<!ENTITY e '" + std::string(30000, 'e') + "'><!ENTITY f '\t" + std::string(100000, 'f') + "'>";
+  std::string values;
+  for (int i = 0; i < 20; ++i)
+    values += " a" + std::to_string(i) + "='x" + (i % 3 == 0 ? "&e;" : i % 3 == 1 ? "\xC3\xA4\r" : "&f;&lt;") + "\ty'";
+  expect_taken({with(declared, "<r>x&e;y&f;" + repeated("&e;", 20) + "z&lt;</r>"), with(declared, "<r" + values + "/>"),
+    list(
+      "a1 NMTOKENS #IMPLIED a2 NMTOKENS #IMPLIED>" + declared + "<!ATTLIST r b CDATA 'd'", "<r" + values + ">&f;</r>"),
+    with(declared, "<r>" + std::string(65000, ' ') + "&e;" + std::string(70000, ' ') + "&f;</r>")});
+}
+
+TEST(axsSubset, leaves_entities_that_grow_too_much_to_the_parser)
+{
+  std::size_t const value = 10000;
+  std::size_t const most = axsXercesParser::growth_free / value;
+  auto const document = [&](char const* begin, std::size_t references, char const* end)
+  { return with("<!ENTITY e '" + std::string(value, 'x') + "'>", begin + repeated("&e;", references) + end); };
+  for (auto const& [begin, end] : {std::pair<char const*, char const*>{"<r>", "</r>"}, {"<r a='", "'/>"}})
+  {
+    expect_taken({document(begin, 100, end)});
+    expect_left({document(begin, most - 10, end)});
+    expect_refused({document(begin, most + 10, end)});
+  }
 }
 
 TEST(axsSubset, names_of_every_kind)

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstddef>
+
+class axsWindow;
+
+/// Watches what declarations add to a document that is scanned: entities, and values that are not written.
+///
+/// axsXercesParser bounds what a document becomes. The scanner stops long before that, and never where it would not: what
+/// is written, with 8 bytes for each element, is at most three times the document.
+class axsGrowth
+{
+public:
+  /// Of the document in `window`, which must live longer.
+  explicit axsGrowth(axsWindow const& window) noexcept : document(window) {}
+
+  /// Whether so much more may be added.
+  bool add(std::size_t bytes) noexcept;
+
+private:
+  axsWindow const& document;
+  std::size_t added = 0;
+};
