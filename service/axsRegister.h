@@ -13,8 +13,8 @@
 ///   document have been let go. A `std::weak_ptr` holds no node, only some bytes of bookkeeping.
 /// - Load: white-space-only text is dropped in CDATA sections, too, and whatever xml:space says. Prefixes must be bound
 ///   (Namespaces in XML 1.0). An external DTD subset is never read, so that an entity declared only there is an error.
-///   Besides the number of entity expansions, what they make of a document is bounded: to 100 times its size once that
-///   is more than 8 MiB. A document may be nested as deep as memory lasts, one that is validated 20000 levels.
+///   Besides the number of entity expansions, what they and defaults of attributes make of a document is bounded: to 100
+///   times its size once that is more than 8 MiB. A document may be nested as deep as memory lasts, one that is validated 20000 levels.
 /// - Schemas: read anew at every load, from local files only; a reference that leads to none is an error, but for the
 ///   schema of the XML namespace, which is built in. What repeated groups come to, written out, may have up to 10000
 ///   elements; elements of a schema may be nested up to 500 levels. A document whose root is in a namespace that no

@@ -30,7 +30,7 @@ std::size_t axsAttributeList::add_missing(std::vector<axsReadAttribute>& attribu
     if (declared.has_default && declared.name->last_element != element)
     {
       attributes.push_back({declared.name, declared.value});
-      added += declared.value.size();
+      added += sizeof(void*) + declared.value.size();
     }
   return added;
 }

@@ -31,7 +31,7 @@ public:
   bool is_of_tokens(axsReadName const& name) const noexcept;
 
   /// Adds to `attributes`, those of the element of that number, the ones that it lacks and that have a default (3.3.2).
-  /// The values live as long as the list. Returns how many characters they have together.
+  /// The values live as long as the list. Returns how much that is, as axsGrowth counts.
   std::size_t add_missing(std::vector<axsReadAttribute>& attributes, std::uint64_t element) const;
 
 private:

@@ -33,9 +33,12 @@ bool axsEntities::read(char const*& at, std::string& text, Place place)
   if (axsReference::read(at, text))
     return true;
   // A reference to a character that is wrong has moved it.
-  if (at != begin || replacements.empty() || !axsCharacters::skip_character(at, '&') || !axsCharacters::skip_name(at))
+  if (at != begin || replacements.empty() || !axsCharacters::skip_character(at, '&'))
     return false;
-  std::string const name(begin + 1, at);
+  char const* const name_begin = at;
+  if (!axsCharacters::skip_name(at))
+    return false;
+  std::string const name(name_begin, at);
   if (!axsCharacters::skip_character(at, ';'))
     return false;
   auto const found = replacements.find(name);

@@ -21,7 +21,7 @@ public:
 
   /// Of the document in `window`. At most `most_expansions` references are expanded, those that are read again counted
   /// again. What they refer to must live longer.
-  axsEntities(axsWindow const& window, axsGrowth& growth, std::size_t most_expansions) noexcept
+  axsEntities(axsWindow const& window, axsGrowth& growth, std::size_t most_expansions)
     : document(window),
       grown(growth),
       expansions_left(most_expansions)
@@ -30,9 +30,6 @@ public:
 
   /// An entity with that replacement text (4.5). Of several with one name the first one counts (4.2).
   void declare(std::string_view name, std::string_view replacement);
-
-  /// None is declared any more.
-  void forget() noexcept { replacements.clear(); }
 
   /// Moves behind the reference at `at`, one to a declared entity or one that axsReference reads, and appends to `text`
   /// what becomes of it at that place (4.4.2, 4.4.5). Behind a replacement text, `text` has room for all of the window: it

@@ -7,7 +7,7 @@ class axsWindow;
 /// Watches what declarations add to a document that is scanned: entities, and values that are not written.
 ///
 /// axsXercesParser bounds what a document becomes. The scanner stops long before that, and never where it would not: what
-/// is written, with 8 bytes for each element, is at most three times the document.
+/// is written, with the size of a pointer for each element and attribute, as that counts, is at most three times the document.
 class axsGrowth
 {
 public:

@@ -295,5 +295,4 @@ void axsSubset::forget()
     element->attributes = nullptr;
   declared.clear();
   lists.clear();
-  all_entities.forget();
 }

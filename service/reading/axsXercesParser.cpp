@@ -185,7 +185,7 @@ std::string_view Run::utf8(XMLCh const* text, std::size_t length)
   return converted;
 }
 
-// Only entities make more of a document than it is.
+// Only entities and defaults make more of a document than it is.
 void Run::count(std::size_t length)
 {
   if (!has_doctype)
@@ -193,7 +193,7 @@ void Run::count(std::size_t length)
   produced += length;
   if (produced <= axsXercesParser::growth_free || produced / axsXercesParser::growth_limit <= source.head().size())
     return;
-  fail(APSTRING("The entities of the document make it too large"));
+  fail(APSTRING("The entities and defaults of the document make it too large"));
 }
 
 void Run::fail(apString const& message) const
@@ -298,7 +298,7 @@ void Run::read_attributes(xercesc::RefVectorOf<xercesc::XMLAttr> const& attribut
     value.clear();
     axsUtf16::append_utf8(attribute.getValue(), axsUtf16::length(attribute.getValue()), value);
     read.push_back({&names.find(utf8(attribute.getQName())), value});
-    count(value.size());
+    count(sizeof(void*) + value.size());
   }
 }
 

@@ -9,8 +9,8 @@ class axsSource;
 /// Parses documents with Xerces-C (XML 1.0 with namespaces, and 1.1 where a document says so).
 ///
 /// Nothing outside the document is read, except where the options enable the resolution of entities: then files that it
-/// names relative to itself. An external DTD subset is never read. What entities make of a document is bounded: in
-/// number by the options, in size to `growth_limit` times the document once it exceeds `growth_free` bytes.
+/// names relative to itself. An external DTD subset is never read. What entities and defaults make of a document is
+/// bounded: in number by the options, in size to `growth_limit` times the document once it exceeds `growth_free` bytes.
 /// May run in many threads at once.
 namespace axsXercesParser
 {

@@ -339,3 +339,17 @@ TEST(axsSubset, leaves_a_document_that_grows_too_much_to_the_parser)
   expect_refused({begin + repeated("<r/>", most + 10) + "</r>"});
   expect_taken({begin + repeated("<r>" + std::string(value / 40, 'y') + "</r>", most) + "</r>"});
 }
+
+// Defaults without characters count, too.
+TEST(axsSubset, leaves_a_document_with_very_many_defaults_to_the_parser)
+{
+  std::string attributes;
+  for (std::size_t i = 0; i < axsAttributeList::most_attributes; ++i)
+    attributes += " a" + std::to_string(i) + " CDATA ''";
+  std::size_t const of_one = (axsAttributeList::most_attributes + 1) * sizeof(void*);
+  auto const document = [&](std::size_t elements)
+  { return list(attributes, "<r>" + repeated("<r/>", elements) + "</r>"); };
+  expect_taken({document(axsXercesParser::growth_free / of_one / 2 - 100)});
+  expect_left({document(axsXercesParser::growth_free / of_one - 100)});
+  expect_refused({document(axsXercesParser::growth_free / of_one + 100)});
+}
