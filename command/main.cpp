@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <csignal>
 #include <exception>
 #include <iostream>
 #include <string>
@@ -50,6 +51,10 @@ int run(Arguments const& arguments)
 int main(int argc, char** argv)
 {
   Utf8Console const console;
+#if defined(SIGXFSZ)
+  // A file that may not become so large is one that cannot be written, and is told as that.
+  std::signal(SIGXFSZ, SIG_IGN);
+#endif
   try
   {
     return run(Arguments(argc, argv));

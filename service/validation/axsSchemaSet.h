@@ -29,9 +29,6 @@ public:
   explicit axsSchemaSet(axmLoadOptions const& options);
   ~axsSchemaSet() override;
 
-  /// Whether the options name no schema at all.
-  bool empty() const noexcept { return !has_plain && by_namespace.empty(); }
-
   /// Whether there is a schema for elements in no namespace.
   bool has_no_namespace() const noexcept { return has_plain; }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 namespace
 {
 std::string const books =
@@ -239,3 +241,19 @@ TEST(axm, tells_its_version_and_what_is_no_verb)
   EXPECT_EQ(run.exit_code, 2);
   EXPECT_EQ(run.err, "axm: chekc: there is no such verb; axm --help lists them\n");
 }
+
+#if !defined(_WIN32)
+TEST(axm_set, leaves_nothing_behind_when_files_may_not_become_so_large)
+{
+  TemporaryFile const file("set_large.xml", "<a>" + std::string(100000, 'x') + "</a>");
+  std::filesystem::create_directory("set_large");
+  std::string const command = std::string("ulimit -f 20; \"") + AXM_PROGRAM +
+                              "\" set set_large.xml /a b=c --output set_large/x.xml 2> set_large.err";
+  int const status = std::system(command.c_str());
+  TemporaryFile const errors("set_large.err", contents_of("set_large.err"));
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 1) << status;
+  EXPECT_EQ(contents_of(errors.name), "axm: set_large/x.xml: cannot be written\n");
+  EXPECT_TRUE(std::filesystem::is_empty("set_large"));
+  std::filesystem::remove_all("set_large");
+}
+#endif
