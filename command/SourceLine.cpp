@@ -10,6 +10,8 @@ namespace
 {
 std::size_t const widest = 100;
 
+std::string const byte_order_mark = "\xEF\xBB\xBF";
+
 char const* const stand_in = "\xEF\xBF\xBD";
 
 bool is_tail(char c)
@@ -82,7 +84,9 @@ std::string shown(std::string const& text)
 
 std::string shown_place(apPath const& file, int number, int column)
 {
-  std::string const raw = read_line(file, number);
+  std::string raw = read_line(file, number);
+  if (number == 1 && raw.compare(0, byte_order_mark.size(), byte_order_mark) == 0)
+    raw.erase(0, byte_order_mark.size()); // takes no column
   if (raw.empty() || raw.find('\0') != std::string::npos)
     return std::string();
   std::string const line = without_controls(raw);

@@ -19,6 +19,8 @@
 ///   schema of the XML namespace, which is built in. What repeated groups come to, written out, may have up to 10000
 ///   elements; elements of a schema may be nested up to 500 levels. A document whose root is in a namespace that no
 ///   schema knows is not validated.
+/// - Errors: the place is behind what is wrong, of an element behind its start tag. A character beyond U+FFFF counts as
+///   two columns, a tab as one.
 /// - Save: to a file that takes the place of the target in one step, with its permissions; see apAtomicFile. What was
 ///   loaded as XML 1.1 is saved as that. Text that XML cannot hold makes it fail, and get_xml() of such a node is
 ///   empty. A prefix that is not declared where it is used makes it fail as well, though not get_xml().

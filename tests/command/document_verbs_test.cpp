@@ -62,6 +62,8 @@ TEST(axm_check, marks_the_column_behind_characters_of_any_size)
   TemporaryFile const bad("check_wide.xml", "<a>\xC3\xA4\xE2\x82\xAC\xF0\x9D\x84\x9E</b>");
   EXPECT_NE(
     run_axm("check_wide", {"check", bad.name}).err.find("\xF0\x9D\x84\x9E</b>\n        ^\n"), std::string::npos);
+  TemporaryFile const marked("check_mark.xml", "\xEF\xBB\xBF<a></b>");
+  EXPECT_NE(run_axm("check_mark", {"check", marked.name}).err.find("\n<a></b>\n     ^\n"), std::string::npos);
 }
 
 TEST(axm_check, hands_no_control_characters_to_the_terminal)
