@@ -17,8 +17,10 @@
 ///   times its size once that is more than 8 MiB. A document may be nested as deep as memory lasts, one that is validated 20000 levels.
 /// - Schemas: read anew at every load, from local files only; a reference that leads to none is an error, but for the
 ///   schema of the XML namespace, which is built in. What repeated groups come to, written out, may have up to 10000
-///   elements; elements of a schema may be nested up to 500 levels. A document whose root is in a namespace that no
-///   schema knows is not validated.
+///   elements; elements of a schema may be nested up to 500 levels, parentheses of a pattern up to 100. A pattern in which
+///   a part repeats that may be empty and repeats in itself, as in (a*b*)*, is refused; so is a value that is too long for
+///   its pattern to be matched on the stack of the thread. How long the matching of a pattern takes is not bounded. A
+///   document whose root is in a namespace that no schema knows is not validated.
 /// - Errors: the place is behind what is wrong, of an element behind its start tag. A character beyond U+FFFF counts as
 ///   two columns, a tab as one.
 /// - Save: to a file that takes the place of the target in one step, with its permissions; see apAtomicFile. What was

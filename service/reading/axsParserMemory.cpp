@@ -33,6 +33,12 @@ void* axsParserMemory::allocate(XMLSize_t size)
     was_exhausted = true;
     throw xercesc::OutOfMemoryException();
   }
+  // The matcher of patterns goes down for every character of a value, and allocates on the way.
+  if (stack && stack->is_low())
+  {
+    was_stack_low = true;
+    throw xercesc::OutOfMemoryException();
+  }
   void* const memory = std::malloc(sizeof(Block) + size);
   if (memory == nullptr)
     throw xercesc::OutOfMemoryException();

@@ -64,6 +64,8 @@ catch (std::exception const&)
 }
 catch (xercesc::OutOfMemoryException const&)
 {
+  if (memory.met_stack())
+    fail(place(), APSTRING("A value is too long to be matched with the pattern of its type"));
   if (memory.exhausted())
     fail(place(), APSTRING("This needs more memory than a document of its size may take"));
   throw std::bad_alloc();

@@ -1,5 +1,6 @@
 #include "axsSchemaScan.h"
 
+#include "axsPatternCheck.h"
 #include "axsSource.h"
 #include "axsXercesParser.h"
 
@@ -85,6 +86,9 @@ void axsSchemaScan::enter()
     if (use == "optional" || use == "required" || use == "prohibited")
       lenient.emplace(entered_place.line, entered_place.column);
   }
+  if (level.local == "pattern")
+    if (char const* const fault = axsPatternCheck::fault(own_attribute("value")))
+      fail(apString(fault));
   levels.push_back(level);
   if (levels.size() > most_levels)
     fail(APSTRING("The schema is nested more than 500 levels deep"));

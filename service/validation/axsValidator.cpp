@@ -63,13 +63,14 @@ Run::Run(axsSource& given, axmLoadOptions const& options)
     memory(memory_free),
     entities(options.disable_entity_resolution(), [this] { return place(); }),
     grammars(std::make_unique<xercesc::GrammarResolver>(nullptr, &memory)),
-    errors(*grammars, [this] { return place(); })
+    errors(*grammars, memory, [this] { return place(); })
 {
   limits.setEntityExpansionLimit(static_cast<XMLSize_t>(std::max(options.entity_expansion_limit(), 0)));
 }
 
 void Run::validate(std::string_view root_namespace)
 {
+  memory.watch_stack();
   axsXerces::run(
     memory,
     [&]

@@ -243,10 +243,10 @@ void axsValidityReporter::explain_attribute(
   {
     xercesc::XMLAttr const& attribute = *attributes.elementAt(i);
     xercesc::DatatypeValidator* const type = type_of(attribute, *element.decl, known);
-    if (type != nullptr && !axsValueFault::is_of(*type, attribute.getValue()))
+    if (type != nullptr && !axsValueFault::is_of(*type, attribute.getValue(), memory))
       fail_with("attribute " + quoted(axsUtf16::to_utf8(attribute.getQName())) + " of " +
                 element_subject(element.name) + ": " +
-                axsValueFault::words(*type, attribute.getValue(), found->code, found->text));
+                axsValueFault::words(*type, attribute.getValue(), found->code, found->text, memory));
   }
 }
 
@@ -254,9 +254,10 @@ void axsValidityReporter::explain_content(Element const& element) const
 {
   xercesc::DatatypeValidator* const type = element.decl == nullptr ? nullptr : type_of_content(*element.decl);
   bool const is_whole = content.size() < longest_content;
-  if (type != nullptr && is_whole && !element.has_own_type && !axsValueFault::is_of(*type, content.c_str()))
-    fail_with(
-      element_subject(element.name) + ": " + axsValueFault::words(*type, content.c_str(), found->code, found->text));
-  if (is_whole)
-    fail_with(element_subject(element.name) + ": " + axsValueFault::with_value(found->text, content.c_str()));
+  if (type != nullptr && is_whole && !element.has_own_type && !axsValueFault::is_of(*type, content.c_str(), memory))
+    fail_with(element_subject(element.name) + ": " +
+              axsValueFault::words(*type, content.c_str(), found->code, found->text, memory));
+  fail_with(
+    element_subject(element.name) + ": " +
+    (is_whole ? axsValueFault::with_value(found->text, content.c_str()) : axsValueFault::shortened(found->text)));
 }

@@ -26,8 +26,10 @@ public:
   static constexpr std::size_t most_levels = 20000;
 
   /// `place` tells where the validator is.
-  axsValidityReporter(xercesc::GrammarResolver& grammars, std::function<axsReadError()> place)
+  axsValidityReporter(
+    xercesc::GrammarResolver& grammars, xercesc::MemoryManager& manager, std::function<axsReadError()> place)
     : known(grammars),
+      memory(manager),
       current_place(std::move(place))
   {
   }
@@ -101,9 +103,10 @@ private:
   void explain_undeclared(xercesc::XMLElementDecl const& decl) const;
   void explain_attribute(
     Element const& element, xercesc::RefVectorOf<xercesc::XMLAttr> const& attributes, XMLSize_t count) const;
-  void explain_content(Element const& element) const;
+  [[noreturn]] void explain_content(Element const& element) const;
 
   xercesc::GrammarResolver& known;
+  xercesc::MemoryManager& memory;
   std::function<axsReadError()> current_place;
   xercesc::Locator const* locator = nullptr;
   unsigned int empty_namespace = 0;

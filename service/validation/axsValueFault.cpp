@@ -28,6 +28,11 @@ std::basic_string<XMLCh> normalised(XMLCh const* value, Type const& type)
   return text.c_str();
 }
 
+bool is_tail(char c)
+{
+  return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+}
+
 // The beginning of a long text.
 std::string shown(XMLCh const* value)
 {
@@ -35,7 +40,7 @@ std::string shown(XMLCh const* value)
   if (text.size() <= longest_shown)
     return text;
   std::size_t end = longest_shown;
-  while ((static_cast<unsigned char>(text[end]) & 0xC0) == 0x80)
+  while (is_tail(text[end]))
     --end;
   return text.substr(0, end) + "...";
 }
@@ -128,10 +133,10 @@ bool is_about_range(unsigned int code, std::string const& text)
 }
 }
 
-bool axsValueFault::is_of(Type& type, XMLCh const* value)
+bool axsValueFault::is_of(Type& type, XMLCh const* value, xercesc::MemoryManager& memory)
 try
 {
-  type.validate(normalised(value, type).c_str());
+  type.validate(normalised(value, type).c_str(), nullptr, &memory);
   return true;
 }
 catch (xercesc::XMLException const&)
@@ -139,11 +144,12 @@ catch (xercesc::XMLException const&)
   return false;
 }
 
-std::string axsValueFault::words(Type& type, XMLCh const* value, unsigned int code, std::string const& text)
+std::string axsValueFault::words(
+  Type& type, XMLCh const* value, unsigned int code, std::string const& text, xercesc::MemoryManager& memory)
 {
   std::string const subject = "\"" + shown(value) + "\" is not ";
   Type* const built_in = built_in_of(type);
-  if (built_in != nullptr && !is_of(*built_in, value))
+  if (built_in != nullptr && !is_of(*built_in, value, memory))
   {
     std::string const name = "xs:" + local_name(*built_in);
     std::string const of =
@@ -160,4 +166,17 @@ std::string axsValueFault::with_value(std::string const& text, XMLCh const* valu
 {
   std::string const wanted = shown(value);
   return text.find(wanted) == std::string::npos ? text + ", in \"" + wanted + "\"" : text;
+}
+
+std::string axsValueFault::shortened(std::string const& text)
+{
+  if (text.size() <= 4 * longest_shown)
+    return text;
+  std::size_t first = longest_shown;
+  std::size_t last = text.size() - longest_shown;
+  while (is_tail(text[first]))
+    --first;
+  while (last < text.size() && is_tail(text[last]))
+    ++last;
+  return text.substr(0, first) + "..." + text.substr(last);
 }

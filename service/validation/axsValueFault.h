@@ -1,5 +1,6 @@
 #pragma once
 
+#include <xercesc/framework/MemoryManager.hpp>
 #include <xercesc/util/XercesDefs.hpp>
 #include <xercesc/validators/datatype/DatatypeValidator.hpp>
 
@@ -9,11 +10,15 @@
 /// The validator's own texts are about how it found out.
 namespace axsValueFault
 {
-/// Whether the type takes the value.
-bool is_of(xercesc::DatatypeValidator& type, XMLCh const* value);
+/// Whether the type takes the value. What that takes comes from `memory`.
+bool is_of(xercesc::DatatypeValidator& type, XMLCh const* value, xercesc::MemoryManager& memory);
 
 /// The words for `value`, which is not of `type`. `code` (XMLExcepts) and `text` are what the validator said.
-std::string words(xercesc::DatatypeValidator& type, XMLCh const* value, unsigned int code, std::string const& text);
+std::string words(xercesc::DatatypeValidator& type, XMLCh const* value, unsigned int code, std::string const& text,
+  xercesc::MemoryManager& memory);
+
+/// `text` without the middle of a long value in it.
+std::string shortened(std::string const& text);
 
 /// `text`, with the value if it is not in it.
 std::string with_value(std::string const& text, XMLCh const* value);
