@@ -33,7 +33,7 @@
 namespace
 {
 // What the parser may hold at a time, besides a multiple of what it has read of the document.
-std::size_t const memory_free = 64 * 1024 * 1024;
+std::size_t const memory_free = std::size_t{64} * 1024 * 1024;
 
 // One run of the parser: hears what it says and says it to the events.
 class Run final : public xercesc::XMLDocumentHandler, public xercesc::DocTypeHandler

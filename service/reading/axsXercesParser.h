@@ -14,7 +14,7 @@ class axsSource;
 /// May run in many threads at once.
 namespace axsXercesParser
 {
-constexpr std::size_t growth_free = 8 * 1024 * 1024;
+constexpr std::size_t growth_free = std::size_t{8} * 1024 * 1024;
 constexpr std::size_t growth_limit = 100;
 
 /// Tells `events` of the document in `source`. Throws axsReadError when it is not well-formed, breaks a bound or needs
