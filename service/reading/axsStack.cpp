@@ -20,34 +20,47 @@ std::uintptr_t here() noexcept
   return reinterpret_cast<std::uintptr_t>(&local);
 }
 
-// 0 where it is not known.
-std::uintptr_t lowest_address() noexcept
+struct Range
 {
+  std::uintptr_t low = 0;
+  std::uintptr_t high = 0;
+};
+
+// Empty where it is not known.
+Range stack_of_thread() noexcept
+{
+  Range range;
 #if defined(_WIN32)
   ULONG_PTR low = 0;
   ULONG_PTR high = 0;
   GetCurrentThreadStackLimits(&low, &high);
-  return low;
+  range = {low, high};
 #elif defined(__linux__)
   pthread_attr_t attributes;
   if (pthread_getattr_np(pthread_self(), &attributes) != 0)
-    return 0;
-  void* low = nullptr;
+    return range;
+  void* start = nullptr;
   std::size_t size = 0;
-  bool const known = pthread_attr_getstack(&attributes, &low, &size) == 0;
+  if (pthread_attr_getstack(&attributes, &start, &size) == 0)
+  {
+    auto const low = reinterpret_cast<std::uintptr_t>(start);
+    range = {low, low + size};
+  }
   pthread_attr_destroy(&attributes);
-  return known ? reinterpret_cast<std::uintptr_t>(low) : 0;
-#else
-  return 0;
 #endif
+  return range;
 }
 }
 
 axsStack::axsStack() noexcept
 {
-  std::uintptr_t const lowest = lowest_address();
+  // For the first thread of a process the system reads a list of all that is mapped, which takes a millisecond.
+  thread_local Range const own = stack_of_thread();
+  std::uintptr_t const at = here();
+  // A fiber is on a stack that the system does not know.
+  bool const is_own = at >= own.low && at < own.high;
   // Of a small stack, a part.
-  lowest_good = lowest == 0 ? 0 : lowest + std::min(reserve, (here() - lowest) / 4);
+  lowest_good = is_own ? own.low + std::min(reserve, (at - own.low) / 4) : 0;
 }
 
 bool axsStack::is_low() const noexcept

@@ -1,6 +1,11 @@
 #include "Engine.h"
 
 #include <thread>
+#include <vector>
+
+#if defined(__GLIBC__)
+#  include <ucontext.h>
+#endif
 
 namespace
 {
@@ -508,6 +513,34 @@ TEST(axsSchemas, a_value_too_long_for_the_matcher_of_patterns_is_refused)
       EXPECT_NE(load("<r>" + value.substr(0, 300) + "</r>", plain(file.path())), nullptr);
     })
     .join();
+}
+#endif
+
+#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+namespace
+{
+ucontext_t caller;
+ucontext_t fiber;
+bool loaded_in_fiber = false;
+
+void load_in_fiber()
+{
+  TestFile const file("engine_fiber.xsd", pattern_schema("(a|b)+"));
+  loaded_in_fiber = load("<r>ab</r>", plain(file.path())) != nullptr;
+}
+}
+
+// On a stack that the system does not know nothing tells its end; that is no reason to refuse everything.
+TEST(axsSchemas, validation_works_on_the_stack_of_a_fiber)
+{
+  std::vector<char> stack(1024 * 1024);
+  ASSERT_EQ(getcontext(&fiber), 0);
+  fiber.uc_stack.ss_sp = stack.data();
+  fiber.uc_stack.ss_size = stack.size();
+  fiber.uc_link = &caller;
+  makecontext(&fiber, &load_in_fiber, 0);
+  ASSERT_EQ(swapcontext(&caller, &fiber), 0);
+  EXPECT_TRUE(loaded_in_fiber);
 }
 #endif
 
