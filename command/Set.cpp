@@ -50,7 +50,7 @@ std::string apply(axmElement& element, std::vector<std::string> const& settings)
   for (std::string const& setting : settings)
   {
     std::size_t const sign = setting.find('=');
-    std::string const name = setting.substr(0, sign);
+    std::string name = setting.substr(0, sign);
     apString const wide_name(name.c_str());
     element.setAttribute(wide_name, apString(setting.substr(sign + 1).c_str()));
     if (!element.hasAttribute(wide_name))

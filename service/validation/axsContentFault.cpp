@@ -18,7 +18,7 @@ using Spec = xercesc::ContentSpecNode;
 std::size_t const most_names = 12;
 
 // How many children may be looked at to find out what is expected.
-std::size_t const most_work = 10 * 1000 * 1000;
+std::size_t const most_work = std::size_t{10} * 1000 * 1000;
 
 // Wildcards of all kinds (processContents) have one of these in their lower bits.
 bool is_wildcard(Spec const& spec)
@@ -73,7 +73,7 @@ std::string axsContentFault::words(XMLCh const* parent, Names const& children, s
 // With its namespace if that is what it differs in from another name.
 std::string axsContentFault::shown(xercesc::QName const& name, xercesc::QName const* other) const
 {
-  std::string const local = "'" + axsUtf16::to_utf8(name.getLocalPart()) + "'";
+  std::string local = "'" + axsUtf16::to_utf8(name.getLocalPart()) + "'";
   if (other == nullptr || !xercesc::XMLString::equals(name.getLocalPart(), other->getLocalPart()))
     return local;
   XMLCh const* const uri =

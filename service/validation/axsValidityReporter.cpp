@@ -85,7 +85,7 @@ void axsValidityReporter::error(unsigned int code, XMLCh const* domain, ErrTypes
   bool const is_value = xercesc::XMLString::equals(domain, xercesc::XMLUni::fgExceptDomain);
   bool const is_validity = xercesc::XMLString::equals(domain, xercesc::XMLUni::fgValidityDomain);
   std::string const said = axsUtf16::to_utf8(text);
-  axsReadError const made = axsErrorReporter::make(
+  axsReadError made = axsErrorReporter::make(
     apString::from_utf8(is_validity ? axsPlainWords::of_validity(code, said) : said), system_id, line, column);
   if (type == ErrType_Fatal)
     throw made;

@@ -25,7 +25,8 @@ std::basic_string<XMLCh> normalised(XMLCh const* value, Type const& type)
     xercesc::XMLString::collapseWS(text.data());
   else if (type.getWSFacet() == Type::REPLACE)
     xercesc::XMLString::replaceWS(text.data());
-  return text.c_str();
+  // What was collapsed ends at a NUL.
+  return text.c_str(); // NOLINT(readability-redundant-string-cstr)
 }
 
 bool is_tail(char c)
