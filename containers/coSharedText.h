@@ -16,60 +16,28 @@
 #  endif
 #endif
 
-/// The storage of a text: characters with a length, closed by a NUL that does not count, or nothing at all.
+/// The storage of a text: characters with a length, closed by a NUL that does not count.
 ///
-/// Copies share one block of memory, which goes with the last of them; all empty texts with storage share one that stays.
-/// The count is atomic, so copies may be made, used and dropped by several threads, while one and the same object belongs
-/// to one thread at a time. The characters are written once, before the first copy is made. Running out of memory is
-/// std::bad_alloc.
+/// Copies share one block of memory, which goes with the last of them. The count is atomic, so copies may be made, used
+/// and dropped by several threads, while one and the same object belongs to one thread at a time. The characters are
+/// written once, before the first copy is made. An object that was moved from can only be destroyed. Running out of memory
+/// is std::bad_alloc.
 template <class C>
 class coSharedText
 {
 public:
-  /// No storage.
-  coSharedText() noexcept = default;
-
   /// Room for `length` characters (0 or more) that the caller writes through writable().
-  explicit coSharedText(int length) : block(length == 0 ? const_cast<Block*>(&empty.block) : Block::make(length)) {}
+  explicit coSharedText(int length) : block(Block::make(length)) {}
 
-  /// A copy of the `length` characters (0 or more) at `text`.
-  coSharedText(C const* text, int length) : coSharedText(length)
-  {
-    std::memcpy(block->text(), text, static_cast<std::size_t>(length) * sizeof(C));
-  }
-
-  coSharedText(coSharedText const& other) noexcept : block(other.block) { keep(block); }
+  coSharedText(coSharedText const& other) noexcept : block(other.block) { keep(); }
   coSharedText(coSharedText&& other) noexcept : block(std::exchange(other.block, nullptr)) {}
+  coSharedText& operator=(coSharedText const&) = delete;
+  ~coSharedText() { drop(); }
 
-  coSharedText& operator=(coSharedText const& other) noexcept
-  {
-    if (this != &other)
-    {
-      keep(other.block);
-      drop(std::exchange(block, other.block));
-    }
-    return *this;
-  }
+  int length() const noexcept { return block->length; }
 
-  coSharedText& operator=(coSharedText&& other) noexcept
-  {
-    if (this != &other)
-      drop(std::exchange(block, std::exchange(other.block, nullptr)));
-    return *this;
-  }
-
-  ~coSharedText() { drop(block); }
-
-  bool has_storage() const noexcept { return block != nullptr; }
-
-  int length() const noexcept { return block == nullptr ? 0 : block->length; }
-
-  /// The characters and the closing NUL; never null.
-  C const* data() const noexcept
-  {
-    static C const nothing{};
-    return block == nullptr ? &nothing : block->text();
-  }
+  /// The characters and the closing NUL.
+  C const* data() const noexcept { return block->text(); }
 
   /// The characters, to be written before the first copy is made.
   C* writable() noexcept { return block->text(); }
@@ -104,17 +72,6 @@ private:
     }
   };
 
-  // The storage of every empty text, which is not counted and stays.
-  struct Empty
-  {
-    Block block;
-    C end;
-  };
-
-  inline static Empty const empty{{{1}, 0}, C()};
-
-  static bool is_counted(Block const* block) noexcept { return block != nullptr && block->length != 0; }
-
   // Whether the process is known to have this thread only: then counting needs no locked instruction, which costs more
   // than all else that copying a text takes.
   static bool is_only_thread() noexcept
@@ -126,19 +83,17 @@ private:
 #endif
   }
 
-  static void keep(Block* block) noexcept
+  void keep() noexcept
   {
-    if (!is_counted(block))
-      return;
     if (is_only_thread())
       block->owners.store(block->owners.load(std::memory_order_relaxed) + 1, std::memory_order_relaxed);
     else
       block->owners.fetch_add(1, std::memory_order_relaxed);
   }
 
-  static void drop(Block* block) noexcept
+  void drop() noexcept
   {
-    if (!is_counted(block))
+    if (block == nullptr)
       return;
     // The only owner there is cannot be joined by another one meanwhile, and reading costs less than counting.
     int const owners = block->owners.load(std::memory_order_acquire);
@@ -150,7 +105,7 @@ private:
       std::free(block);
   }
 
-  Block* block = nullptr;
+  Block* block;
 };
 
 #undef CO_KNOWS_SINGLE_THREADED

@@ -4,8 +4,12 @@
 #include <cstdint>
 #include <cstring>
 
+#if defined(__SSE2__)
+#  include <emmintrin.h>
+#endif
+
 /// Text between its narrow and its wide form as long as it is ASCII, as most of it is: in blocks that compilers turn into
-/// vector instructions, the last one of which overlaps the one before it, so that no remainder is left to single steps.
+/// vector instructions, the last one of which overlaps the one before it, so that hardly anything is left to single steps.
 /// Safe from several threads at once.
 class apAscii
 {
@@ -14,18 +18,14 @@ public:
   static bool is_ascii(char const* text, std::size_t length) noexcept
   {
     if (length < sizeof(std::uint64_t))
-    {
-      unsigned char all = 0;
-      for (std::size_t i = 0; i < length; ++i)
-        all = static_cast<unsigned char>(all | static_cast<unsigned char>(text[i]));
-      return all < 0x80;
-    }
-    std::uint64_t all = word(text + length - sizeof(std::uint64_t));
-    std::size_t at = 0;
+      return is_short_ascii(text, length);
+    std::uint64_t all = word<std::uint64_t>(text) | word<std::uint64_t>(text + length - sizeof all);
+    std::size_t at = sizeof all;
     for (; at + 4 * sizeof all <= length; at += 4 * sizeof all)
-      all |= word(text + at) | word(text + at + 8) | word(text + at + 16) | word(text + at + 24);
+      all |= word<std::uint64_t>(text + at) | word<std::uint64_t>(text + at + 8) | word<std::uint64_t>(text + at + 16) |
+             word<std::uint64_t>(text + at + 24);
     for (; at + sizeof all <= length; at += sizeof all)
-      all |= word(text + at);
+      all |= word<std::uint64_t>(text + at);
     return (all & 0x8080808080808080u) == 0;
   }
 
@@ -34,8 +34,7 @@ public:
   {
     if (length < block)
     {
-      for (std::size_t i = 0; i < length; ++i)
-        wide[i] = static_cast<wchar_t>(text[i]);
+      widen_short(text, length, wide);
       return;
     }
     for (std::size_t at = 0; at + block <= length; at += block)
@@ -61,17 +60,75 @@ public:
 
 private:
   static constexpr std::size_t block = 8;
+  static constexpr std::size_t half_block = block / 2;
 
-  static std::uint64_t word(char const* text) noexcept
+  // Of fewer bytes than a block.
+  static bool is_short_ascii(char const* text, std::size_t length) noexcept
   {
-    std::uint64_t bytes;
+    if (length >= half_block)
+      return ((word<std::uint32_t>(text) | word<std::uint32_t>(text + length - half_block)) & 0x80808080u) == 0;
+    unsigned all = 0;
+    for (std::size_t i = 0; i < length; ++i)
+      all |= static_cast<unsigned char>(text[i]);
+    return all < 0x80;
+  }
+
+  static void widen_short(char const* text, std::size_t length, wchar_t* wide) noexcept
+  {
+    if (length >= half_block)
+    {
+      widen_half_block(text, wide);
+      widen_half_block(text + length - half_block, wide + length - half_block);
+      return;
+    }
+    for (std::size_t i = 0; i < length; ++i)
+      wide[i] = static_cast<wchar_t>(text[i]);
+  }
+
+  template <class Word>
+  static Word word(char const* text) noexcept
+  {
+    Word bytes;
     std::memcpy(&bytes, text, sizeof bytes);
     return bytes;
   }
 
-  static void widen_block(char const* __restrict text, wchar_t* __restrict wide) noexcept
+#if defined(__SSE2__)
+  static void widen_block(char const* text, wchar_t* wide) noexcept
   {
-    for (std::size_t i = 0; i < block; ++i)
+    __m128i const zero = _mm_setzero_si128();
+    __m128i const units = _mm_unpacklo_epi8(_mm_loadl_epi64(reinterpret_cast<__m128i const*>(text)), zero);
+    auto* const to = reinterpret_cast<__m128i*>(wide);
+    if constexpr (sizeof(wchar_t) == 2)
+      _mm_storeu_si128(to, units);
+    else
+    {
+      _mm_storeu_si128(to, _mm_unpacklo_epi16(units, zero));
+      _mm_storeu_si128(to + 1, _mm_unpackhi_epi16(units, zero));
+    }
+  }
+
+  static void widen_half_block(char const* text, wchar_t* wide) noexcept
+  {
+    __m128i const zero = _mm_setzero_si128();
+    __m128i const units = _mm_unpacklo_epi8(_mm_cvtsi32_si128(static_cast<int>(word<std::uint32_t>(text))), zero);
+    auto* const to = reinterpret_cast<__m128i*>(wide);
+    if constexpr (sizeof(wchar_t) == 2)
+      _mm_storel_epi64(to, units);
+    else
+      _mm_storeu_si128(to, _mm_unpacklo_epi16(units, zero));
+  }
+#else
+  static void widen_block(char const* text, wchar_t* wide) noexcept
+  {
+    widen_half_block(text, wide);
+    widen_half_block(text + half_block, wide + half_block);
+  }
+
+  static void widen_half_block(char const* __restrict text, wchar_t* __restrict wide) noexcept
+  {
+    for (std::size_t i = 0; i < half_block; ++i)
       wide[i] = static_cast<wchar_t>(static_cast<unsigned char>(text[i]));
   }
+#endif
 };

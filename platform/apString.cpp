@@ -9,8 +9,6 @@
 
 namespace
 {
-using Storage = coSharedText<wchar_t>;
-
 char32_t const replacement_character = 0xFFFD;
 
 bool is_surrogate(char32_t c)
@@ -66,6 +64,41 @@ char32_t read_utf8(unsigned char const*& at, unsigned char const* end)
   return c;
 }
 
+bool is_continuation(unsigned char byte)
+{
+  return (byte & 0xC0) == 0x80;
+}
+
+// The same as read_utf8(), faster for most of what texts consist of.
+inline char32_t next_of_utf8(unsigned char const*& at, unsigned char const* end)
+{
+  unsigned char const first = *at;
+  if (first < 0x80)
+  {
+    ++at;
+    return first;
+  }
+  if (first >= 0xC2 && first <= 0xDF && end - at >= 2 && is_continuation(at[1]))
+  {
+    char32_t const c = (first & 0x1Fu) << 6 | (at[1] & 0x3Fu);
+    at += 2;
+    return c;
+  }
+  // Without 0xE0 and 0xED, not all of whose sequences are right.
+  if (first >= 0xE1 && first <= 0xEF && first != 0xED && end - at >= 3 && is_continuation(at[1]) &&
+      is_continuation(at[2]))
+  {
+    char32_t const c = (first & 0x0Fu) << 12 | (at[1] & 0x3Fu) << 6 | (at[2] & 0x3Fu);
+    at += 3;
+    return c;
+  }
+  // Not `at` itself, which a reference would keep in memory.
+  unsigned char const* behind = at;
+  char32_t const c = read_utf8(behind, end);
+  at = behind;
+  return c;
+}
+
 // Reads one code point of wide text at `at` and moves `at` behind it.
 char32_t read_wide(wchar_t const*& at, wchar_t const* end)
 {
@@ -104,6 +137,14 @@ wchar_t* write_wide(wchar_t* to, char32_t c)
   return to;
 }
 
+// Writes the text of the UTF-8 and returns the end of what was written.
+wchar_t* widen(unsigned char const* at, unsigned char const* end, wchar_t* to)
+{
+  while (at != end)
+    to = write_wide(to, next_of_utf8(at, end));
+  return to;
+}
+
 std::size_t utf8_bytes(char32_t c)
 {
   return c < 0x80 ? 1 : c < 0x800 ? 2 : c < 0x10000 ? 3 : 4;
@@ -135,52 +176,63 @@ char* write_utf8(char* to, char32_t c)
   return to;
 }
 
-Storage stored(std::wstring_view wide)
+// More characters than a length can say do not fit into memory.
+int checked_length(std::size_t characters)
 {
-  return wide.empty() ? Storage() : Storage(wide.data(), Storage::checked_length(wide.size()));
+  return coSharedText<wchar_t>::checked_length(characters);
 }
 }
 
-apString::apString(Storage owned) noexcept : text(std::move(owned)) {}
+template <class Write>
+apString::apString(std::size_t length, Write const& write) : text(checked_length(length), write)
+{
+}
 
-apString::apString(wchar_t const* wide) : text(wide == nullptr ? Storage() : stored(wide)) {}
+apString::apString(wchar_t const* wide) : apString(std::wstring_view(wide == nullptr ? L"" : wide)) {}
 
 apString::apString(wchar_t const* wide, int length)
-  : text(wide == nullptr ? Storage() : stored({wide, static_cast<std::size_t>(std::max(length, 0))}))
+  : apString(std::wstring_view(wide, wide == nullptr ? 0 : static_cast<std::size_t>(std::max(length, 0))))
 {
 }
 
-apString::apString(std::wstring_view wide) : text(stored(wide)) {}
-
-apString::apString(char const* utf8) : apString(utf8 == nullptr ? apString() : from_utf8(utf8)) {}
-
-apString::apString(utString const& utf8) : apString(from_utf8({utf8.c_str(), static_cast<std::size_t>(utf8.length())}))
+apString::apString(std::wstring_view wide)
+  : apString(wide.size(), [&](wchar_t* to) { std::copy_n(wide.data(), wide.size(), to); })
 {
 }
+
+apString::apString(char const* utf8) : apString(from_utf8(utf8 == nullptr ? std::string_view() : utf8)) {}
+
+apString::apString(utString const& utf8) : apString(from_utf8(utf8.view())) {}
 
 apString apString::from_utf8(std::string_view utf8)
 {
-  if (utf8.empty())
-    return apString();
+  // Most texts are short: by themselves they take a few instructions.
+  if (utf8.size() > most_inside || !apAscii::is_ascii(utf8.data(), utf8.size()))
+    return from_any_utf8(utf8);
+  return apString(utf8.size(), [&](wchar_t* to) { apAscii::widen(utf8.data(), utf8.size(), to); });
+}
 
+apString apString::from_any_utf8(std::string_view utf8)
+{
   if (apAscii::is_ascii(utf8.data(), utf8.size()))
-  {
-    Storage ascii(Storage::checked_length(utf8.size()));
-    apAscii::widen(utf8.data(), utf8.size(), ascii.writable());
-    return apString(std::move(ascii));
-  }
+    return apString(utf8.size(), [&](wchar_t* to) { apAscii::widen(utf8.data(), utf8.size(), to); });
 
   auto const* const begin = reinterpret_cast<unsigned char const*>(utf8.data());
   auto const* const end = begin + utf8.size();
+  // No text has more units wide than bytes. A text of usual length is read once, into a place from which it is copied;
+  // a longer one twice, for its length and for itself.
+  std::size_t const usual = 1024;
+  if (utf8.size() <= usual)
+  {
+    wchar_t wide[usual];
+    wchar_t* const wide_end = widen(begin, end, wide);
+    return apString(std::wstring_view(wide, static_cast<std::size_t>(wide_end - wide)));
+  }
+
   std::size_t length = 0;
   for (auto const* at = begin; at != end;)
-    length += static_cast<std::size_t>(wide_units(read_utf8(at, end)));
-
-  Storage made(Storage::checked_length(length));
-  wchar_t* to = made.writable();
-  for (auto const* at = begin; at != end;)
-    to = write_wide(to, read_utf8(at, end));
-  return apString(std::move(made));
+    length += static_cast<std::size_t>(wide_units(next_of_utf8(at, end)));
+  return apString(length, [&](wchar_t* to) { widen(begin, end, to); });
 }
 
 utString apString::to_utf8() const
@@ -193,7 +245,7 @@ utString apString::to_utf8() const
   for (wchar_t const* at = c_str(); at != end;)
     bytes += utf8_bytes(read_wide(at, end));
 
-  return utString::written(coSharedText<char>::checked_length(bytes),
+  return utString::written(checked_length(bytes),
     [&](char* to)
     {
       for (wchar_t const* at = c_str(); at != end;)
@@ -233,19 +285,19 @@ int apString::replace_all(apString const& wanted, apString const& replacement)
     return 0;
 
   std::size_t const replaced = static_cast<std::size_t>(occurrences);
-  Storage made(
-    Storage::checked_length(view().size() - replaced * wanted.view().size() + replaced * replacement.view().size()));
-  wchar_t* to = made.writable();
-  std::wstring_view rest = view();
-  for (int i = 0; i < occurrences; ++i)
-  {
-    std::size_t const at = rest.find(wanted.view());
-    to = std::copy_n(rest.data(), at, to);
-    to = std::copy_n(replacement.c_str(), replacement.view().size(), to);
-    rest.remove_prefix(at + wanted.view().size());
-  }
-  std::copy_n(rest.data(), rest.size(), to);
-  text = std::move(made);
+  *this = apString(view().size() - replaced * wanted.view().size() + replaced * replacement.view().size(),
+    [&](wchar_t* to)
+    {
+      std::wstring_view rest = view();
+      for (std::size_t i = 0; i < replaced; ++i)
+      {
+        std::size_t const at = rest.find(wanted.view());
+        to = std::copy_n(rest.data(), at, to);
+        to = std::copy_n(replacement.c_str(), replacement.view().size(), to);
+        rest.remove_prefix(at + wanted.view().size());
+      }
+      std::copy_n(rest.data(), rest.size(), to);
+    });
   return occurrences;
 }
 
@@ -260,7 +312,6 @@ apString operator+(apString const& left, apString const& right)
     return right;
   if (right.empty())
     return left;
-  Storage made(Storage::checked_length(left.view().size() + right.view().size()));
-  std::copy_n(right.c_str(), right.view().size(), std::copy_n(left.c_str(), left.view().size(), made.writable()));
-  return apString(std::move(made));
+  return apString(left.view().size() + right.view().size(), [&](wchar_t* to)
+    { std::copy_n(right.c_str(), right.view().size(), std::copy_n(left.c_str(), left.view().size(), to)); });
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <apExport.h>
-#include <coSharedText.h>
+#include <coText.h>
 #include <utString.h>
 
 #include <cstddef>
@@ -11,13 +11,17 @@
 /// Wide text: Unicode in `wchar_t` (UTF-16 where that has 16 bits, UTF-32 where it has 32), closed by a NUL that does
 /// not count.
 ///
-/// A value type that cannot be changed in place except where an operation says so. Copies share the storage; the count is
-/// atomic, so copies may be made, used and dropped by several threads, while one and the same object belongs to one
-/// thread at a time. Lengths and positions are counted in `wchar_t`, positions from 0. Operations that make a text throw
-/// std::bad_alloc when memory runs out and leave their object as it was.
+/// A value type that cannot be changed in place except where an operation says so. A short text, of up to `most_inside`
+/// characters, lies in the object itself and needs no allocation; of a longer one, copies share the storage, which goes
+/// with the last of them. The count is atomic, so copies may be made, used and dropped by several threads, while one and
+/// the same object belongs to one thread at a time. Lengths and positions are counted in `wchar_t`, positions from 0.
+/// Operations that make a text throw std::bad_alloc when memory runs out and leave their object as it was.
 class AP_API apString
 {
 public:
+  /// How long a text that needs no allocation may be.
+  static constexpr int most_inside = 23;
+
   /// The empty text.
   AP_KEPT apString() noexcept {}
 
@@ -58,8 +62,8 @@ public:
   /// The text as UTF-8; what is not Unicode (an unpaired surrogate, a number beyond U+10FFFF) becomes U+FFFD.
   utString to_utf8() const;
 
-  /// The characters, with a NUL behind the last one; never null. They live as long as this object or a copy of it and
-  /// neither is changed.
+  /// The characters, with a NUL behind the last one; never null. They live as long as this object and stay where they are
+  /// until it takes another value.
   AP_KEPT wchar_t const* c_str() const noexcept { return text.data(); }
 
   AP_KEPT int length() const noexcept { return text.length(); }
@@ -84,11 +88,17 @@ public:
   apString& operator+=(apString const& other);
 
 private:
+  using Text = coText<wchar_t, most_inside>;
+
   friend AP_API apString operator+(apString const& left, apString const& right);
 
-  explicit apString(coSharedText<wchar_t> owned) noexcept;
+  // The text of `length` characters (0 or more) that `write` puts at the place it is given.
+  template <class Write>
+  apString(std::size_t length, Write const& write);
 
-  coSharedText<wchar_t> text;
+  static apString from_any_utf8(std::string_view utf8);
+
+  Text text;
 };
 
 AP_API apString operator+(apString const& left, apString const& right);

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstring>
 #include <ostream>
-#include <utility>
 
 namespace
 {
@@ -47,23 +46,6 @@ int utString::case_compare(utString const& other) const noexcept
     ++right;
   }
   return static_cast<unsigned char>(folded(*left)) - static_cast<unsigned char>(folded(*right));
-}
-
-void utString::take(coSharedText<char>& text) noexcept
-{
-  new (place.inside) coSharedText<char>(std::move(text));
-  place.inside[state_at] = outside;
-}
-
-// To be called when the bytes of `other`, which refers to a shared text, have been copied.
-void utString::share(utString const& other) noexcept
-{
-  new (place.inside) coSharedText<char>(other.shared());
-}
-
-void utString::drop_shared() noexcept
-{
-  shared().~coSharedText<char>();
 }
 
 utString operator+(utString const& left, utString const& right)

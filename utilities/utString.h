@@ -1,12 +1,12 @@
 #pragma once
 
-#include <coSharedText.h>
+#include <coText.h>
 #include <utExport.h>
 
 #include <cstddef>
 #include <iosfwd>
-#include <new>
 #include <string_view>
+#include <utility>
 
 /// Narrow text: bytes with a length, closed by a NUL that does not count.
 ///
@@ -23,7 +23,7 @@ public:
   static constexpr int most_inside = 23;
 
   /// No storage.
-  utString() noexcept : place{} { place.inside[state_at] = nothing; }
+  utString() noexcept {}
 
   /// A copy of the NUL-terminated `bytes`; no storage if it is null.
   utString(char const* bytes);
@@ -32,81 +32,45 @@ public:
   /// as 0.
   utString(char const* bytes, int length);
 
-  /// A text of `length` bytes (0 or more) that `write` puts at the place it is given.
+  /// A text of `length` bytes (0 or more) that `write` puts at the place it is given. There is room for most_inside + 1
+  /// at least, and those behind `length` may be written as well.
   template <class Write>
   static utString written(int length, Write const& write)
   {
-    if (length <= most_inside)
-      return written_inside(length, write);
-    utString made;
-    coSharedText<char> text(length);
-    write(text.writable());
-    made.take(text);
-    return made;
+    return utString(length, write);
   }
 
-  /// The same of most_inside bytes at most; there is room for most_inside + 1, of which those behind `length` may be
-  /// written as well.
-  template <class Write>
-  static utString written_inside(int length, Write const& write)
-  {
-    utString made;
-    write(made.place.inside);
-    made.place.inside[length] = '\0';
-    made.place.inside[state_at] = static_cast<char>(most_inside - length);
-    return made;
-  }
-
-  utString(utString const& other) noexcept : place(other.place)
-  {
-    if (place.inside[state_at] == outside)
-      share(other);
-  }
+  utString(utString const& other) noexcept : text(other.text) {}
 
   /// `other` has no storage afterwards.
-  utString(utString&& other) noexcept : place(other.place) { other.forget(); }
+  utString(utString&& other) noexcept : text(std::move(other.text)) {}
 
   utString& operator=(utString const& other) noexcept
   {
-    if (this != &other)
-    {
-      drop();
-      place = other.place;
-      if (place.inside[state_at] == outside)
-        share(other);
-    }
+    text = other.text;
     return *this;
   }
 
   utString& operator=(utString&& other) noexcept
   {
-    if (this != &other)
-    {
-      drop();
-      place = other.place;
-      other.forget();
-    }
+    text = std::move(other.text);
     return *this;
   }
 
-  ~utString() { drop(); }
+  ~utString() {}
 
   /// The bytes, with a NUL behind the last one; never null. They live as long as this object and stay where they are
   /// until it takes another value. However short the text is, most_inside + 1 bytes can be read there.
-  char const* c_str() const noexcept { return place.inside[state_at] == outside ? shared().data() : place.inside; }
+  char const* c_str() const noexcept { return text.data(); }
 
   /// The number of bytes; 0 without storage.
-  int length() const noexcept
-  {
-    char const state = place.inside[state_at];
-    return state <= most_inside ? most_inside - state : state == outside ? shared().length() : 0;
-  }
+  int length() const noexcept { return text.length(); }
 
   /// All bytes, without the NUL behind them; they live as those of c_str().
   std::string_view view() const noexcept { return {c_str(), static_cast<std::size_t>(length())}; }
 
   /// Whether there is storage, be it of an empty text.
-  bool has_storage() const noexcept { return place.inside[state_at] != nothing; }
+  bool has_storage() const noexcept { return text.has_storage(); }
 
   /// Two texts without storage are equal, and a text without storage equals none with storage, be that empty. Otherwise
   /// the bytes are compared up to the first NUL.
@@ -118,40 +82,14 @@ public:
   int case_compare(utString const& other) const noexcept;
 
 private:
-  // The last byte of the place tells what is in it: how much of the room for a short text is left (which makes it the
-  // NUL of the longest one), or one of these.
-  static constexpr int state_at = most_inside;
-  static constexpr char outside = 64;
-  static constexpr char nothing = 65;
+  using Text = coText<char, most_inside>;
 
-  // A short text or, at the beginning, a coSharedText.
-  struct Place
+  template <class Write>
+  utString(int length, Write const& write) : text(length, write)
   {
-    alignas(coSharedText<char>) char inside[most_inside + 1];
-  };
-
-  coSharedText<char> const& shared() const noexcept
-  {
-    return *std::launder(reinterpret_cast<coSharedText<char> const*>(place.inside));
   }
 
-  void forget() noexcept
-  {
-    place.inside[0] = '\0';
-    place.inside[state_at] = nothing;
-  }
-
-  void drop() noexcept
-  {
-    if (place.inside[state_at] == outside)
-      drop_shared();
-  }
-
-  void take(coSharedText<char>& text) noexcept;
-  void share(utString const& other) noexcept;
-  void drop_shared() noexcept;
-
-  Place place;
+  Text text;
 };
 
 /// The bytes of `left`, then those of `right`. If one of them is empty, the other is shared.

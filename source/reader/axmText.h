@@ -10,6 +10,6 @@
   int const length = static_cast<int>(end - begin);
   if (length <= utString::most_inside && text_end - begin > utString::most_inside)
     // A copy of a fixed size is faster than one of the few bytes that are needed.
-    return utString::written_inside(length, [begin](char* to) { std::memcpy(to, begin, utString::most_inside + 1); });
+    return utString::written(length, [begin](char* to) { std::memcpy(to, begin, utString::most_inside + 1); });
   return utString(begin, length);
 }

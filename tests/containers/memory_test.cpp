@@ -5,10 +5,12 @@
 #include <coPrf.h>
 #include <coPrg.h>
 #include <coSharedText.h>
+#include <coText.h>
 
 #include "../FailingMemory.h"
 #include "Counted.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <new>
 
@@ -325,6 +327,29 @@ TEST(coPrf_memory, raw_pointer_is_deleted_and_an_external_one_left_alone)
   EXPECT_EQ(Counted::alive, 1);
 }
 
+TEST(coText_memory, only_a_long_one_needs_it_and_throws_and_leaks_nothing)
+{
+  for (int length = 0; length < 6; ++length)
+    EXPECT_EQ(with_every_failure(
+                [length]
+                {
+                  try
+                  {
+                    coText<char, 15> const none;
+                    coText<char, 15> const short_text(length, [=](char* to) { std::fill_n(to, length, 'x'); });
+                    coText<char, 15> const text(16 + length, [=](char* to) { std::fill_n(to, 16 + length, 'x'); });
+                    coText<char, 15> copy(text);
+                    copy = short_text;
+                    copy = none;
+                  }
+                  catch (std::bad_alloc const&)
+                  {
+                  }
+                },
+                expect_nothing_held),
+      1);
+}
+
 TEST(coSharedText_memory, making_one_throws_and_leaks_nothing)
 {
   EXPECT_EQ(with_every_failure(
@@ -332,7 +357,7 @@ TEST(coSharedText_memory, making_one_throws_and_leaks_nothing)
               {
                 try
                 {
-                  coSharedText<char> const text("abc", 3);
+                  coSharedText<char> const text(3);
                   coSharedText<char> const copy(text);
                 }
                 catch (std::bad_alloc const&)

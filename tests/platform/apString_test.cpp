@@ -65,16 +65,40 @@ TEST(apString, APSTRING_makes_a_wide_text_of_a_narrow_literal)
   EXPECT_TRUE(APSTRING("").empty());
 }
 
-TEST(apString, copies_share_the_storage_and_keep_it_alive)
+TEST(apString, copies_of_long_texts_share_the_storage_and_keep_it_alive)
 {
+  std::wstring const longer(apString::most_inside + 1, L'x');
   apString copy;
   {
-    apString const text(L"abc");
+    apString const text(longer.c_str());
     copy = text;
     EXPECT_EQ(copy.c_str(), text.c_str());
     EXPECT_EQ(apString(text).c_str(), text.c_str());
   }
-  EXPECT_EQ(copy.view(), L"abc");
+  EXPECT_EQ(copy.view(), longer);
+}
+
+TEST(apString, a_short_text_lies_in_the_object)
+{
+  auto const is_inside = [](apString const& text)
+  {
+    auto const* const object = reinterpret_cast<char const*>(&text);
+    auto const* const at = reinterpret_cast<char const*>(text.c_str());
+    return at >= object && at < object + sizeof text;
+  };
+  for (int length = 0; length <= 2 * apString::most_inside; ++length)
+  {
+    std::string const given(static_cast<std::size_t>(length), 'x');
+    std::wstring const wide(given.begin(), given.end());
+    for (apString const& text : {apString(given.c_str()), apString(wide.c_str()), apString(wide.c_str(), length),
+           apString(wide.c_str()) + apString(L"")})
+    {
+      EXPECT_EQ(text.view(), wide);
+      EXPECT_EQ(text.length(), length);
+      EXPECT_EQ(text.c_str()[length], L'\0');
+      EXPECT_EQ(is_inside(text), length <= apString::most_inside) << length;
+    }
+  }
 }
 
 TEST(apString, assignment_of_itself_keeps_the_text)
@@ -198,7 +222,7 @@ TEST(apString, replace_all_leaves_copies_as_they_were)
 TEST(apString, sum_is_the_one_text_and_then_the_other)
 {
   EXPECT_EQ((apString(L"ab") + apString(L"cd")).view(), L"abcd");
-  apString const text(L"abc");
+  apString const text(L"a text of more characters than has room in the object");
   EXPECT_EQ((text + apString()).c_str(), text.c_str());
   EXPECT_EQ((apString() + text).c_str(), text.c_str());
   EXPECT_TRUE((apString() + apString()).empty());

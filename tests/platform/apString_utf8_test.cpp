@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <gtest/gtest.h>
+#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -163,6 +164,24 @@ TEST(apString_utf8, every_beginning_of_three_bytes_before_the_edges_of_a_fourth_
             static_cast<char>(fourth), '|'};
     ASSERT_TRUE(apString::from_utf8(all).view() == model().decoded(all)) << first;
   }
+}
+
+TEST(apString_utf8, texts_of_any_length_are_read_as_the_model_reads_them)
+{
+  // What is well-formed and what is not, one after the other in any order.
+  std::vector<std::string> const pieces = {"a", "words", "\xC3\xA9", "\xD1\x84", "\xE2\x82\xAC", "\xE0\xA0\x80",
+    "\xED\x9F\xBF", "\xF0\x9F\x98\x80", "\x80", "\xC3", "\xE2\x82", "\xED\xA0\x80", "\xF0\x9F\x98", "\xF8", "\xC0\x80"};
+  std::mt19937 random(1);
+  for (std::size_t const length :
+    {1u, 5u, 10u, 20u, 22u, 23u, 24u, 25u, 100u, 1000u, 1020u, 1022u, 1023u, 1024u, 1025u, 1026u, 1030u, 2000u, 5000u})
+    for (int i = 0; i < 50; ++i)
+    {
+      std::string bytes;
+      while (bytes.size() < length)
+        bytes += pieces[random() % pieces.size()];
+      bytes.resize(length);
+      ASSERT_EQ(apString::from_utf8(bytes).view(), model().decoded(bytes)) << length << ' ' << i;
+    }
 }
 
 TEST(apString_utf8, each_maximal_beginning_of_an_ill_formed_sequence_becomes_one_replacement)

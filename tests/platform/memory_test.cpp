@@ -10,18 +10,40 @@
 #include <gtest/gtest.h>
 #include <utility>
 
+namespace
+{
+// Too long for the object.
+wchar_t const wide[] = L"a text of more characters than has room in the object";
+char const narrow[] = "a text of more characters than has room in the object";
+}
+
 TEST(apString_memory, constructors_throw_and_leak_nothing)
 {
-  EXPECT_EQ(fails_cleanly([] { apString const text(L"abc"); }), 1);
-  EXPECT_EQ(fails_cleanly([] { apString const text(L"abc", 2); }), 1);
-  EXPECT_EQ(fails_cleanly([] { apString const text("abc"); }), 1);
-  EXPECT_EQ(fails_cleanly([] { apString const text("\xD1\x84\xFF"); }), 1);
-  EXPECT_EQ(fails_cleanly([] { apString const text(APSTRING("abc")); }), 1);
+  EXPECT_EQ(fails_cleanly([] { apString const text(wide); }), 1);
+  EXPECT_EQ(fails_cleanly([] { apString const text(wide, apString::most_inside + 1); }), 1);
+  EXPECT_EQ(fails_cleanly([] { apString const text(narrow); }), 1);
+  EXPECT_EQ(fails_cleanly([] { apString const text("a text of more characters than has room \xD1\x84\xFF"); }), 1);
+  EXPECT_EQ(fails_cleanly([] { apString const text(APSTRING("a text of more characters than has room")); }), 1);
+}
+
+TEST(apString_memory, a_short_text_needs_none)
+{
+  EXPECT_EQ(fails_cleanly(
+              []
+              {
+                apString const text(wide, apString::most_inside);
+                apString const converted("abc \xD1\x84\xFF");
+                apString changed = APSTRING("a.b") + APSTRING("c");
+                changed.replace_all(APSTRING("."), APSTRING(","));
+                utString const utf8 = changed.to_utf8();
+                changed = text;
+              }),
+    0);
 }
 
 TEST(apString_memory, empty_texts_copies_and_moves_need_none)
 {
-  apString const text(L"abc");
+  apString const text(wide);
   EXPECT_EQ(fails_cleanly(
               [&text]
               {
@@ -42,7 +64,7 @@ TEST(apString_memory, conversion_to_UTF_8_throws_and_leaks_nothing)
 
 TEST(apString_memory, failed_changes_leave_the_text)
 {
-  apString const old(L"a.b");
+  apString const old(L"a.b, and more than has room in an object");
   apString const point(L".");
   apString const comma(L",");
   apString text(old);
@@ -78,7 +100,7 @@ TEST(apStringFormatter_memory, throws_and_leaks_nothing)
 
 TEST(apPath_memory, throws_and_leaks_nothing)
 {
-  EXPECT_GT(fails_cleanly([] { apPath const path(L"a/path"); }), 0);
+  EXPECT_GT(fails_cleanly([] { apPath const path(L"a/path/that/is/too/long/to/lie/in/an/object"); }), 0);
   EXPECT_GT(fails_cleanly([] { apPath const path("a/path/that/is/too/long/to/lie/in/an/object"); }), 0);
 }
 
