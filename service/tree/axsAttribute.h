@@ -12,6 +12,11 @@ public:
   axsAttribute(std::uint8_t units, axsName const& name) noexcept;
 
   apString getNodeName() const override;
+  apString getNodeValue() const override { return apString::from_utf8(text()); }
+
+  // An attribute is no child (DOM Core, Interface Attr).
+  std::shared_ptr<axmNode> getParentNode() override { return nullptr; }
+  std::shared_ptr<axmNode> getNextSibling() override { return nullptr; }
 
   axsName const& full_name() const noexcept { return *attribute_name; }
 

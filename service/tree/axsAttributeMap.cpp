@@ -26,7 +26,7 @@ std::shared_ptr<axmNode> axsAttributeMap::item(int index)
 {
   if (index < 0)
     return nullptr;
-  std::uint64_t const changes = owner.document().attribute_changes;
+  std::uint64_t const changes = axsArena::document_of(&owner).attribute_changes;
   if (place == nullptr || changes != seen_changes || index < place_index)
   {
     place = owner.first_attribute();

@@ -106,3 +106,10 @@ private:
   // The result lists that hold the root of their nodes only.
   axsResultList* result_lists = nullptr;
 };
+
+inline void axsNode::root_acquired() noexcept
+{
+  // The document is no child of anything.
+  if (!is_document())
+    ++axsArena::document_of(this).busy;
+}

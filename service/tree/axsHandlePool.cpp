@@ -27,16 +27,32 @@ axsHandlePool::~axsHandlePool()
 
 void axsHandlePool::abandon() noexcept
 {
-  abandoned = true;
-  if (out == 0)
+  is_abandoned = true;
+  for (Block const* block : free_blocks)
+    for (; block != nullptr; block = block->next)
+      --blocks;
+  if (blocks == 0)
+    delete this;
+}
+
+void axsHandlePool::one_came_back() noexcept
+{
+  if (--blocks == 0)
     delete this;
 }
 
 void* axsHandlePool::allocate_large(std::size_t size)
 {
   void* const memory = ::operator new(size);
-  ++out;
+  ++blocks;
   return memory;
+}
+
+void axsHandlePool::release_large(void* block) noexcept
+{
+  ::operator delete(block);
+  if (!is_abandoned)
+    --blocks;
 }
 
 void* axsHandlePool::allocate_fresh(std::size_t units)
@@ -50,6 +66,6 @@ void* axsHandlePool::allocate_fresh(std::size_t units)
     room = static_cast<char*>(memory) + sizeof(Slab);
     room_end = static_cast<char*>(memory) + slab_size;
   }
-  ++out;
+  ++blocks;
   return std::exchange(room, room + units * granule);
 }

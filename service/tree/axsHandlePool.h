@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <new>
+#include <utility>
 
 /// The memory of what the shared pointers to the nodes of one document need besides the nodes: small blocks, taken and
 /// given back often.
@@ -27,21 +28,35 @@ public:
     if (block == nullptr)
       return allocate_fresh(units_of(size));
     free_ones = block->next;
-    ++out;
     return block;
+  }
+
+  /// Whether there is a free block for what a shared pointer to a node needs.
+  bool is_ready() const noexcept { return free_blocks[ready_units] != nullptr; }
+
+  /// Sees to that. Throws std::bad_alloc when memory runs out.
+  void make_ready() { release(allocate(ready_units * granule), ready_units * granule); }
+
+  /// A block for `size` bytes, which is a part of what a shared pointer to a node needs, from a pool that is ready.
+  void* allocate_ready(std::size_t size)
+  {
+    if (units_of(size) != ready_units)
+      return allocate(size);
+    Block*& free_ones = free_blocks[ready_units];
+    return std::exchange(free_ones, free_ones->next);
   }
 
   void release(void* block, std::size_t size) noexcept
   {
     if (size > limit)
-      ::operator delete(block);
+      release_large(block);
     else
     {
       Block*& free_ones = free_blocks[units_of(size)];
       free_ones = new (block) Block{free_ones};
     }
-    if (--out == 0 && abandoned)
-      delete this;
+    if (is_abandoned)
+      one_came_back();
   }
 
 private:
@@ -53,6 +68,9 @@ private:
 
   static constexpr std::size_t granule = 16;
   static constexpr std::size_t limit = 192;
+  // What a shared pointer with a deleter and an allocator takes in the standard libraries known. Where it takes something
+  // else, that is allocated like everything else.
+  static constexpr std::size_t ready_units = 2;
 
   static constexpr std::size_t units_of(std::size_t size) noexcept { return (size + granule - 1) / granule; }
 
@@ -61,17 +79,22 @@ private:
 
   void* allocate_large(std::size_t size);
   void* allocate_fresh(std::size_t units);
+  void release_large(void* block) noexcept;
+  void one_came_back() noexcept;
 
   Block* free_blocks[limit / granule + 1] = {};
   Slab* slabs = nullptr;
   char* room = nullptr;
   char* room_end = nullptr;
-  std::size_t out = 0;
-  bool abandoned = false;
+  // The blocks there are. Before the pool is abandoned those of them that are free count, too: to count only those that
+  // are out would take time at every one that goes or comes.
+  std::size_t blocks = 0;
+  bool is_abandoned = false;
 };
 
-/// Lets the standard library take its blocks from a pool.
-template <class T>
+/// Lets the standard library take its blocks from a pool; if `ready`, those of a shared pointer to a node from one that is
+/// ready for it.
+template <class T, bool ready = false>
 class axsHandleAllocator
 {
 public:
@@ -80,23 +103,34 @@ public:
   explicit axsHandleAllocator(axsHandlePool& pool) noexcept : from(&pool) {}
 
   template <class U>
-  axsHandleAllocator(axsHandleAllocator<U> const& other) noexcept : from(other.pool())
+  struct rebind
+  {
+    using other = axsHandleAllocator<U, ready>;
+  };
+
+  template <class U>
+  axsHandleAllocator(axsHandleAllocator<U, ready> const& other) noexcept : from(other.pool())
   {
   }
 
-  T* allocate(std::size_t count) { return static_cast<T*>(from->allocate(count * sizeof(T))); }
+  T* allocate(std::size_t count)
+  {
+    std::size_t const size = count * sizeof(T);
+    return static_cast<T*>(ready ? from->allocate_ready(size) : from->allocate(size));
+  }
+
   void deallocate(T* block, std::size_t count) noexcept { from->release(block, count * sizeof(T)); }
 
   axsHandlePool* pool() const noexcept { return from; }
 
   template <class U>
-  bool operator==(axsHandleAllocator<U> const& other) const noexcept
+  bool operator==(axsHandleAllocator<U, ready> const& other) const noexcept
   {
     return from == other.pool();
   }
 
   template <class U>
-  bool operator!=(axsHandleAllocator<U> const& other) const noexcept
+  bool operator!=(axsHandleAllocator<U, ready> const& other) const noexcept
   {
     return from != other.pool();
   }
@@ -104,3 +138,6 @@ public:
 private:
   axsHandlePool* from;
 };
+
+template <class T>
+using axsReadyAllocator = axsHandleAllocator<T, true>;

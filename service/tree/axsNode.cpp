@@ -124,6 +124,11 @@ void axsNode::append_text_to(std::string& text) const
 
 std::shared_ptr<axmNode> axsNode::handle()
 {
+  // What most nodes are.
+  if (node_kind == axsKind::element)
+    return axs_handle<axmNode>(static_cast<axsElement&>(*this));
+  if (node_kind == axsKind::text)
+    return axs_handle<axmNode>(static_cast<axsTextNode&>(*this));
   switch (node_kind)
   {
   case axsKind::document:
@@ -149,12 +154,6 @@ std::shared_ptr<axmElement> axsNode::item_handle()
   if (is_element())
     return axs_handle<axmElement>(static_cast<axsElement&>(*this));
   return std::allocate_shared<axsNodeView>(axsHandleAllocator<axsNodeView>(document().handle_pool()), *this);
-}
-
-void axsNode::root_acquired() noexcept
-{
-  if (!is_document())
-    document().acquire();
 }
 
 void axsNode::root_released() noexcept

@@ -16,12 +16,12 @@ class axsNodeOf : public Interface, public Record
 public:
   apString getNodeName() const override { return axsTree::node_name(*this); }
   apString getNodeValue() const override { return apString::from_utf8(this->value()); }
-  std::shared_ptr<axmNode> getParentNode() override { return axsTree::parent(*this); }
+  std::shared_ptr<axmNode> getParentNode() override { return axsTree::handle(this->parent()); }
   std::shared_ptr<axmNodeList> getChildNodes() override { return axsTree::children(*this); }
   std::shared_ptr<axmNode> getFirstChild() override { return axsTree::handle(this->first_child()); }
   std::shared_ptr<axmNode> getLastChild() override { return axsTree::handle(this->last_child()); }
   std::shared_ptr<axmNode> getPreviousSibling() override { return axsTree::handle(this->previous_sibling()); }
-  std::shared_ptr<axmNode> getNextSibling() override { return axsTree::next_sibling(*this); }
+  std::shared_ptr<axmNode> getNextSibling() override { return axsTree::handle(this->next_sibling()); }
   std::shared_ptr<axmDocument> getOwnerDocument() override { return axsTree::owner_document(*this); }
 
   std::shared_ptr<axmNode> insertBefore(std::shared_ptr<axmNode> new_child, std::shared_ptr<axmNode> ref_child) override

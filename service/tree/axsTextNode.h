@@ -10,5 +10,7 @@ class axsTextNode final : public axsNodeOf<axmTextNode, axsLeaf>
 public:
   explicit axsTextNode(std::uint8_t units) noexcept : axsNodeOf(axsKind::text, this + 1, units) {}
 
+  apString getNodeName() const override;
+  apString getNodeValue() const override { return apString::from_utf8(text()); }
   apString getData() const override { return getNodeValue(); }
 };

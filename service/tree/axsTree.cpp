@@ -90,11 +90,6 @@ bool report_attached(axsNode const& child)
 
 apString axsTree::node_name(axsNode const& node)
 {
-  if (node.kind() == axsKind::text && !node.is_cdata())
-  {
-    static apString const text_name = APSTRING("#text");
-    return text_name;
-  }
   return apString::from_utf8(node.node_name());
 }
 

@@ -19,14 +19,6 @@ public:
   // The node interface.
   static apString node_name(axsNode const& node);
   static std::shared_ptr<axmNode> handle(axsNode* node) { return node == nullptr ? nullptr : node->handle(); }
-  static std::shared_ptr<axmNode> parent(axsNode& node)
-  {
-    return node.is_attribute() ? nullptr : handle(node.parent());
-  }
-  static std::shared_ptr<axmNode> next_sibling(axsNode& node)
-  {
-    return node.is_attribute() ? nullptr : handle(node.next_sibling());
-  }
   static std::shared_ptr<axmNodeList> children(axsNode& node);
   static std::shared_ptr<axmDocument> owner_document(axsNode& node);
   static std::shared_ptr<axmNode> insert_before(
