@@ -6,6 +6,9 @@
 #include <axmTextNode.h>
 #include <axsRegister.h>
 
+#include <utility>
+#include <vector>
+
 namespace
 {
 class Axs final : public Subject
@@ -28,14 +31,14 @@ public:
   std::size_t traverse() override
   {
     std::size_t length = 0;
-    for_all([&](axmNode& node) { length += length_of(node); });
+    for_all([&](axmNode& node) { return add(node, length); });
     return length;
   }
 
   Digest::Sum digest() override
   {
     Digest digest;
-    for_all([&](axmNode& node) { add(node, digest); });
+    for_all([&](axmNode& node) { return add(node, digest); });
     return digest.sum();
   }
 
@@ -96,40 +99,55 @@ public:
   bool save(std::string const& file) override { return factory->saveDocument(document, apPath(file.c_str())); }
 
 private:
+  // Every node from the root down, in the order of the document; `visit` says whether it may have children.
   template <class Visit>
   void for_all(Visit const& visit)
   {
+    // The way down is kept and not asked for again, as a pointer that is at hand costs nothing; and what is known to have
+    // no children is not asked for them.
+    std::vector<std::shared_ptr<axmNode>> way;
     std::shared_ptr<axmNode> node = document->getDocumentElement();
-    std::shared_ptr<axmNode> const root = node;
+    visit(*node);
+    way.push_back(node);
+    node = node->getFirstChild();
     while (node != nullptr)
     {
-      visit(*node);
-      std::shared_ptr<axmNode> next = node->getFirstChild();
-      while (next == nullptr && !(*node == *root))
-      {
+      std::shared_ptr<axmNode> next;
+      if (visit(*node))
+        next = node->getFirstChild();
+      if (next != nullptr)
+        way.push_back(std::move(node));
+      else
         next = node->getNextSibling();
-        if (next == nullptr)
-          node = node->getParentNode();
+      for (; next == nullptr && way.size() > 1; next = node->getNextSibling())
+      {
+        node = std::move(way.back());
+        way.pop_back();
       }
       node = std::move(next);
     }
   }
 
-  static std::size_t length_of(axmNode& node)
+  // Whether the node may have children.
+  static bool add(axmNode& node, std::size_t& sum)
   {
     apString const name = node.getNodeName();
     if (name.c_str()[0] == L'#')
-      return length(node.getNodeValue());
-    std::size_t sum = length(name);
-    if (!node.hasAttributes())
-      return sum;
-    auto const attributes = node.getAttributes();
-    for (int i = 0; auto const attribute = attributes->item(i); ++i)
-      sum += length(attribute->getNodeName()) + length(attribute->getNodeValue());
-    return sum;
+    {
+      sum += length(node.getNodeValue());
+      return false;
+    }
+    sum += length(name);
+    if (node.hasAttributes())
+    {
+      auto const attributes = node.getAttributes();
+      for (int i = 0; auto const attribute = attributes->item(i); ++i)
+        sum += length(attribute->getNodeName()) + length(attribute->getNodeValue());
+    }
+    return true;
   }
 
-  static void add(axmNode& node, Digest& digest)
+  static bool add(axmNode& node, Digest& digest)
   {
     std::string const name = utf8(node.getNodeName());
     if (dynamic_cast<axmTextNode*>(&node) != nullptr)
@@ -142,7 +160,9 @@ private:
       auto const attributes = node.getAttributes();
       for (int i = 0; auto const attribute = attributes->item(i); ++i)
         digest.attribute(utf8(attribute->getNodeName()), utf8(attribute->getNodeValue()));
+      return true;
     }
+    return false;
   }
 
   static std::size_t length(apString const& text) { return static_cast<std::size_t>(text.length()); }
