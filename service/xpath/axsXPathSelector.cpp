@@ -29,6 +29,12 @@ bool is_reverse(Axis axis) noexcept
   }
 }
 
+/// Whether only nodes with something below them have a node on the axis.
+bool leads_below(Axis axis) noexcept
+{
+  return axis == Axis::child || axis == Axis::descendant;
+}
+
 bool leads_down(Axis axis) noexcept
 {
   return axis == Axis::descendant || axis == Axis::descendant_or_self;
@@ -122,8 +128,9 @@ void axsXPathSelector::select(Path const& path, axsXPathContext const& context, 
   for (int i = 0; i < path.step_count && !found.empty(); ++i)
   {
     bool const is_last = i + 1 == path.step_count;
+    bool const is_parent_enough = !is_last && leads_below(step_of(path, i + 1).axis);
     next.nodes().clear();
-    take_step(step_of(path, i), found, is_last ? want : all, next.nodes(), is_flat);
+    take_step(step_of(path, i), found, is_last ? want : is_parent_enough ? parents : all, next.nodes(), is_flat);
     found.swap(next.nodes());
   }
 }
@@ -215,10 +222,12 @@ bool axsXPathSelector::walk(Step const& step, axsXPathNode from, axsXPathVisitor
 bool axsXPathSelector::walk_counting(Step const& step, axsXPathNode from, axsXPathVisitor visit)
 {
   std::size_t const base = positions.size();
-  positions.resize(base + static_cast<std::size_t>(step.predicate_count), 0);
   bool is_stopped = false;
   auto consider = [&](axsXPathNode node)
   {
+    // Most nodes have none on the axis that passes the test, and nothing is counted.
+    if (positions.size() == base)
+      positions.resize(base + static_cast<std::size_t>(step.predicate_count), 0);
     bool is_exhausted = false;
     for (int i = 0; i < step.predicate_count; ++i)
     {
@@ -372,6 +381,8 @@ void axsXPathSelector::step_down_content(Step const& step, Nodes const& from, Wa
   axsNode const* inside = nullptr;
   auto const keep = [&](axsXPathNode node, axsNode const& at)
   {
+    if (want == parents && tree.first_below(node) == nullptr)
+      return false;
     if (!passes_all(step, node))
       return false;
     to.push_back(node);
@@ -379,7 +390,7 @@ void axsXPathSelector::step_down_content(Step const& step, Nodes const& from, Wa
       inside = &at;
     else
       is_flat = false;
-    return want != all;
+    return want == first || want == any;
   };
 
   for (std::size_t next = 0; next < from.size();)
@@ -417,28 +428,28 @@ void axsXPathSelector::step_up(Step const& step, Nodes const& from, Nodes& to)
 void axsXPathSelector::step_to_following_siblings(Step const& step, Nodes const& from, Nodes& to)
 {
   // Of siblings the first one has the following siblings of all.
-  axsXPathNodeMap parents;
+  axsXPathNodeMap seen_parents;
   auto keep = [&](axsXPathNode node)
   {
     to.push_back(node);
     return false;
   };
   for (axsXPathNode const node : from)
-    if (is_in_content(node) && node != tree.root() && parents.insert(tree.parent(node)))
+    if (is_in_content(node) && node != tree.root() && seen_parents.insert(tree.parent(node)))
       walk(step, node, keep);
   order.sort(to);
 }
 
 void axsXPathSelector::step_to_preceding_siblings(Step const& step, Nodes const& from, Nodes& to)
 {
-  axsXPathNodeMap parents;
+  axsXPathNodeMap seen_parents;
   auto keep = [&](axsXPathNode node)
   {
     to.push_back(node);
     return false;
   };
   for (std::size_t i = from.size(); i > 0; --i)
-    if (is_in_content(from[i - 1]) && from[i - 1] != tree.root() && parents.insert(tree.parent(from[i - 1])))
+    if (is_in_content(from[i - 1]) && from[i - 1] != tree.root() && seen_parents.insert(tree.parent(from[i - 1])))
       walk(step, from[i - 1], keep);
   std::reverse(to.begin(), to.end());
   order.sort(to);

@@ -22,10 +22,12 @@ class axsXPathSelector
 public:
   using Nodes = std::vector<axsXPathNode>;
 
-  /// How much of a node-set is wanted: all of it, at least the first node, or any node if there is one.
+  /// What of a node-set is wanted: all of it, at least those nodes that have something below them, at least the first
+  /// node, or any node if there is one.
   enum Want
   {
     all,
+    parents,
     first,
     any
   };
