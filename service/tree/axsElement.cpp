@@ -3,6 +3,7 @@
 #include "axsAttribute.h"
 #include "axsAttributeMap.h"
 #include "axsDocument.h"
+#include "axsStep.h"
 
 namespace
 {
@@ -24,6 +25,16 @@ axsName const& axsElement::element_name() const noexcept
   if (name_number == axsName::no_number)
     return *name_behind();
   return axsArena::document_of(this).names().numbered(name_number);
+}
+
+std::shared_ptr<axmNode> axsElement::getFirstChild()
+{
+  return axs_step(first_child());
+}
+
+std::shared_ptr<axmNode> axsElement::getNextSibling()
+{
+  return axs_step(next_sibling());
 }
 
 apString axsElement::getNodeName() const

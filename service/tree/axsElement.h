@@ -29,6 +29,8 @@ public:
   }
 
   apString getNodeName() const override;
+  std::shared_ptr<axmNode> getFirstChild() override;
+  std::shared_ptr<axmNode> getNextSibling() override;
   bool hasAttributes() const override { return attributes != nullptr; }
   std::shared_ptr<axmNamedNodeMap> getAttributes() override;
 

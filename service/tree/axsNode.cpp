@@ -124,11 +124,6 @@ void axsNode::append_text_to(std::string& text) const
 
 std::shared_ptr<axmNode> axsNode::handle()
 {
-  // What most nodes are.
-  if (node_kind == axsKind::element)
-    return axs_handle<axmNode>(static_cast<axsElement&>(*this));
-  if (node_kind == axsKind::text)
-    return axs_handle<axmNode>(static_cast<axsTextNode&>(*this));
   switch (node_kind)
   {
   case axsKind::document:
