@@ -1,38 +1,11 @@
 #include "Report.h"
 
+#include "writing.h"
+
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <fstream>
 #include <iostream>
-
-namespace
-{
-std::string number(double value, int digits)
-{
-  char text[64];
-  std::snprintf(text, sizeof text, "%.*f", digits, value);
-  return text;
-}
-
-std::string left(std::string const& text, std::size_t width)
-{
-  return text.size() < width ? text + std::string(width - text.size(), ' ') : text;
-}
-
-std::string right(std::string const& text, std::size_t width)
-{
-  return text.size() < width ? std::string(width - text.size(), ' ') + text : text;
-}
-
-std::string escaped(std::string const& text)
-{
-  std::string result;
-  for (char const c : text)
-    result += c == '<' ? "&lt;" : c == '&' ? "&amp;" : std::string(1, c);
-  return result;
-}
-}
 
 void Report::line(std::string const& line_text)
 {
@@ -45,18 +18,18 @@ void Report::add(
 {
   documents.push_back({title, results, like_records});
   line("");
-  std::string heading = left(title, 30);
+  std::string heading = padded(title, 30);
   for (char const* const name : library_names)
-    heading += right(name, 14);
-  line(heading + right("libxml2 : axs", 16));
+    heading += aligned_right(name, 14);
+  line(heading + aligned_right("libxml2 : axs", 16));
   for (std::size_t i = 0; i < measure_count; ++i)
   {
-    std::string row = left(measure_names[i], 30);
+    std::string row = padded(measure_names[i], 30);
     for (Numbers const& numbers : results)
-      row += right(numbers.best[i] > 0 ? number(numbers.best[i], 1) : "-", 14);
+      row += aligned_right(numbers.best[i] > 0 ? number(numbers.best[i], 1) : "-", 14);
     double const axs = results[library_axs].best[i];
     double const other = results[library_libxml2].best[i];
-    line(row + right(axs > 0 && other > 0 ? number(other / axs, 2) : "-", 16));
+    line(row + aligned_right(axs > 0 && other > 0 ? number(other / axs, 2) : "-", 16));
   }
   for (std::string const& disagreement : disagreements)
     line("DISAGREEMENT: " + disagreement);
@@ -66,7 +39,7 @@ void Report::add(
 void Report::add_limits()
 {
   line("");
-  line(left("what axs is to reach", 62) + right("is", 8) + right("at least", 10));
+  line(padded("what axs is to reach", 62) + aligned_right("is", 8) + aligned_right("at least", 10));
   for (Document const& document : documents)
   {
     if (document.like_records)
@@ -84,8 +57,9 @@ void Report::limit(Document const& document, Measure measure, Library other, dou
 {
   double const axs = document.results[library_axs].best[measure];
   double const ratio = axs > 0 ? document.results[other].best[measure] / axs : 0;
-  line(left(document.title + ": " + measure_names[measure] + ", " + library_names[other] + " : axs", 62) +
-       right(number(ratio, 2), 8) + right(number(least, 2), 10) + (ratio >= least ? "  met" : "  MISSED"));
+  line(padded(document.title + ": " + measure_names[measure] + ", " + library_names[other] + " : axs", 62) +
+       aligned_right(number(ratio, 2), 8) + aligned_right(number(least, 2), 10) +
+       (ratio >= least ? "  met" : "  MISSED"));
 }
 
 bool Report::write(std::string const& prefix) const
@@ -136,10 +110,9 @@ std::string Report::plot() const
     }
   }
 
-  std::string const height = std::to_string(y + 10);
+  int const height = y + 10;
   std::string svg =
-    "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"1260\" height=\"" + height +
-    "\" font-family=\"sans-serif\" font-size=\"12\">\n<rect width=\"100%\" height=\"100%\" fill=\"white\"/>\n"
+    svg_begin(1260, height, 12) +
     "<text x=\"10\" y=\"20\" font-size=\"14\">Time and memory of others in times of axs (right of 1: axs "
     "takes less)</text>\n";
   for (std::size_t library = library_libxml2; library < library_count; ++library)
@@ -149,8 +122,8 @@ std::string Report::plot() const
            "\"/><text x=\"" + std::to_string(at + 15) + "\" y=\"20\">" + library_names[library] + "</text>\n";
   }
   for (double ratio = least; ratio <= most; ratio *= 2)
-    svg += "<path stroke=\"" + std::string(ratio == 1 ? "black" : "#dddddd") + "\" d=\"M" + x(ratio) + " 56V" + height +
-           "\"/><text text-anchor=\"middle\" x=\"" + x(ratio) + "\" y=\"50\">" +
+    svg += "<path stroke=\"" + std::string(ratio == 1 ? "black" : "#dddddd") + "\" d=\"M" + x(ratio) + " 56V" +
+           std::to_string(height) + "\"/><text text-anchor=\"middle\" x=\"" + x(ratio) + "\" y=\"50\">" +
            (ratio < 1 ? "1/" + number(1 / ratio, 0) : number(ratio, 0)) + "</text>\n";
   return svg + rows + "</svg>\n";
 }

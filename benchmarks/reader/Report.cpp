@@ -1,21 +1,10 @@
 #include "Report.h"
 
+#include "writing.h"
+
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <iostream>
-
-std::string padded(std::string const& text, std::size_t width)
-{
-  return text.size() < width ? text + std::string(width - text.size(), ' ') : text;
-}
-
-std::string number(double value, int digits)
-{
-  char text[64];
-  std::snprintf(text, sizeof text, "%.*f", digits, value);
-  return text;
-}
 
 Report::Report(std::string const& given) : prefix(given), text(given + ".txt") {}
 
@@ -45,22 +34,6 @@ void Report::finish()
   std::cout << "Written: " << prefix << ".txt, " << prefix << ".svg\n";
 }
 
-namespace
-{
-std::string escaped(std::string const& given)
-{
-  std::string result;
-  for (char const c : given)
-    if (c == '<')
-      result += "&lt;";
-    else if (c == '&')
-      result += "&amp;";
-    else
-      result += c;
-  return result;
-}
-}
-
 // A bar for each contender and row, as long as the time of the contender is in times of the reader, on a scale of powers
 // of two.
 void Report::plot()
@@ -74,8 +47,7 @@ void Report::plot()
   auto const x = [&](double ratio) { return left + unit * (std::log2(std::clamp(ratio, 0.25, 32.0)) + 2); };
 
   std::ofstream svg(prefix + ".svg");
-  svg << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"1180\" height=\"" << height
-      << "\" font-family=\"sans-serif\" font-size=\"11\">\n<rect width=\"100%\" height=\"100%\" fill=\"white\"/>\n"
+  svg << svg_begin(1180, height, 11)
       << "<text x=\"10\" y=\"18\" font-size=\"13\">Time of each library in times of the reader (right of 1: the reader "
          "is "
          "faster)</text>\n";

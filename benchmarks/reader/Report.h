@@ -40,6 +40,3 @@ private:
   std::vector<Row> rows;
   bool written = true;
 };
-
-std::string padded(std::string const& text, std::size_t width);
-std::string number(double value, int digits);

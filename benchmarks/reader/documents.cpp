@@ -1,6 +1,7 @@
 #include "Contender.h"
 #include "made.h"
 #include "measures.h"
+#include "writing.h"
 
 #include <algorithm>
 #include <filesystem>

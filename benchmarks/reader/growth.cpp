@@ -2,6 +2,7 @@
 #include "Contender.h"
 #include "made.h"
 #include "measures.h"
+#include "writing.h"
 
 #include <axmSimpleXmlFactory.h>
 #include <pugixml.hpp>
