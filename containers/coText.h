@@ -28,11 +28,7 @@ public:
   coText(int length, Write const& write)
   {
     if (length <= most)
-    {
-      write(inside());
-      inside()[length] = C();
-      inside()[most] = static_cast<C>(most - length);
-    }
+      write_inside(length, write);
     else
     {
       coSharedText<C> storage(length);
@@ -81,6 +77,20 @@ public:
 
   ~coText() { drop(); }
 
+  /// Takes such a text in the place of what there is, which stays where memory runs out. A short one is written where it
+  /// is to be: to move it there costs more than to write it.
+  template <class Write>
+  void assign(int length, Write const& write)
+  {
+    if (length <= most)
+    {
+      drop();
+      write_inside(length, write);
+    }
+    else
+      *this = coText(length, write);
+  }
+
   /// The characters and the closing NUL; never null. They live as long as this object and stay where they are until it
   /// takes another text. However short the text is, most_inside + 1 characters can be read there.
   C const* data() const noexcept { return is_outside() ? shared().data() : inside(); }
@@ -117,6 +127,14 @@ private:
   void copy_room(coText const& other) noexcept { std::memcpy(room, other.room, sizeof room); }
 
   void share(coText const& other) noexcept { new (room) coSharedText<C>(other.shared()); }
+
+  template <class Write>
+  void write_inside(int length, Write const& write)
+  {
+    write(inside());
+    inside()[length] = C();
+    inside()[most] = static_cast<C>(most - length);
+  }
 
   void forget() noexcept
   {

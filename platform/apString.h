@@ -59,6 +59,9 @@ public:
   /// number beyond U+10FFFF included) becomes one U+FFFD (The Unicode Standard, "Substitution of Maximal Subparts").
   static apString from_utf8(std::string_view utf8);
 
+  /// Takes the text that from_utf8() gives, in less time than an assignment of that.
+  void assign_utf8(std::string_view utf8);
+
   /// The text as UTF-8; what is not Unicode (an unpaired surrogate, a number beyond U+10FFFF) becomes U+FFFD.
   utString to_utf8() const;
 

@@ -101,7 +101,7 @@ bool axsElement::get_attribute(apString const& name, apString& value) const
   axsAttribute const* const attribute = find_attribute(name);
   if (attribute == nullptr)
     return false;
-  value = apString::from_utf8(attribute->text());
+  value.assign_utf8(attribute->text());
   return true;
 }
 

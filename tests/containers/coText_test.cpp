@@ -109,6 +109,24 @@ TYPED_TEST(coTextOf, values_go_between_short_long_and_no_storage)
     }
 }
 
+TYPED_TEST(coTextOf, text_of_any_length_is_assigned_in_the_place_of_any_other)
+{
+  std::vector<Text<TypeParam>> const values = {
+    Text<TypeParam>(), this->made(3), this->made(most), this->made(2 * most)};
+  for (auto const& before : values)
+    for (int length = 0; length <= 2 * most; ++length)
+    {
+      auto const characters = this->characters(length);
+      Text<TypeParam> text(before);
+      text.assign(length, [&](TypeParam* to) { std::copy(characters.begin(), characters.end(), to); });
+      EXPECT_EQ(this->string(text), characters);
+      EXPECT_EQ(text.data()[length], TypeParam());
+      EXPECT_EQ(this->is_inside(text), length <= most);
+      EXPECT_TRUE(text.has_storage());
+    }
+  EXPECT_EQ(this->string(values[3]), this->characters(2 * most));
+}
+
 TYPED_TEST(coTextOf, assignment_of_itself_keeps_the_text)
 {
   for (int const length : {3, 2 * most})

@@ -181,6 +181,24 @@ TEST(apString_utf8, texts_of_any_length_are_read_as_the_model_reads_them)
         bytes += pieces[random() % pieces.size()];
       bytes.resize(length);
       ASSERT_EQ(apString::from_utf8(bytes).view(), model().decoded(bytes)) << length << ' ' << i;
+      apString assigned(i % 2 == 0 ? L"short" : L"a text of more characters than has room in the object");
+      assigned.assign_utf8(bytes);
+      ASSERT_EQ(assigned.view(), model().decoded(bytes)) << length << ' ' << i;
+    }
+}
+
+TEST(apString_utf8, ASCII_of_any_length_is_assigned_as_it_is_read)
+{
+  for (std::size_t length = 0; length <= 2 * apString::most_inside; ++length)
+    for (wchar_t const* const before : {L"", L"short", L"a text of more characters than has room in the object"})
+    {
+      std::string const bytes(length, 'x');
+      apString assigned(before);
+      apString const copy(assigned);
+      assigned.assign_utf8(bytes);
+      ASSERT_EQ(assigned.view(), std::wstring(length, L'x'));
+      ASSERT_EQ(assigned.c_str()[length], L'\0');
+      ASSERT_EQ(copy.view(), before);
     }
 }
 

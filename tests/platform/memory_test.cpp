@@ -85,6 +85,14 @@ TEST(apString_memory, failed_changes_leave_the_text)
               },
               unchanged),
     1);
+  EXPECT_EQ(fails_cleanly(
+              [&]
+              {
+                text.assign_utf8(narrow);
+                text = old;
+              },
+              unchanged),
+    1);
 }
 
 TEST(apStringFormatter_memory, throws_and_leaks_nothing)
