@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <string>
 #include <thread>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -47,8 +48,17 @@ protected:
   }
 };
 
+struct NameOfCharacters
+{
+  template <class C>
+  static std::string GetName(int)
+  {
+    return std::is_same_v<C, char> ? "char" : std::is_same_v<C, wchar_t> ? "wchar_t" : "char16_t";
+  }
+};
+
 using Characters = testing::Types<char, char16_t, wchar_t>;
-TYPED_TEST_SUITE(coTextOf, Characters);
+TYPED_TEST_SUITE(coTextOf, Characters, NameOfCharacters);
 }
 
 TYPED_TEST(coTextOf, no_storage_has_length_0_and_data_that_is_a_NUL)
