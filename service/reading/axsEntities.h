@@ -1,5 +1,7 @@
 #pragma once
 
+#include "axsTextHash.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -46,5 +48,5 @@ private:
   std::size_t expansions_left;
   std::size_t lacking_room = 0;
   // Of one that is not plain text, empty.
-  std::unordered_map<std::string, std::string> replacements;
+  std::unordered_map<std::string, std::string, axsTextHash> replacements;
 };

@@ -5,44 +5,8 @@
 #include "axsNamespaceScope.h"
 #include "axsXmlName.h"
 
-#include <cstring>
-
 namespace
 {
-std::uint64_t mixed(std::uint64_t hash, std::uint64_t value)
-{
-  hash = (hash ^ value) * 0x9E3779B97F4A7C15u;
-  return hash ^ (hash >> 32);
-}
-
-template <class Word>
-std::uint64_t word_at(char const* at)
-{
-  Word word = 0;
-  std::memcpy(&word, at, sizeof word);
-  return word;
-}
-
-// The last word overlaps the one before it.
-std::uint64_t hash_of(std::string_view text)
-{
-  char const* at = text.data();
-  std::size_t const length = text.size();
-  std::uint64_t hash = length;
-  if (length >= 8)
-  {
-    char const* const last = at + length - 8;
-    for (; at < last; at += 8)
-      hash = mixed(hash, word_at<std::uint64_t>(at));
-    return mixed(hash, word_at<std::uint64_t>(last));
-  }
-  if (length >= 4)
-    return mixed(hash, word_at<std::uint32_t>(at) << 32 | word_at<std::uint32_t>(at + length - 4));
-  for (char const c : text)
-    hash = hash << 8 | static_cast<unsigned char>(c);
-  return mixed(0, hash);
-}
-
 // Whether it is prefix, colon, local part, each without a colon.
 bool is_qualified(axsName const& name)
 {

@@ -2,6 +2,7 @@
 
 #include "axsPrefix.h"
 #include "axsReadName.h"
+#include "axsTextHash.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -37,7 +38,8 @@ private:
   void grow();
 
   axsNames& asked;
-  std::unordered_map<std::string, axsPrefix> prefixes;
+  axsTextHash const hash_of;
+  std::unordered_map<std::string, axsPrefix, axsTextHash> prefixes;
   std::deque<axsReadName> names;
   // Of a power of two, at least half of them empty; an entry stands at its hash or behind.
   std::vector<Entry> entries;

@@ -2,8 +2,8 @@
 
 #include <string>
 
-/// What the parser says of documents that are not well-formed or not valid, in words for those who write documents: what is wrong and,
-/// where it helps, how it is written right.
+/// What the parser says of documents that are not well-formed or not valid, in words for those who write documents:
+/// what is wrong and, where it helps, how it is written right.
 namespace axsPlainWords
 {
 /// For the parser's error `code` (XMLErrs) with its `text`. `open_since` is the line in which the innermost element that

@@ -19,9 +19,10 @@ public:
   /// Of a document whose names are in `names` and whose entities are to be in `entities`; both must live longer.
   axsSubset(axsNameCache& names, axsEntities& entities) : all_names(names), all_entities(entities) {}
 
-  /// Reads from behind the '[' at which it begins and moves behind the ']' at its end; from then on the names of elements
-  /// know what is declared of their attributes, and the entities what they stand for. The memory is as axsCharacters wants it. False where something is left to
-  /// others; `at` is then where that shows. Can be called again, with the same subset when there is more of it.
+  /// Reads from behind the '[' at which it begins and moves behind the ']' at its end; from then on the names of
+  /// elements know what is declared of their attributes, and the entities what they stand for. The memory is as
+  /// axsCharacters wants it. False where something is left to others; `at` is then where that shows. Can be called
+  /// again, with the same subset when there is more of it.
   bool read(char const*& at);
 
 private:

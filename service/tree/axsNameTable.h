@@ -1,6 +1,7 @@
 #pragma once
 
 #include "axsName.h"
+#include "axsTextHash.h"
 
 #include <cstdint>
 #include <memory>
@@ -33,7 +34,7 @@ public:
 
 private:
   // The keys lie in the names, which the map keeps in their places.
-  std::unordered_map<std::string_view, std::unique_ptr<axsName const>> names;
+  std::unordered_map<std::string_view, std::unique_ptr<axsName const>, axsTextHash> names;
   std::vector<axsName const*> by_number;
   bool namespaces = false;
   apString const text_name = APSTRING("#text");

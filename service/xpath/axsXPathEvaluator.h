@@ -1,5 +1,6 @@
 #pragma once
 
+#include <axsTextHash.h>
 #include <axsXPathContext.h>
 #include <axsXPathError.h>
 #include <axsXPathExpression.h>
@@ -86,7 +87,7 @@ private:
 
   using KeptNodes = std::unordered_map<KeptKey, Nodes, KeptHash>;
 
-  using Texts = std::unordered_set<std::string>;
+  using Texts = std::unordered_set<std::string, axsTextHash>;
 
   /// The least and the largest number of a node-set, NaN where there is none.
   struct Extremes

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "axsTextHash.h"
+
 #include <string_view>
 #include <unordered_map>
 
@@ -26,6 +28,6 @@ private:
   void add(axsElement& element);
 
   // The declared attributes of the type ID, by the name of the element.
-  std::unordered_multimap<std::string_view, std::string_view> declared;
-  std::unordered_map<std::string_view, axsNode*> elements;
+  std::unordered_multimap<std::string_view, std::string_view, axsTextHash> declared;
+  std::unordered_map<std::string_view, axsNode*, axsTextHash> elements;
 };

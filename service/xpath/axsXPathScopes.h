@@ -1,5 +1,7 @@
 #pragma once
 
+#include "axsTextHash.h"
+
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -65,6 +67,6 @@ private:
 
   axsDocument& document;
   axsName const* default_declaration;
-  std::unordered_map<std::string_view, axsName const*> declarations;
+  std::unordered_map<std::string_view, axsName const*, axsTextHash> declarations;
   std::unordered_map<Place, std::string_view, PlaceHash> far_results;
 };
