@@ -90,127 +90,176 @@ axmElementIndex::Id axmElementIndex::first_from(Place place) const
   return low;
 }
 
-// Goes on until there is an element `wanted` or `parent` is closed, and from there on to the end of the marks at hand;
-// false when the pass halts before. What changes with every tag is kept in variables meanwhile.
-bool axmElementIndex::pass(Id const wanted, Id const parent)
+// One run of the pass. It keeps what changes with every tag: what nobody else knows can stay in registers, if the
+// operations are made a part of the loop that calls them.
+class axmElementIndex::Pass
 {
-  if (halted)
-    return false;
-
-  char const* const bytes = text;
-  std::uint64_t bits = block_marks;
-  Place block_begin = marks_begin + static_cast<Place>(block * axmMarks::block_bytes);
-  Id innermost = open;
-  Id closed = last_closed;
-  Id count_so_far = used;
-
-  auto const put_back = [&]
+public:
+  explicit Pass(axmElementIndex& passed)
+    : index(passed),
+      bytes(passed.text),
+      innermost(passed.open),
+      closed(passed.last_closed),
+      count(passed.used)
   {
-    block_marks = bits;
-    open = innermost;
-    last_closed = closed;
-    used = count_so_far;
-  };
-  auto const has_come_far_enough = [&]
-  { return wanted < count_so_far || (parent != none && (*this)[parent].is_closed()); };
-  auto const next_block = [&]
+    take_marks();
+  }
+
+  // Whether there is an element `wanted` or `parent` is closed.
+  bool has_come_to(Id wanted, Id parent) const
   {
-    if (++block == axmMarks::blocks)
+    return wanted < count || (parent != none && index[parent].is_closed());
+  }
+
+  // Whether there is a mark among those at hand.
+  [[gnu::always_inline]] inline bool has_mark_at_hand()
+  {
+    while (bits == 0)
     {
-      marks_begin += axmMarks::bytes;
-      find_marks();
-      block = 0;
+      if (index.block == axmMarks::blocks - 1)
+        return false;
+      next_block();
     }
-    block_begin = marks_begin + static_cast<Place>(block * axmMarks::block_bytes);
-    bits = marks[block];
-  };
+    return true;
+  }
+
+  // Passes what begins at the next mark; false when the pass halts there.
+  [[gnu::always_inline]] inline bool step()
+  {
+    Place const at = next_mark();
+    if (bytes[at] == '>')
+      return true;
+    if (bytes[at] == '\0')
+      return false;
+    return begins_section(at) ? pass_section(at) : pass_tag(at);
+  }
+
+  void put_back()
+  {
+    index.block_marks = bits;
+    index.open = innermost;
+    index.last_closed = closed;
+    index.used = count;
+  }
+
+private:
+  void take_marks()
+  {
+    bits = index.block_marks;
+    block_begin = index.marks_begin + static_cast<Place>(index.block * axmMarks::block_bytes);
+  }
+
+  [[gnu::always_inline]] inline void next_block()
+  {
+    if (++index.block == axmMarks::blocks)
+    {
+      index.marks_begin += axmMarks::bytes;
+      index.find_marks();
+      index.block = 0;
+    }
+    index.block_marks = index.marks[index.block];
+    take_marks();
+  }
+
   // The place of the next `<`, `>` or NUL.
-  auto const next_mark = [&]
+  [[gnu::always_inline]] inline Place next_mark()
   {
     while (bits == 0)
       next_block();
     Place const at = block_begin + static_cast<Place>(lowest_bit(bits));
     bits &= bits - 1;
     return at;
-  };
+  }
 
-  for (;;)
+  [[gnu::always_inline]] inline bool begins_section(Place at) const
   {
-    while (bits == 0)
-    {
-      if (block == axmMarks::blocks - 1 && has_come_far_enough())
-      {
-        put_back();
-        return true;
-      }
-      next_block();
-    }
-    Place const at = next_mark();
-    if (bytes[at] == '>')
-      continue;
-    if (bytes[at] == '\0')
-      break;
+    return bytes[at + 1] == '!' &&
+           (std::strncmp(bytes + at, "<!--", 4) == 0 || std::strncmp(bytes + at, "<![CDATA[", 9) == 0);
+  }
 
-    char const kind = bytes[at + 1];
-    if (kind == '!' && (std::strncmp(bytes + at, "<!--", 4) == 0 || std::strncmp(bytes + at, "<![CDATA[", 9) == 0))
-    {
-      put_back();
-      if (!pass_special(at))
-        break;
-      bits = block_marks;
-      block_begin = marks_begin + static_cast<Place>(block * axmMarks::block_bytes);
-      continue;
-    }
+  bool pass_section(Place at)
+  {
+    put_back();
+    bool const has_end = index.pass_special(at);
+    take_marks();
+    return has_end;
+  }
 
+  [[gnu::always_inline]] inline bool pass_tag(Place at)
+  {
     Place tag_end = next_mark();
     while (bytes[tag_end] == '<')
       tag_end = next_mark();
     // What is left must be more than the tag.
     if (bytes[tag_end] == '\0' || bytes[tag_end + 1] == '\0')
-      break;
+      return false;
+    if (bytes[at + 1] == '/' ? !pass_closing(at, tag_end) : !pass_opening(at, tag_end))
+      return false;
+    index.frontier = tag_end + 1;
+    return innermost != none; // once the root is closed, that is all there is
+  }
 
-    if (kind == '/')
+  [[gnu::always_inline]] inline bool pass_closing(Place at, Place tag_end)
+  {
+    Element& element = index.element(innermost);
+    if (!index.matches(element.start(), at + 2, tag_end))
+      return false;
+    closed = innermost;
+    innermost = element.next_and_flag;
+    element.end_and_flag = tag_end + 1;
+    element.next_and_flag = count;
+    return true;
+  }
+
+  [[gnu::always_inline]] inline bool pass_opening(Place at, Place tag_end)
+  {
+    if (count == index.room && !index.make_room())
+      return false;
+    Element& element = index.element(count);
+    element.start_and_flag = at;
+    if (bytes[tag_end - 1] == '/')
     {
-      Element& passed = element(innermost);
-      if (!matches(passed.start(), at + 2, tag_end))
-        break;
-      closed = innermost;
-      innermost = passed.next_and_flag;
-      passed.end_and_flag = tag_end + 1;
-      passed.next_and_flag = count_so_far;
+      closed = count;
+      element.end_and_flag = tag_end + 1;
+      element.next_and_flag = (count + 1) | flag;
     }
     else
     {
-      if (count_so_far == room && !make_room())
-        break;
-      Element& opened = element(count_so_far);
-      opened.start_and_flag = at;
-      if (bytes[tag_end - 1] == '/')
-      {
-        closed = count_so_far;
-        opened.end_and_flag = tag_end + 1;
-        opened.next_and_flag = (count_so_far + 1) | flag;
-      }
-      else
-      {
-        opened.end_and_flag = 0;
-        opened.next_and_flag = innermost;
-        innermost = count_so_far;
-        closed = none;
-      }
-      ++count_so_far;
+      element.end_and_flag = 0;
+      element.next_and_flag = innermost;
+      innermost = count;
+      closed = none;
     }
-    frontier = tag_end + 1;
-    if (innermost == none) // the root is closed, and is all there is
+    ++count;
+    return true;
+  }
+
+  axmElementIndex& index;
+  char const* const bytes;
+  std::uint64_t bits = 0;
+  Place block_begin = 0;
+  Id innermost;
+  Id closed;
+  Id count;
+};
+
+// Goes on until there is an element `wanted` or `parent` is closed, and from there on to the end of the marks at hand;
+// false when the pass halts before.
+bool axmElementIndex::pass(Id const wanted, Id const parent)
+{
+  if (halted)
+    return false;
+  Pass run(*this);
+  do
+    if (!run.has_mark_at_hand() && run.has_come_to(wanted, parent))
     {
-      put_back();
-      halted = true;
+      run.put_back();
       return true;
     }
-  }
-  put_back();
+  while (run.step());
+  run.put_back();
   halted = true;
-  return has_come_far_enough();
+  return run.has_come_to(wanted, parent);
 }
 
 // Passes a comment or a CDATA section.

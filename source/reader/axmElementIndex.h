@@ -89,6 +89,8 @@ public:
   Id first_from(Place place) const;
 
 private:
+  class Pass;
+
   static constexpr Place flag = 0x80000000;
   static constexpr Place mask = flag - 1;
   static constexpr int page_shift = 12;
