@@ -127,16 +127,18 @@ void axsXPathIds::read_attribute_list(std::string_view declaration)
     if (reader.take_word() == "#FIXED")
       reader.take_word();
     if (type == "ID")
-      declared.emplace(element, attribute);
+      declared[element].insert(attribute);
   }
 }
 
 void axsXPathIds::add(axsElement& element)
 {
-  if (axsAttribute const* const attribute = element.find_attribute(std::string_view("xml:id")))
-    elements.emplace(axsXPathText::trim(attribute->text()), &element);
-  auto const named = declared.equal_range(element.element_name().utf8());
-  for (auto at = named.first; at != named.second; ++at)
-    if (axsAttribute const* const attribute = element.find_attribute(at->second))
-      elements.emplace(axsXPathText::trim(attribute->text()), &element);
+  // Not the other way round: of the declared attributes there may be more than an element has.
+  auto const named = declared.find(element.element_name().utf8());
+  for (axsAttribute* at = element.first_attribute(); at != nullptr; at = at->next_attribute())
+  {
+    std::string_view const name = at->full_name().utf8();
+    if (name == "xml:id" || (named != declared.end() && named->second.count(name) != 0))
+      elements.emplace(axsXPathText::trim(at->text()), &element);
+  }
 }

@@ -4,6 +4,7 @@
 
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 
 class axsElement;
 class axsNode;
@@ -28,6 +29,6 @@ private:
   void add(axsElement& element);
 
   // The declared attributes of the type ID, by the name of the element.
-  std::unordered_multimap<std::string_view, std::string_view, axsTextHash> declared;
+  std::unordered_map<std::string_view, std::unordered_set<std::string_view, axsTextHash>, axsTextHash> declared;
   std::unordered_map<std::string_view, axsNode*, axsTextHash> elements;
 };
