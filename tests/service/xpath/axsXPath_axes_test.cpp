@@ -139,3 +139,14 @@ TEST_F(XPathAxis, nodes_of_several_contexts_come_once_and_in_document_order)
   EXPECT_EQ(nodes(*document, "(//d|//@*)/descendant-or-self::node()[not(self::text()|self::comment())]"),
     "@id=1 @id=2 @id=3 d#4 @id=4 @x=7 @y=8 e#5 @id=5 f#6 @id=6 @id=7 @id=8");
 }
+
+TEST_F(XPathAxis, every_step_but_one_to_what_lies_below_starts_from_nodes_without_children_too)
+{
+  EXPECT_EQ(nodes(*document, "//self::f"), "f#6");
+  EXPECT_EQ(nodes(*document, "//self::*[@id > 5][1]"), "f#6 g#7 h#8");
+  EXPECT_EQ(nodes(*document, "//descendant-or-self::f[1]"), "f#6");
+  EXPECT_EQ(nodes(*document, "//*/self::c"), "c#3");
+  EXPECT_EQ(nodes(*document, "//@x/.."), "d#4");
+  EXPECT_EQ(nodes(*document, "//f/following::*[1]"), "g#7");
+  EXPECT_EQ(nodes(*document, "//*[last()]"), "a#1 c#3 e#5 f#6 g#7 h#8");
+}
