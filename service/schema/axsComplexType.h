@@ -1,0 +1,49 @@
+#pragma once
+
+#include "axsAttributeUse.h"
+#include "axsParticle.h"
+#include "axsSchemaName.h"
+#include "axsSchemaPlace.h"
+#include "axsTypeDefinition.h"
+#include "axsWildcard.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class axsContentAutomaton;
+
+/// A complex type definition (Part 1, 3.4.1).
+struct axsComplexType
+{
+  enum class Content
+  {
+    empty,
+    simple,
+    element_only,
+    mixed
+  };
+
+  axsSchemaName name;
+  axsTypeDefinition base;
+  axsDerivation derivation = axsDerivationRestriction;
+  bool is_abstract = false;
+  axsDerivationSet final_set = 0;
+  axsDerivationSet block = 0;
+
+  std::vector<axsAttributeUse> attributes;
+  std::optional<axsWildcard> attribute_wildcard;
+
+  Content content = Content::empty;
+  /// Where the content is simple, its type.
+  std::shared_ptr<axsSimpleType const> simple_content;
+  /// Where it is element-only or mixed, its particle; a mixed content may be without one.
+  std::optional<axsParticle> particle;
+  /// The particle compiled; made with the set.
+  std::shared_ptr<axsContentAutomaton const> automaton;
+
+  axsSchemaPlace place;
+
+  /// Whether its content may hold elements.
+  bool has_element_content() const noexcept { return content == Content::element_only || content == Content::mixed; }
+};
