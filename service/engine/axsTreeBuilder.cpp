@@ -4,8 +4,10 @@
 #include "axsCommentNode.h"
 #include "axsDoctype.h"
 #include "axsDocument.h"
+#include "axsDtd.h"
 #include "axsElement.h"
 #include "axsProcessingInstruction.h"
+#include "axsStartTag.h"
 #include "axsTextNode.h"
 
 #include <algorithm>
@@ -25,9 +27,9 @@ bool is_dropped(std::string_view text)
 
 axsTreeBuilder::axsTreeBuilder(axsDocument& document) noexcept : built(document), open(&document) {}
 
-void axsTreeBuilder::version(std::string_view number)
+void axsTreeBuilder::declaration(std::string_view version, std::string_view, std::string_view)
 {
-  built.is_xml_1_1 = number == "1.1";
+  built.is_xml_1_1 = version == "1.1";
 }
 
 axsName const& axsTreeBuilder::name(std::string_view text)
@@ -35,19 +37,18 @@ axsName const& axsTreeBuilder::name(std::string_view text)
   return built.names().intern(text);
 }
 
-void axsTreeBuilder::start_element(axsName const& name)
+void axsTreeBuilder::start_element(axsStartTag const& tag)
 {
-  axsElement* const element = built.make_element(name);
+  axsElement* const element = built.make_element(*tag.name);
   axsTree::append(*open, *element);
   open = element;
-  last_attribute = nullptr;
-}
-
-void axsTreeBuilder::attribute(axsName const& name, std::string_view value)
-{
-  axsAttribute* const made = built.make_attribute(name, value);
-  static_cast<axsElement*>(open)->append_attribute(*made, last_attribute);
-  last_attribute = made;
+  axsAttribute* last = nullptr;
+  for (axsTagAttribute const& attribute : *tag.attributes)
+  {
+    axsAttribute* const made = built.make_attribute(*attribute.name, attribute.value);
+    element->append_attribute(*made, last);
+    last = made;
+  }
 }
 
 void axsTreeBuilder::end_element()
@@ -55,14 +56,10 @@ void axsTreeBuilder::end_element()
   open = static_cast<axsParent*>(open->parent());
 }
 
-void axsTreeBuilder::text(std::string_view text)
+void axsTreeBuilder::text(std::string_view text, bool is_cdata)
 {
-  append_text(text, false);
-}
-
-void axsTreeBuilder::cdata(std::string_view section)
-{
-  append_text(section, true);
+  if (!is_dropped(text) && !open->is_document())
+    axsTree::append(*open, *built.make_text(text, is_cdata));
 }
 
 void axsTreeBuilder::comment(std::string_view data)
@@ -75,13 +72,7 @@ void axsTreeBuilder::processing_instruction(std::string_view target, std::string
   axsTree::append(*open, *built.make_processing_instruction(target, data));
 }
 
-void axsTreeBuilder::doctype(std::string_view declaration)
+void axsTreeBuilder::doctype(std::shared_ptr<axsDtd const> const& type)
 {
-  axsTree::append(*open, *built.make_doctype(declaration));
-}
-
-void axsTreeBuilder::append_text(std::string_view text, bool cdata)
-{
-  if (!is_dropped(text) && !open->is_document())
-    axsTree::append(*open, *built.make_text(text, cdata));
+  axsTree::append(*open, *built.make_doctype(type->text));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "axsReadingEvents.h"
+#include "axsParseHandler.h"
 
 class axsAttribute;
 class axsDocument;
@@ -11,26 +11,21 @@ class axsParent;
 /// Builds the tree of a document from what a parser tells. The document is held by its caller.
 ///
 /// A text that is white space only is dropped, except where it is exactly one space.
-class axsTreeBuilder final : public axsReadingEvents
+class axsTreeBuilder final : public axsParseHandler
 {
 public:
   explicit axsTreeBuilder(axsDocument& document) noexcept;
 
-  void version(std::string_view number) override;
+  void declaration(std::string_view version, std::string_view encoding, std::string_view standalone) override;
   axsName const& name(std::string_view text) override;
-  void start_element(axsName const& name) override;
-  void attribute(axsName const& name, std::string_view value) override;
+  void start_element(axsStartTag const& tag) override;
   void end_element() override;
-  void text(std::string_view text) override;
-  void cdata(std::string_view section) override;
+  void text(std::string_view text, bool is_cdata) override;
   void comment(std::string_view data) override;
   void processing_instruction(std::string_view target, std::string_view data) override;
-  void doctype(std::string_view declaration) override;
+  void doctype(std::shared_ptr<axsDtd const> const& type) override;
 
 private:
-  void append_text(std::string_view text, bool cdata);
-
   axsDocument& built;
   axsParent* open;
-  axsAttribute* last_attribute = nullptr;
 };

@@ -15,7 +15,7 @@ bool is_qualified(axsName const& name)
 }
 }
 
-axsNameCache::axsNameCache(axsNames& all) : asked(all), entries(64) {}
+axsNameCache::axsNameCache(axsNames& all) : asked(all), empty(&prefix({})), entries(64) {}
 
 axsReadName& axsNameCache::find(std::string_view text)
 {
@@ -29,6 +29,12 @@ axsReadName& axsNameCache::find(std::string_view text)
     if (entry.hash == hash && entry.text == text)
       return *entry.name;
   }
+}
+
+axsPrefix const* axsNameCache::find_prefix(std::string_view text) const
+{
+  auto const found = prefixes.find(std::string(text));
+  return found == prefixes.end() ? nullptr : &found->second;
 }
 
 axsReadName& axsNameCache::add(Entry& entry, std::uint64_t hash, std::string_view text)

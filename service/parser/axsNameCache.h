@@ -24,6 +24,12 @@ public:
   /// The name `text`, in UTF-8. It stays where it is.
   axsReadName& find(std::string_view text);
 
+  /// A prefix that some name has had, null for others.
+  axsPrefix const* find_prefix(std::string_view text) const;
+
+  /// That of names without a prefix.
+  axsPrefix const& no_prefix() const noexcept { return *empty; }
+
 private:
   struct Entry
   {
@@ -40,6 +46,7 @@ private:
   axsNames& asked;
   axsTextHash const hash_of;
   std::unordered_map<std::string, axsPrefix, axsTextHash> prefixes;
+  axsPrefix const* empty;
   std::deque<axsReadName> names;
   // Of a power of two, at least half of them empty; an entry stands at its hash or behind.
   std::vector<Entry> entries;

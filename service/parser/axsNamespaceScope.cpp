@@ -1,21 +1,20 @@
 #include "axsNamespaceScope.h"
 
 #include "axsName.h"
+#include "axsNameCache.h"
 #include "axsPrefix.h"
 
 #include <algorithm>
 
 namespace
 {
-std::string_view const xmlns_namespace = "http://www.w3.org/2000/xmlns/";
-
 apString quoted(std::string_view text)
 {
   return APSTRING("'") + apString::from_utf8(text) + APSTRING("'");
 }
 
 // Empty when it is not bound.
-std::string_view namespace_of(axsPrefix const& prefix)
+std::string_view bound_to(axsPrefix const& prefix)
 {
   return prefix.bound.empty() ? std::string_view() : std::string_view(prefix.bound.back());
 }
@@ -58,6 +57,24 @@ void axsNamespaceScope::close()
   --depth;
 }
 
+std::string_view axsNamespaceScope::namespace_of(std::string_view prefix) const
+{
+  axsPrefix const* const known = names.find_prefix(prefix);
+  return known == nullptr ? std::string_view() : bound_to(*known);
+}
+
+std::string_view axsNamespaceScope::of_element(axsReadName const& name) const
+{
+  return bound_to(name.prefix != nullptr ? *name.prefix : names.no_prefix());
+}
+
+std::string_view axsNamespaceScope::of_attribute(axsReadName const& name) const
+{
+  if (name.declared != nullptr)
+    return xmlns_namespace;
+  return name.prefix == nullptr ? std::string_view() : bound_to(*name.prefix);
+}
+
 bool axsNamespaceScope::declare(axsReadAttribute const& attribute)
 {
   axsPrefix& prefix = *attribute.name->declared;
@@ -78,7 +95,7 @@ bool axsNamespaceScope::check_name(axsReadName const& name, bool is_attribute)
     return true;
   if (!name.is_qualified)
     return fail(quoted(name.name->utf8()) + APSTRING(" is not a name with a prefix"));
-  if ((is_attribute && name.declared != nullptr) || !namespace_of(*name.prefix).empty())
+  if ((is_attribute && name.declared != nullptr) || !bound_to(*name.prefix).empty())
     return true;
   return fail(APSTRING("the prefix ") + quoted(name.prefix->text) + APSTRING(" of ") + quoted(name.name->utf8()) +
               APSTRING(" is not bound to a namespace"));
@@ -93,13 +110,13 @@ bool axsNamespaceScope::check_repetition(Attributes const& attributes)
         { return !is_prefixed(attribute) || attribute.name->prefix == first->name->prefix; }))
     return true;
 
-  std::vector<std::pair<std::string_view, std::string_view>> names;
+  std::vector<std::pair<std::string_view, std::string_view>> qualified;
   for (axsReadAttribute const& attribute : attributes)
     if (is_prefixed(attribute))
-      names.emplace_back(namespace_of(*attribute.name->prefix), attribute.name->name->local());
-  std::sort(names.begin(), names.end());
-  auto const repeated = std::adjacent_find(names.begin(), names.end());
-  if (repeated == names.end())
+      qualified.emplace_back(bound_to(*attribute.name->prefix), attribute.name->name->local());
+  std::sort(qualified.begin(), qualified.end());
+  auto const repeated = std::adjacent_find(qualified.begin(), qualified.end());
+  if (repeated == qualified.end())
     return true;
   return fail(APSTRING("the attribute ") + quoted(repeated->second) + APSTRING(" of the namespace ") +
               quoted(repeated->first) + APSTRING(" is given twice"));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "axsPrefixScope.h"
 #include "axsReadName.h"
 
 #include <apString.h>
@@ -9,13 +10,19 @@
 #include <utility>
 #include <vector>
 
+class axsNameCache;
+
 /// Follows the namespace declarations of a document and finds what is wrong with them and with the names that need them
 /// (Namespaces in XML 1.0). The names are those of one axsNameCache, in whose prefixes the scope keeps what they are
 /// bound to. Xerces-C could do it itself, but takes a time that grows with the square of the depth.
-class axsNamespaceScope
+class axsNamespaceScope : public axsPrefixScope
 {
 public:
   static constexpr std::string_view xml_namespace = "http://www.w3.org/XML/1998/namespace";
+  static constexpr std::string_view xmlns_namespace = "http://www.w3.org/2000/xmlns/";
+
+  /// Of the names in `all`, which must live longer.
+  explicit axsNamespaceScope(axsNameCache const& all) : names(all) {}
 
   using Attributes = std::vector<axsReadAttribute>;
 
@@ -24,6 +31,12 @@ public:
 
   /// The element that began last ends.
   void close();
+
+  std::string_view namespace_of(std::string_view prefix) const override;
+
+  /// The namespaces of the names of an element that is open, and of an attribute of one; empty for none.
+  std::string_view of_element(axsReadName const& name) const;
+  std::string_view of_attribute(axsReadName const& name) const;
 
   /// What is wrong with the element that did not open.
   apString const& wrong() const noexcept { return error; }
@@ -34,6 +47,7 @@ private:
   bool check_repetition(Attributes const& attributes);
   bool fail(apString const& text);
 
+  axsNameCache const& names;
   apString error;
   // The prefixes declared by the open elements, and at which depth.
   std::vector<std::pair<std::size_t, axsPrefix*>> declared;

@@ -3,14 +3,17 @@
 #include "axsAttributeList.h"
 #include "axsAttributeValue.h"
 #include "axsCharacters.h"
+#include "axsDtd.h"
 #include "axsEntities.h"
 #include "axsGrowth.h"
+#include "axsLocator.h"
 #include "axsName.h"
 #include "axsNameCache.h"
 #include "axsNamespaceScope.h"
+#include "axsParseHandler.h"
 #include "axsProlog.h"
-#include "axsReadingEvents.h"
 #include "axsSource.h"
+#include "axsStartTag.h"
 #include "axsSubset.h"
 #include "axsWindow.h"
 
@@ -39,14 +42,21 @@ std::ptrdiff_t const look_ahead = 16;
 
 // One run over a document. Each step reads one text or piece of markup at `at` and tells of it when it has seen the
 // whole; a step that ends with `more` is made again.
-class Scan
+class Scan final : private axsLocator
 {
 public:
-  Scan(axsSource& source, axsReadingEvents& told, std::size_t most_expansions);
+  Scan(axsSource& source, axsParseHandler& handler, std::size_t most_expansions);
 
   bool run();
 
 private:
+  apString url() const override { return document.url(); }
+  axsPlace begin() const override { return place_of(event_begin); }
+  axsPlace attribute(std::size_t index) const override;
+  axsPlace end() const override { return place_of(event_end); }
+  axsPlace place_of(char const* to) const;
+
+  void told(char const* to) { event_begin = at, event_end = to; }
   bool is_in_encoding() const;
   Step step();
   Step outside();
@@ -60,11 +70,13 @@ private:
 
   Step stop(char const* place);
   bool attribute(char const*& p, axsReadName const& element);
+  void tell_start(axsReadName const& name);
   bool section(char const*& p, std::string_view closing, std::string_view& data);
   void take(char const* from, char const* to) { normal.append(from, static_cast<std::size_t>(to - from)); }
   void take_line_end(char const*& p);
 
-  axsReadingEvents& events;
+  axsSource const& document;
+  axsParseHandler& events;
   axsWindow window;
   axsNameCache names;
   axsNamespaceScope namespaces;
@@ -76,17 +88,26 @@ private:
   // The texts of this step that do not stand in the window as they are. It has room for whatever can come out of the
   // window, so that views of it stay good; where entities lack room for more, the step is made again with more room.
   std::string normal;
+  std::vector<axsTagAttribute> tag_attributes;
+  // Where the names of the attributes stand that are specified.
+  std::vector<char const*> attribute_places;
   char const* at;
+  char const* event_begin = nullptr;
+  char const* event_end = nullptr;
+  // The place of what stands first in the window.
+  axsPlace window_place;
   std::uint64_t elements = 0;
   bool doctype_seen = false;
   bool root_seen = false;
   axsProlog::Encoding encoding = axsProlog::Encoding::utf8;
 };
 
-Scan::Scan(axsSource& source, axsReadingEvents& told, std::size_t most_expansions)
-  : events(told),
+Scan::Scan(axsSource& source, axsParseHandler& handler, std::size_t most_expansions)
+  : document(source),
+    events(handler),
     window(source),
-    names(told),
+    names(handler),
+    namespaces(names),
     growth(window),
     entities(window, growth, most_expansions),
     subset(names, entities),
@@ -97,6 +118,7 @@ Scan::Scan(axsSource& source, axsReadingEvents& told, std::size_t most_expansion
 
 bool Scan::run()
 {
+  events.start_document(*this);
   if (!axsProlog::skip_declaration(at, encoding) || !is_in_encoding())
     return false;
   while (true)
@@ -105,6 +127,7 @@ bool Scan::run()
     case Step::next:
       break;
     case Step::more:
+      window_place = place_of(at);
       at = window.advance(at);
       if (normal.capacity() < window.capacity())
         normal.reserve(window.capacity());
@@ -173,7 +196,10 @@ Step Scan::doctype()
   if (!skip(p, ">"))
     return stop(p);
   doctype_seen = true;
-  events.doctype({at, static_cast<std::size_t>(p - at)});
+  auto const type = std::make_shared<axsDtd>();
+  type->text.assign(at, p);
+  told(p);
+  events.doctype(type);
   at = p;
   return Step::next;
 }
@@ -191,7 +217,8 @@ Step Scan::text()
     case '<':
       if (from != at)
         take(from, p);
-      events.text(from == at ? std::string_view(from, static_cast<std::size_t>(p - from)) : normal);
+      told(p);
+      events.text(from == at ? std::string_view(from, static_cast<std::size_t>(p - from)) : normal, false);
       at = p;
       return Step::next;
     case '&':
@@ -227,6 +254,7 @@ Step Scan::start_tag()
 
   ++elements;
   attributes.clear();
+  attribute_places.clear();
   normal.clear();
   while (*p != '>' && *p != '/')
     if (!skip_spaces(p) || (*p != '>' && *p != '/' && !attribute(p, name)))
@@ -239,9 +267,8 @@ Step Scan::start_tag()
   if (!namespaces.open(name, attributes) || open.size() == axsScanner::most_levels)
     return Step::refused;
 
-  events.start_element(*name.name);
-  for (axsReadAttribute const& read : attributes)
-    events.attribute(*read.name->name, read.value);
+  told(p);
+  tell_start(name);
   if (is_empty)
   {
     namespaces.close();
@@ -252,6 +279,40 @@ Step Scan::start_tag()
   root_seen = true;
   at = p;
   return Step::next;
+}
+
+void Scan::tell_start(axsReadName const& name)
+{
+  tag_attributes.clear();
+  for (axsReadAttribute const& read : attributes)
+  {
+    axsReadName const& attribute = *read.name;
+    bool const is_tokens = name.attributes != nullptr && name.attributes->is_of_tokens(attribute);
+    tag_attributes.push_back({attribute.name, namespaces.of_attribute(attribute), read.value,
+      is_tokens ? axsAttributeType::nmtokens : axsAttributeType::cdata, tag_attributes.size() < attribute_places.size(),
+      attribute.declared != nullptr});
+  }
+  events.start_element({name.name, namespaces.of_element(name), &tag_attributes, &namespaces});
+}
+
+axsPlace Scan::attribute(std::size_t index) const
+{
+  return index < attribute_places.size() ? place_of(attribute_places[index]) : begin();
+}
+
+axsPlace Scan::place_of(char const* to) const
+{
+  axsPlace place = window_place;
+  for (char const* from = window.begin(); from != to; ++from)
+    if (*from == '\n' || (*from == '\r' && from[1] != '\n'))
+      place = {place.line + 1, 1};
+    else
+    {
+      auto const byte = static_cast<unsigned char>(*from);
+      place.column += byte < 0x80 || byte >= 0xF0 ? 1 : 0;
+      place.column += byte >= 0xC0 ? 1 : 0;
+    }
+  return place;
 }
 
 bool Scan::attribute(char const*& p, axsReadName const& element)
@@ -275,6 +336,7 @@ bool Scan::attribute(char const*& p, axsReadName const& element)
   if (element.attributes != nullptr && element.attributes->is_of_tokens(name))
     axsAttributeValue::collapse(normal, value);
   attributes.push_back({&name, value});
+  attribute_places.push_back(begin);
   return true;
 }
 
@@ -291,6 +353,7 @@ Step Scan::end_tag()
     return stop(p);
   open.pop_back();
   namespaces.close();
+  told(p + 1);
   events.end_element();
   at = p + 1;
   return Step::next;
@@ -305,6 +368,7 @@ Step Scan::comment()
   // 2.5, [15] Comment
   if (data.find("--") != std::string_view::npos || (!data.empty() && data.back() == '-'))
     return Step::refused;
+  told(p);
   events.comment(data);
   at = p;
   return Step::next;
@@ -316,7 +380,8 @@ Step Scan::cdata()
   std::string_view data;
   if (!skip(p, "<![CDATA[") || !section(p, "]]>", data))
     return stop(p);
-  events.cdata(data);
+  told(p);
+  events.text(data, true);
   at = p;
   return Step::next;
 }
@@ -333,6 +398,7 @@ Step Scan::processing_instruction()
   std::string_view data;
   if ((!skip_spaces(p) && !begins(p, "?>")) || !section(p, "?>", data))
     return stop(p);
+  told(p);
   events.processing_instruction(target, data);
   at = p;
   return Step::next;
@@ -396,7 +462,7 @@ void Scan::take_line_end(char const*& p)
 }
 }
 
-bool axsScanner::scan(axsSource& source, axmLoadOptions const& options, axsReadingEvents& events)
+bool axsScanner::scan(axsSource& source, axmLoadOptions const& options, axsParseHandler& events)
 {
   return Scan(source, events, static_cast<std::size_t>(std::max(options.entity_expansion_limit(), 0))).run();
 }

@@ -4,7 +4,7 @@
 
 #include <cstddef>
 
-class axsReadingEvents;
+class axsParseHandler;
 class axsSource;
 
 /// Reads the ordinary document, and reads it fast: XML 1.0 with namespaces in UTF-8 or US-ASCII, well-formed, and if it
@@ -22,5 +22,5 @@ constexpr std::size_t most_levels = 1000000;
 /// Tells `events` of the document in `source`, which it reads on from where it is. False when it stopped before the
 /// document was whole: what it told until then is to be forgotten. Throws axsReadError when the source cannot be read,
 /// std::bad_alloc when memory runs out.
-bool scan(axsSource& source, axmLoadOptions const& options, axsReadingEvents& events);
+bool scan(axsSource& source, axmLoadOptions const& options, axsParseHandler& events);
 }

@@ -24,7 +24,7 @@ private:
 class Check
 {
 public:
-  explicit Check(axsNameTable const& table) : tree_names(table), names(tree_names) {}
+  explicit Check(axsNameTable const& table) : tree_names(table), names(tree_names), scope(names) {}
 
   bool open(axsElement const& element)
   {

@@ -1,5 +1,6 @@
 #include "axsSchemaScan.h"
 
+#include "axsLocator.h"
 #include "axsPatternCheck.h"
 #include "axsSource.h"
 #include "axsXercesParser.h"
@@ -39,38 +40,12 @@ axsSchemaScan::axsSchemaScan(axsSource& source, axsContentSize& sizes) : content
   axsXercesParser::parse(source, axmLoadOptions(), *this);
 }
 
-void axsSchemaScan::start_element(axsName const& name)
+void axsSchemaScan::start_element(axsStartTag const& tag)
 {
-  enter();
-  entered = &name;
-  entered_place = current_place();
-}
-
-void axsSchemaScan::attribute(axsName const& name, std::string_view value)
-{
-  entered_attributes.emplace_back(&name, value);
-}
-
-void axsSchemaScan::end_element()
-{
-  enter();
-  levels.pop_back();
-  bindings.resize(levels.empty() ? 0 : levels.back().bindings);
-}
-
-// Takes up the element that began, now that its attributes are known.
-void axsSchemaScan::enter()
-{
-  if (entered == nullptr)
-    return;
-  for (auto const& [name, value] : entered_attributes)
-    if (name->utf8() == "xmlns")
-      bindings.emplace_back(std::string(), value);
-    else if (name->prefix() == "xmlns")
-      bindings.emplace_back(name->local(), value);
-
-  bool const is_own = namespace_of(entered->prefix()) == schema_namespace;
-  Level level{is_own ? entered->local() : std::string_view(), bindings.size(), no_content, 1};
+  entered_place = locator->error(apString(), locator->end());
+  entered_attributes = tag.attributes;
+  bool const is_own = tag.name_space == schema_namespace;
+  Level level{is_own ? tag.name->local() : std::string_view(), no_content, 1};
   if (levels.empty())
   {
     if (level.local != "schema")
@@ -92,8 +67,6 @@ void axsSchemaScan::enter()
   levels.push_back(level);
   if (levels.size() > most_levels)
     fail(APSTRING("The schema is nested more than 500 levels deep"));
-  entered = nullptr;
-  entered_attributes.clear();
 }
 
 // What the element means for the size of the content that it stands in.
@@ -128,18 +101,11 @@ void axsSchemaScan::enter_content(Level& level)
   level.repetitions = 1;
 }
 
-std::string_view axsSchemaScan::namespace_of(std::string_view prefix) const
-{
-  auto const found =
-    std::find_if(bindings.rbegin(), bindings.rend(), [&](auto const& binding) { return binding.first == prefix; });
-  return found == bindings.rend() ? std::string_view() : found->second;
-}
-
 std::string_view axsSchemaScan::own_attribute(std::string_view local) const
 {
-  auto const found = std::find_if(entered_attributes.begin(), entered_attributes.end(),
-    [&](auto const& attribute) { return attribute.first->utf8() == local; });
-  return found == entered_attributes.end() ? std::string_view() : found->second;
+  auto const found = std::find_if(entered_attributes->begin(), entered_attributes->end(),
+    [&](axsTagAttribute const& attribute) { return attribute.name->utf8() == local; });
+  return found == entered_attributes->end() ? std::string_view() : found->value;
 }
 
 void axsSchemaScan::fail(apString const& message) const

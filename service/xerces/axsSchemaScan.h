@@ -2,7 +2,8 @@
 
 #include "axsContentSize.h"
 #include "axsNameTable.h"
-#include "axsReadingEvents.h"
+#include "axsParseHandler.h"
+#include "axsStartTag.h"
 
 #include <set>
 #include <string>
@@ -16,7 +17,7 @@ class axsSource;
 ///
 /// The validator goes down into nested parts by recursion, hence a bound; for another one it tells axsContentSize what the
 /// schema allows.
-class axsSchemaScan final : private axsReadingEvents
+class axsSchemaScan final : private axsParseHandler
 {
 public:
   /// How deep elements of a schema may be nested.
@@ -33,45 +34,35 @@ public:
   bool has_lenient_use(int line, int column) const { return lenient.count({line, column}) != 0; }
 
 private:
-  using Attributes = std::vector<std::pair<axsName const*, std::string>>;
-
   struct Level
   {
     // Of the schema language itself, "" for any other element.
     std::string_view local;
-    // What the elements around it and itself bind: prefix and namespace.
-    std::size_t bindings;
     // The content it belongs to, and how often the groups around it, and it itself, repeat what is in it.
     axsContentSize::Id content;
     double repetitions;
   };
 
-  void start(std::function<axsReadError()> const& place) override { current_place = place; }
+  void start_document(axsLocator const& told) override { locator = &told; }
   axsName const& name(std::string_view text) override { return names.intern(text); }
-  void start_element(axsName const& name) override;
-  void attribute(axsName const& name, std::string_view value) override;
-  void end_element() override;
-  void text(std::string_view) override {}
-  void cdata(std::string_view) override {}
+  void start_element(axsStartTag const& tag) override;
+  void end_element() override { levels.pop_back(); }
+  void text(std::string_view, bool) override {}
   void comment(std::string_view) override {}
   void processing_instruction(std::string_view, std::string_view) override {}
-  void doctype(std::string_view) override {}
+  void doctype(std::shared_ptr<axsDtd const> const&) override {}
 
-  void enter();
   void enter_content(Level& level);
-  std::string_view namespace_of(std::string_view prefix) const;
   std::string_view own_attribute(std::string_view local) const;
   [[noreturn]] void fail(apString const& message) const;
 
   axsContentSize& content_sizes;
-  std::function<axsReadError()> current_place;
+  axsLocator const* locator = nullptr;
   axsNameTable names;
   std::vector<Level> levels;
-  std::vector<std::pair<std::string, std::string>> bindings;
-  // The element whose attributes are still to come.
-  axsName const* entered = nullptr;
+  // Of the element that begins.
   axsReadError entered_place;
-  Attributes entered_attributes;
+  std::vector<axsTagAttribute> const* entered_attributes = nullptr;
   std::string target;
   std::set<std::pair<int, int>> lenient;
 };

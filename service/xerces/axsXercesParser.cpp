@@ -2,14 +2,17 @@
 
 #include "axsBadBytes.h"
 #include "axsDoctypeText.h"
+#include "axsDtd.h"
 #include "axsEntityHandler.h"
 #include "axsErrorReporter.h"
 #include "axsInputSource.h"
+#include "axsLocator.h"
 #include "axsNameCache.h"
 #include "axsNamespaceScope.h"
+#include "axsParseHandler.h"
 #include "axsParserMemory.h"
-#include "axsReadingEvents.h"
 #include "axsSource.h"
+#include "axsStartTag.h"
 #include "axsUtf16.h"
 #include "axsXerces.h"
 
@@ -25,6 +28,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -36,14 +40,19 @@ namespace
 std::size_t const memory_free = std::size_t{64} * 1024 * 1024;
 
 // One run of the parser: hears what it says and says it to the events.
-class Run final : public xercesc::XMLDocumentHandler, public xercesc::DocTypeHandler
+class Run final : public xercesc::XMLDocumentHandler, public xercesc::DocTypeHandler, private axsLocator
 {
 public:
-  Run(axsSource& given, axmLoadOptions const& options, axsReadingEvents& told);
+  Run(axsSource& given, axmLoadOptions const& options, axsParseHandler& told);
 
   void parse();
 
 private:
+  apString url() const override { return place().url; }
+  axsPlace begin() const override { return end(); }
+  axsPlace attribute(std::size_t) const override { return end(); }
+  axsPlace end() const override;
+
   void docCharacters(XMLCh const* text, XMLSize_t length, bool cdata) override;
   void docComment(XMLCh const* comment) override;
   void docPI(XMLCh const* target, XMLCh const* data) override;
@@ -91,7 +100,7 @@ private:
   [[noreturn]] void fail(apString const& message) const;
 
   axsSource& source;
-  axsReadingEvents& events;
+  axsParseHandler& events;
   bool const has_doctype;
   axsParserMemory memory;
   xercesc::SecurityManager limits;
@@ -111,14 +120,15 @@ private:
   std::size_t produced = 0;
 };
 
-Run::Run(axsSource& given, axmLoadOptions const& options, axsReadingEvents& told)
+Run::Run(axsSource& given, axmLoadOptions const& options, axsParseHandler& told)
   : source(given),
     events(told),
     has_doctype(!axsDoctypeText::is_absent(given.head())),
     memory(memory_free),
     errors([this] { return open_lines.empty() ? 0 : open_lines.back(); }),
     entities(options.disable_entity_resolution(), [this] { return place(); }),
-    names(told)
+    names(told),
+    namespaces(names)
 {
   limits.setEntityExpansionLimit(static_cast<XMLSize_t>(std::max(options.entity_expansion_limit(), 0)));
 }
@@ -154,7 +164,7 @@ void Run::parse()
     [this]
     {
       make_scanner();
-      events.start([this] { return place(); });
+      events.start_document(*this);
       axsInputSource input(source, memory);
       scanner->scanDocument(input);
       if (source.has_stray_zero())
@@ -176,6 +186,12 @@ axsReadError Run::place() const
     return {apString(), source.url()};
   xercesc::Locator const& at = *scanner->getLocator();
   return axsErrorReporter::make(apString(), at.getSystemId(), at.getLineNumber(), at.getColumnNumber());
+}
+
+axsPlace Run::end() const
+{
+  axsReadError const at = place();
+  return {static_cast<std::uint64_t>(std::max(at.line, 0)), static_cast<std::uint64_t>(std::max(at.column, 0))};
 }
 
 std::string_view Run::utf8(XMLCh const* text, std::size_t length)
@@ -204,13 +220,13 @@ void Run::fail(apString const& message) const
 }
 
 // The parser lets any text pass (XML 1.0, 2.8, [26] VersionNum).
-void Run::XMLDecl(XMLCh const* version, XMLCh const*, XMLCh const*, XMLCh const*)
+void Run::XMLDecl(XMLCh const* version, XMLCh const* encoding, XMLCh const* standalone, XMLCh const*)
 {
   std::string const number = axsUtf16::to_utf8(version);
   if (number.size() < 3 || number.compare(0, 2, "1.") != 0 ||
       number.find_first_not_of("0123456789", 2) != std::string::npos)
     fail(APSTRING("there is no XML version \"") + apString::from_utf8(number) + APSTRING("\""));
-  events.version(number);
+  events.declaration(number, axsUtf16::to_utf8(encoding), axsUtf16::to_utf8(standalone));
 }
 
 void Run::docCharacters(XMLCh const* text, XMLSize_t length, bool cdata)
@@ -223,14 +239,14 @@ void Run::docCharacters(XMLCh const* text, XMLSize_t length, bool cdata)
     return;
   }
   end_text();
-  events.cdata(characters);
+  events.text(characters, true);
 }
 
 // The parser tells of a text piece by piece.
 void Run::end_text()
 {
   if (!pending.empty())
-    events.text(pending);
+    events.text(pending, false);
   pending.clear();
 }
 
@@ -263,9 +279,11 @@ void Run::startElement(xercesc::XMLElementDecl const& decl, unsigned int, XMLCh 
   if (!namespaces.open(name, read))
     fail(namespaces.wrong());
 
-  events.start_element(*name.name);
+  std::vector<axsTagAttribute> told;
   for (axsReadAttribute const& attribute : read)
-    events.attribute(*attribute.name->name, attribute.value);
+    told.push_back({attribute.name->name, namespaces.of_attribute(*attribute.name), attribute.value,
+      axsAttributeType::cdata, true, attribute.name->declared != nullptr});
+  events.start_element({name.name, namespaces.of_element(name), &told, &namespaces});
   if (is_empty)
     end_element();
   else
@@ -306,7 +324,9 @@ void Run::doctypeDecl(xercesc::DTDElementDecl const&, XMLCh const*, XMLCh const*
 {
   expect_declarations();
   std::string const document = document_in_utf8();
-  events.doctype(axsDoctypeText::find(document));
+  auto const type = std::make_shared<axsDtd>();
+  type->text = axsDoctypeText::find(document);
+  events.doctype(type);
 }
 
 // The text of `bytes` in `encoding`, up to where it is none.
@@ -348,7 +368,7 @@ std::string Run::document_in_utf8()
 }
 }
 
-void axsXercesParser::parse(axsSource& source, axmLoadOptions const& options, axsReadingEvents& events)
+void axsXercesParser::parse(axsSource& source, axmLoadOptions const& options, axsParseHandler& events)
 try
 {
   axsXerces::initialise();

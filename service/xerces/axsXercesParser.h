@@ -3,7 +3,7 @@
 #include <apString.h>
 #include <axmLoadOptions.h>
 
-class axsReadingEvents;
+class axsParseHandler;
 class axsSource;
 
 /// Parses documents with Xerces-C (XML 1.0 with namespaces, and 1.1 where a document says so).
@@ -19,5 +19,5 @@ constexpr std::size_t growth_limit = 100;
 
 /// Tells `events` of the document in `source`. Throws axsReadError when it is not well-formed, breaks a bound or needs
 /// what it may not have, std::bad_alloc when memory runs out.
-void parse(axsSource& source, axmLoadOptions const& options, axsReadingEvents& events);
+void parse(axsSource& source, axmLoadOptions const& options, axsParseHandler& events);
 }
