@@ -36,7 +36,7 @@ struct axsComplexType
 
   Content content = Content::empty;
   /// Where the content is simple, its type.
-  std::shared_ptr<axsSimpleType const> simple_content;
+  axsSimpleType const* simple_content = nullptr;
   /// Where it is element-only or mixed, its particle; a mixed content may be without one.
   std::optional<axsParticle> particle;
   /// The particle compiled; made with the set.

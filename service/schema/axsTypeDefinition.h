@@ -4,7 +4,6 @@
 #include "axsSchemaPlace.h"
 
 #include <cstdint>
-#include <memory>
 
 class axsSimpleType;
 struct axsComplexType;
@@ -24,7 +23,7 @@ using axsDerivationSet = std::uint8_t;
 /// A type definition: a simple or a complex one, never both (Part 1, 2.2.1). Owned by the set of schema components.
 struct axsTypeDefinition
 {
-  std::shared_ptr<axsSimpleType const> simple;
+  axsSimpleType const* simple = nullptr;
   axsComplexType const* complex = nullptr;
 
   bool is_simple() const noexcept { return simple != nullptr; }
