@@ -2,8 +2,8 @@
 
 #include "axsCharacters.h"
 #include "axsGrowth.h"
+#include "axsInputBuffer.h"
 #include "axsReference.h"
-#include "axsWindow.h"
 
 #include <algorithm>
 #include <utility>

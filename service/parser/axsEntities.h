@@ -8,7 +8,7 @@
 #include <unordered_map>
 
 class axsGrowth;
-class axsWindow;
+class axsInputBuffer;
 
 /// The entities that a document declares itself and uses, as long as they are plain text. Others are left to others.
 class axsEntities
@@ -23,7 +23,7 @@ public:
 
   /// Of the document in `window`. At most `most_expansions` references are expanded, those that are read again counted
   /// again. What they refer to must live longer.
-  axsEntities(axsWindow const& window, axsGrowth& growth, std::size_t most_expansions)
+  axsEntities(axsInputBuffer const& window, axsGrowth& growth, std::size_t most_expansions)
     : document(window),
       grown(growth),
       expansions_left(most_expansions)
@@ -43,7 +43,7 @@ public:
   std::size_t take_lacking_room() noexcept;
 
 private:
-  axsWindow const& document;
+  axsInputBuffer const& document;
   axsGrowth& grown;
   std::size_t expansions_left;
   std::size_t lacking_room = 0;

@@ -1,6 +1,6 @@
 #include "axsGrowth.h"
 
-#include "axsWindow.h"
+#include "axsInputBuffer.h"
 #include "axsXercesParser.h"
 
 bool axsGrowth::add(std::size_t bytes) noexcept

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-class axsWindow;
+class axsInputBuffer;
 
 /// Watches what declarations add to a document that is scanned: entities, and values that are not written.
 ///
@@ -12,12 +12,12 @@ class axsGrowth
 {
 public:
   /// Of the document in `window`, which must live longer.
-  explicit axsGrowth(axsWindow const& window) noexcept : document(window) {}
+  explicit axsGrowth(axsInputBuffer const& window) noexcept : document(window) {}
 
   /// Whether so much more may be added.
   bool add(std::size_t bytes) noexcept;
 
 private:
-  axsWindow const& document;
+  axsInputBuffer const& document;
   std::size_t added = 0;
 };

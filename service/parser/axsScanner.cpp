@@ -6,6 +6,7 @@
 #include "axsDtd.h"
 #include "axsEntities.h"
 #include "axsGrowth.h"
+#include "axsInputBuffer.h"
 #include "axsLocator.h"
 #include "axsName.h"
 #include "axsNameCache.h"
@@ -15,7 +16,6 @@
 #include "axsSource.h"
 #include "axsStartTag.h"
 #include "axsSubset.h"
-#include "axsWindow.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -54,7 +54,7 @@ private:
   axsPlace begin() const override { return place_of(event_begin); }
   axsPlace attribute(std::size_t index) const override;
   axsPlace end() const override { return place_of(event_end); }
-  axsPlace place_of(char const* to) const;
+  axsPlace place_of(char const* to) const { return window.place(to); }
 
   void told(char const* to) { event_begin = at, event_end = to; }
   bool is_in_encoding() const;
@@ -77,7 +77,7 @@ private:
 
   axsSource const& document;
   axsParseHandler& events;
-  axsWindow window;
+  axsInputBuffer window;
   axsNameCache names;
   axsNamespaceScope namespaces;
   axsGrowth growth;
@@ -94,8 +94,6 @@ private:
   char const* at;
   char const* event_begin = nullptr;
   char const* event_end = nullptr;
-  // The place of what stands first in the window.
-  axsPlace window_place;
   std::uint64_t elements = 0;
   bool doctype_seen = false;
   bool root_seen = false;
@@ -127,7 +125,6 @@ bool Scan::run()
     case Step::next:
       break;
     case Step::more:
-      window_place = place_of(at);
       at = window.advance(at);
       if (normal.capacity() < window.capacity())
         normal.reserve(window.capacity());
@@ -298,21 +295,6 @@ void Scan::tell_start(axsReadName const& name)
 axsPlace Scan::attribute(std::size_t index) const
 {
   return index < attribute_places.size() ? place_of(attribute_places[index]) : begin();
-}
-
-axsPlace Scan::place_of(char const* to) const
-{
-  axsPlace place = window_place;
-  for (char const* from = window.begin(); from != to; ++from)
-    if (*from == '\n' || (*from == '\r' && from[1] != '\n'))
-      place = {place.line + 1, 1};
-    else
-    {
-      auto const byte = static_cast<unsigned char>(*from);
-      place.column += byte < 0x80 || byte >= 0xF0 ? 1 : 0;
-      place.column += byte >= 0xC0 ? 1 : 0;
-    }
-  return place;
 }
 
 bool Scan::attribute(char const*& p, axsReadName const& element)

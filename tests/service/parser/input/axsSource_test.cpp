@@ -1,6 +1,6 @@
 #include "axsSource.h"
 
-#include "../Engine.h"
+#include "../../Engine.h"
 
 #include <thread>
 

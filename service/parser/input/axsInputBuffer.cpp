@@ -1,0 +1,74 @@
+#include "axsInputBuffer.h"
+
+#include "axsByteBlock.h"
+#include "axsSource.h"
+
+#include <cstring>
+#include <string_view>
+#include <utility>
+
+namespace
+{
+std::size_t const usual_room = 65536;
+std::string_view const byte_order_mark = "\xEF\xBB\xBF";
+
+std::unique_ptr<char[]> make_bytes(std::size_t room)
+{
+  return std::make_unique<char[]>(axsLineEnds::bytes_before + room + 1 + axsByteBlock::size);
+}
+}
+
+axsInputBuffer::axsInputBuffer(axsSource& given)
+  : source(given),
+    bytes(make_bytes(usual_room)),
+    room(usual_room),
+    known(begin())
+{
+  fill();
+  // The mark is no character.
+  if (std::string_view(begin(), filled).substr(0, byte_order_mark.size()) == byte_order_mark)
+    begin_place.column = known_place.column = 0;
+}
+
+axsPlace axsInputBuffer::place(char const* at) const noexcept
+{
+  if (at >= known)
+    known_place = axsLineEnds::place_after(known_place, known, at, line_ends);
+  else
+    known_place = axsLineEnds::place_before(begin_place, begin(), known_place, known, at, line_ends);
+  known = at;
+  return known_place;
+}
+
+char const* axsInputBuffer::advance(char const* from)
+{
+  begin_place = place(from);
+  std::size_t const kept = static_cast<std::size_t>(end() - from);
+  passed += filled - kept;
+  char const* const moved = from - axsLineEnds::bytes_before;
+  if (kept > room / 2)
+  {
+    std::unique_ptr<char[]> larger = make_bytes(room * 2);
+    std::memcpy(larger.get(), moved, axsLineEnds::bytes_before + kept);
+    bytes = std::move(larger);
+    room *= 2;
+  }
+  else
+    std::memmove(bytes.get(), moved, axsLineEnds::bytes_before + kept);
+  filled = kept;
+  known = begin();
+  fill();
+  return begin();
+}
+
+void axsInputBuffer::fill()
+{
+  char* const to = bytes.get() + axsLineEnds::bytes_before;
+  while (!last && filled < room)
+  {
+    std::size_t const count = source.read(to + filled, room - filled);
+    filled += count;
+    last = count == 0;
+  }
+  to[filled] = '\0';
+}
