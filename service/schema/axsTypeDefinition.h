@@ -1,24 +1,11 @@
 #pragma once
 
+#include "axsDerivation.h"
 #include "axsSchemaName.h"
 #include "axsSchemaPlace.h"
 
-#include <cstdint>
-
 class axsSimpleType;
 struct axsComplexType;
-
-/// Methods of derivation, as bits of the sets {final}, {block}, {prohibited substitutions} (Part 1, 3.3.1, 3.4.1, 3.14.1).
-enum axsDerivation : std::uint8_t
-{
-  axsDerivationExtension = 1,
-  axsDerivationRestriction = 2,
-  axsDerivationSubstitution = 4,
-  axsDerivationList = 8,
-  axsDerivationUnion = 16
-};
-
-using axsDerivationSet = std::uint8_t;
 
 /// A type definition: a simple or a complex one, never both (Part 1, 2.2.1). Owned by the set of schema components.
 struct axsTypeDefinition
