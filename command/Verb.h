@@ -16,6 +16,7 @@ using Verb = void (*)(CLI::App& app, int& exit_code);
 
 void add_check(CLI::App& app, int& exit_code);
 void add_conform(CLI::App& app, int& exit_code);
+void add_conform_worker(CLI::App& app, int& exit_code);
 void add_select(CLI::App& app, int& exit_code);
 void add_set(CLI::App& app, int& exit_code);
 void add_table(CLI::App& app, int& exit_code);

@@ -11,8 +11,8 @@
 
 namespace
 {
-// In the order in which the help lists them.
-Verb const verbs[] = {add_check, add_select, add_set, add_table, add_conform};
+// In the order in which the help lists them; the last one is for the program itself.
+Verb const verbs[] = {add_check, add_select, add_set, add_table, add_conform, add_conform_worker};
 
 bool names_no_verb(CLI::App& app, Arguments const& arguments)
 {

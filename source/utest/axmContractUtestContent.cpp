@@ -309,7 +309,7 @@ void axmContractUtest::test_select(Factory const& factory) const
   auto const numbers = [](std::shared_ptr<axmNodeList> const& list)
   {
     apString result;
-    for (int index = 0; index < length_of(list); ++index)
+    for (int index = 0; index < loop_length_of(list); ++index)
       result += attribute_of(list->at(index), APSTRING("N"));
     return result;
   };

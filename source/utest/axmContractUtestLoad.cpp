@@ -55,7 +55,7 @@ apString texts(Document const& document)
 {
   apString result;
   auto const children = children_of(root_of(document));
-  for (int index = 0; index < length_of(children); ++index)
+  for (int index = 0; index < loop_length_of(children); ++index)
     result += APSTRING("[") + text_of(children->at(index)) + APSTRING("]");
   return result;
 }

@@ -55,12 +55,17 @@ void axmDocumentFactoryUtest::do_run_tests(Factory factory) const
 
 void axmDocumentFactoryUtest::test_service(Factory factory) const
 {
-  axmUtestGroup const group(tester, file, "axmDocumentFactoryUtest::test_service");
   utServiceName const name(utString("XMLService"));
   utService::get_instance()->register_service(name, factory);
   utServiceName resolved;
   Factory const located_factory = utService::locate_service<axmDocumentFactory>(name, resolved);
-  group.check(located_factory != nullptr, "located_factory.get()", __LINE__, "test locating factory service");
+  char const group_name[] = "axmDocumentFactoryUtest::test_service";
+  auto const check_located = [&]
+  {
+    axmUtestGroup const group(tester, file, group_name);
+    group.check(located_factory != nullptr, "located_factory.get()", __LINE__, "test locating factory service");
+  };
+  axm_run_group(group_name, tester, file, check_located);
   do_run_tests(located_factory);
 }
 

@@ -6,6 +6,8 @@
 #include <axmNamedNodeMap.h>
 #include <utUnitTest.h>
 
+#include <algorithm>
+
 using namespace axmUtestAccess;
 
 namespace
@@ -66,7 +68,8 @@ void axmNamedNodeMapUtest::test_iteration(axmDocumentFactory const& factory) con
   auto const map = map_of(element_with_attributes(factory));
   bool seen1 = false;
   bool seen2 = false;
-  int const length = map != nullptr ? map->getLength() : 0;
+  // A map with two attributes that says it had no end of them is left after a few.
+  int const length = map != nullptr ? std::min(map->getLength(), 10) : 0;
   for (int index = 0; index < length; ++index)
   {
     Node const node = map->item(index);

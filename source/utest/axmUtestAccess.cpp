@@ -68,7 +68,7 @@ std::shared_ptr<axmNodeList> axmUtestAccess::children_of(Node const& node)
 apString axmUtestAccess::names_in(std::shared_ptr<axmNodeList> const& list)
 {
   apString names = list != nullptr ? apString() : APSTRING("(no list)");
-  int const length = std::min(length_of(list), step_limit);
+  int const length = loop_length_of(list);
   for (int index = 0; index < length; ++index)
     add_name(names, list->at(index));
   return names;
@@ -121,6 +121,11 @@ bool axmUtestAccess::same(Node const& left, Node const& right)
 int axmUtestAccess::length_of(std::shared_ptr<axmNodeList> const& list)
 {
   return list != nullptr ? list->length() : -1;
+}
+
+int axmUtestAccess::loop_length_of(std::shared_ptr<axmNodeList> const& list)
+{
+  return std::min(length_of(list), step_limit);
 }
 
 int axmUtestAccess::number_of_children(Node const& node)

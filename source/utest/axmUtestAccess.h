@@ -50,6 +50,9 @@ bool same(Node const& left, Node const& right);
 // The length of a list that is there, -1 of one that is not.
 int length_of(std::shared_ptr<axmNodeList> const& list);
 
+// The same for a loop over its items, which ends after a number of steps that no check comes near, whatever a list says.
+int loop_length_of(std::shared_ptr<axmNodeList> const& list);
+
 // The number of children, -1 where there is no node or no list.
 int number_of_children(Node const& node);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <apString.h>
+#include <axmUtestGroupListener.h>
 
 #include <exception>
 
@@ -48,23 +49,34 @@ struct axmUtestEntry
   char const* name;
 };
 
-// Runs the groups of `entries` in turn. An engine that throws ends the group, not the suite.
+// Runs `run`, which makes the checks of the group `name`, unless the listener leaves it out. An engine that throws ends the
+// group, not the suite.
+template <class Run>
+void axm_run_group(char const* name, utUnitTest* tester, char const* file, Run run)
+{
+  axmUtestGroupListener* const listener = axmUtestGroupListener::get();
+  if (listener != nullptr && !listener->begins(name))
+    return;
+  try
+  {
+    run();
+  }
+  catch (std::exception const& exception)
+  {
+    axmUtestGroup(tester, file, name).ended_by(exception.what(), __LINE__);
+  }
+  catch (...)
+  {
+    axmUtestGroup(tester, file, name).ended_by("of an unknown kind", __LINE__);
+  }
+  if (listener != nullptr)
+    listener->ended(name);
+}
+
+// Runs the groups of `entries` in turn.
 template <class Suite, class Factory, class Entries>
 void axm_run_groups(Suite const& suite, Factory&& factory, Entries const& entries, utUnitTest* tester, char const* file)
 {
   for (auto const& entry : entries)
-  {
-    try
-    {
-      (suite.*entry.run)(factory);
-    }
-    catch (std::exception const& exception)
-    {
-      axmUtestGroup(tester, file, entry.name).ended_by(exception.what(), __LINE__);
-    }
-    catch (...)
-    {
-      axmUtestGroup(tester, file, entry.name).ended_by("of an unknown kind", __LINE__);
-    }
-  }
+    axm_run_group(entry.name, tester, file, [&] { (suite.*entry.run)(factory); });
 }

@@ -150,6 +150,122 @@ TEST(conform, an_engine_in_a_folder_of_any_name_is_checked)
 }
 #endif
 
+#if defined(AXM_MISBEHAVING_ENGINE)
+namespace
+{
+void set_misbehaviour(char const* how)
+{
+#  if defined(_WIN32)
+  _putenv_s("AXM_MISBEHAVIOUR", how);
+#  else
+  setenv("AXM_MISBEHAVIOUR", how, 1);
+#  endif
+}
+
+// That an engine which misbehaves fails, and that its report is whole: the group in which it happens fails with a
+// description that holds `told`, all others pass.
+void expect_told(char const* how, std::string const& group, std::string const& told)
+{
+  set_misbehaviour(how);
+  GoneAtTheEnd const report("conform misbehaving report.xml");
+  ProgramRun const run =
+    conform({"--service", AXM_MISBEHAVING_ENGINE, "--time-limit", "2", "--junit", report.name, "axmNodeUtest"});
+  EXPECT_EQ(run.exit_code, 1) << run.err;
+  EXPECT_TRUE(holds(run.out, "FAILED " + group + ": ")) << run.out;
+  EXPECT_TRUE(holds(run.out, told)) << run.out;
+  EXPECT_TRUE(holds(last_line(run.out), " passed, 1 failed")) << run.out;
+  EXPECT_TRUE(holds(run.out, "axmNodeUtest: ")) << run.out;
+  auto const document = loaded(report.name);
+  ASSERT_NE(document, nullptr);
+  EXPECT_EQ(document->getElementsByTagName(APSTRING("failure"))->length(), 1);
+  EXPECT_NE(document->getDocumentElement()->selectSingleNode(
+              APSTRING("//testcase[@classname='axmNodeUtest::test_remove_child'][last()]")),
+    nullptr);
+  EXPECT_EQ(document->getDocumentElement()
+              ->selectNodes(APSTRING("//testcase[@classname='axmNodeUtest::test_remove_child']"))
+              ->length(),
+    6);
+}
+
+char const in_group[] = "axmNodeUtest::test_set_text";
+}
+
+TEST(conform, an_engine_that_crashes_fails_where_it_does)
+{
+  expect_told("crash", in_group, "the process ");
+}
+
+TEST(conform, an_engine_that_aborts_fails_where_it_does)
+{
+  expect_told("abort", in_group, "the process ");
+}
+
+TEST(conform, an_engine_that_exits_fails_where_it_does)
+{
+  expect_told("exit", in_group, "the process ended with exit code 0, at its beginning");
+}
+
+TEST(conform, an_engine_that_exits_at_once_fails_where_it_does)
+{
+  expect_told("quick exit", in_group, "the process ended with exit code 0, at its beginning");
+}
+
+TEST(conform, an_engine_that_runs_out_of_stack_fails_where_it_does)
+{
+  expect_told("stack overflow", in_group, "the process ");
+}
+
+TEST(conform, an_engine_that_hangs_fails_where_it_does)
+{
+  expect_told("hang", in_group, "the group took more than 2 seconds");
+}
+
+TEST(conform, an_engine_that_throws_fails_where_it_does)
+{
+  expect_told("exception", in_group, "thrown by the engine");
+}
+
+TEST(conform, an_engine_that_closes_standard_output_fails_where_it_does)
+{
+  expect_told("closed output", in_group, "the engine leaves standard output to the program");
+}
+
+TEST(conform, an_engine_that_breaks_the_heap_fails_where_it_does)
+{
+  expect_told("broken heap", in_group, "the process ");
+}
+
+#  if defined(__linux__)
+TEST(conform, an_engine_that_leaves_a_thread_running_fails)
+{
+  expect_told("thread", "axm_register_engine", "no thread of the engine runs");
+}
+
+TEST(conform, an_engine_that_crashes_leaves_no_folder_behind)
+{
+  namespace fs = std::filesystem;
+  fs::path const folder = fs::temp_directory_path() / "axm conform crash test";
+  fs::create_directory(folder);
+  setenv("TMPDIR", folder.c_str(), 1);
+  set_misbehaviour("crash");
+  EXPECT_EQ(conform({"--service", AXM_MISBEHAVING_ENGINE, "axmNodeUtest"}).exit_code, 1);
+  unsetenv("TMPDIR");
+  EXPECT_TRUE(fs::is_empty(folder));
+  fs::remove_all(folder);
+}
+#  endif
+#endif
+
+#if defined(__linux__)
+TEST(conform, a_report_that_does_not_fit_is_a_failure)
+{
+  EXPECT_EQ(conform({"axmTextNodeUtest", "--junit", "/dev/full"}).exit_code, 1);
+  std::string const command = std::string("\"") + AXM_PROGRAM + "\" conform axmTextNodeUtest > /dev/full 2> /dev/null";
+  int const status = std::system(command.c_str());
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 1);
+}
+#endif
+
 #if defined(AXM_SECOND_ENGINE)
 TEST(conform, an_engine_of_another_make_gets_an_honest_list)
 {
