@@ -1,6 +1,7 @@
 #include "SourceLine.h"
 
 #include <apString.h>
+#include <utUtf8.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -13,11 +14,6 @@ std::size_t const widest = 100;
 std::string const byte_order_mark = "\xEF\xBB\xBF";
 
 char const* const stand_in = "\xEF\xBF\xBD";
-
-bool is_tail(char c)
-{
-  return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
-}
 
 // Lines end with LF, CR LF or CR (XML 1.0, 2.11).
 std::string read_line(apPath const& file, int number)
@@ -45,11 +41,11 @@ std::size_t offset_of(std::string const& line, int column)
   std::size_t at = 0;
   for (int i = 1; i < column && at < line.size(); ++i)
   {
-    bool const takes_two = (static_cast<unsigned char>(line[at]) & 0xF8) == 0xF0;
+    bool const takes_two = utUtf8::length_from_first(line[at]) == 4;
     i += takes_two ? 1 : 0;
     do
       ++at;
-    while (at < line.size() && is_tail(line[at]));
+    while (at < line.size() && utUtf8::is_continuation(line[at]));
   }
   return at;
 }
@@ -92,15 +88,15 @@ std::string shown_place(apPath const& file, int number, int column)
   std::string const line = without_controls(raw);
   std::size_t const mark = offset_of(line, column);
   std::size_t start = mark > widest ? mark - widest / 2 : 0;
-  while (start < mark && is_tail(line[start]))
+  while (start < mark && utUtf8::is_continuation(line[start]))
     ++start;
   std::size_t end = std::min(line.size(), start + widest);
-  while (end < line.size() && is_tail(line[end]))
+  while (end < line.size() && utUtf8::is_continuation(line[end]))
     ++end;
 
   std::string under;
   for (std::size_t i = start; i < mark; ++i)
-    if (!is_tail(line[i]))
+    if (!utUtf8::is_continuation(line[i]))
       under += line[i] == '\t' ? '\t' : ' ';
   return line.substr(start, end - start) + '\n' + under + "^\n";
 }

@@ -1,12 +1,10 @@
 #pragma once
 
+#include <apByteBlock.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-
-#if defined(__SSE2__)
-#  include <emmintrin.h>
-#endif
 
 /// Text between its narrow and its wide form as long as it is ASCII, as most of it is: in blocks that compilers turn into
 /// vector instructions, the last one of which overlaps the one before it, so that hardly anything is left to single steps.
@@ -93,7 +91,7 @@ private:
     return bytes;
   }
 
-#if defined(__SSE2__)
+#if defined(AP_HAS_SSE2)
   static void widen_block(char const* text, wchar_t* wide) noexcept
   {
     __m128i const zero = _mm_setzero_si128();

@@ -1,5 +1,8 @@
 #include <utUnitTestJunit.h>
 
+#include <utUtf8.h>
+#include <utXmlCharacter.h>
+
 #include <string>
 #include <string_view>
 #include <utility>
@@ -7,53 +10,11 @@
 
 namespace
 {
-bool is_continuation(char byte)
-{
-  return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-}
-
-struct Sequence
-{
-  std::size_t length;
-  unsigned lead_bits;
-  unsigned smallest;
-};
-
-Sequence sequence_of(unsigned lead)
-{
-  if (lead < 0x80U)
-    return {1, lead, 0};
-  if (lead >= 0xC2U && lead < 0xE0U)
-    return {2, lead & 0x1FU, 0x80U};
-  if (lead >= 0xE0U && lead < 0xF0U)
-    return {3, lead & 0x0FU, 0x800U};
-  if (lead >= 0xF0U && lead < 0xF5U)
-    return {4, lead & 0x07U, 0x10000U};
-  return {0, 0, 0};
-}
-
-// XML 1.0, 2.2, [2] Char.
-bool is_xml_character(unsigned code)
-{
-  if (code < 0x20U)
-    return code == '\t' || code == '\n' || code == '\r';
-  return code <= 0xD7FFU || (code >= 0xE000U && code <= 0xFFFDU) || (code >= 0x10000U && code <= 0x10FFFFU);
-}
-
-// How many bytes at the start of `text` are one character of XML in UTF-8; 0 if they are none.
+// How many bytes at the start of `text` are one character of XML; 0 if they are none.
 std::size_t character_length(std::string_view text)
 {
-  Sequence const sequence = sequence_of(static_cast<unsigned char>(text[0]));
-  if (sequence.length == 0 || sequence.length > text.size())
-    return 0;
-  unsigned code = sequence.lead_bits;
-  for (std::size_t index = 1; index < sequence.length; ++index)
-  {
-    if (!is_continuation(text[index]))
-      return 0;
-    code = code << 6U | (static_cast<unsigned char>(text[index]) & 0x3FU);
-  }
-  return code >= sequence.smallest && is_xml_character(code) ? sequence.length : 0;
+  utCodePoint const found = utUtf8::decode(text.data(), text.data() + text.size());
+  return found.is_valid() && utXmlCharacter::is_character(found.code) ? found.length : 0;
 }
 
 char const* escaped(char c)

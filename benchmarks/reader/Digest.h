@@ -1,5 +1,7 @@
 #pragma once
 
+#include <utXmlCharacter.h>
+
 #include <cstdint>
 #include <cstring>
 #include <string_view>
@@ -21,7 +23,7 @@ public:
   // A text without the white space before it, which the reader passes when it enters an element.
   void add_text(int field, std::string_view value)
   {
-    while (!value.empty() && is_space(value.front()))
+    while (!value.empty() && utXmlCharacter::is_space(value.front()))
       value.remove_prefix(1);
     add(field, value);
   }
@@ -30,8 +32,6 @@ public:
   bool operator!=(Digest const& other) const { return !(*this == other); }
 
 private:
-  static bool is_space(char c) { return c == ' ' || c == '\n' || c == '\t' || c == '\r'; }
-
   template <class Word>
   static std::uint64_t word(char const* at)
   {

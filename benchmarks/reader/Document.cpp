@@ -2,6 +2,8 @@
 
 #include "Tags.h"
 
+#include <utUtf8.h>
+
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
@@ -40,30 +42,6 @@ std::string with_replaced(std::string_view text, char from, std::string_view to)
   return result;
 }
 
-void append_utf8(std::string& text, unsigned long c)
-{
-  if (c < 0x80)
-    text += static_cast<char>(c);
-  else if (c < 0x800)
-  {
-    text += static_cast<char>(0xC0 | (c >> 6));
-    text += static_cast<char>(0x80 | (c & 0x3F));
-  }
-  else if (c < 0x10000)
-  {
-    text += static_cast<char>(0xE0 | (c >> 12));
-    text += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-    text += static_cast<char>(0x80 | (c & 0x3F));
-  }
-  else
-  {
-    text += static_cast<char>(0xF0 | (c >> 18));
-    text += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-    text += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-    text += static_cast<char>(0x80 | (c & 0x3F));
-  }
-}
-
 // A value with its entities replaced.
 std::string decoded_value(std::string_view value)
 {
@@ -81,8 +59,9 @@ std::string decoded_value(std::string_view value)
     std::string const entity(value.substr(i + 1, end - i - 1));
     auto const found = known.find(entity);
     if (end != std::string_view::npos && entity.size() > 1 && entity[0] == '#')
-      append_utf8(text, entity[1] == 'x' ? std::strtoul(entity.c_str() + 2, nullptr, 16)
-                                         : std::strtoul(entity.c_str() + 1, nullptr, 10));
+      utUtf8::append(static_cast<char32_t>(entity[1] == 'x' ? std::strtoul(entity.c_str() + 2, nullptr, 16)
+                                                            : std::strtoul(entity.c_str() + 1, nullptr, 10)),
+        text);
     else if (end != std::string_view::npos && found != known.end())
       text += found->second;
     else

@@ -10,18 +10,15 @@
 #include "axsStartTag.h"
 #include "axsTextNode.h"
 
+#include <utXmlCharacter.h>
+
 #include <algorithm>
 
 namespace
 {
-bool is_space(char c)
-{
-  return c == ' ' || c == '\t' || c == '\r' || c == '\n';
-}
-
 bool is_dropped(std::string_view text)
 {
-  return text != " " && std::all_of(text.begin(), text.end(), is_space);
+  return text != " " && std::all_of(text.begin(), text.end(), [](char c) { return utXmlCharacter::is_space(c); });
 }
 }
 

@@ -2,6 +2,8 @@
 
 #include "axsCharacters.h"
 
+#include <utUtf8.h>
+
 #include <string_view>
 
 namespace
@@ -46,6 +48,6 @@ bool axsReference::read(char const*& at, std::string& text)
   }
   if (at == digits || !is_character(code) || !skip(at, ";"))
     return false;
-  append_utf8(code, text);
+  utUtf8::append(code, text);
   return true;
 }

@@ -208,7 +208,7 @@ Step Scan::text()
   char const* p = at;
   while (true)
   {
-    p = behind_text<axsByteBlock, '<', '&', ']', '\r'>(p);
+    p = behind_text<apByteBlock, '<', '&', ']', '\r'>(p);
     switch (*p)
     {
     case '<':
@@ -405,7 +405,7 @@ bool Scan::section(char const*& p, std::string_view closing, std::string_view& d
   char const* from = begin;
   while (true)
   {
-    p = behind_text<axsByteBlock, '-', ']', '?', '\r'>(p);
+    p = behind_text<apByteBlock, '-', ']', '?', '\r'>(p);
     switch (*p)
     {
     case '-':

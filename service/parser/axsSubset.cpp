@@ -36,7 +36,7 @@ bool skip_rest_of_comment(char const*& at)
 {
   while (true)
   {
-    at = behind_text<axsByteBlock, '-', '\r'>(at);
+    at = behind_text<apByteBlock, '-', '\r'>(at);
     if (skip(at, "--"))
       return skip_character(at, '>');
     if (*at == '-' || *at == '\r')
@@ -56,7 +56,7 @@ bool skip_rest_of_instruction(char const*& at)
     return skip(at, "?>");
   while (true)
   {
-    at = behind_text<axsByteBlock, '?', '\r'>(at);
+    at = behind_text<apByteBlock, '?', '\r'>(at);
     if (skip(at, "?>"))
       return true;
     if (*at == '?' || *at == '\r')
@@ -104,7 +104,7 @@ bool read_entity_value(char const*& at, std::string& replacement)
   char const* from = ++at;
   while (true)
   {
-    at = behind_text<axsByteBlock, '"', '\'', '&', '%', '\r'>(at);
+    at = behind_text<apByteBlock, '"', '\'', '&', '%', '\r'>(at);
     switch (*at)
     {
     case '&':

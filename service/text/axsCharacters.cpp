@@ -1,31 +1,36 @@
 #include "axsCharacters.h"
 
-#include "axsXmlName.h"
-
 #include <algorithm>
+#include <iterator>
 
 namespace
 {
-// What is left of a sequence of `length` bytes, whose first one gave `code`; the smallest code that needs so many is
-// `smallest` (The Unicode Standard, 3.9, UTF-8).
-axsCharacters::Character read_rest(char const* at, char32_t code, std::size_t length, char32_t smallest)
+struct Range
 {
-  for (std::size_t i = 1; i < length; ++i)
-  {
-    auto const byte = static_cast<unsigned char>(at[i]);
-    if ((byte & 0xC0) != 0x80)
-      return {0, 0};
-    code = code << 6 | (byte & 0x3Fu);
-  }
-  if (code < smallest || !axsCharacters::is_character(code))
-    return {0, 0};
-  return {code, length};
+  char32_t first;
+  char32_t last;
+};
+
+// [4] NameStartChar beyond ASCII.
+constexpr Range start_ranges[] = {{0xC0, 0xD6}, {0xD8, 0xF6}, {0xF8, 0x2FF}, {0x370, 0x37D}, {0x37F, 0x1FFF},
+  {0x200C, 0x200D}, {0x2070, 0x218F}, {0x2C00, 0x2FEF}, {0x3001, 0xD7FF}, {0xF900, 0xFDCF}, {0xFDF0, 0xFFFD},
+  {0x10000, 0xEFFFF}};
+
+// What [4a] NameChar adds to it.
+constexpr Range further_ranges[] = {{0xB7, 0xB7}, {0x300, 0x36F}, {0x203F, 0x2040}};
+
+template <class Ranges>
+bool is_in(Ranges const& ranges, char32_t c)
+{
+  auto const range = std::lower_bound(
+    std::begin(ranges), std::end(ranges), c, [](Range const& less, char32_t than) { return less.last < than; });
+  return range != std::end(ranges) && c >= range->first;
 }
 
 // The length of the character at `at`, one beyond ASCII for which `test` holds; 0 of another one.
 std::size_t length_in_name(char const* at, bool (*test)(char32_t) noexcept)
 {
-  if (axsCharacters::is_ascii(*at))
+  if (utUtf8::is_ascii(*at))
     return 0;
   axsCharacters::Character const found = axsCharacters::character(at);
   return test(found.code) ? found.length : 0;
@@ -40,21 +45,21 @@ bool axsCharacters::is_equal_in_any_case(std::string_view text, std::string_view
 
 axsCharacters::Character axsCharacters::character(char const* at)
 {
-  auto const byte = static_cast<unsigned char>(*at);
-  if (byte < 0x80)
-    return {byte, is_character(byte) ? 1u : 0u};
-  if (byte < 0xE0)
-    return read_rest(at, byte & 0x1Fu, byte < 0xC0 ? 1 : 2, 0x80);
-  if (byte < 0xF0)
-    return read_rest(at, byte & 0xFu, 3, 0x800);
-  return byte < 0xF8 ? read_rest(at, byte & 0x7u, 4, 0x10000) : Character{0, 0};
+  // The zero byte that ends the text cuts a character off by itself.
+  utCodePoint const found = utUtf8::decode(at, at + utUtf8::max_bytes);
+  return found.is_valid() && utXmlCharacter::is_character(found.code) ? Character{found.code, found.length}
+                                                                      : Character{0, 0};
 }
 
-bool axsCharacters::is_character(char32_t code)
+bool axsCharacters::is_name_start(char32_t character) noexcept
 {
-  if (code < 0x20)
-    return code == '\t' || code == '\n' || code == '\r';
-  return code <= 0x10FFFF && (code < 0xD800 || code > 0xDFFF) && code != 0xFFFE && code != 0xFFFF;
+  return character < 0x80 ? is(static_cast<char>(character), name_start) : is_in(start_ranges, character);
+}
+
+bool axsCharacters::is_name_part(char32_t character) noexcept
+{
+  return character < 0x80 ? is(static_cast<char>(character), name)
+                          : is_in(start_ranges, character) || is_in(further_ranges, character);
 }
 
 bool axsCharacters::skip_multibyte(char const*& at)
@@ -71,34 +76,11 @@ bool axsCharacters::skip_multibyte(char const*& at)
   return true;
 }
 
-void axsCharacters::append_utf8(char32_t code, std::string& text)
-{
-  if (code < 0x80)
-  {
-    text += static_cast<char>(code);
-    return;
-  }
-  if (code < 0x800)
-    text += static_cast<char>(0xC0 | code >> 6);
-  else
-  {
-    if (code < 0x10000)
-      text += static_cast<char>(0xE0 | code >> 12);
-    else
-    {
-      text += static_cast<char>(0xF0 | code >> 18);
-      text += static_cast<char>(0x80 | (code >> 12 & 0x3F));
-    }
-    text += static_cast<char>(0x80 | (code >> 6 & 0x3F));
-  }
-  text += static_cast<char>(0x80 | (code & 0x3F));
-}
-
 char const* axsCharacters::behind_name(char const* at)
 {
   if (is(*at, name_start))
     return behind_rest_of_name(at + 1);
-  std::size_t const length = length_in_name(at, axsXmlName::is_start);
+  std::size_t const length = length_in_name(at, is_name_start);
   return length == 0 ? at : behind_rest_of_name(at + length);
 }
 
@@ -108,7 +90,7 @@ char const* axsCharacters::behind_rest_of_name(char const* at)
   {
     while (is(*at, name))
       ++at;
-    std::size_t const length = length_in_name(at, axsXmlName::is_part);
+    std::size_t const length = length_in_name(at, is_name_part);
     if (length == 0)
       return at;
     at += length;

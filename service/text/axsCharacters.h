@@ -1,17 +1,21 @@
 #pragma once
 
-#include "axsByteBlock.h"
+#include <apByteBlock.h>
+#include <utUtf8.h>
+#include <utXmlCharacter.h>
 
 #include <array>
 #include <cstddef>
 #include <cstring>
-#include <string>
 #include <string_view>
 
 /// The characters of XML 1.0 in UTF-8, for who reads them out of memory in which a zero byte stands behind the last one
-/// and `axsByteBlock::size` bytes more may be read.
+/// and `apByteBlock::size` bytes more may be read.
 namespace axsCharacters
 {
+using utUtf8::is_ascii;
+using utXmlCharacter::is_character;
+
 enum Class : unsigned char
 {
   space = 1,
@@ -22,7 +26,8 @@ enum Class : unsigned char
 constexpr std::array<unsigned char, 256> make_classes()
 {
   std::array<unsigned char, 256> made{};
-  made[' '] = made['\t'] = made['\r'] = made['\n'] = space;
+  for (std::size_t c = 0; c < 0x80; ++c)
+    made[c] = utXmlCharacter::is_space(static_cast<char>(c)) ? space : Class();
   for (std::size_t c = 0; c < 26; ++c)
     made['a' + c] = made['A' + c] = name_start | name;
   made[':'] = made['_'] = name_start | name;
@@ -38,11 +43,6 @@ inline constexpr std::array<unsigned char, 256> classes = make_classes();
 inline bool is(char c, Class of)
 {
   return (classes[static_cast<unsigned char>(c)] & of) != 0;
-}
-
-inline bool is_ascii(char c)
-{
-  return static_cast<unsigned char>(c) < 0x80;
 }
 
 inline char const* behind_spaces(char const* at)
@@ -99,14 +99,15 @@ struct Character
 };
 Character character(char const* at);
 
-bool is_character(char32_t code);
+/// Whether a name may begin with the character (2.3, [4] NameStartChar), and whether it may stand further on ([4a]
+/// NameChar).
+bool is_name_start(char32_t character) noexcept;
+bool is_name_part(char32_t character) noexcept;
 
 /// Moves behind characters beyond ASCII. Whether there was one, and nothing wrong among them.
 bool skip_multibyte(char const*& at);
 
-void append_utf8(char32_t code, std::string& text);
-
-/// Behind the name at `at` (axsXmlName); `at` itself if there is none.
+/// Behind the name at `at` (2.3, [5] Name); `at` itself if there is none.
 char const* behind_name(char const* at);
 
 /// Behind the rest of a name, of which the character before `at` is a part.
@@ -128,7 +129,8 @@ char const* behind_text(char const* at)
   while (true)
   {
     Block const block(at);
-    auto const found = (block.is_no_ascii_text() | ... | block.is(stops));
+    auto const found =
+      (block.is_control_or_non_ascii().without(block.is('\t') | block.is('\n')) | ... | block.is(stops));
     if (found.any())
       return at + found.first();
     at += Block::size;
@@ -136,13 +138,13 @@ char const* behind_text(char const* at)
 }
 
 /// The first byte at or behind `at` that is `quote`, '<', '&', not ASCII or a control character.
-template <class Block = axsByteBlock>
+template <class Block = apByteBlock>
 char const* behind_value(char const* at, char quote)
 {
   while (true)
   {
     Block const block(at);
-    auto const found = block.is_no_ascii_or_control() | block.is(quote) | block.is('<') | block.is('&');
+    auto const found = block.is_control_or_non_ascii() | block.is(quote) | block.is('<') | block.is('&');
     if (found.any())
       return at + found.first();
     at += Block::size;

@@ -6,7 +6,10 @@
 #include "axsElement.h"
 #include "axsProcessingInstruction.h"
 
+#include <utUtf8.h>
+
 #include <array>
+#include <cstdint>
 
 namespace
 {
@@ -53,14 +56,10 @@ bool is_no_character(std::string_view text, std::size_t at)
   return text.compare(at, 3, "\xEF\xBF\xBE") == 0 || text.compare(at, 3, "\xEF\xBF\xBF") == 0;
 }
 
-// The number of the character at `at`, which has up to three bytes.
-unsigned int number(std::string_view text, std::size_t at)
+// The number of the character at `at`.
+std::uint32_t character_number(std::string_view text, std::size_t at)
 {
-  auto const byte = [&](std::size_t i) { return static_cast<unsigned char>(text[at + i]); };
-  if (byte(0) < 0x80)
-    return byte(0);
-  return byte(0) < 0xE0 ? (byte(0) & 0x1Fu) << 6 | (byte(1) & 0x3Fu)
-                        : (byte(0) & 0x0Fu) << 12 | (byte(1) & 0x3Fu) << 6 | (byte(2) & 0x3Fu);
+  return utUtf8::decode(text.data() + at, text.data() + text.size()).code;
 }
 
 std::string_view reference(char c)
@@ -261,7 +260,7 @@ bool axsWriter::write_escaped(std::string_view text, bool in_attribute)
     if (std::size_t const length = needs_reference(text, at))
     {
       xml.append(text.substr(written, at - written));
-      xml += "&#" + std::to_string(number(text, at)) + ";";
+      xml += "&#" + std::to_string(character_number(text, at)) + ";";
       written = at + length;
       at = written - 1;
     }

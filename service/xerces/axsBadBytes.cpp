@@ -1,9 +1,9 @@
 #include "axsBadBytes.h"
 
-#include "axsByteBlock.h"
 #include "axsProlog.h"
 #include "axsSource.h"
 
+#include <apByteBlock.h>
 #include <apStringFormatter.h>
 
 #include <algorithm>
@@ -89,7 +89,7 @@ bool is_utf8(std::string_view head)
 {
   // There is no declaration that is longer; behind the text zero bytes are needed.
   std::string start(head.substr(0, 1000));
-  start.resize(start.size() + 2 * axsByteBlock::size);
+  start.resize(start.size() + 2 * apByteBlock::size);
   char const* at = start.data();
   axsProlog::Encoding encoding = axsProlog::Encoding::utf8;
   bool const has_zero = head.substr(0, 2).find('\0') != std::string_view::npos;

@@ -1,40 +1,11 @@
 #include "axsUtf16.h"
 
+#include <apWide.h>
+#include <utUtf16.h>
+#include <utUtf8.h>
+
 #include <cstdint>
 #include <cstring>
-
-namespace
-{
-bool is_high_surrogate(char32_t c)
-{
-  return c >= 0xD800 && c <= 0xDBFF;
-}
-
-bool is_low_surrogate(char32_t c)
-{
-  return c >= 0xDC00 && c <= 0xDFFF;
-}
-
-// One character that is not ASCII.
-char* write_character(char* to, char32_t c)
-{
-  if (c < 0x800)
-    *to++ = static_cast<char>(0xC0 | (c >> 6));
-  else
-  {
-    if (c < 0x10000)
-      *to++ = static_cast<char>(0xE0 | (c >> 12));
-    else
-    {
-      *to++ = static_cast<char>(0xF0 | (c >> 18));
-      *to++ = static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-    }
-    *to++ = static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-  }
-  *to++ = static_cast<char>(0x80 | (c & 0x3F));
-  return to;
-}
-}
 
 void axsUtf16::append_utf8(XMLCh const* text, std::size_t length, std::string& utf8)
 {
@@ -60,17 +31,9 @@ void axsUtf16::append_utf8(XMLCh const* text, std::size_t length, std::string& u
     if (text == end)
       break;
 
-    char32_t c = static_cast<char16_t>(*text++);
-    if (c < 0x80)
-    {
-      *to++ = static_cast<char>(c);
-      continue;
-    }
-    if (is_high_surrogate(c) && text != end && is_low_surrogate(static_cast<char16_t>(*text)))
-      c = 0x10000 + ((c - 0xD800) << 10) + (static_cast<char16_t>(*text++) - 0xDC00u);
-    else if (is_high_surrogate(c) || is_low_surrogate(c))
-      c = 0xFFFD;
-    to = write_character(to, c);
+    utCodePoint const found = utUtf16::decode(text, end);
+    text += found.length;
+    to = utUtf8::encode(found.or_replacement(), to);
   }
   utf8.resize(static_cast<std::size_t>(to - utf8.data()));
 }
@@ -96,18 +59,13 @@ std::basic_string<XMLCh> axsUtf16::from_string(apString const& text)
 {
   std::basic_string<XMLCh> units;
   units.reserve(text.view().size());
-  for (wchar_t const unit : text.view())
+  wchar_t const* const end = text.c_str() + text.length();
+  for (wchar_t const* at = text.c_str(); at != end;)
   {
-    auto const c = static_cast<char32_t>(unit);
-    if constexpr (sizeof(wchar_t) == 2)
-      units += static_cast<XMLCh>(c);
-    else if (c < 0x10000)
-      units += static_cast<XMLCh>(c);
-    else
-    {
-      units += static_cast<XMLCh>(0xD800 + ((c - 0x10000) >> 10));
-      units += static_cast<XMLCh>(0xDC00 + ((c - 0x10000) & 0x3FF));
-    }
+    utCodePoint const found = apWide::decode(at, end);
+    at += found.length;
+    XMLCh unit[2];
+    units.append(unit, utUtf16::encode(found.or_replacement(), unit));
   }
   return units;
 }

@@ -5,6 +5,8 @@
 #include <axsXPathText.h>
 
 #include <axsDocument.h>
+#include <utUtf8.h>
+#include <utXmlCharacter.h>
 
 #include <algorithm>
 #include <cmath>
@@ -477,7 +479,7 @@ double axsXPathEvaluator::number_call(Term const& term, Context const& context)
   case Function::sum:
     return sum_call(term, context);
   case Function::string_length:
-    return static_cast<double>(axsXPathText::count_characters(argument_text(term, context, scratch)));
+    return static_cast<double>(utUtf8::count(argument_text(term, context, scratch)));
   case Function::number:
     return term.count == 0 ? number_of_node(context.node) : number_of(operand(term, 0), context);
   case Function::floor:
@@ -615,7 +617,7 @@ void axsXPathEvaluator::add_ids(std::string_view names, Nodes& found)
   for (std::size_t at = 0; at < names.size();)
   {
     std::size_t end = at;
-    while (end < names.size() && !axsXPathText::is_space(names[end]))
+    while (end < names.size() && !utXmlCharacter::is_space(names[end]))
       ++end;
     if (axsNode* const element = ids->find(names.substr(at, end - at)))
       found.push_back(element);

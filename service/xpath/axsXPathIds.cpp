@@ -6,6 +6,7 @@
 #include <axsDoctype.h>
 #include <axsDocument.h>
 #include <axsElement.h>
+#include <utXmlCharacter.h>
 
 #include <cstddef>
 
@@ -36,7 +37,7 @@ public:
   /// A word, a group in parentheses or a literal in quotes, each without the white space before it.
   std::string_view take_word() noexcept
   {
-    while (!rest.empty() && axsXPathText::is_space(rest.front()))
+    while (!rest.empty() && utXmlCharacter::is_space(rest.front()))
       rest.remove_prefix(1);
     if (rest.empty())
       return {};

@@ -1,6 +1,7 @@
 #include <axsXPathLexer.h>
 
 #include <axsXPathText.h>
+#include <utXmlCharacter.h>
 
 namespace
 {
@@ -176,7 +177,7 @@ std::string_view axsXPathLexer::take_name() noexcept
 
 void axsXPathLexer::skip_space() noexcept
 {
-  while (at < text.size() && axsXPathText::is_space(text[at]))
+  while (at < text.size() && utXmlCharacter::is_space(text[at]))
     ++at;
 }
 

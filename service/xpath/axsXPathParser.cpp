@@ -1,7 +1,7 @@
 #include <axsXPathParser.h>
 
 #include <axsXPathNumber.h>
-#include <axsXPathText.h>
+#include <utUtf8.h>
 
 #include <algorithm>
 #include <iterator>
@@ -97,7 +97,7 @@ axsXPathParser::axsXPathParser(std::string_view expression, axsXPathError& failu
 
 bool axsXPathParser::parse_whole()
 {
-  if (!axsXPathText::is_utf8(text))
+  if (utUtf8::find_ill_formed(text) != std::string_view::npos)
     return fail(0, "the expression is not UTF-8") != failed;
   advance();
   if (parse_expression() == failed)
@@ -653,7 +653,7 @@ bool axsXPathParser::require_nodes(int term, std::size_t position, char const* p
 int axsXPathParser::fail(std::size_t position, std::string message)
 {
   error.message = std::move(message);
-  error.position = static_cast<int>(axsXPathText::count_characters(text.substr(0, position))) + 1;
+  error.position = static_cast<int>(utUtf8::count(text.substr(0, position))) + 1;
   return failed;
 }
 

@@ -1,9 +1,9 @@
 #include <axsXPathQuery.h>
 
 #include <axsXPathEvaluator.h>
-#include <axsXPathText.h>
 
 #include <axsDocument.h>
+#include <utUtf8.h>
 
 #include <algorithm>
 #include <unordered_set>
@@ -41,7 +41,7 @@ bool bind(axsXPathEvaluator& evaluator, std::string_view text, axsXPathError& er
   std::size_t place = 0;
   if (evaluator.bind(error, place))
     return true;
-  error.position = static_cast<int>(axsXPathText::count_characters(text.substr(0, place))) + 1;
+  error.position = static_cast<int>(utUtf8::count(text.substr(0, place))) + 1;
   return false;
 }
 

@@ -11,21 +11,8 @@
 class axsXPathText
 {
 public:
-  /// The white space of XML 1.0, production 3.
-  static bool is_space(char c) noexcept { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
-
-  /// Whether `c` is the first byte of a character.
-  static bool starts_character(char c) noexcept { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }
-
-  static std::size_t count_characters(std::string_view text) noexcept;
-
-  /// The number of bytes of the character that starts with `first`.
-  static std::size_t character_bytes(char first) noexcept;
-
-  /// The character at `at`, and `at` behind it; U+FFFFFFFF, and `at` one byte further, where the bytes are not UTF-8.
+  /// The character at `at`, which moves to its end; where the bytes are not UTF-8, no code point (utCodePoint).
   static char32_t next_character(std::string_view text, std::size_t& at) noexcept;
-
-  static bool is_utf8(std::string_view text) noexcept;
 
   static std::string_view trim(std::string_view text) noexcept;
 

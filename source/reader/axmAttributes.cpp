@@ -5,6 +5,11 @@
 
 #include <axmEndException.h>
 
+namespace
+{
+std::ptrdiff_t const block_size = apByteBlock::size;
+}
+
 utString axmAttributes::value(char const* tag, utString const& name, utString const& default_value)
 {
   if (tag != tag_start)
@@ -14,21 +19,20 @@ utString axmAttributes::value(char const* tag, utString const& name, utString co
   std::uint64_t const trace = trace_of(wanted);
   if ((traces & trace) == 0)
   {
-#if defined(AXM_FIND_SSE2)
     // Most often it is the very next one, and short.
     char const* const at = rest;
     int const length = wanted.length();
-    if (count < most && length < axmSixteen::size - 2 && text_end - at >= 3 * axmSixteen::size)
+    if (count < most && length < block_size - 2 && text_end - at >= 3 * block_size)
     {
-      axmSixteen const text(at);
+      apByteBlock const text(at);
       unsigned const behind_name = 1u << length;
       char const* const value = at + length + 2;
-      axmSixteen const value_text(value);
-      if ((text.equal('=') & (2 * behind_name - 1)) == behind_name &&
-          (~text.equal(axmSixteen(wanted.begin)) & (behind_name - 1)) == 0 && text.equal('\0') == 0)
-        if (unsigned const ends = value_text.equal(value[-1], '\0'))
+      apByteBlock const value_text(value);
+      if ((text.is('=').bits() & (2 * behind_name - 1)) == behind_name &&
+          (~text.is(apByteBlock(wanted.begin)).bits() & (behind_name - 1)) == 0 && !text.is('\0').any())
+        if (auto const ends = value_text.is(value[-1]) | value_text.is('\0'); ends.any())
         {
-          char const* const end = value + axmSixteen::first(ends);
+          char const* const end = value + ends.first();
           if (end[0] != '\0' && end[1] != '\0')
           {
             char const* const behind = skip_space(end + 1);
@@ -39,7 +43,6 @@ utString axmAttributes::value(char const* tag, utString const& name, utString co
           }
         }
     }
-#endif
   }
   return any_value(name, trace, default_value);
 }
@@ -79,19 +82,18 @@ void axmAttributes::enter(char const* tag)
 {
   tag_start = nullptr;
   char const* at = tag;
-#if defined(AXM_FIND_SSE2)
-  for (; text_end - at >= axmSixteen::size; at += axmSixteen::size)
+  for (; axm_has_block(at, text_end); at += block_size)
   {
-    axmSixteen const text(at);
-    if (text.equal('\0') != 0)
+    apByteBlock const text(at);
+    if (text.is('\0').any())
       break;
-    if (unsigned const found = text.equal(' ', '>'))
+    auto const found = text.is(' ') | text.is('>');
+    if (found.any())
     {
-      at += axmSixteen::first(found);
+      at += found.first();
       break;
     }
   }
-#endif
   while (*at != ' ' && *at != '>')
     if (*at++ == '\0')
       throw axmEndException();
@@ -142,20 +144,19 @@ bool axmAttributes::is_named(char const* at, axmTagName wanted) const
 // wanted.
 inline bool axmAttributes::read_name(char const* at, axmTagName wanted, char const*& name_end) const
 {
-#if defined(AXM_FIND_SSE2)
-  if (text_end - at >= axmSixteen::size)
+  if (axm_has_block(at, text_end))
   {
-    axmSixteen const text(at);
-    unsigned const equals = text.equal('=') & 0x3FFF; // so that two characters more are among the sixteen
-    if (equals != 0 && text.equal('\0') == 0)
+    apByteBlock const text(at);
+    // So that two characters more are in the block.
+    unsigned const equals = text.is('=').bits() & ((1u << (block_size - 2)) - 1);
+    if (equals != 0 && !text.is('\0').any())
     {
-      int const length = axmSixteen::first(equals);
+      int const length = apBits::lowest(equals);
       name_end = at + length;
       unsigned const in_name = (equals - 1) & ~equals;
-      return length == wanted.length() && (~text.equal(axmSixteen(wanted.begin)) & in_name) == 0;
+      return length == wanted.length() && (~text.is(apByteBlock(wanted.begin)).bits() & in_name) == 0;
     }
   }
-#endif
   return read_long_name(at, wanted, name_end);
 }
 

@@ -1,5 +1,6 @@
 #include "axmElementIndex.h"
 
+#include <apBits.h>
 #include <apMemory.h>
 
 #include <cstring>
@@ -8,25 +9,6 @@
 
 namespace
 {
-int lowest_bit(std::uint64_t mask)
-{
-#if defined(__GNUC__)
-  return __builtin_ctzll(mask);
-#else
-  int bit = 0;
-  for (; (mask & 1) == 0; mask >>= 1)
-    ++bit;
-  return bit;
-#endif
-}
-
-std::uint64_t word_at(char const* at)
-{
-  std::uint64_t word;
-  std::memcpy(&word, at, sizeof word);
-  return word;
-}
-
 // Whether `length` bytes are equal, where `readable` bytes can be read at `other` and more at `one`. Most names are so
 // short that a call of the C library is too much.
 inline bool are_equal(char const* one, char const* other, std::uint32_t length, std::uint32_t readable)
@@ -34,15 +16,12 @@ inline bool are_equal(char const* one, char const* other, std::uint32_t length, 
   if (length > 16 || readable < 8)
     return std::memcmp(one, other, length) == 0;
   if (length >= 8)
-    return ((word_at(one) ^ word_at(other)) | (word_at(one + length - 8) ^ word_at(other + length - 8))) == 0;
+    return ((apBits::load(one) ^ apBits::load(other)) |
+             (apBits::load(one + length - 8) ^ apBits::load(other + length - 8))) == 0;
   if (length == 0)
     return true;
-  std::uint64_t const difference = word_at(one) ^ word_at(other);
-#if defined(__BYTE_ORDER__) && __BYTE_ORDER__ == __ORDER_BIG_ENDIAN__
-  return difference >> (64 - 8 * length) == 0;
-#else
+  std::uint64_t const difference = apBits::load(one) ^ apBits::load(other);
   return difference << (64 - 8 * length) == 0;
-#endif
 }
 
 std::uint32_t name_end(char const* text, std::uint32_t at)
@@ -166,7 +145,7 @@ private:
   {
     while (bits == 0)
       next_block();
-    Place const at = block_begin + static_cast<Place>(lowest_bit(bits));
+    Place const at = block_begin + static_cast<Place>(apBits::lowest(bits));
     bits &= bits - 1;
     return at;
   }

@@ -12,14 +12,10 @@
 
 namespace
 {
-// Those bits of a word that are its first `count` bytes in memory, fewer than all.
+// Those bits of a word that are its first `count` bytes, fewer than all.
 std::uint64_t first_bytes(std::size_t count)
 {
-#if defined(__BYTE_ORDER__) && __BYTE_ORDER__ == __ORDER_BIG_ENDIAN__
-  return ~(~std::uint64_t(0) >> (8 * count));
-#else
   return ~(~std::uint64_t(0) << (8 * count));
-#endif
 }
 }
 
@@ -125,7 +121,7 @@ utString axmElementWalk::text_node(int depth)
 inline axmElementWalk::Wanted::Wanted(utString const& given) : name(axmTagName::of(given))
 {
   std::size_t const length = static_cast<std::size_t>(given.length());
-  std::memcpy(&word, name.begin, sizeof word);
+  word = apBits::load(name.begin);
   if (length <= sizeof word)
   {
     mask = length < sizeof word ? first_bytes(length) : ~std::uint64_t(0);
@@ -281,8 +277,7 @@ inline bool axmElementWalk::is_named(Place start, Wanted const& wanted) const
   char const* const name = text + start + 1;
   if (!wanted.is_plain || text_end - name < static_cast<std::ptrdiff_t>(sizeof wanted.word))
     return axmPositionX(text + start).is_tag_named(wanted.name);
-  std::uint64_t word;
-  std::memcpy(&word, name, sizeof word);
+  std::uint64_t const word = apBits::load(name);
   if ((word & wanted.mask) != wanted.word)
     return false;
   char const* at = name + sizeof word;

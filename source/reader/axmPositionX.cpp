@@ -6,6 +6,7 @@
 #include <axmCharException.h>
 #include <axmEndException.h>
 #include <axmTagException.h>
+#include <utXmlCharacter.h>
 
 #include <memory>
 
@@ -14,11 +15,6 @@ namespace
 char const closing_mark[] = {'<', '/'};
 char const comment_mark[] = {'<', '!', '-', '-'};
 char const cdata_mark[] = {'<', '!', '[', 'C', 'D', 'A', 'T', 'A', '['};
-
-bool is_space(char c)
-{
-  return c == ' ' || c == '\t' || c == '\n' || c == '\r';
-}
 
 // Whether `pattern` stands at `at`; throws where the comparison comes to the last character of the document.
 bool stands_at(char const* at, char const* pattern, int length)
@@ -145,7 +141,7 @@ bool axmPositionX::is_char(char c) const
 
 bool axmPositionX::is_whitespace() const
 {
-  return is_space(*current_pos);
+  return utXmlCharacter::is_space(*current_pos);
 }
 
 bool axmPositionX::is_string(utString const& s) const

@@ -1,7 +1,8 @@
 #include "axsInputBuffer.h"
 
-#include "axsByteBlock.h"
 #include "axsSource.h"
+
+#include <apByteBlock.h>
 
 #include <cstring>
 #include <string_view>
@@ -14,7 +15,7 @@ std::string_view const byte_order_mark = "\xEF\xBB\xBF";
 
 std::unique_ptr<char[]> make_bytes(std::size_t room)
 {
-  return std::make_unique<char[]>(axsLineEnds::bytes_before + room + 1 + axsByteBlock::size);
+  return std::make_unique<char[]>(axsLineEnds::bytes_before + room + 1 + apByteBlock::size);
 }
 }
 

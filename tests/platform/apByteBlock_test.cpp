@@ -1,4 +1,4 @@
-#include "axsByteBlock.h"
+#include <apByteBlock.h>
 
 #include <gtest/gtest.h>
 
@@ -7,17 +7,17 @@
 namespace
 {
 template <class Block>
-class axsByteBlock_ : public testing::Test
+class apByteBlock_ : public testing::Test
 {
 };
 
-#if defined(__SSE2__)
-using Blocks = testing::Types<axsWordBlock, axsSse2Block>;
+#if defined(AP_HAS_SSE2)
+using Blocks = testing::Types<apWordBlock, apSse2Block>;
 #else
-using Blocks = testing::Types<axsWordBlock>;
+using Blocks = testing::Types<apWordBlock>;
 #endif
 // The comma, because clang wants an argument where none has to be.
-TYPED_TEST_SUITE(axsByteBlock_, Blocks, );
+TYPED_TEST_SUITE(apByteBlock_, Blocks, );
 
 // Every byte at every place, between every two neighbours out of some that differ from what is looked for by a carry.
 template <class Block, class Find, class Expected>
@@ -44,32 +44,57 @@ void expect_everywhere(Find find, Expected expected)
         }
 }
 
-bool is_no_ascii_or_control(char c)
+bool is_control_or_non_ascii(char c)
 {
   return static_cast<unsigned char>(c) < 0x20 || static_cast<unsigned char>(c) >= 0x80;
 }
 }
 
-TYPED_TEST(axsByteBlock_, finds_a_character)
+TYPED_TEST(apByteBlock_, finds_a_character)
 {
   for (char const wanted : {'<', '\0', '\x01', '\x7F', '\x80', '\xFF'})
     expect_everywhere<TypeParam>(
       [=](TypeParam const& block) { return block.is(wanted); }, [=](char c) { return c == wanted; });
 }
 
-TYPED_TEST(axsByteBlock_, finds_what_is_no_ascii_or_a_control)
+TYPED_TEST(apByteBlock_, finds_controls_and_what_is_no_ascii)
 {
   expect_everywhere<TypeParam>(
-    [](TypeParam const& block) { return block.is_no_ascii_or_control(); }, is_no_ascii_or_control);
+    [](TypeParam const& block) { return block.is_control_or_non_ascii(); }, is_control_or_non_ascii);
 }
 
-TYPED_TEST(axsByteBlock_, finds_what_is_no_ascii_text)
+TYPED_TEST(apByteBlock_, finds_some_without_others)
 {
-  expect_everywhere<TypeParam>([](TypeParam const& block) { return block.is_no_ascii_text(); },
-    [](char c) { return is_no_ascii_or_control(c) && c != '\t' && c != '\n'; });
+  expect_everywhere<TypeParam>([](TypeParam const& block)
+    { return block.is_control_or_non_ascii().without(block.is('\t') | block.is('\n')); },
+    [](char c) { return is_control_or_non_ascii(c) && c != '\t' && c != '\n'; });
 }
 
-TYPED_TEST(axsByteBlock_, finds_one_or_the_other)
+TYPED_TEST(apByteBlock_, finds_either_of_two_that_differ_in_one_bit)
+{
+  expect_everywhere<TypeParam>(
+    [](TypeParam const& block) { return block.is_either('<', '>'); }, [](char c) { return c == '<' || c == '>'; });
+}
+
+TYPED_TEST(apByteBlock_, compares_byte_by_byte)
+{
+  std::string const other(TypeParam::size, '=');
+  expect_everywhere<TypeParam>(
+    [&](TypeParam const& block) { return block.is(TypeParam(other.data())); }, [](char c) { return c == '='; });
+}
+
+TYPED_TEST(apByteBlock_, has_a_bit_for_each_byte)
+{
+  std::string bytes(TypeParam::size, 'a');
+  for (std::uint32_t expected = 0; expected < 1u << TypeParam::size; ++expected)
+  {
+    for (std::size_t place = 0; place < bytes.size(); ++place)
+      bytes[place] = (expected >> place & 1) != 0 ? '<' : 'a';
+    ASSERT_EQ(TypeParam(bytes.data()).is('<').bits(), expected);
+  }
+}
+
+TYPED_TEST(apByteBlock_, finds_one_or_the_other)
 {
   expect_everywhere<TypeParam>([](TypeParam const& block)
     { return block.is('<') | block.is('\x09') | block.is('\x80'); },
