@@ -1,7 +1,5 @@
 #include "axsDocumentFactory.h"
 
-#include "axsDocument.h"
-#include "axsElement.h"
 #include "axsHandle.h"
 #include "axsReadError.h"
 #include "axsReader.h"
@@ -25,10 +23,10 @@ apString new_uri()
   return apStringFormatter::format(L"axs:document:%u", ++documents);
 }
 
-axsDocument* own_document(std::shared_ptr<axmDocument> const& document)
+axsDomDocument* own_document(std::shared_ptr<axmDocument> const& document)
 {
-  axsNode* const node = document == nullptr ? nullptr : axsNode::of(*document);
-  return node == nullptr || !node->is_document() ? nullptr : static_cast<axsDocument*>(node);
+  axsNode* const node = document == nullptr ? nullptr : axsHandle::node_of(*document);
+  return node == nullptr || !node->is_document() ? nullptr : static_cast<axsDomDocument*>(node);
 }
 
 std::shared_ptr<axmDocument> read(axsSource& source, axmLoadOptions const& options)
@@ -71,7 +69,7 @@ axsDocumentFactory::~axsDocumentFactory() = default;
 
 std::shared_ptr<axmDocument> axsDocumentFactory::createDocument(apString const& root_name) const
 {
-  std::shared_ptr<axmDocument> document = axsDocument::make(new_uri());
+  std::shared_ptr<axmDocument> document = axsDomDocument::make(new_uri());
   std::shared_ptr<axmElement> const root = document->createElement(root_name);
   if (root == nullptr)
     return nullptr;
@@ -93,12 +91,12 @@ std::shared_ptr<axmDocument> axsDocumentFactory::loadDocument(
 
 bool axsDocumentFactory::saveDocument(std::shared_ptr<axmDocument> document, apByteArray& output)
 {
-  axsDocument const* const own = own_document(document);
+  axsDomDocument const* const own = own_document(document);
   return own != nullptr && axsSaver::save(*own, output);
 }
 
 bool axsDocumentFactory::saveDocument(std::shared_ptr<axmDocument> document, apPath const& path)
 {
-  axsDocument const* const own = own_document(document);
+  axsDomDocument const* const own = own_document(document);
   return own != nullptr && axsSaver::save(*own, path);
 }

@@ -1,6 +1,6 @@
 #include "axsReader.h"
 
-#include "axsDocument.h"
+#include "axsHandle.h"
 #include "axsScanner.h"
 #include "axsSource.h"
 #include "axsTreeBuilder.h"
@@ -8,9 +8,9 @@
 
 namespace
 {
-axsDocument& tree_of(axmDocument& document)
+axsDomDocument& tree_of(axmDocument& document)
 {
-  return static_cast<axsDocument&>(*axsNode::of(document));
+  return static_cast<axsDomDocument&>(*axsHandle::node_of(document));
 }
 }
 
@@ -22,7 +22,7 @@ std::shared_ptr<axmDocument> axsReader::read(axsSource& source, axmLoadOptions c
 
 std::shared_ptr<axmDocument> axsReader::scan(axsSource& source, axmLoadOptions const& options, apString const& uri)
 {
-  std::shared_ptr<axmDocument> document = axsDocument::make(uri);
+  std::shared_ptr<axmDocument> document = axsDomDocument::make(uri);
   axsTreeBuilder builder(tree_of(*document));
   if (axsScanner::scan(source, options, builder))
     return document;
@@ -32,7 +32,7 @@ std::shared_ptr<axmDocument> axsReader::scan(axsSource& source, axmLoadOptions c
 
 std::shared_ptr<axmDocument> axsReader::parse(axsSource& source, axmLoadOptions const& options, apString const& uri)
 {
-  std::shared_ptr<axmDocument> document = axsDocument::make(uri);
+  std::shared_ptr<axmDocument> document = axsDomDocument::make(uri);
   axsTreeBuilder builder(tree_of(*document));
   axsXercesParser::parse(source, options, builder);
   return document;

@@ -1,14 +1,15 @@
 #include "axsTreeBuilder.h"
 
-#include "axsAttribute.h"
-#include "axsCommentNode.h"
-#include "axsDoctype.h"
-#include "axsDocument.h"
+#include "axsDomAttribute.h"
+#include "axsDomComment.h"
+#include "axsDomDoctype.h"
+#include "axsDomDocument.h"
+#include "axsDomElement.h"
+#include "axsDomInstruction.h"
+#include "axsDomText.h"
 #include "axsDtd.h"
-#include "axsElement.h"
-#include "axsProcessingInstruction.h"
+#include "axsIdDeclarations.h"
 #include "axsStartTag.h"
-#include "axsTextNode.h"
 
 #include <utXmlCharacter.h>
 
@@ -22,11 +23,11 @@ bool is_dropped(std::string_view text)
 }
 }
 
-axsTreeBuilder::axsTreeBuilder(axsDocument& document) noexcept : built(document), open(&document) {}
+axsTreeBuilder::axsTreeBuilder(axsDomDocument& document) noexcept : built(document), open(&document) {}
 
 void axsTreeBuilder::declaration(std::string_view version, std::string_view, std::string_view)
 {
-  built.is_xml_1_1 = version == "1.1";
+  built.set_xml_1_1(version == "1.1");
 }
 
 axsName const& axsTreeBuilder::name(std::string_view text)
@@ -36,14 +37,14 @@ axsName const& axsTreeBuilder::name(std::string_view text)
 
 void axsTreeBuilder::start_element(axsStartTag const& tag)
 {
-  axsElement* const element = built.make_element(*tag.name);
-  axsTree::append(*open, *element);
+  axsDomElement* const element = built.make_element(*tag.name);
+  open->append_new(*element);
   open = element;
   axsAttribute* last = nullptr;
   for (axsTagAttribute const& attribute : *tag.attributes)
   {
-    axsAttribute* const made = built.make_attribute(*attribute.name, attribute.value);
-    element->append_attribute(*made, last);
+    axsDomAttribute* const made = built.make_attribute(*attribute.name, attribute.value);
+    element->append_new_attribute(*made, last);
     last = made;
   }
 }
@@ -56,20 +57,21 @@ void axsTreeBuilder::end_element()
 void axsTreeBuilder::text(std::string_view text, bool is_cdata)
 {
   if (!is_dropped(text) && !open->is_document())
-    axsTree::append(*open, *built.make_text(text, is_cdata));
+    open->append_new(*built.make_text(text, is_cdata));
 }
 
 void axsTreeBuilder::comment(std::string_view data)
 {
-  axsTree::append(*open, *built.make_comment(data));
+  open->append_new(*built.make_comment(data));
 }
 
 void axsTreeBuilder::processing_instruction(std::string_view target, std::string_view data)
 {
-  axsTree::append(*open, *built.make_processing_instruction(target, data));
+  open->append_new(*built.make_processing_instruction(target, data));
 }
 
 void axsTreeBuilder::doctype(std::shared_ptr<axsDtd const> const& type)
 {
-  axsTree::append(*open, *built.make_doctype(type->text));
+  open->append_new(*built.make_doctype(type->text));
+  axsIdDeclarations::read(type->text, built);
 }

@@ -2,10 +2,7 @@
 
 #include "axsParseHandler.h"
 
-class axsAttribute;
-class axsDocument;
-class axsElement;
-class axsNode;
+class axsDomDocument;
 class axsParent;
 
 /// Builds the tree of a document from what a parser tells. The document is held by its caller.
@@ -14,7 +11,7 @@ class axsParent;
 class axsTreeBuilder final : public axsParseHandler
 {
 public:
-  explicit axsTreeBuilder(axsDocument& document) noexcept;
+  explicit axsTreeBuilder(axsDomDocument& document) noexcept;
 
   void declaration(std::string_view version, std::string_view encoding, std::string_view standalone) override;
   axsName const& name(std::string_view text) override;
@@ -26,6 +23,6 @@ public:
   void doctype(std::shared_ptr<axsDtd const> const& type) override;
 
 private:
-  axsDocument& built;
+  axsDomDocument& built;
   axsParent* open;
 };

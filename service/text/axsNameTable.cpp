@@ -27,7 +27,7 @@ axsName const* axsNameTable::find(std::string_view text) const noexcept
   return found == names.end() ? nullptr : found->second.get();
 }
 
-axsName const* axsNameTable::given(apString const& text)
+axsName const* axsNameTable::intern_checked(apString const& text)
 {
   std::wstring_view const name = text.view();
   if (name.empty())

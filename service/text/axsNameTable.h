@@ -23,11 +23,8 @@ public:
   bool has_namespaces() const noexcept { return namespaces; }
 
   /// The object for the name that a caller gives, null if it is no XML name. Throws std::bad_alloc when memory runs out.
-  /// A name that was given a short time ago is found without a look at each character's right to stand there.
-  axsName const* given(apString const& text);
-
-  /// What every text is named, other than those of CDATA sections (DOM Core, nodeName).
-  apString const& of_texts() const noexcept { return text_name; }
+  /// A name that was asked for a short time ago is not checked again.
+  axsName const* intern_checked(apString const& text);
 
   /// The name that has the number, which is not axsName::no_number.
   axsName const& numbered(std::uint16_t number) const noexcept { return *by_number[number]; }
@@ -37,7 +34,6 @@ private:
   std::unordered_map<std::string_view, std::unique_ptr<axsName const>, axsTextHash> names;
   std::vector<axsName const*> by_number;
   bool namespaces = false;
-  apString const text_name = APSTRING("#text");
   // Names that callers gave, each in a place that follows from its length and its ends.
   axsName const* recent[16] = {};
 };

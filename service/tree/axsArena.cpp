@@ -38,7 +38,7 @@ struct alignas(std::max_align_t) axsArena::LargeBlock
   std::size_t size;
 };
 
-axsArena::axsArena(axsDocument& owner) noexcept : document(&owner) {}
+axsArena::axsArena(axsTree& owner) noexcept : tree(&owner) {}
 
 axsArena::~axsArena()
 {
@@ -120,7 +120,7 @@ void axsArena::add_pages()
 {
   std::size_t const size = next_pages * page_size;
   auto* const memory = static_cast<char*>(::operator new(size, std::align_val_t(page_size)));
-  newest = new (memory) Page{document, newest, next_pages};
+  newest = new (memory) Page{tree, newest, next_pages};
   untouched = memory;
   untouched_end = memory + size;
   taken += size;
@@ -133,7 +133,7 @@ void axsArena::next_page() noexcept
   if (room.left() > rest.left())
     rest = room;
   if (untouched != reinterpret_cast<char*>(newest))
-    new (untouched) Page{document, nullptr, 0};
+    new (untouched) Page{tree, nullptr, 0};
   room = {untouched + rounded(sizeof(Page), granule), untouched + page_size};
   untouched = room.end;
   ASAN_POISON_MEMORY_REGION(room.begin, room.left());

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <new>
 
-class axsDocument;
+class axsTree;
 
 /// The memory of one document: nodes, names and texts.
 ///
@@ -17,7 +17,7 @@ public:
   /// Up to here a block is a small one.
   static constexpr std::size_t small_limit = 1024;
 
-  explicit axsArena(axsDocument& owner) noexcept;
+  explicit axsArena(axsTree& owner) noexcept;
   axsArena(axsArena const&) = delete;
   axsArena& operator=(axsArena const&) = delete;
   ~axsArena();
@@ -32,16 +32,16 @@ public:
   std::size_t footprint() const noexcept { return taken; }
 
   /// The document in whose arena the small block at `block` lies.
-  static axsDocument& document_of(void const* block) noexcept
+  static axsTree& tree_of(void const* block) noexcept
   {
     auto const address = reinterpret_cast<std::uintptr_t>(block);
-    return *reinterpret_cast<Page const*>(address - address % page_size)->document;
+    return *reinterpret_cast<Page const*>(address - address % page_size)->tree;
   }
 
 private:
   struct Page
   {
-    axsDocument* document;
+    axsTree* tree;
     // Of the first page that came with others: the one that came before them, and their number.
     Page* older;
     std::size_t pages;
@@ -69,7 +69,7 @@ private:
   void add_pages();
   void next_page() noexcept;
 
-  axsDocument* document;
+  axsTree* tree;
   FreeBlock* free_blocks[small_limit / granule + 1] = {};
   Room room;
   Room rest;

@@ -1,80 +1,70 @@
 #pragma once
 
+#include "axsAttribute.h"
 #include "axsName.h"
-#include "axsNodeOf.h"
-
-#include <axmElement.h>
+#include "axsParent.h"
 
 #include <string_view>
 
-class axsAttribute;
-
-/// An element of the tree.
-class axsElement final : public axsNodeOf<axmElement, axsParent>
+/// An element: a name, attributes in the order in which they came, children.
+///
+/// Most names have a number, which the record holds; the address of another name follows the record.
+class axsElement : public axsParent
 {
 public:
-  /// Takes size_for(name) bytes.
-  explicit axsElement(axsName const& name) noexcept;
-
-  /// The bytes that an element of that name takes, and this one.
+  /// The bytes of the record, for an element of that name and for this one.
   static std::size_t size_for(axsName const& name) noexcept { return size_for(name.number()); }
-  std::size_t size() const noexcept { return size_for(name_number); }
+  std::size_t size() const noexcept { return size_for(name_number()); }
 
   axsName const& element_name() const noexcept;
 
   /// Whether `name`, of this document, is the name. Costs less than asking for that.
   bool is_named(axsName const& name) const noexcept
   {
-    return name.number() == name_number && (name_number != axsName::no_number || &name == name_behind());
+    return name.number() == name_number() && (name_number() != axsName::no_number || &name == following_name());
   }
-
-  apString getNodeName() const override;
-  std::shared_ptr<axmNode> getFirstChild() override;
-  std::shared_ptr<axmNode> getNextSibling() override;
-  bool hasAttributes() const override { return attributes != nullptr; }
-  std::shared_ptr<axmNamedNodeMap> getAttributes() override;
-
-  void reserved_element_0() override;
-  apString getAttribute(apString const& name) const override;
-  void setAttribute(apString const& name, apString const& value) override;
-  void removeAttribute(apString const& name) override;
-  bool hasAttribute(apString const& name) const override;
-  std::shared_ptr<axmNodeList> selectNodes(apString const& xpath) override;
-  std::shared_ptr<axmNode> selectSingleNode(apString const& xpath) override;
-  void reserved_element_7() override;
-  void reserved_element_8() override;
-  void reserved_element_9() override;
-  void reserved_element_10() override;
-  void reserved_element_11() override;
-
-  using axmNode::get_attribute;
-
-  /// The same as in the interface, without the way over map and attribute node.
-  bool get_attribute(apString const& name, apString& value) const override;
 
   axsAttribute* first_attribute() const noexcept { return attributes; }
 
-  /// The attribute of that name, null if there is none.
-  axsAttribute* find_attribute(apString const& name) const noexcept;
+  /// The attribute of that name, null if there is none. Costs a step for each attribute.
+  axsAttribute* find_attribute(std::wstring_view name) const noexcept;
   axsAttribute* find_attribute(std::string_view name) const noexcept;
+  axsAttribute* find_attribute(axsName const& name) const noexcept;
 
-  /// Links a detached attribute of a new name behind `last`, which is the last attribute or, if there is none, null.
-  void append_attribute(axsAttribute& attribute, axsAttribute* last) noexcept;
+  /// Links a detached attribute of a new name, which nobody holds, after `last`, which is the last attribute or, if there
+  /// is none, null.
+  void append_new_attribute(axsAttribute& attribute, axsAttribute* last) noexcept;
 
-  /// Puts a detached attribute in, in the place of `replaced` if that is not null, and takes one out.
+  /// Puts a detached attribute that a caller holds, as it does this element, in the place of `replaced`, which a caller
+  /// holds as well; after the others if that is null.
   void put_attribute(axsAttribute& attribute, axsAttribute* replaced) noexcept;
+
+  /// Takes an attribute of this element out; it is freed if nobody holds it.
   void take_attribute(axsAttribute& attribute) noexcept;
 
-private:
-  friend class axsTree;
+protected:
+  /// Takes size_for(name) bytes.
+  explicit axsElement(axsName const& name) noexcept;
+  ~axsElement() = default;
 
+private:
   static std::size_t size_for(std::uint16_t number) noexcept
   {
     return sizeof(axsElement) + (number == axsName::no_number ? sizeof(axsName const*) : 0);
   }
 
-  // An element whose name has no number has its address behind the object.
-  axsName const* name_behind() const noexcept { return *reinterpret_cast<axsName const* const*>(this + 1); }
+  axsName const* following_name() const noexcept { return *reinterpret_cast<axsName const* const*>(this + 1); }
+  axsAttribute* attribute_before(axsAttribute const* attribute) const noexcept;
 
   axsAttribute* attributes = nullptr;
 };
+
+inline axsAttribute* axsNode::first_attribute() const noexcept
+{
+  return is_element() ? static_cast<axsElement const*>(this)->first_attribute() : nullptr;
+}
+
+inline axsElement* axsAttribute::owner() const noexcept
+{
+  return static_cast<axsElement*>(parent());
+}

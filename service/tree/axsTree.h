@@ -1,46 +1,116 @@
 #pragma once
 
-#include "axsNode.h"
+#include "axsArena.h"
+#include "axsElement.h"
+#include "axsIdAttributes.h"
+#include "axsLeaf.h"
+#include "axsNameTable.h"
+#include "axsParent.h"
 
-#include <apString.h>
-#include <axmDocument.h>
-#include <axmNamedNodeMap.h>
-#include <axmNodeList.h>
+#include <cstdint>
+#include <string_view>
+#include <utility>
 
-#include <memory>
-
-class axsElement;
-
-/// The operations on the tree: those of the node interface, checked, and those of the reading room, which knows that
-/// what it builds is right. None recurses.
-class axsTree
+/// A document: the node at the top, and what belongs to all its nodes, attached to it or not: their memory, their names,
+/// what its document type declares.
+///
+/// Goes, with all its nodes, when it is no longer held; see axsNode. Nodes are made detached; one that is never held and
+/// enters no tree stays until the document goes. Belongs to one thread at a time.
+class axsTree : public axsParent
 {
 public:
-  // The node interface.
-  static apString node_name(axsNode const& node);
-  static std::shared_ptr<axmNode> handle(axsNode* node) { return node == nullptr ? nullptr : node->handle(); }
-  static std::shared_ptr<axmNodeList> children(axsNode& node);
-  static std::shared_ptr<axmDocument> owner_document(axsNode& node);
-  static std::shared_ptr<axmNode> insert_before(
-    axsNode& node, std::shared_ptr<axmNode> const& new_child, std::shared_ptr<axmNode> const& ref_child);
-  static std::shared_ptr<axmNode> replace_child(
-    axsNode& node, std::shared_ptr<axmNode> const& new_child, std::shared_ptr<axmNode> const& old_child);
-  static std::shared_ptr<axmNode> remove_child(axsNode& node, std::shared_ptr<axmNode> const& old_child);
-  static apString text(axsNode const& node);
-  static void set_text(axsNode& node, apString const& text);
-  static apString xml(axsNode const& node);
-  static std::shared_ptr<axmNodeList> select_nodes(axsNode& context, apString const& xpath);
-  static std::shared_ptr<axmNode> select_single_node(axsNode& context, apString const& xpath);
+  axsNameTable& names() noexcept { return name_table; }
+  axsNameTable const& names() const noexcept { return name_table; }
+  axsArena& arena() noexcept { return memory; }
 
-  /// Links a detached node that is not busy as the last child of `parent`, unchecked.
-  static void append(axsParent& parent, axsNode& child) noexcept;
+  /// Which attributes the document type declares to be IDs. Filled by what reads the document.
+  axsIdAttributes& id_attributes() noexcept { return declared_ids; }
 
-  /// Frees a tree of which no node is busy, attributes included. Its root must be linked to nothing.
-  static void free_tree(axsNode& root) noexcept;
+  axsElement* root_element() const noexcept;
+
+  /// Null if there is none, or no longer.
+  axsNode* doctype() const noexcept;
+
+  /// Whether it was read as XML 1.1, which can hold more characters than 1.0.
+  bool is_xml_1_1() const noexcept { return xml_1_1; }
+  void set_xml_1_1(bool is_so) noexcept { xml_1_1 = is_so; }
+
+  /// How often an attribute has come or gone, anywhere in the document.
+  std::uint64_t attribute_changes() const noexcept { return attribute_change_count; }
+  void count_attribute_change() noexcept { ++attribute_change_count; }
+
+  /// Makes a detached element or leaf, of a class derived from axsElement or axsLeaf that adds no data to it but its
+  /// interface; a leaf's constructor takes the units of room and the arguments. Throw std::bad_alloc when memory runs out.
+  template <class Element>
+  Element* make_element(axsName const& name);
+  template <class Leaf, class... Arguments>
+  Leaf* make_leaf(std::string_view text, Arguments&&... arguments);
+
+  /// Frees a node that is linked to nothing, its attributes, and all below it, of which nobody holds any. It does not
+  /// recurse.
+  void free_subtree(axsNode& top) noexcept;
+
+  /// Told before a node, an attribute too, is taken out of where it was.
+  void nodes_leave() noexcept
+  {
+    if (has_leave_watch)
+      nodes_leaving();
+  }
+
+protected:
+  axsTree() noexcept : axsParent(axsKind::document, axsName::no_number), memory(*this) {}
+  ~axsTree() = default;
+
+  /// Whether nodes_leaving() is to be called.
+  void watch_leaving(bool is_wanted) noexcept { has_leave_watch = is_wanted; }
 
 private:
-  static void link(axsParent& parent, axsNode& child, axsNode* before) noexcept;
-  static void unlink(axsNode& child) noexcept;
-  static void detach(axsNode& child) noexcept;
-  static void move(axsParent& parent, axsNode& child, axsNode* before) noexcept;
+  friend class axsNode;
+  friend class axsParent;
+
+  // What those above are told. The first is that nobody holds the document any more, which is to be deleted.
+  virtual void destroy() noexcept = 0;
+  virtual void nodes_leaving() noexcept = 0;
+  // Of children of a watched parent: one has come, and one is about to go.
+  virtual void child_linked(axsParent& parent, axsNode const& child) noexcept = 0;
+  virtual void child_unlinking(axsParent& parent, axsNode const& child) noexcept = 0;
+
+  void free_node(axsNode& node) noexcept;
+  void free_leaf(axsLeaf& leaf) noexcept;
+
+  axsArena memory;
+  axsNameTable name_table;
+  axsIdAttributes declared_ids;
+  std::uint64_t attribute_change_count = 0;
+  bool xml_1_1 = false;
+  bool has_leave_watch = false;
 };
+
+template <class Element>
+Element* axsTree::make_element(axsName const& name)
+{
+  static_assert(sizeof(Element) == lead + sizeof(axsElement));
+  return new (memory.allocate(lead + axsElement::size_for(name))) Element(name);
+}
+
+// A text that a small block can hold stands in the block of its node.
+template <class Leaf, class... Arguments>
+Leaf* axsTree::make_leaf(std::string_view text, Arguments&&... arguments)
+{
+  static_assert(sizeof(Leaf) == lead + sizeof(axsLeaf));
+  bool const is_within = sizeof(Leaf) + text.size() <= axsArena::small_limit;
+  std::size_t const units = is_within ? axsLeaf::units_for(text.size()) : 1;
+  std::size_t const size = sizeof(Leaf) + units * axsLeaf::unit;
+  void* const block = memory.allocate(size);
+  auto* const leaf = new (block) Leaf(static_cast<std::uint8_t>(units), std::forward<Arguments>(arguments)...);
+  try
+  {
+    static_cast<axsLeaf*>(leaf)->set_text(text);
+  }
+  catch (...)
+  {
+    memory.release(block, size);
+    throw;
+  }
+  return leaf;
+}

@@ -1,6 +1,6 @@
 #pragma once
 
-class axsDocument;
+class axsTree;
 
 /// Whether the names of a tree stand for something (Namespaces in XML 1.0): edits may leave a prefix without its
 /// declaration, or give one element two attributes of the same name in the same namespace, and what is then saved could not
@@ -8,5 +8,5 @@ class axsDocument;
 namespace axsNamespaceCheck
 {
 /// Throws std::bad_alloc when memory runs out. It does not recurse.
-bool holds(axsDocument const& document);
+bool holds(axsTree const& document);
 }

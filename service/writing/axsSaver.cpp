@@ -1,12 +1,12 @@
 #include "axsSaver.h"
 
-#include "axsDocument.h"
 #include "axsNamespaceCheck.h"
+#include "axsTree.h"
 #include "axsWriter.h"
 
 #include <apAtomicFile.h>
 
-bool axsSaver::save(axsDocument const& document, apByteArray& output) noexcept
+bool axsSaver::save(axsTree const& document, apByteArray& output) noexcept
 try
 {
   std::string xml;
@@ -20,7 +20,7 @@ catch (...)
   return false;
 }
 
-bool axsSaver::save(axsDocument const& document, apPath const& path) noexcept
+bool axsSaver::save(axsTree const& document, apPath const& path) noexcept
 try
 {
   if (!axsNamespaceCheck::holds(document))

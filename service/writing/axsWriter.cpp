@@ -1,10 +1,6 @@
 #include "axsWriter.h"
 
-#include "axsAttribute.h"
-#include "axsDoctype.h"
-#include "axsDocument.h"
-#include "axsElement.h"
-#include "axsProcessingInstruction.h"
+#include "axsTree.h"
 
 #include <utUtf8.h>
 
@@ -87,7 +83,7 @@ std::string_view reference(char c)
 axsWriter::axsWriter(axsNode const& top, std::string& buffer, std::FILE* target)
   : xml(buffer),
     file(target),
-    is_xml_1_1(top.is_document() && top.document().is_xml_1_1)
+    is_xml_1_1(top.is_document() && top.tree().is_xml_1_1())
 {
 }
 
@@ -138,7 +134,7 @@ bool axsWriter::open(axsNode const& node)
   {
   case axsKind::document:
     xml += is_xml_1_1 ? "<?xml version=\"1.1\" encoding=\"UTF-8\"?>\n" : "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
-    return static_cast<axsDocument const&>(node).root_element() != nullptr;
+    return static_cast<axsTree const&>(node).root_element() != nullptr;
   case axsKind::element:
   {
     xml += '<';
@@ -156,13 +152,15 @@ bool axsWriter::open(axsNode const& node)
     xml += '"';
     return true;
   case axsKind::text:
-    return write_text(node);
+    return write_escaped(node.value(), false);
+  case axsKind::cdata_section:
+    return write_cdata(node.value());
   case axsKind::comment:
     return write_comment(node.value());
   case axsKind::processing_instruction:
-    return write_instruction(static_cast<axsProcessingInstruction const&>(node).text());
+    return write_instruction(static_cast<axsLeaf const&>(node).text());
   case axsKind::doctype:
-    xml += static_cast<axsDoctype const&>(node).text();
+    xml += static_cast<axsLeaf const&>(node).text();
     return true;
   }
   return false;
@@ -188,18 +186,14 @@ bool axsWriter::write_attributes(axsElement const& element)
   return true;
 }
 
-bool axsWriter::write_text(axsNode const& node)
-{
-  std::string_view const text = node.value();
-  bool whole =
-    node.is_cdata() && text.find("]]>") == std::string_view::npos && text.find('\r') == std::string_view::npos;
-  for (std::size_t at = 0; whole && is_xml_1_1 && at < text.size(); ++at)
-    whole = needs_reference(text, at) == 0;
-  return whole ? write_cdata(text) : write_escaped(text, false);
-}
-
+// A section holds no references: what needs one is written as a text.
 bool axsWriter::write_cdata(std::string_view text)
 {
+  bool is_whole = text.find("]]>") == std::string_view::npos && text.find('\r') == std::string_view::npos;
+  for (std::size_t at = 0; is_whole && is_xml_1_1 && at < text.size(); ++at)
+    is_whole = needs_reference(text, at) == 0;
+  if (!is_whole)
+    return write_escaped(text, false);
   xml += "<![CDATA[";
   if (!write_raw(text))
     return false;

@@ -32,7 +32,6 @@ private:
   bool open(axsNode const& node);
   void close(axsNode const& node);
   bool write_attributes(axsElement const& element);
-  bool write_text(axsNode const& node);
   bool write_cdata(std::string_view text);
   bool write_comment(std::string_view text);
   bool write_instruction(std::string_view text);

@@ -1,6 +1,6 @@
-#include <axsXPathCache.h>
+#include "axsXPathCache.h"
 
-#include <axsXPathParser.h>
+#include "axsXPathParser.h"
 
 #include <algorithm>
 #include <optional>

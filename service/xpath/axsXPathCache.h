@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axsXPathError.h>
+#include "axsXPathError.h"
 
 #include <cstddef>
 #include <memory>

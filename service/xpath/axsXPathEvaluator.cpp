@@ -1,10 +1,10 @@
-#include <axsXPathEvaluator.h>
+#include "axsXPathEvaluator.h"
 
-#include <axsXPathLease.h>
-#include <axsXPathNumber.h>
-#include <axsXPathText.h>
+#include "axsTree.h"
+#include "axsXPathLease.h"
+#include "axsXPathNumber.h"
+#include "axsXPathText.h"
 
-#include <axsDocument.h>
 #include <utUtf8.h>
 #include <utXmlCharacter.h>
 
@@ -97,7 +97,7 @@ axsElement* scope_of(axsNode& node) noexcept
   while (at != nullptr && !at->is_element() && !at->is_document())
     at = at->parent();
   if (at != nullptr && at->is_document())
-    return static_cast<axsDocument*>(at)->root_element();
+    return static_cast<axsTree*>(at)->root_element();
   return static_cast<axsElement*>(at);
 }
 }
@@ -148,7 +148,7 @@ bool axsXPathEvaluator::bind_step(Expression::Step const& step, axsElement const
     return true;
   if (!test.has_prefix)
   {
-    test.name = given.document().names().find(name.local);
+    test.name = given.tree().names().find(name.local);
     return true;
   }
   if (name.prefix == "xml")
@@ -563,7 +563,7 @@ std::string_view axsXPathEvaluator::substring_call(Term const& term, Context con
 
 bool axsXPathEvaluator::lang_call(Term const& term, Context const& context)
 {
-  axsName const* const attribute = given.document().names().find("xml:lang");
+  axsName const* const attribute = given.tree().names().find("xml:lang");
   axsXPathNode at = context.node;
   while (!at.is_none() && tree.kind(at) != axsXPathTree::element_kind)
     at = tree.parent(at);

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <axsTextHash.h>
-#include <axsXPathContext.h>
-#include <axsXPathError.h>
-#include <axsXPathExpression.h>
-#include <axsXPathIds.h>
-#include <axsXPathSelector.h>
-#include <axsXPathTest.h>
-#include <axsXPathTree.h>
-#include <axsXPathValue.h>
+#include "axsTextHash.h"
+#include "axsXPathContext.h"
+#include "axsXPathError.h"
+#include "axsXPathExpression.h"
+#include "axsXPathIds.h"
+#include "axsXPathSelector.h"
+#include "axsXPathTest.h"
+#include "axsXPathTree.h"
+#include "axsXPathValue.h"
 
 #include <cstddef>
 #include <limits>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <axsXPathAxis.h>
-#include <axsXPathFunction.h>
-#include <axsXPathType.h>
+#include "axsXPathAxis.h"
+#include "axsXPathFunction.h"
+#include "axsXPathType.h"
 
 #include <cstddef>
 #include <string>

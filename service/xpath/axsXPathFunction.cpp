@@ -1,6 +1,6 @@
-#include <axsXPathFunction.h>
+#include "axsXPathFunction.h"
 
-#include <axsXPathExpression.h>
+#include "axsXPathExpression.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axsXPathType.h>
+#include "axsXPathType.h"
 
 #include <string_view>
 

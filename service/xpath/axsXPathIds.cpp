@@ -1,84 +1,12 @@
-#include <axsXPathIds.h>
+#include "axsXPathIds.h"
 
-#include <axsXPathText.h>
-
-#include <axsAttribute.h>
-#include <axsDoctype.h>
-#include <axsDocument.h>
-#include <axsElement.h>
-#include <utXmlCharacter.h>
-
-#include <cstddef>
-
-namespace
-{
-/// Reads a declaration from its front to its end.
-class Reader
-{
-public:
-  explicit Reader(std::string_view declaration) noexcept : rest(declaration) {}
-
-  bool is_at_end() const noexcept { return rest.empty(); }
-
-  bool take(std::string_view wanted) noexcept
-  {
-    if (rest.substr(0, wanted.size()) != wanted)
-      return false;
-    rest.remove_prefix(wanted.size());
-    return true;
-  }
-
-  void skip_behind(std::string_view wanted) noexcept
-  {
-    std::size_t const found = rest.find(wanted);
-    rest.remove_prefix(found == std::string_view::npos ? rest.size() : found + wanted.size());
-  }
-
-  /// A word, a group in parentheses or a literal in quotes, each without the white space before it.
-  std::string_view take_word() noexcept
-  {
-    while (!rest.empty() && utXmlCharacter::is_space(rest.front()))
-      rest.remove_prefix(1);
-    if (rest.empty())
-      return {};
-    char const first = rest.front();
-    std::size_t end = first == '(' ? rest.find(')') : rest.find_first_of(" \t\r\n(\"'");
-    if (first == '"' || first == '\'')
-      end = rest.find(first, 1);
-    if (end != std::string_view::npos && (first == '(' || first == '"' || first == '\''))
-      ++end;
-    std::string_view const word = rest.substr(0, end);
-    rest.remove_prefix(word.size());
-    return word;
-  }
-
-  /// What stands before the next '>' that is not in quotes, passed over.
-  std::string_view take_declaration() noexcept
-  {
-    std::string_view const begin = rest;
-    while (!rest.empty() && rest.front() != '>')
-    {
-      char const c = rest.front();
-      rest.remove_prefix(1);
-      if (c == '"' || c == '\'')
-        skip_behind(std::string_view(&c, 1));
-    }
-    return begin.substr(0, begin.size() - rest.size());
-  }
-
-  void skip_character() noexcept { rest.remove_prefix(1); }
-
-private:
-  std::string_view rest;
-};
-}
+#include "axsTree.h"
+#include "axsXPathText.h"
 
 axsXPathIds::axsXPathIds(axsNode& top)
+  : declared(top.tree().doctype() == nullptr ? nullptr : &top.tree().id_attributes()),
+    xml_id(top.tree().names().find("xml:id"))
 {
-  axsDocument& document = top.document();
-  for (axsNode* child = document.first_child(); child != nullptr; child = child->next_sibling())
-    if (child->kind() == axsKind::doctype)
-      read_declarations(static_cast<axsDoctype*>(child)->text());
   for (axsNode* node = &top; node != nullptr; node = node->next_in_tree(top))
     if (node->is_element())
       add(static_cast<axsElement&>(*node));
@@ -90,56 +18,13 @@ axsNode* axsXPathIds::find(std::string_view id) const
   return found == elements.end() ? nullptr : found->second;
 }
 
-void axsXPathIds::read_declarations(std::string_view doctype)
-{
-  Reader reader(doctype);
-  reader.skip_behind("<!DOCTYPE");
-  while (!reader.is_at_end())
-  {
-    if (reader.take("<!--"))
-      reader.skip_behind("-->");
-    else if (reader.take("<?"))
-      reader.skip_behind("?>");
-    else if (reader.take("<!ATTLIST"))
-      read_attribute_list(reader.take_declaration());
-    else if (reader.take("<!"))
-      reader.take_declaration();
-    else if (reader.take("\""))
-      reader.skip_behind("\"");
-    else if (reader.take("'"))
-      reader.skip_behind("'");
-    else
-      reader.skip_character();
-  }
-}
-
-void axsXPathIds::read_attribute_list(std::string_view declaration)
-{
-  Reader reader(declaration);
-  std::string_view const element = reader.take_word();
-  for (;;)
-  {
-    std::string_view const attribute = reader.take_word();
-    std::string_view const type = reader.take_word();
-    if (type.empty())
-      return;
-    if (type == "NOTATION")
-      reader.take_word();
-    if (reader.take_word() == "#FIXED")
-      reader.take_word();
-    if (type == "ID")
-      declared[element].insert(attribute);
-  }
-}
-
 void axsXPathIds::add(axsElement& element)
 {
-  // Not the other way round: of the declared attributes there may be more than an element has.
-  auto const named = declared.find(element.element_name().utf8());
+  axsIdAttributes::Names const* const ids = declared == nullptr ? nullptr : declared->of(element.element_name());
   for (axsAttribute* at = element.first_attribute(); at != nullptr; at = at->next_attribute())
   {
-    std::string_view const name = at->full_name().utf8();
-    if (name == "xml:id" || (named != declared.end() && named->second.count(name) != 0))
+    axsName const& name = at->full_name();
+    if (&name == xml_id || (ids != nullptr && ids->count(&name) != 0))
       elements.emplace(axsXPathText::trim(at->text()), &element);
   }
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axsXPathSelector.h>
+#include "axsXPathSelector.h"
 
 #include <utility>
 #include <vector>

@@ -1,6 +1,7 @@
-#include <axsXPathLexer.h>
+#include "axsXPathLexer.h"
 
-#include <axsXPathText.h>
+#include "axsXPathText.h"
+
 #include <utXmlCharacter.h>
 
 namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axsXPathToken.h>
+#include "axsXPathToken.h"
 
 #include <string_view>
 

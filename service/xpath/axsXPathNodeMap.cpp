@@ -1,4 +1,4 @@
-#include <axsXPathNodeMap.h>
+#include "axsXPathNodeMap.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
-#include <axsXPathNumber.h>
+#include "axsXPathNumber.h"
 
-#include <axsXPathText.h>
+#include "axsXPathText.h"
 
 #include <charconv>
 #include <cmath>

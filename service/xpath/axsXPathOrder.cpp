@@ -1,4 +1,4 @@
-#include <axsXPathOrder.h>
+#include "axsXPathOrder.h"
 
 #include <algorithm>
 #include <utility>

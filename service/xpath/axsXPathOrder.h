@@ -1,7 +1,7 @@
 #pragma once
 
-#include <axsXPathNodeMap.h>
-#include <axsXPathTree.h>
+#include "axsXPathNodeMap.h"
+#include "axsXPathTree.h"
 
 #include <cstddef>
 #include <vector>

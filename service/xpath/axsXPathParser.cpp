@@ -1,6 +1,7 @@
-#include <axsXPathParser.h>
+#include "axsXPathParser.h"
 
-#include <axsXPathNumber.h>
+#include "axsXPathNumber.h"
+
 #include <utUtf8.h>
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <axsXPathError.h>
-#include <axsXPathExpression.h>
-#include <axsXPathLexer.h>
+#include "axsXPathError.h"
+#include "axsXPathExpression.h"
+#include "axsXPathLexer.h"
 
 #include <optional>
 #include <string>

@@ -1,8 +1,8 @@
-#include <axsXPathQuery.h>
+#include "axsXPathQuery.h"
 
-#include <axsXPathEvaluator.h>
+#include "axsXPathCache.h"
+#include "axsXPathEvaluator.h"
 
-#include <axsDocument.h>
 #include <utUtf8.h>
 
 #include <algorithm>
@@ -18,22 +18,18 @@ axsNode* handed_out(axsXPathNode node) noexcept
   return node.is_extra() ? node.extra().declaration : node.node();
 }
 
-std::vector<axsXPathNode> handed_out(std::vector<axsXPathNode> nodes)
+std::vector<axsNode*> handed_out(std::vector<axsXPathNode> const& nodes)
 {
+  std::vector<axsNode*> found;
+  found.reserve(nodes.size());
   std::unordered_set<axsNode*> declarations;
-  auto const place = [&](axsXPathNode& node)
+  for (axsXPathNode const node : nodes)
   {
-    if (!node.is_extra())
-      return true;
-    node = handed_out(node);
-    return !node.is_none() && declarations.insert(node.node()).second;
-  };
-  auto kept = nodes.begin();
-  for (axsXPathNode& node : nodes)
-    if (place(node))
-      *kept++ = node;
-  nodes.erase(kept, nodes.end());
-  return nodes;
+    axsNode* const shown = handed_out(node);
+    if (shown != nullptr && (!node.is_extra() || declarations.insert(shown).second))
+      found.push_back(shown);
+  }
+  return found;
 }
 
 bool bind(axsXPathEvaluator& evaluator, std::string_view text, axsXPathError& error)
@@ -60,18 +56,20 @@ std::vector<axsXPathNode> select_nodes(axsXPathEvaluator& evaluator, axsXPathExp
 }
 }
 
-std::vector<axsXPathNode> axsXPathQuery::select(axsNode& context, std::string_view text, axsXPathError& error)
+std::vector<axsNode*> axsXPathQuery::select(
+  axsXPathCache& cache, axsNode& context, std::string_view text, axsXPathError& error)
 {
-  auto const expression = context.document().xpath_cache().compile(text, error);
+  auto const expression = cache.compile(text, error);
   if (expression == nullptr)
     return {};
   axsXPathEvaluator evaluator(*expression, context);
   return handed_out(select_nodes(evaluator, *expression, text, Want::all, error));
 }
 
-axsNode* axsXPathQuery::select_first(axsNode& context, std::string_view text, axsXPathError& error)
+axsNode* axsXPathQuery::select_first(
+  axsXPathCache& cache, axsNode& context, std::string_view text, axsXPathError& error)
 {
-  auto const expression = context.document().xpath_cache().compile(text, error);
+  auto const expression = cache.compile(text, error);
   if (expression == nullptr)
     return nullptr;
   axsXPathEvaluator evaluator(*expression, context);
@@ -87,9 +85,10 @@ axsNode* axsXPathQuery::select_first(axsNode& context, std::string_view text, ax
   return found == nodes.end() ? nullptr : handed_out(*found);
 }
 
-bool axsXPathQuery::evaluate(axsNode& context, std::string_view text, Value& value, axsXPathError& error)
+bool axsXPathQuery::evaluate(
+  axsXPathCache& cache, axsNode& context, std::string_view text, Value& value, axsXPathError& error)
 {
-  auto const expression = context.document().xpath_cache().compile(text, error);
+  auto const expression = cache.compile(text, error);
   if (expression == nullptr)
     return false;
   axsXPathEvaluator evaluator(*expression, context);

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <axsXPathError.h>
-#include <axsXPathNode.h>
-#include <axsXPathType.h>
+#include "axsXPathError.h"
+#include "axsXPathType.h"
 
 #include <string>
 #include <string_view>
 #include <vector>
 
 class axsNode;
+class axsXPathCache;
 
 /// Queries of the tree, from the text of an expression to what it gives; see axsXPath.
 ///
@@ -21,7 +21,7 @@ public:
   struct Value
   {
     axsXPathType type = axsXPathType::node_set;
-    std::vector<axsXPathNode> nodes;
+    std::vector<axsNode*> nodes;
     bool boolean = false;
     double number = 0;
     /// The value as a string.
@@ -30,11 +30,14 @@ public:
 
   /// The nodes that `expression`, UTF-8, selects, in document order, each once. Where it is wrong or does not give a
   /// node-set, none, with the reason in `error`, which is without a message otherwise.
-  static std::vector<axsXPathNode> select(axsNode& context, std::string_view expression, axsXPathError& error);
+  static std::vector<axsNode*> select(
+    axsXPathCache& cache, axsNode& context, std::string_view expression, axsXPathError& error);
 
   /// The first of them, null if there is none, without looking for the others where that can be spared.
-  static axsNode* select_first(axsNode& context, std::string_view expression, axsXPathError& error);
+  static axsNode* select_first(
+    axsXPathCache& cache, axsNode& context, std::string_view expression, axsXPathError& error);
 
   /// The value of `expression`, whatever its type. False, with the reason in `error`, where it is wrong.
-  static bool evaluate(axsNode& context, std::string_view expression, Value& value, axsXPathError& error);
+  static bool evaluate(
+    axsXPathCache& cache, axsNode& context, std::string_view expression, Value& value, axsXPathError& error);
 };

@@ -1,8 +1,6 @@
-#include <axsXPathScopes.h>
+#include "axsXPathScopes.h"
 
-#include <axsAttribute.h>
-#include <axsDocument.h>
-#include <axsElement.h>
+#include "axsTree.h"
 
 #include <vector>
 
@@ -16,18 +14,10 @@ axsElement const* parent_element(axsElement const& element) noexcept
   axsNode const* const parent = element.parent();
   return parent != nullptr && parent->is_element() ? static_cast<axsElement const*>(parent) : nullptr;
 }
-
-axsAttribute const* find_attribute(axsElement const& element, axsName const& name) noexcept
-{
-  axsAttribute const* attribute = element.first_attribute();
-  while (attribute != nullptr && &attribute->full_name() != &name)
-    attribute = attribute->next_attribute();
-  return attribute;
-}
 }
 
-axsXPathScopes::axsXPathScopes(axsDocument& searched) noexcept
-  : document(searched),
+axsXPathScopes::axsXPathScopes(axsTree& searched) noexcept
+  : tree(searched),
     default_declaration(searched.names().find("xmlns"))
 {
 }
@@ -62,7 +52,7 @@ axsName const* axsXPathScopes::declaration_of(std::string_view prefix)
   auto const known = declarations.find(prefix);
   if (known != declarations.end())
     return known->second;
-  axsName const* const declaration = document.names().find("xmlns:" + std::string(prefix));
+  axsName const* const declaration = tree.names().find("xmlns:" + std::string(prefix));
   declarations.emplace(prefix, declaration);
   return declaration;
 }
@@ -74,7 +64,7 @@ std::string_view axsXPathScopes::nearest_value(axsElement const& element, axsNam
   int levels = 0;
   for (axsElement const* at = &element; at != nullptr; at = parent_element(*at))
   {
-    if (axsAttribute const* const attribute = find_attribute(*at, name))
+    if (axsAttribute const* const attribute = at->find_attribute(name))
     {
       result = attribute->text();
       break;

@@ -8,9 +8,9 @@
 #include <string_view>
 #include <unordered_map>
 
-class axsDocument;
 class axsElement;
 class axsName;
+class axsTree;
 
 /// What elements of one document have from those above them: the namespaces that prefixes stand for, and the values of
 /// attributes that hold for all below.
@@ -21,7 +21,7 @@ class axsXPathScopes
 public:
   static constexpr std::string_view xml_uri = "http://www.w3.org/XML/1998/namespace";
 
-  explicit axsXPathScopes(axsDocument& document) noexcept;
+  explicit axsXPathScopes(axsTree& tree) noexcept;
 
   /// The namespace that `prefix` stands for at `element`, that of elements without a prefix if it is empty. Empty where
   /// there is none: an undeclared prefix, or no default namespace.
@@ -65,7 +65,7 @@ private:
   /// The name of the attribute that declares `prefix`, null if the document never had one.
   axsName const* declaration_of(std::string_view prefix);
 
-  axsDocument& document;
+  axsTree& tree;
   axsName const* default_declaration;
   std::unordered_map<std::string_view, axsName const*, axsTextHash> declarations;
   std::unordered_map<Place, std::string_view, PlaceHash> far_results;

@@ -1,7 +1,7 @@
-#include <axsXPathSelector.h>
+#include "axsXPathSelector.h"
 
-#include <axsXPathEvaluator.h>
-#include <axsXPathLease.h>
+#include "axsXPathEvaluator.h"
+#include "axsXPathLease.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <axsXPathContext.h>
-#include <axsXPathExpression.h>
-#include <axsXPathOrder.h>
-#include <axsXPathTest.h>
-#include <axsXPathTree.h>
-#include <axsXPathVisitor.h>
+#include "axsXPathContext.h"
+#include "axsXPathExpression.h"
+#include "axsXPathOrder.h"
+#include "axsXPathTest.h"
+#include "axsXPathTree.h"
+#include "axsXPathVisitor.h"
 
 #include <cstddef>
 #include <vector>

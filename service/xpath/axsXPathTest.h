@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axsXPathExpression.h>
+#include "axsXPathExpression.h"
 
 #include <string_view>
 

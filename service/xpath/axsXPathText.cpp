@@ -1,7 +1,8 @@
-#include <axsXPathText.h>
+#include "axsXPathText.h"
 
-#include <axsCharacters.h>
-#include <axsXPathNumber.h>
+#include "axsCharacters.h"
+#include "axsXPathNumber.h"
+
 #include <utUtf8.h>
 #include <utXmlCharacter.h>
 

@@ -1,7 +1,6 @@
-#include <axsXPathTree.h>
+#include "axsXPathTree.h"
 
-#include <axsAttribute.h>
-#include <axsDocument.h>
+#include "axsTree.h"
 
 #include <unordered_set>
 
@@ -11,7 +10,7 @@ using Test = axsXPathExpression::NodeTest;
 
 bool is_text(axsNode const* node) noexcept
 {
-  return node != nullptr && node->kind() == axsKind::text;
+  return node != nullptr && node->is_text();
 }
 
 /// Whether the texts from `first` on hold a character.
@@ -37,6 +36,7 @@ bool is_visible(axsNode const& node) noexcept
   switch (node.kind())
   {
   case axsKind::text:
+  case axsKind::cdata_section:
     return !is_text(node.previous_sibling()) && has_characters(node);
   case axsKind::doctype:
     return false;
@@ -84,7 +84,7 @@ axsXPathTree::axsXPathTree(axsNode& context)
   : topmost(&context.root()),
     detached_root{topmost, nullptr, -1},
     tree_root(topmost->is_document() ? axsXPathNode(topmost) : axsXPathNode(&detached_root)),
-    namespaces(context.document())
+    namespaces(context.tree())
 {
 }
 
@@ -92,7 +92,7 @@ axsXPathNode axsXPathTree::wrapped(axsNode& node) const noexcept
 {
   if (node.kind() == axsKind::doctype)
     return {};
-  if (node.kind() != axsKind::text)
+  if (!node.is_text())
     return &node;
   axsNode& first = first_text(node);
   return has_characters(first) ? axsXPathNode(&first) : axsXPathNode();
@@ -109,6 +109,7 @@ axsXPathTree::Kind axsXPathTree::kind(axsXPathNode node) const noexcept
   case axsKind::attribute:
     return attribute_kind;
   case axsKind::text:
+  case axsKind::cdata_section:
     return text_kind;
   case axsKind::comment:
     return comment_kind;
@@ -337,7 +338,7 @@ axsXPathTree::Range axsXPathTree::collect_namespaces(axsElement& element)
     ++range.count;
   };
 
-  axsName const* const declaration_of_xml = element.document().names().find("xmlns:xml");
+  axsName const* const declaration_of_xml = element.tree().names().find("xmlns:xml");
   std::unordered_set<axsName const*> hidden;
   add(nullptr);
   for (axsNode* at = &element; at != nullptr; at = at->parent())
@@ -381,7 +382,7 @@ bool axsXPathTree::walk_following(axsXPathNode from, axsXPathTest const& test, a
   if (at->is_attribute())
     at = at->parent();
   if (at != nullptr)
-    at = is_inside ? at->next_in_tree(*topmost) : at->next_behind(*topmost);
+    at = is_inside ? at->next_in_tree(*topmost) : at->next_after_subtree(*topmost);
   for (; at != nullptr; at = at->next_in_tree(*topmost))
     if (passes(*at, test) && visit(at))
       return true;

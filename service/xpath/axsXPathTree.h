@@ -1,14 +1,14 @@
 #pragma once
 
-#include <axsXPathAxis.h>
-#include <axsXPathNode.h>
-#include <axsXPathScopes.h>
-#include <axsXPathTest.h>
-#include <axsXPathVisitor.h>
+#include "axsXPathAxis.h"
+#include "axsXPathNode.h"
+#include "axsXPathScopes.h"
+#include "axsXPathTest.h"
+#include "axsXPathVisitor.h"
 
-#include <axsElement.h>
-#include <axsName.h>
-#include <axsNode.h>
+#include "axsElement.h"
+#include "axsName.h"
+#include "axsNode.h"
 
 #include <cstddef>
 #include <deque>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <axsXPathNode.h>
-#include <axsXPathType.h>
+#include "axsXPathNode.h"
+#include "axsXPathType.h"
 
 #include <string>
 #include <vector>

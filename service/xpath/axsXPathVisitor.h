@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axsXPathNode.h>
+#include "axsXPathNode.h"
 
 #include <type_traits>
 

@@ -6,11 +6,11 @@
 
 /// A node that is no element, handed out as one by a list: answers all node operations as the node itself and is equal
 /// to it; what only elements have, attributes, it has none of and takes none. Holds the node.
-class axsNodeView final : public axmElement
+class axsDomNodeView final : public axmElement
 {
 public:
-  explicit axsNodeView(axsNode& node);
-  ~axsNodeView() override;
+  explicit axsDomNodeView(axsNode& node);
+  ~axsDomNodeView() override;
 
   axsNode& node() const noexcept { return viewed; }
 

@@ -1,29 +1,28 @@
-#include <axsXPath.h>
+#include "axsXPath.h"
 
-#include <axsXPathQuery.h>
-
-#include <axsNode.h>
+#include "axsHandle.h"
+#include "axsXPathQuery.h"
 
 #include <utility>
 
 bool axsXPath::evaluate(axmNode& context, apString const& expression, Value& value, axsXPathError& error)
 {
-  axsNode* const node = axsNode::of(context);
+  axsNode* const node = axsHandle::node_of(context);
   if (node == nullptr)
   {
     error = {"the context is no node of this engine", 1};
     return false;
   }
-  utString const text = expression.to_utf8();
+  axsXPathCache& cache = axsDomDocument::of(*node).xpath_cache();
   axsXPathQuery::Value found;
-  if (!axsXPathQuery::evaluate(*node, {text.c_str(), static_cast<std::size_t>(text.length())}, found, error))
+  if (!axsXPathQuery::evaluate(cache, *node, expression.to_utf8().view(), found, error))
     return false;
 
   Value made;
   made.type = found.type;
   made.nodes.reserve(found.nodes.size());
-  for (axsXPathNode const each : found.nodes)
-    made.nodes.push_back(each.node()->handle());
+  for (axsNode* const each : found.nodes)
+    made.nodes.push_back(axsHandle::of(each));
   made.boolean = found.boolean;
   made.number = found.number;
   made.text = apString::from_utf8(found.text);

@@ -1,6 +1,5 @@
 #include "axsAttributeMap.h"
 
-#include "axsAttribute.h"
 #include "axsElement.h"
 #include "axsHandle.h"
 
@@ -26,7 +25,7 @@ std::shared_ptr<axmNode> axsAttributeMap::item(int index)
 {
   if (index < 0)
     return nullptr;
-  std::uint64_t const changes = axsArena::document_of(&owner).attribute_changes;
+  std::uint64_t const changes = axsArena::tree_of(&owner).attribute_changes();
   if (place == nullptr || changes != seen_changes || index < place_index)
   {
     place = owner.first_attribute();
@@ -35,18 +34,18 @@ std::shared_ptr<axmNode> axsAttributeMap::item(int index)
   }
   for (; place != nullptr && place_index < index; ++place_index)
     place = place->next_attribute();
-  return axsTree::handle(place);
+  return axsHandle::of(place);
 }
 
 std::shared_ptr<axmNode> axsAttributeMap::getNamedItem(apString const& name)
 {
-  return axsTree::handle(owner.find_attribute(name));
+  return axsHandle::of(owner.find_attribute(name.view()));
 }
 
 std::shared_ptr<axmNode> axsAttributeMap::removeNamedItem(apString const& name)
 {
-  axsAttribute* const attribute = owner.find_attribute(name);
-  std::shared_ptr<axmNode> removed = axsTree::handle(attribute);
+  axsAttribute* const attribute = owner.find_attribute(name.view());
+  std::shared_ptr<axmNode> removed = axsHandle::of(attribute);
   if (removed != nullptr)
     owner.take_attribute(*attribute);
   return removed;
@@ -54,8 +53,8 @@ std::shared_ptr<axmNode> axsAttributeMap::removeNamedItem(apString const& name)
 
 std::shared_ptr<axmNode> axsAttributeMap::setNamedItem(std::shared_ptr<axmNode> node)
 {
-  axsNode* const given = node == nullptr ? nullptr : axsNode::of(*node);
-  if (given == nullptr || !given->is_attribute() || &given->document() != &owner.document())
+  axsNode* const given = node == nullptr ? nullptr : axsHandle::node_of(*node);
+  if (given == nullptr || !given->is_attribute() || &given->tree() != &owner.tree())
     return nullptr;
   auto& attribute = static_cast<axsAttribute&>(*given);
   if (attribute.owner() == &owner)
@@ -63,8 +62,8 @@ std::shared_ptr<axmNode> axsAttributeMap::setNamedItem(std::shared_ptr<axmNode> 
   // An attribute belongs to one element (DOM Core, INUSE_ATTRIBUTE_ERR).
   if (attribute.owner() != nullptr)
     return nullptr;
-  axsAttribute* const present = owner.find_attribute(attribute.full_name().wide());
-  std::shared_ptr<axmNode> replaced = axsTree::handle(present);
+  axsAttribute* const present = owner.find_attribute(attribute.full_name());
+  std::shared_ptr<axmNode> replaced = axsHandle::of(present);
   owner.put_attribute(attribute, present);
   return replaced;
 }

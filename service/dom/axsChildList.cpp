@@ -1,29 +1,20 @@
 #include "axsChildList.h"
 
-#include "axsDocument.h"
+#include "axsDomDocument.h"
+#include "axsHandle.h"
 
-axsChildList::axsChildList(axsNode& node) noexcept : parent(&node)
+axsChildList::axsChildList(axsNode& node) noexcept : listed(&node)
 {
-  parent->acquire();
-  if (!parent->is_parent())
-    return;
-  parent->is_marked = true;
-  axsChildList*& chain = parent->document().lists_of(*parent);
-  next_list = chain;
-  if (chain != nullptr)
-    chain->previous_list = this;
-  chain = this;
+  listed->acquire();
+  if (listed->is_parent())
+    axsDomDocument::of(*listed).add(*this);
 }
 
 axsChildList::~axsChildList()
 {
-  if (parent->is_parent())
-  {
-    if (next_list != nullptr)
-      next_list->previous_list = previous_list;
-    (previous_list == nullptr ? parent->document().lists_of(*parent) : previous_list->next_list) = next_list;
-  }
-  parent->release();
+  if (listed->is_parent())
+    axsDomDocument::of(*listed).remove(*this);
+  listed->release();
 }
 
 std::shared_ptr<axmElement> axsChildList::at(int index)
@@ -35,19 +26,19 @@ std::shared_ptr<axmElement> axsChildList::at(int index)
   // From whichever is nearest: the last place, the start or the end.
   if (place == nullptr || index < place_index - index)
   {
-    place = parent->first_child();
+    place = listed->first_child();
     place_index = 0;
   }
   if (index - place_index > last - index)
   {
-    place = parent->last_child();
+    place = listed->last_child();
     place_index = last;
   }
   for (; place_index < index; ++place_index)
     place = place->next_sibling();
   for (; place_index > index; --place_index)
     place = place->previous_sibling();
-  return place->item_handle();
+  return axsHandle::of_item(*place);
 }
 
 int axsChildList::length() const
@@ -55,7 +46,7 @@ int axsChildList::length() const
   if (count < 0)
   {
     count = 0;
-    for (axsNode const* child = parent->first_child(); child != nullptr; child = child->next_sibling())
+    for (axsNode const* child = listed->first_child(); child != nullptr; child = child->next_sibling())
       ++count;
   }
   return count;

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "axsDomNode.h"
+#include "axsLeaf.h"
+
+#include <axmCommentNode.h>
+
+/// A comment as its interface.
+class axsDomComment final : public axsDomNode<axmCommentNode, axsLeaf>
+{
+public:
+  explicit axsDomComment(std::uint8_t units) noexcept : axsDomNode(axsKind::comment, units) {}
+
+  apString getData() const override { return getNodeValue(); }
+};

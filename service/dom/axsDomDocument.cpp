@@ -1,0 +1,149 @@
+#include "axsDomDocument.h"
+
+#include "axsChildList.h"
+#include "axsDomAttribute.h"
+#include "axsDomComment.h"
+#include "axsDomDoctype.h"
+#include "axsDomInstruction.h"
+#include "axsHandle.h"
+#include "axsStaticNodeList.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+axsDomDocument::axsDomDocument(apString const& uri) : address(uri), handles(axsHandlePool::make()) {}
+
+std::shared_ptr<axmDocument> axsDomDocument::make(apString const& uri)
+{
+  return axsHandle::make<axmDocument>(*new axsDomDocument(uri));
+}
+
+std::shared_ptr<axmElement> axsDomDocument::createElement(apString const& name)
+{
+  axsName const* const known = names().intern_checked(name);
+  return known == nullptr ? nullptr : axsHandle::make<axmElement>(*make_element(*known));
+}
+
+std::shared_ptr<axmTextNode> axsDomDocument::createTextNode(apString const& data)
+{
+  return axsHandle::make<axmTextNode>(*make_text(data.to_utf8().view(), false));
+}
+
+std::shared_ptr<axmCommentNode> axsDomDocument::createComment(apString const& data)
+{
+  return axsHandle::make<axmCommentNode>(*make_comment(data.to_utf8().view()));
+}
+
+std::shared_ptr<axmElement> axsDomDocument::getDocumentElement()
+{
+  axsElement* const root = root_element();
+  return root == nullptr ? nullptr : axsHandle::make<axmElement>(static_cast<axsDomElement&>(*root));
+}
+
+apString axsDomDocument::getDocumentURI() const
+{
+  return address;
+}
+
+void axsDomDocument::reserved_document_5() {}
+void axsDomDocument::reserved_document_7() {}
+
+std::shared_ptr<axmNodeList> axsDomDocument::getElementsByTagName(apString const& name)
+{
+  std::vector<axsNode*> found;
+  if (axsName const* const wanted = names().find(name.to_utf8().view()))
+    for (axsNode* node = first_child(); node != nullptr; node = node->next_in_tree(*this))
+      if (node->is_element() && static_cast<axsElement*>(node)->is_named(*wanted))
+        found.push_back(node);
+  return axsStaticNodeList::make(*this, std::move(found));
+}
+
+axsDomElement* axsDomDocument::make_element(axsName const& name)
+{
+  return axsTree::make_element<axsDomElement>(name);
+}
+
+axsDomAttribute* axsDomDocument::make_attribute(axsName const& name, std::string_view value)
+{
+  return make_leaf<axsDomAttribute>(value, name);
+}
+
+axsDomText* axsDomDocument::make_text(std::string_view data, bool is_cdata)
+{
+  return make_leaf<axsDomText>(data, is_cdata ? axsKind::cdata_section : axsKind::text);
+}
+
+axsDomComment* axsDomDocument::make_comment(std::string_view data)
+{
+  return make_leaf<axsDomComment>(data);
+}
+
+axsDomInstruction* axsDomDocument::make_processing_instruction(std::string_view target, std::string_view data)
+{
+  std::string text(target);
+  if (!data.empty())
+    text.append(" ").append(data);
+  return make_leaf<axsDomInstruction>(text);
+}
+
+axsDomDoctype* axsDomDocument::make_doctype(std::string_view declaration)
+{
+  return make_leaf<axsDomDoctype>(declaration);
+}
+
+void axsDomDocument::add(axsChildList& list) noexcept
+{
+  static_cast<axsParent&>(list.node()).set_watched(true);
+  list.enter(lists_of(list.node()));
+}
+
+void axsDomDocument::remove(axsChildList& list) noexcept
+{
+  list.leave(lists_of(list.node()));
+}
+
+void axsDomDocument::add(axsStaticNodeList& list) noexcept
+{
+  list.enter(static_lists);
+  watch_leaving(true);
+}
+
+void axsDomDocument::remove(axsStaticNodeList& list) noexcept
+{
+  list.leave(static_lists);
+  watch_leaving(static_lists != nullptr);
+}
+
+void axsDomDocument::nodes_leaving() noexcept
+{
+  while (static_lists != nullptr)
+    static_lists->hold_each();
+}
+
+axsChildList*& axsDomDocument::lists_of(axsNode const& parent) noexcept
+{
+  return child_lists[reinterpret_cast<std::uintptr_t>(&parent) / sizeof(axsDomElement) % list_buckets];
+}
+
+void axsDomDocument::child_linked(axsParent& parent, axsNode const& child) noexcept
+{
+  parent.set_watched(false);
+  for (axsChildList* list = lists_of(parent); list != nullptr; list = list->next_in_chain())
+    if (&list->node() == &parent)
+    {
+      parent.set_watched(true);
+      list->child_linked(child);
+    }
+}
+
+void axsDomDocument::child_unlinking(axsParent& parent, axsNode const& child) noexcept
+{
+  parent.set_watched(false);
+  for (axsChildList* list = lists_of(parent); list != nullptr; list = list->next_in_chain())
+    if (&list->node() == &parent)
+    {
+      parent.set_watched(true);
+      list->child_unlinking(child);
+    }
+}

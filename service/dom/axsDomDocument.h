@@ -1,0 +1,88 @@
+#pragma once
+
+#include "axsDomNode.h"
+#include "axsHandlePool.h"
+#include "axsTree.h"
+#include "axsXPathCache.h"
+
+#include <axmDocument.h>
+
+#include <memory>
+#include <string_view>
+
+class axsChildList;
+class axsDomAttribute;
+class axsDomComment;
+class axsDomDoctype;
+class axsDomElement;
+class axsDomInstruction;
+class axsDomText;
+class axsStaticNodeList;
+
+/// A document: the tree, and what its handles and lists need. Lives as long as one of its nodes is held; see axsNode.
+class axsDomDocument final : public axsDomNode<axmDocument, axsTree>
+{
+public:
+  /// A document without children. Throws std::bad_alloc when memory runs out.
+  static std::shared_ptr<axmDocument> make(apString const& uri);
+
+  /// The document that the node belongs to.
+  static axsDomDocument& of(axsNode const& node) noexcept { return static_cast<axsDomDocument&>(node.tree()); }
+
+  std::shared_ptr<axmElement> createElement(apString const& name) override;
+  std::shared_ptr<axmTextNode> createTextNode(apString const& data) override;
+  std::shared_ptr<axmCommentNode> createComment(apString const& data) override;
+  std::shared_ptr<axmElement> getDocumentElement() override;
+  apString getDocumentURI() const override;
+  void reserved_document_5() override;
+  std::shared_ptr<axmNodeList> getElementsByTagName(apString const& name) override;
+  void reserved_document_7() override;
+
+  // Makers of detached nodes; all throw std::bad_alloc when memory runs out. Texts are UTF-8.
+  axsDomElement* make_element(axsName const& name);
+  axsDomAttribute* make_attribute(axsName const& name, std::string_view value);
+  axsDomText* make_text(std::string_view data, bool is_cdata);
+  axsDomComment* make_comment(std::string_view data);
+  axsDomInstruction* make_processing_instruction(std::string_view target, std::string_view data);
+  axsDomDoctype* make_doctype(std::string_view declaration);
+
+  axsHandlePool& handle_pool() noexcept { return *handles; }
+  axsXPathCache& xpath_cache() noexcept { return expressions; }
+
+  /// The name of texts other than CDATA sections, made once (DOM Core, nodeName).
+  apString const& name_of_texts() const noexcept { return text_name; }
+
+  // Child lists are told of changes to the children of their node, which is a parent, while they are added.
+  void add(axsChildList& list) noexcept;
+  void remove(axsChildList& list) noexcept;
+
+  // Lists that hold the root of their nodes only are told before nodes leave the tree, while they are added.
+  void add(axsStaticNodeList& list) noexcept;
+  void remove(axsStaticNodeList& list) noexcept;
+
+private:
+  struct PoolAbandoner
+  {
+    void operator()(axsHandlePool* pool) const noexcept { pool->abandon(); }
+  };
+
+  explicit axsDomDocument(apString const& uri);
+  ~axsDomDocument() = default;
+
+  void destroy() noexcept override { delete this; }
+  void nodes_leaving() noexcept override;
+  void child_linked(axsParent& parent, axsNode const& child) noexcept override;
+  void child_unlinking(axsParent& parent, axsNode const& child) noexcept override;
+
+  axsChildList*& lists_of(axsNode const& parent) noexcept;
+
+  static constexpr std::size_t list_buckets = 16;
+
+  apString const address;
+  apString const text_name = APSTRING("#text");
+  std::unique_ptr<axsHandlePool, PoolAbandoner> handles;
+  axsXPathCache expressions;
+  // The child lists, in chains by the address of their node.
+  axsChildList* child_lists[list_buckets] = {};
+  axsStaticNodeList* static_lists = nullptr;
+};

@@ -1,0 +1,84 @@
+#include "axsDomElement.h"
+
+#include "axsAttributeMap.h"
+#include "axsDomAttribute.h"
+#include "axsHandle.h"
+
+std::shared_ptr<axmNode> axsDomElement::getFirstChild()
+{
+  return axsHandle::of_next(first_child());
+}
+
+std::shared_ptr<axmNode> axsDomElement::getNextSibling()
+{
+  return axsHandle::of_next(next_sibling());
+}
+
+apString axsDomElement::getNodeName() const
+{
+  return element_name().wide();
+}
+
+std::shared_ptr<axmNamedNodeMap> axsDomElement::getAttributes()
+{
+  return std::allocate_shared<axsAttributeMap>(
+    axsHandleAllocator<axsAttributeMap>(axsDomDocument::of(*this).handle_pool()), *this);
+}
+
+void axsDomElement::reserved_element_0() {}
+void axsDomElement::reserved_element_7() {}
+void axsDomElement::reserved_element_8() {}
+void axsDomElement::reserved_element_9() {}
+void axsDomElement::reserved_element_10() {}
+void axsDomElement::reserved_element_11() {}
+
+apString axsDomElement::getAttribute(apString const& name) const
+{
+  axsAttribute const* const attribute = find_attribute(name.view());
+  return attribute == nullptr ? apString() : apString::from_utf8(attribute->text());
+}
+
+void axsDomElement::setAttribute(apString const& name, apString const& value)
+{
+  utString const text = value.to_utf8();
+  axsAttribute* last = nullptr;
+  for (axsAttribute* at = first_attribute(); at != nullptr; at = at->next_attribute())
+  {
+    if (at->full_name().wide_view() == name.view())
+      return at->set_text(text.view());
+    last = at;
+  }
+  axsDomDocument& document = axsDomDocument::of(*this);
+  if (axsName const* const known = document.names().intern_checked(name))
+    append_new_attribute(*document.make_attribute(*known, text.view()), last);
+}
+
+void axsDomElement::removeAttribute(apString const& name)
+{
+  if (axsAttribute* const attribute = find_attribute(name.view()))
+    take_attribute(*attribute);
+}
+
+bool axsDomElement::hasAttribute(apString const& name) const
+{
+  return find_attribute(name.view()) != nullptr;
+}
+
+std::shared_ptr<axmNodeList> axsDomElement::selectNodes(apString const& xpath)
+{
+  return axsDomOperations::select_nodes(*this, xpath);
+}
+
+std::shared_ptr<axmNode> axsDomElement::selectSingleNode(apString const& xpath)
+{
+  return axsDomOperations::select_single_node(*this, xpath);
+}
+
+bool axsDomElement::get_attribute(apString const& name, apString& value) const
+{
+  axsAttribute const* const attribute = find_attribute(name.view());
+  if (attribute == nullptr)
+    return false;
+  value.assign_utf8(attribute->text());
+  return true;
+}

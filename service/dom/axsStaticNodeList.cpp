@@ -1,0 +1,54 @@
+#include "axsStaticNodeList.h"
+
+#include "axsDomDocument.h"
+#include "axsHandle.h"
+
+#include <utility>
+
+std::shared_ptr<axmNodeList> axsStaticNodeList::make(axsNode& context, std::vector<axsNode*> found)
+{
+  return std::allocate_shared<axsStaticNodeList>(
+    axsHandleAllocator<axsStaticNodeList>(axsDomDocument::of(context).handle_pool()), context, std::move(found));
+}
+
+axsStaticNodeList::axsStaticNodeList(axsNode& context, std::vector<axsNode*> found) noexcept
+  : nodes(std::move(found)),
+    root(nodes.empty() ? nullptr : &context.root())
+{
+  if (root == nullptr)
+    return;
+  root->acquire();
+  axsDomDocument::of(*root).add(*this);
+}
+
+axsStaticNodeList::~axsStaticNodeList()
+{
+  if (root != nullptr)
+  {
+    axsDomDocument::of(*root).remove(*this);
+    root->release();
+    return;
+  }
+  for (axsNode* const node : nodes)
+    node->release();
+}
+
+std::shared_ptr<axmElement> axsStaticNodeList::at(int index)
+{
+  if (index < 0 || index >= length())
+    return nullptr;
+  return axsHandle::of_item(*nodes[static_cast<std::size_t>(index)]);
+}
+
+int axsStaticNodeList::length() const
+{
+  return static_cast<int>(nodes.size());
+}
+
+void axsStaticNodeList::hold_each() noexcept
+{
+  for (axsNode* const node : nodes)
+    node->acquire();
+  axsDomDocument::of(*root).remove(*this);
+  std::exchange(root, nullptr)->release();
+}

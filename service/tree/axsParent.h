@@ -1,0 +1,70 @@
+#pragma once
+
+#include "axsNode.h"
+
+/// A node with children: the document or an element. Keeps the links of its children in order.
+class axsParent : public axsNode
+{
+public:
+  /// Links a detached node that nobody holds as the last child. The caller knows that it may stand there.
+  void append_new(axsNode& child) noexcept { link(child, nullptr); }
+
+  /// Makes `child`, a node of this tree that a caller holds as it does this one, a child before `before`, as the last one
+  /// if that is null; it is taken out of where it was. The caller knows that it may stand there.
+  void insert(axsNode& child, axsNode* before) noexcept;
+
+  /// Takes a child out, which then is the root of a tree of its own; it is freed, with all below it, if nobody holds it.
+  void remove(axsNode& child) noexcept;
+
+  /// Whether the tree is told of each child that comes or goes (axsTree::child_linked() and child_unlinking()). It costs
+  /// nothing where nobody watches.
+  bool is_watched() const noexcept { return watched; }
+  void set_watched(bool is_watched) noexcept { watched = is_watched; }
+
+protected:
+  axsParent(axsKind kind, std::uint16_t number) noexcept : axsNode(kind), element_name_number(number) {}
+  ~axsParent() = default;
+
+  std::uint16_t name_number() const noexcept { return element_name_number; }
+
+private:
+  friend class axsNode;
+
+  void link(axsNode& child, axsNode* before) noexcept;
+  void unlink(axsNode& child) noexcept;
+
+  bool watched = false;
+  // Of an element the number of its name; here, where alignment leaves room for it.
+  std::uint16_t element_name_number;
+  axsNode* first = nullptr;
+};
+
+inline axsNode* axsNode::first_child() const noexcept
+{
+  return is_parent() ? static_cast<axsParent const*>(this)->first : nullptr;
+}
+
+inline axsNode* axsNode::last_child() const noexcept
+{
+  axsNode* const child = first_child();
+  return child == nullptr ? nullptr : child->previous_link;
+}
+
+inline axsNode* axsNode::previous_sibling() const noexcept
+{
+  return is_attribute() || parent_link == nullptr || parent_link->first_child() == this ? nullptr : previous_link;
+}
+
+inline axsNode* axsNode::next_in_tree(axsNode const& top) const noexcept
+{
+  axsNode* const child = first_child();
+  return child != nullptr ? child : next_after_subtree(top);
+}
+
+inline axsNode* axsNode::next_after_subtree(axsNode const& top) const noexcept
+{
+  for (axsNode const* node = this; node != &top; node = node->parent_link)
+    if (node->next_link != nullptr)
+      return node->next_link;
+  return nullptr;
+}
