@@ -1,6 +1,6 @@
 #include "axsArena.h"
 
-#include "axsDocument.h"
+#include "axsHandle.h"
 
 #include <gtest/gtest.h>
 
@@ -13,8 +13,8 @@ namespace
 class axsArena_ : public testing::Test
 {
 protected:
-  std::shared_ptr<axmDocument> const document = axsDocument::make(APSTRING("uri"));
-  axsArena arena{static_cast<axsDocument&>(*axsNode::of(*document))};
+  std::shared_ptr<axmDocument> const document = axsDomDocument::make(APSTRING("uri"));
+  axsArena arena{axsDomDocument::of(*axsHandle::node_of(*document))};
 };
 }
 
@@ -33,7 +33,7 @@ TEST_F(axsArena_, blocks_do_not_overlap)
     std::memset(blocks.back().bytes, static_cast<int>(i % 251), size);
     if (size <= axsArena::small_limit)
     {
-      EXPECT_EQ(&axsArena::document_of(blocks.back().bytes), axsNode::of(*document));
+      EXPECT_EQ(&axsArena::tree_of(blocks.back().bytes), axsHandle::node_of(*document));
     }
   }
   for (std::size_t i = 0; i < blocks.size(); ++i)
