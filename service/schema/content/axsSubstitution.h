@@ -1,0 +1,13 @@
+#pragma once
+
+struct axsElementDecl;
+
+/// Whether `member`, which is affiliated to `head` directly or by way of others, may stand in its place: whether nothing
+/// blocks it (Part 1, 3.3.6 cos-equiv-derived-ok-rec).
+namespace axsSubstitution
+{
+/// Whether `head` could block any member at all.
+bool is_guarded(axsElementDecl const& head) noexcept;
+
+bool is_allowed(axsElementDecl const& member, axsElementDecl const& head) noexcept;
+}
