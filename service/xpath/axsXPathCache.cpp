@@ -21,9 +21,9 @@ std::shared_ptr<axsXPathExpression const> axsXPathCache::compile(std::string_vie
   if (!parsed)
     return nullptr;
   auto expression = std::make_shared<axsXPathExpression const>(std::move(*parsed));
-  if (text.size() > longest_text)
+  if (text.size() > max_text)
     return expression;
-  if (entries.size() == most_entries)
+  if (entries.size() == max_entries)
     entries.erase(entries.begin());
   entries.push_back({std::string(text), expression});
   return expression;

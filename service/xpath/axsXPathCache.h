@@ -26,9 +26,9 @@ private:
     std::shared_ptr<axsXPathExpression const> expression;
   };
 
-  static constexpr std::size_t most_entries = 16;
+  static constexpr std::size_t max_entries = 16;
   /// A longer expression is not kept.
-  static constexpr std::size_t longest_text = 512;
+  static constexpr std::size_t max_text = 512;
 
   // The one asked for last is the last one.
   std::vector<Entry> entries;

@@ -79,12 +79,12 @@ public:
     /// Whether the term selects nodes, and whether a predicate inside it does.
     bool selects = false;
     bool selects_in_predicate = false;
-    /// Where the evaluation keeps the value for further use; negative where it keeps none. A term inside a predicate
+    /// The slot of the evaluation's cache that the value has; negative where it is not cached. A term inside a predicate
     /// that depends on nothing has one value. A term that selects nodes, its predicates too, and lies in two predicates
-    /// itself would otherwise be evaluated once for each way that leads to a context, and with every predicate more
-    /// around it the ways multiply: it has one value a context.
-    int kept_value = -1;
-    int kept_nodes = -1;
+    /// itself would otherwise be evaluated once for each way that leads to a context, and every further predicate around
+    /// it multiplies the ways: it has one node-set a context.
+    int value_slot = -1;
+    int nodes_slot = -1;
   };
 
   struct NodeTest
@@ -151,7 +151,25 @@ public:
     int step_count = 0;
   };
 
-  Term const& whole() const noexcept { return terms.back(); }
+  int whole() const noexcept { return static_cast<int>(terms.size()) - 1; }
+
+  // The parts that an index, or a term, names.
+  Term const& term(int index) const noexcept { return terms[static_cast<std::size_t>(index)]; }
+  Operand const& operand(Term const& of, int index) const noexcept
+  {
+    return operands[static_cast<std::size_t>(of.first) + static_cast<std::size_t>(index)];
+  }
+  std::string const& literal_of(Term const& of) const noexcept { return literals[static_cast<std::size_t>(of.first)]; }
+  Path const& path_of(Term const& of) const noexcept { return paths[static_cast<std::size_t>(of.first)]; }
+  Step const& step(Path const& of, int index) const noexcept
+  {
+    return steps[static_cast<std::size_t>(of.first_step) + static_cast<std::size_t>(index)];
+  }
+  Predicate const& predicate(int index) const noexcept { return predicates[static_cast<std::size_t>(index)]; }
+  Name const* name_of(NodeTest const& test) const noexcept
+  {
+    return test.name_index < 0 ? nullptr : &names[static_cast<std::size_t>(test.name_index)];
+  }
 
   std::vector<Term> terms;
   std::vector<Operand> operands;
@@ -160,6 +178,6 @@ public:
   std::vector<Predicate> predicates;
   std::vector<std::string> literals;
   std::vector<Name> names;
-  int kept_values = 0;
-  int kept_node_tables = 0;
+  int value_slots = 0;
+  int node_set_slots = 0;
 };

@@ -41,9 +41,9 @@ struct axsXPathFunction
   Id identity;
   std::string_view text;
   axsXPathType result;
-  int least_arguments;
+  int min_arguments;
   /// Negative where there may be any number.
-  int most_arguments;
+  int max_arguments;
   /// Whether the arguments have to be node-sets; any other type is converted as the function needs it.
   bool takes_node_sets;
   /// What of the context the function reads itself, as axsXPathExpression::Uses, and whether it takes the context node

@@ -7,7 +7,7 @@ class axsNode;
 
 /// What XPath counts as a node without the tree having one for it: a namespace in scope of an element, or the root above
 /// the topmost node of a detached tree. Kept by the evaluation, once each.
-struct axsXPathExtraNode
+struct axsXPathVirtualNode
 {
   /// Whose namespace it is; of a root the topmost node.
   axsNode* base;
@@ -26,17 +26,19 @@ class axsXPathNode
 public:
   axsXPathNode() noexcept = default;
   axsXPathNode(axsNode* node) noexcept : address(reinterpret_cast<char*>(node)) {}
-  axsXPathNode(axsXPathExtraNode const* extra) noexcept : address(reinterpret_cast<char const*>(extra) + extra_mark) {}
+  axsXPathNode(axsXPathVirtualNode const* extra) noexcept : address(reinterpret_cast<char const*>(extra) + virtual_mark)
+  {
+  }
 
   bool is_none() const noexcept { return address == nullptr; }
-  bool is_extra() const noexcept { return (reinterpret_cast<std::uintptr_t>(address) & extra_mark) != 0; }
+  bool is_virtual() const noexcept { return (reinterpret_cast<std::uintptr_t>(address) & virtual_mark) != 0; }
 
   /// The node of the tree; only where it is one.
   axsNode* node() const noexcept { return reinterpret_cast<axsNode*>(const_cast<char*>(address)); }
 
-  axsXPathExtraNode const& extra() const noexcept
+  axsXPathVirtualNode const& virtual_node() const noexcept
   {
-    return *reinterpret_cast<axsXPathExtraNode const*>(address - extra_mark);
+    return *reinterpret_cast<axsXPathVirtualNode const*>(address - virtual_mark);
   }
 
   bool operator==(axsXPathNode other) const noexcept { return address == other.address; }
@@ -52,7 +54,7 @@ public:
 
 private:
   // What is aligned for pointers has even addresses; one more tells the other kind.
-  static constexpr std::size_t extra_mark = 1;
+  static constexpr std::size_t virtual_mark = 1;
 
   char const* address = nullptr;
 };

@@ -8,7 +8,7 @@
 #include <iterator>
 #include <utility>
 
-// Expressions are parsed and evaluated as deep as they lie in themselves, and axsXPathParser::nesting_limit bounds that.
+// Recursion is as deep as the expression is nested, which axsXPathParser::nesting_limit bounds.
 // NOLINTBEGIN(misc-no-recursion)
 
 namespace
@@ -29,30 +29,11 @@ AxisName const axes[] = {{"ancestor", axsXPathAxis::ancestor}, {"ancestor-or-sel
   {"parent", axsXPathAxis::parent}, {"preceding", axsXPathAxis::preceding},
   {"preceding-sibling", axsXPathAxis::preceding_sibling}, {"self", axsXPathAxis::self}};
 
-bool is_any_node(Expression::Step const& step, axsXPathAxis axis) noexcept
-{
-  return step.axis == axis && step.test.kind == Expression::NodeTest::any_node && step.predicate_count == 0;
-}
-
 Expression::Step any_node(axsXPathAxis axis) noexcept
 {
   Expression::Step step;
   step.axis = axis;
   return step;
-}
-
-/// The axis that leads where descendant-or-self::node() and then `axis` lead; `axis` itself where there is none.
-axsXPathAxis behind_descendants(axsXPathAxis axis) noexcept
-{
-  switch (axis)
-  {
-  case axsXPathAxis::child:
-    return axsXPathAxis::descendant;
-  case axsXPathAxis::self:
-    return axsXPathAxis::descendant_or_self;
-  default:
-    return axis;
-  }
 }
 
 std::string quoted(std::string_view name)
@@ -62,12 +43,12 @@ std::string quoted(std::string_view name)
 
 std::string count_of_arguments(axsXPathFunction const& function)
 {
-  std::string const least = std::to_string(function.least_arguments);
-  if (function.most_arguments < 0)
+  std::string const least = std::to_string(function.min_arguments);
+  if (function.max_arguments < 0)
     return least + " or more arguments";
-  if (function.most_arguments > function.least_arguments)
-    return least + " to " + std::to_string(function.most_arguments) + " arguments";
-  return least + (function.most_arguments == 1 ? " argument" : " arguments");
+  if (function.max_arguments > function.min_arguments)
+    return least + " to " + std::to_string(function.max_arguments) + " arguments";
+  return least + (function.max_arguments == 1 ? " argument" : " arguments");
 }
 }
 
@@ -80,13 +61,34 @@ axsXPathParser::OperatorToken const axsXPathParser::operators[] = {
   {Token::minus, rank_sum, Expression::subtract}, {Token::operator_multiply, rank_product, Expression::multiply},
   {Token::operator_div, rank_product, Expression::divide}, {Token::operator_mod, rank_product, Expression::modulo}};
 
+axsXPathExpression::Kind axsXPathParser::kind_of(Rank rank) noexcept
+{
+  switch (rank)
+  {
+  case rank_or:
+    return Expression::or_;
+  case rank_and:
+    return Expression::and_;
+  case rank_equality:
+  case rank_relation:
+    return Expression::comparison;
+  default:
+    return Expression::arithmetic;
+  }
+}
+
+axsXPathType axsXPathParser::type_of(Rank rank) noexcept
+{
+  return kind_of(rank) == Expression::arithmetic ? axsXPathType::number : axsXPathType::boolean;
+}
+
 std::optional<axsXPathExpression> axsXPathParser::parse(std::string_view text, axsXPathError& error)
 {
   error = axsXPathError();
   axsXPathParser parser(text, error);
   if (!parser.parse_whole())
     return std::nullopt;
-  return std::move(parser.made);
+  return parser.builder.take();
 }
 
 axsXPathParser::axsXPathParser(std::string_view expression, axsXPathError& failure)
@@ -105,7 +107,6 @@ bool axsXPathParser::parse_whole()
     return false;
   if (token.kind != Token::end)
     return fail_here("the expression should end here") != failed;
-  choose_kept_values();
   return true;
 }
 
@@ -137,7 +138,7 @@ int axsXPathParser::parse_rank(Rank rank)
       return failed;
     chain.push_back({next, taken->meaning});
   }
-  return chain.size() == 1 ? first : add_chain(rank, chain);
+  return chain.size() == 1 ? first : builder.add_operation(kind_of(rank), type_of(rank), chain);
 }
 
 int axsXPathParser::parse_unary()
@@ -153,11 +154,9 @@ int axsXPathParser::parse_unary()
   if (operand == failed || !has_sign)
     return operand;
 
-  // Signs two by two cancel each other, but make a number of what stands behind them.
-  Expression::Term term;
-  term.kind = is_negative ? Expression::negation : Expression::double_negation;
-  term.type = axsXPathType::number;
-  return add_operands(term, {{operand, Expression::no_operator}});
+  // Two signs cancel each other, but the operand is converted to a number all the same.
+  return builder.add_operation(is_negative ? Expression::negation : Expression::double_negation, axsXPathType::number,
+    {{operand, Expression::no_operator}});
 }
 
 int axsXPathParser::parse_union()
@@ -180,10 +179,7 @@ int axsXPathParser::parse_union()
       return failed;
     parts.push_back({next, Expression::no_operator});
   }
-  Expression::Term term;
-  term.kind = Expression::union_;
-  term.type = axsXPathType::node_set;
-  return add_operands(term, parts);
+  return builder.add_operation(Expression::union_, axsXPathType::node_set, parts);
 }
 
 int axsXPathParser::parse_path()
@@ -195,7 +191,7 @@ int axsXPathParser::parse_path()
   std::vector<Expression::Step> steps;
   if (!parse_steps(steps))
     return failed;
-  return add_path({}, steps);
+  return builder.add_path({}, steps);
 }
 
 int axsXPathParser::parse_absolute_path()
@@ -209,7 +205,7 @@ int axsXPathParser::parse_absolute_path()
   advance();
   if ((has_steps || starts_step()) && !parse_steps(steps))
     return failed;
-  return add_path(path, steps);
+  return builder.add_path(path, steps);
 }
 
 int axsXPathParser::parse_filter_path()
@@ -238,12 +234,11 @@ int axsXPathParser::parse_filter_path()
     if (!parse_steps(steps))
       return failed;
   }
-  return add_path(path, steps);
+  return builder.add_path(path, steps);
 }
 
 int axsXPathParser::parse_primary()
 {
-  Expression::Term term;
   switch (token.kind)
   {
   case Token::left_parenthesis:
@@ -251,19 +246,20 @@ int axsXPathParser::parse_primary()
   case Token::function_name:
     return parse_call();
   case Token::literal:
-    term.first = static_cast<int>(made.literals.size());
-    made.literals.emplace_back(token.local);
-    break;
+  {
+    int const term = builder.add_literal(token.local);
+    advance();
+    return term;
+  }
   case Token::number:
-    term.kind = Expression::constant;
-    term.type = axsXPathType::number;
-    term.number = axsXPathNumber::from_text(token.local);
-    break;
+  {
+    int const term = builder.add_constant(axsXPathNumber::from_text(token.local));
+    advance();
+    return term;
+  }
   default:
     return fail(token.position, "there are no variables, so " + quoted(token.local) + " has no value");
   }
-  advance();
-  return add_term(term);
 }
 
 int axsXPathParser::parse_parenthesised()
@@ -290,15 +286,7 @@ int axsXPathParser::parse_call()
   if (!parse_arguments(call) || !check_arguments(call, position))
     return failed;
 
-  Expression::Term term;
-  term.kind = Expression::call;
-  term.type = call.function->result;
-  term.function = call.function->identity;
-  term.uses = call.function->uses;
-  if (call.arguments.empty() && call.function->defaults_to_node)
-    term.uses |= Expression::uses_node;
-  term.selects = term.type == axsXPathType::node_set;
-  return add_operands(term, call.arguments);
+  return builder.add_call(*call.function, call.arguments);
 }
 
 bool axsXPathParser::parse_arguments(Call& call)
@@ -324,7 +312,7 @@ bool axsXPathParser::check_arguments(Call const& call, std::size_t position)
 {
   axsXPathFunction const& function = *call.function;
   auto const count = static_cast<int>(call.arguments.size());
-  if (count < function.least_arguments || (function.most_arguments >= 0 && count > function.most_arguments))
+  if (count < function.min_arguments || (function.max_arguments >= 0 && count > function.max_arguments))
   {
     std::string const name(function.text);
     return fail(position, name + "() takes " + count_of_arguments(function) + ", not " + std::to_string(count)) !=
@@ -364,8 +352,7 @@ bool axsXPathParser::parse_step(Expression::Step& step)
     return false;
   for (int i = 0; i < step.predicate_count; ++i)
   {
-    Expression::Predicate const& predicate =
-      made.predicates[static_cast<std::size_t>(step.first_predicate) + static_cast<std::size_t>(i)];
+    Expression::Predicate const& predicate = builder.predicate(step.first_predicate + i);
     step.is_positional |= predicate.is_number || (predicate.uses & ~Expression::uses_node) != 0;
     step.needs_size |= (predicate.uses & Expression::uses_size) != 0;
   }
@@ -402,7 +389,7 @@ bool axsXPathParser::parse_node_test(Expression::NodeTest& test)
   else
     test.kind = token.prefix.empty() ? Expression::NodeTest::any_name : Expression::NodeTest::any_name_of_namespace;
   if (test.kind != Expression::NodeTest::any_name)
-    test.name_index = add_name(token.prefix, token.local);
+    test.name_index = builder.add_name(token.prefix, token.local, token.position);
   advance();
   return true;
 }
@@ -420,7 +407,7 @@ bool axsXPathParser::parse_node_type(Expression::NodeTest& test)
   advance();
   if (is_instruction && token.kind == Token::literal)
   {
-    test.name_index = add_name({}, token.local);
+    test.name_index = builder.add_name({}, token.local, token.position);
     advance();
   }
   return expect(Token::right_parenthesis, "a ')' is missing");
@@ -428,174 +415,26 @@ bool axsXPathParser::parse_node_type(Expression::NodeTest& test)
 
 bool axsXPathParser::parse_predicates(int& first, int& count)
 {
-  // Kept aside until all are read, as the predicates inside them come first.
-  std::vector<Expression::Predicate> predicates;
+  // Added when all are read, as the predicates inside them come first.
+  std::vector<int> terms;
   while (token.kind == Token::left_bracket)
-    if (!parse_predicate(predicates.emplace_back()))
+  {
+    terms.push_back(parse_predicate());
+    if (terms.back() == failed)
       return false;
-  first = static_cast<int>(made.predicates.size());
-  count = static_cast<int>(predicates.size());
-  made.predicates.insert(made.predicates.end(), predicates.begin(), predicates.end());
+  }
+  first = builder.add_predicates(terms);
+  count = static_cast<int>(terms.size());
   return true;
 }
 
-bool axsXPathParser::parse_predicate(Expression::Predicate& predicate)
+int axsXPathParser::parse_predicate()
 {
   advance();
-  ++predicate_depth;
-  predicate.term = parse_expression();
-  --predicate_depth;
-  if (predicate.term == failed || !expect(Token::right_bracket, "a ']' is missing"))
-    return false;
-  Expression::Term const& term = made.terms[static_cast<std::size_t>(predicate.term)];
-  predicate.is_number = term.type == axsXPathType::number;
-  predicate.is_constant = term.kind == Expression::constant;
-  predicate.uses = term.uses;
-  return true;
-}
-
-int axsXPathParser::add_term(Expression::Term const& term)
-{
-  made.terms.push_back(term);
-  made.terms.back().predicate_depth = predicate_depth;
-  return static_cast<int>(made.terms.size()) - 1;
-}
-
-int axsXPathParser::add_chain(Rank rank, std::vector<Expression::Operand> const& chain)
-{
-  Expression::Term term;
-  term.type = axsXPathType::boolean;
-  switch (rank)
-  {
-  case rank_or:
-    term.kind = Expression::or_;
-    break;
-  case rank_and:
-    term.kind = Expression::and_;
-    break;
-  case rank_equality:
-  case rank_relation:
-    term.kind = Expression::comparison;
-    break;
-  default:
-    term.kind = Expression::arithmetic;
-    term.type = axsXPathType::number;
-  }
-  return add_operands(term, chain);
-}
-
-int axsXPathParser::add_operands(Expression::Term& term, std::vector<Expression::Operand> const& operands)
-{
-  for (Expression::Operand const& operand : operands)
-  {
-    Expression::Term const& part = made.terms[static_cast<std::size_t>(operand.term)];
-    term.uses |= part.uses;
-    term.selects |= part.selects;
-    term.selects_in_predicate |= part.selects_in_predicate;
-  }
-  term.first = static_cast<int>(made.operands.size());
-  term.count = static_cast<int>(operands.size());
-  made.operands.insert(made.operands.end(), operands.begin(), operands.end());
-  return add_term(term);
-}
-
-int axsXPathParser::add_path(Expression::Path path, std::vector<Expression::Step> const& steps)
-{
-  Expression::Term term;
-  term.kind = Expression::path;
-  term.type = axsXPathType::node_set;
-  term.selects = true;
-  if (path.start == Expression::Path::context)
-    term.uses = Expression::uses_node;
-  if (path.start == Expression::Path::term)
-  {
-    Expression::Term const& start = made.terms[static_cast<std::size_t>(path.start_term)];
-    term.uses = start.uses;
-    term.selects_in_predicate = start.selects_in_predicate;
-  }
-  describe_predicates(term, path.first_predicate, path.predicate_count);
-  for (Expression::Step const& step : steps)
-    describe_predicates(term, step.first_predicate, step.predicate_count);
-
-  std::vector<Expression::Step> const kept = simplified(steps);
-  path.first_step = static_cast<int>(made.steps.size());
-  path.step_count = static_cast<int>(kept.size());
-  made.steps.insert(made.steps.end(), kept.begin(), kept.end());
-  term.first = static_cast<int>(made.paths.size());
-  made.paths.push_back(path);
-  return add_term(term);
-}
-
-int axsXPathParser::add_name(std::string_view prefix, std::string_view local)
-{
-  made.names.push_back({std::string(prefix), std::string(local), token.position});
-  return static_cast<int>(made.names.size()) - 1;
-}
-
-void axsXPathParser::describe_predicates(Expression::Term& term, int first, int count) const
-{
-  for (int i = first; i < first + count; ++i)
-  {
-    int const predicate = made.predicates[static_cast<std::size_t>(i)].term;
-    term.selects_in_predicate |= made.terms[static_cast<std::size_t>(predicate)].selects;
-  }
-}
-
-std::vector<Expression::Step> axsXPathParser::simplified(std::vector<Expression::Step> const& steps) const
-{
-  std::vector<Expression::Step> result;
-  for (Expression::Step step : steps)
-  {
-    if (is_any_node(step, axsXPathAxis::self))
-      continue;
-    bool const follows_descendants = !result.empty() && is_any_node(result.back(), axsXPathAxis::descendant_or_self);
-    // //x is one walk over all descendants, unless a predicate counts the x of each parent.
-    axsXPathAxis const merged = behind_descendants(step.axis);
-    bool const leads_down = merged == axsXPathAxis::descendant || merged == axsXPathAxis::descendant_or_self;
-    if (follows_descendants && leads_down && !step.is_positional)
-    {
-      step.axis = merged;
-      result.back() = step;
-      continue;
-    }
-    // Only elements have attributes.
-    if (follows_descendants && step.axis == axsXPathAxis::attribute)
-      result.back().test.kind = Expression::NodeTest::any_name;
-    result.push_back(step);
-  }
-  return result;
-}
-
-void axsXPathParser::choose_kept_values()
-{
-  for (Expression::Predicate const& predicate : made.predicates)
-    choose_kept_values(predicate.term);
-}
-
-void axsXPathParser::choose_kept_values(int index)
-{
-  Expression::Term& term = made.terms[static_cast<std::size_t>(index)];
-  if (!term.selects)
-    return;
-  if (term.uses == Expression::uses_nothing)
-  {
-    term.kept_value = made.kept_values++;
-    return;
-  }
-  if (term.type == axsXPathType::node_set && term.predicate_depth >= 2 && term.selects_in_predicate)
-  {
-    term.kept_nodes = made.kept_node_tables++;
-    return;
-  }
-  if (term.kind == Expression::path)
-  {
-    Expression::Path const& path = made.paths[static_cast<std::size_t>(term.first)];
-    if (path.start == Expression::Path::term)
-      choose_kept_values(path.start_term);
-    return;
-  }
-  for (int i = term.first; i < term.first + term.count; ++i)
-    choose_kept_values(made.operands[static_cast<std::size_t>(i)].term);
+  builder.open_predicate();
+  int const term = parse_expression();
+  builder.close_predicate();
+  return term != failed && expect(Token::right_bracket, "a ']' is missing") ? term : failed;
 }
 
 axsXPathParser::OperatorToken const* axsXPathParser::find_operator(Rank rank) const noexcept
@@ -646,7 +485,7 @@ bool axsXPathParser::expect(Token::Kind kind, char const* problem)
 
 bool axsXPathParser::require_nodes(int term, std::size_t position, char const* problem)
 {
-  if (made.terms[static_cast<std::size_t>(term)].type == axsXPathType::node_set)
+  if (builder.term(term).type == axsXPathType::node_set)
     return true;
   return fail(position, problem) != failed;
 }

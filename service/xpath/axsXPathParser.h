@@ -2,6 +2,7 @@
 
 #include "axsXPathError.h"
 #include "axsXPathExpression.h"
+#include "axsXPathExpressionBuilder.h"
 #include "axsXPathLexer.h"
 
 #include <optional>
@@ -78,17 +79,10 @@ private:
   bool parse_node_test(Expression::NodeTest& test);
   bool parse_node_type(Expression::NodeTest& test);
   bool parse_predicates(int& first, int& count);
-  bool parse_predicate(Expression::Predicate& predicate);
+  int parse_predicate();
 
-  int add_term(Expression::Term const& term);
-  int add_chain(Rank rank, std::vector<Expression::Operand> const& chain);
-  int add_operands(Expression::Term& term, std::vector<Expression::Operand> const& operands);
-  int add_path(Expression::Path path, std::vector<Expression::Step> const& steps);
-  int add_name(std::string_view prefix, std::string_view local);
-  void describe_predicates(Expression::Term& term, int first, int count) const;
-  std::vector<Expression::Step> simplified(std::vector<Expression::Step> const& steps) const;
-  void choose_kept_values();
-  void choose_kept_values(int index);
+  static Expression::Kind kind_of(Rank rank) noexcept;
+  static axsXPathType type_of(Rank rank) noexcept;
 
   OperatorToken const* find_operator(Rank rank) const noexcept;
   bool starts_step() const noexcept;
@@ -105,7 +99,6 @@ private:
   axsXPathError& error;
   axsXPathLexer lexer;
   axsXPathToken token;
-  Expression made;
+  axsXPathExpressionBuilder builder;
   int nesting = 0;
-  int predicate_depth = 0;
 };

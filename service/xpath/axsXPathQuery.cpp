@@ -10,12 +10,12 @@
 
 namespace
 {
-using Want = axsXPathSelector::Want;
+using Want = axsXPathPathEvaluator::Want;
 
 /// The node of the tree that stands for a node; null if there is none.
 axsNode* handed_out(axsXPathNode node) noexcept
 {
-  return node.is_extra() ? node.extra().declaration : node.node();
+  return node.is_virtual() ? node.virtual_node().declaration : node.node();
 }
 
 std::vector<axsNode*> handed_out(std::vector<axsXPathNode> const& nodes)
@@ -26,7 +26,7 @@ std::vector<axsNode*> handed_out(std::vector<axsXPathNode> const& nodes)
   for (axsXPathNode const node : nodes)
   {
     axsNode* const shown = handed_out(node);
-    if (shown != nullptr && (!node.is_extra() || declarations.insert(shown).second))
+    if (shown != nullptr && (!node.is_virtual() || declarations.insert(shown).second))
       found.push_back(shown);
   }
   return found;
@@ -44,7 +44,7 @@ bool bind(axsXPathEvaluator& evaluator, std::string_view text, axsXPathError& er
 std::vector<axsXPathNode> select_nodes(axsXPathEvaluator& evaluator, axsXPathExpression const& expression,
   std::string_view text, Want want, axsXPathError& error)
 {
-  if (expression.whole().type != axsXPathType::node_set)
+  if (expression.term(expression.whole()).type != axsXPathType::node_set)
   {
     error.message = "the expression does not give a node-set";
     error.position = 1;

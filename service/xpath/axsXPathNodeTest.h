@@ -7,7 +7,7 @@
 class axsName;
 
 /// The node test of a step, bound to a document. A plain value that belongs to one evaluation.
-struct axsXPathTest
+struct axsXPathNodeTest
 {
   axsXPathExpression::NodeTest::Kind kind = axsXPathExpression::NodeTest::any_node;
 

@@ -1,14 +1,14 @@
-#include "axsXPathSelector.h"
+#include "axsXPathPathEvaluator.h"
 
 #include "axsXPathEvaluator.h"
-#include "axsXPathLease.h"
+#include "axsXPathScratchNodes.h"
 
 #include <algorithm>
 #include <cmath>
 #include <iterator>
 #include <utility>
 
-// Expressions are parsed and evaluated as deep as they lie in themselves, and axsXPathParser::nesting_limit bounds that.
+// Expressions are expression and evaluated as deep as they lie in themselves, and axsXPathParser::nesting_limit bounds that.
 // NOLINTBEGIN(misc-no-recursion)
 
 namespace
@@ -41,7 +41,7 @@ bool leads_down(Axis axis) noexcept
 }
 
 /// Whether no node on the axis of one node lies in another one.
-bool is_flat_axis(Axis axis) noexcept
+bool is_axis_without_nesting(Axis axis) noexcept
 {
   switch (axis)
   {
@@ -61,11 +61,11 @@ bool is_flat_axis(Axis axis) noexcept
 /// Whether no two nodes have a node on their axes in common, but perhaps the parent.
 bool is_own_axis(Axis axis) noexcept
 {
-  return is_flat_axis(axis) && axis != Axis::following_sibling && axis != Axis::preceding_sibling;
+  return is_axis_without_nesting(axis) && axis != Axis::following_sibling && axis != Axis::preceding_sibling;
 }
 
 /// Whether the axes of nodes in document order, one behind the other, are in document order, too.
-bool keeps_order(Axis axis, bool is_flat) noexcept
+bool keeps_order(Axis axis, bool no_nesting) noexcept
 {
   switch (axis)
   {
@@ -74,7 +74,7 @@ bool keeps_order(Axis axis, bool is_flat) noexcept
   case Axis::self:
     return true;
   case Axis::child:
-    return is_flat;
+    return no_nesting;
   default:
     return false;
   }
@@ -83,7 +83,7 @@ bool keeps_order(Axis axis, bool is_flat) noexcept
 /// Whether the node has siblings and descendants, as attributes and namespaces have not.
 bool is_in_content(axsXPathNode node) noexcept
 {
-  return node.is_extra() ? node.extra().is_root() : !node.node()->is_attribute();
+  return node.is_virtual() ? node.virtual_node().is_root() : !node.node()->is_attribute();
 }
 
 /// The node behind `at` in document order, below `base`; null at the end. Where that leads out of `inside`, this becomes
@@ -102,60 +102,64 @@ axsNode* next_below(axsNode& at, axsNode const& base, axsNode const*& inside) no
   return nullptr;
 }
 
-bool lies_in(axsXPathTree const& tree, axsXPathNode node, axsXPathNode above) noexcept
+bool lies_in(axsXPathModel const& model, axsXPathNode node, axsXPathNode above) noexcept
 {
   while (!node.is_none() && node != above)
-    node = tree.parent(node);
+    node = model.parent(node);
   return !node.is_none();
 }
 }
 
-axsXPathSelector::axsXPathSelector(axsXPathExpression const& expression, axsXPathTree& searched,
-  std::vector<axsXPathTest> const& bound, axsXPathEvaluator& judge) noexcept
-  : parsed(expression),
-    tree(searched),
+axsXPathPathEvaluator::axsXPathPathEvaluator(axsXPathExpression const& evaluated, axsXPathModel& searched,
+  std::vector<axsXPathNodeTest> const& bound, axsXPathEvaluator& values) noexcept
+  : expression(evaluated),
+    model(searched),
     tests(bound),
-    evaluator(judge),
+    evaluator(values),
     order(searched)
 {
 }
 
-void axsXPathSelector::select(Path const& path, axsXPathContext const& context, Want want, Nodes& found)
+void axsXPathPathEvaluator::select(Path const& path, axsXPathContext const& context, Want want, Nodes& found)
 {
   take_start(path, context, found);
-  bool is_flat = found.size() < 2;
-  axsXPathLease next(*this);
+  bool no_nesting = found.size() < 2;
+  axsXPathScratchNodes next(*this);
   for (int i = 0; i < path.step_count && !found.empty(); ++i)
   {
     bool const is_last = i + 1 == path.step_count;
-    bool const is_parent_enough = !is_last && leads_below(step_of(path, i + 1).axis);
+    bool const is_parent_enough = !is_last && leads_below(expression.step(path, i + 1).axis);
     next.nodes().clear();
-    take_step(step_of(path, i), found, is_last ? want : is_parent_enough ? parents : all, next.nodes(), is_flat);
+    take_step(expression.step(path, i), found,
+      is_last            ? want
+      : is_parent_enough ? parents
+                         : all,
+      next.nodes(), no_nesting);
     found.swap(next.nodes());
   }
 }
 
-bool axsXPathSelector::visit(Path const& path, axsXPathContext const& context, axsXPathVisitor visit)
+bool axsXPathPathEvaluator::visit(Path const& path, axsXPathContext const& context, axsXPathVisitor visit)
 {
   // The usual predicates, [.='x'] and [@id='x'], need no node-set.
   if (path.start == Path::context && path.step_count == 0)
     return visit(context.node);
   if (path.start == Path::context && path.step_count == 1)
-    return walk(step_of(path, 0), context.node, visit);
+    return walk(expression.step(path, 0), context.node, visit);
 
   Path before_last = path;
-  bool const shares_nothing = path.step_count > 0 && is_own_axis(step_of(path, path.step_count - 1).axis);
+  bool const shares_nothing = path.step_count > 0 && is_own_axis(expression.step(path, path.step_count - 1).axis);
   if (shares_nothing)
     --before_last.step_count;
-  axsXPathLease lease(*this);
-  select(before_last, context, all, lease.nodes());
-  for (axsXPathNode const node : lease.nodes())
-    if (shares_nothing ? walk(step_of(path, before_last.step_count), node, visit) : visit(node))
+  axsXPathScratchNodes scratch(*this);
+  select(before_last, context, all, scratch.nodes());
+  for (axsXPathNode const node : scratch.nodes())
+    if (shares_nothing ? walk(expression.step(path, before_last.step_count), node, visit) : visit(node))
       return true;
   return false;
 }
 
-axsXPathSelector::Nodes axsXPathSelector::borrow()
+axsXPathPathEvaluator::Nodes axsXPathPathEvaluator::borrow()
 {
   store.reserve(store.size() + lent + 1);
   Nodes nodes;
@@ -169,13 +173,13 @@ axsXPathSelector::Nodes axsXPathSelector::borrow()
   return nodes;
 }
 
-void axsXPathSelector::give_back(Nodes&& nodes) noexcept
+void axsXPathPathEvaluator::give_back(Nodes&& nodes) noexcept
 {
   --lent;
   store.push_back(std::move(nodes));
 }
 
-void axsXPathSelector::take_start(Path const& path, axsXPathContext const& context, Nodes& nodes)
+void axsXPathPathEvaluator::take_start(Path const& path, axsXPathContext const& context, Nodes& nodes)
 {
   switch (path.start)
   {
@@ -183,7 +187,7 @@ void axsXPathSelector::take_start(Path const& path, axsXPathContext const& conte
     nodes.push_back(context.node);
     break;
   case Path::root:
-    nodes.push_back(tree.root());
+    nodes.push_back(model.root());
     break;
   case Path::term:
     evaluator.nodes_of(path.start_term, context, all, nodes);
@@ -192,34 +196,24 @@ void axsXPathSelector::take_start(Path const& path, axsXPathContext const& conte
   }
 }
 
-axsXPathExpression::Step const& axsXPathSelector::step_of(Path const& path, int index) const noexcept
+axsXPathNodeTest const& axsXPathPathEvaluator::test_of(Step const& step) const noexcept
 {
-  return parsed.steps[static_cast<std::size_t>(path.first_step) + static_cast<std::size_t>(index)];
+  return tests[static_cast<std::size_t>(&step - expression.steps.data())];
 }
 
-axsXPathTest const& axsXPathSelector::test_of(Step const& step) const noexcept
-{
-  return tests[static_cast<std::size_t>(&step - parsed.steps.data())];
-}
-
-axsXPathExpression::Predicate const& axsXPathSelector::predicate_of(int index) const noexcept
-{
-  return parsed.predicates[static_cast<std::size_t>(index)];
-}
-
-bool axsXPathSelector::walk(Step const& step, axsXPathNode from, axsXPathVisitor visit)
+bool axsXPathPathEvaluator::walk(Step const& step, axsXPathNode from, axsXPathVisitor visit)
 {
   if (step.predicate_count == 0)
-    return tree.walk(step.axis, from, test_of(step), visit);
+    return model.walk(step.axis, from, test_of(step), visit);
   if (step.needs_size)
     return walk_with_size(step, from, visit);
   if (step.is_positional)
     return walk_counting(step, from, visit);
   auto consider = [&](axsXPathNode node) { return passes_all(step, node) && visit(node); };
-  return tree.walk(step.axis, from, test_of(step), consider);
+  return model.walk(step.axis, from, test_of(step), consider);
 }
 
-bool axsXPathSelector::walk_counting(Step const& step, axsXPathNode from, axsXPathVisitor visit)
+bool axsXPathPathEvaluator::walk_counting(Step const& step, axsXPathNode from, axsXPathVisitor visit)
 {
   std::size_t const base = positions.size();
   bool is_stopped = false;
@@ -231,57 +225,57 @@ bool axsXPathSelector::walk_counting(Step const& step, axsXPathNode from, axsXPa
     bool is_exhausted = false;
     for (int i = 0; i < step.predicate_count; ++i)
     {
-      Predicate const& predicate = predicate_of(step.first_predicate + i);
+      Predicate const& predicate = expression.predicate(step.first_predicate + i);
       std::size_t const position = ++positions[base + static_cast<std::size_t>(i)];
       // Behind the position that is asked for, no node can pass.
-      is_exhausted |= predicate.is_constant && static_cast<double>(position) >= evaluator.constant(predicate.term);
+      is_exhausted |= predicate.is_constant && static_cast<double>(position) >= expression.term(predicate.term).number;
       if (!passes(predicate, {node, position, 0}))
         return is_exhausted;
     }
     is_stopped = visit(node);
     return is_stopped || is_exhausted;
   };
-  tree.walk(step.axis, from, test_of(step), consider);
+  model.walk(step.axis, from, test_of(step), consider);
   positions.resize(base);
   return is_stopped;
 }
 
-bool axsXPathSelector::walk_with_size(Step const& step, axsXPathNode from, axsXPathVisitor visit)
+bool axsXPathPathEvaluator::walk_with_size(Step const& step, axsXPathNode from, axsXPathVisitor visit)
 {
-  axsXPathLease lease(*this);
-  Nodes& nodes = lease.nodes();
+  axsXPathScratchNodes scratch(*this);
+  Nodes& nodes = scratch.nodes();
   auto keep = [&](axsXPathNode node)
   {
     nodes.push_back(node);
     return false;
   };
-  tree.walk(step.axis, from, test_of(step), keep);
+  model.walk(step.axis, from, test_of(step), keep);
   filter(step.first_predicate, step.predicate_count, nodes);
   return std::any_of(nodes.begin(), nodes.end(), visit);
 }
 
-bool axsXPathSelector::passes(Predicate const& predicate, axsXPathContext const& context)
+bool axsXPathPathEvaluator::passes(Predicate const& predicate, axsXPathContext const& context)
 {
   if (predicate.is_number)
     return evaluator.number_of(predicate.term, context) == static_cast<double>(context.position);
   return evaluator.boolean_of(predicate.term, context);
 }
 
-bool axsXPathSelector::passes_all(Step const& step, axsXPathNode node)
+bool axsXPathPathEvaluator::passes_all(Step const& step, axsXPathNode node)
 {
   for (int i = 0; i < step.predicate_count; ++i)
-    if (!evaluator.boolean_of(predicate_of(step.first_predicate + i).term, {node, 1, 1}))
+    if (!evaluator.boolean_of(expression.predicate(step.first_predicate + i).term, {node, 1, 1}))
       return false;
   return true;
 }
 
-void axsXPathSelector::filter(int first_predicate, int count, Nodes& nodes)
+void axsXPathPathEvaluator::filter(int first_predicate, int count, Nodes& nodes)
 {
   for (int i = first_predicate; i < first_predicate + count && !nodes.empty(); ++i)
-    filter(predicate_of(i), nodes);
+    filter(expression.predicate(i), nodes);
 }
 
-void axsXPathSelector::filter(Predicate const& predicate, Nodes& nodes)
+void axsXPathPathEvaluator::filter(Predicate const& predicate, Nodes& nodes)
 {
   std::size_t const size = nodes.size();
   bool const is_same_for_all = (predicate.uses & ~static_cast<unsigned>(Expression::uses_size)) == 0;
@@ -303,30 +297,31 @@ void axsXPathSelector::filter(Predicate const& predicate, Nodes& nodes)
   nodes.resize(kept);
 }
 
-void axsXPathSelector::take_step(Step const& step, Nodes const& from, Want want, Nodes& to, bool& is_flat)
+void axsXPathPathEvaluator::take_step(Step const& step, Nodes const& from, Want want, Nodes& to, bool& no_nesting)
 {
-  bool const was_flat = is_flat;
+  bool const had_no_nesting = no_nesting;
   if (leads_down(step.axis) && !step.is_positional)
-    return step_down(step, from, want, to, is_flat);
+    return step_to_descendants(step, from, want, to, no_nesting);
   if (from.size() == 1)
     step_from_one(step, from.front(), want, to);
   else if (step.is_positional || is_own_axis(step.axis))
-    step_from_each(step, from, to, was_flat);
+    step_from_each(step, from, to, had_no_nesting);
   else if (step.axis == Axis::following)
-    step_behind(step, from, to);
+    step_to_following(step, from, to);
   else if (step.axis == Axis::preceding)
-    step_before(step, from, to);
+    step_to_preceding(step, from, to);
   else if (step.axis == Axis::following_sibling)
     step_to_following_siblings(step, from, to);
   else if (step.axis == Axis::preceding_sibling)
     step_to_preceding_siblings(step, from, to);
   else
-    step_up(step, from, to);
-  is_flat = to.size() < 2 || (is_flat_axis(step.axis) && (from.size() == 1 || keeps_order(step.axis, was_flat)) &&
-                               (step.axis != Axis::self || was_flat));
+    step_to_ancestors(step, from, to);
+  no_nesting = to.size() < 2 ||
+               (is_axis_without_nesting(step.axis) && (from.size() == 1 || keeps_order(step.axis, had_no_nesting)) &&
+                 (step.axis != Axis::self || had_no_nesting));
 }
 
-void axsXPathSelector::step_from_one(Step const& step, axsXPathNode from, Want want, Nodes& to)
+void axsXPathPathEvaluator::step_from_one(Step const& step, axsXPathNode from, Want want, Nodes& to)
 {
   bool const is_backwards = is_reverse(step.axis);
   bool const is_enough = want == any || (want == first && !is_backwards);
@@ -340,7 +335,7 @@ void axsXPathSelector::step_from_one(Step const& step, axsXPathNode from, Want w
     std::reverse(to.begin(), to.end());
 }
 
-void axsXPathSelector::step_from_each(Step const& step, Nodes const& from, Nodes& to, bool is_flat)
+void axsXPathPathEvaluator::step_from_each(Step const& step, Nodes const& from, Nodes& to, bool no_nesting)
 {
   auto keep = [&](axsXPathNode node)
   {
@@ -351,37 +346,39 @@ void axsXPathSelector::step_from_each(Step const& step, Nodes const& from, Nodes
   };
   for (axsXPathNode const node : from)
     walk(step, node, keep);
-  if (!keeps_order(step.axis, is_flat))
+  if (!keeps_order(step.axis, no_nesting))
     order.sort(to);
 }
 
-void axsXPathSelector::step_down(Step const& step, Nodes const& from, Want want, Nodes& to, bool& is_flat)
+void axsXPathPathEvaluator::step_to_descendants(
+  Step const& step, Nodes const& from, Want want, Nodes& to, bool& no_nesting)
 {
   if (std::all_of(from.begin(), from.end(), is_in_content))
-    return step_down_content(step, from, want, to, is_flat);
+    return step_to_descendants_of_content(step, from, want, to, no_nesting);
 
   // Attributes and namespaces have nothing below them, but are themselves what they are.
-  axsXPathLease content(*this);
+  axsXPathScratchNodes content(*this);
   std::copy_if(from.begin(), from.end(), std::back_inserter(content.nodes()), is_in_content);
-  step_down_content(step, content.nodes(), all, to, is_flat);
+  step_to_descendants_of_content(step, content.nodes(), all, to, no_nesting);
   if (step.axis == Axis::descendant)
     return;
   for (axsXPathNode const node : from)
-    if (!is_in_content(node) && tree.passes_any(node, test_of(step)) && passes_all(step, node))
+    if (!is_in_content(node) && model.passes_any(node, test_of(step)) && passes_all(step, node))
       to.push_back(node);
   order.sort(to);
-  is_flat = to.size() < 2;
+  no_nesting = to.size() < 2;
 }
 
-void axsXPathSelector::step_down_content(Step const& step, Nodes const& from, Want want, Nodes& to, bool& is_flat)
+void axsXPathPathEvaluator::step_to_descendants_of_content(
+  Step const& step, Nodes const& from, Want want, Nodes& to, bool& no_nesting)
 {
-  axsXPathTest const& test = test_of(step);
-  is_flat = true;
+  axsXPathNodeTest const& test = test_of(step);
+  no_nesting = true;
   // The outermost of the nodes found in which the walk is.
   axsNode const* inside = nullptr;
   auto const keep = [&](axsXPathNode node, axsNode const& at)
   {
-    if (want == parents && tree.first_below(node) == nullptr)
+    if (want == parents && model.first_below(node) == nullptr)
       return false;
     if (!passes_all(step, node))
       return false;
@@ -389,43 +386,43 @@ void axsXPathSelector::step_down_content(Step const& step, Nodes const& from, Wa
     if (inside == nullptr)
       inside = &at;
     else
-      is_flat = false;
+      no_nesting = false;
     return want == first || want == any;
   };
 
   for (std::size_t next = 0; next < from.size();)
   {
     axsXPathNode const start = from[next++];
-    axsNode& base = axsXPathTree::anchor(start);
+    axsNode& base = axsXPathModel::anchor(start);
     inside = nullptr;
-    if (step.axis == Axis::descendant_or_self && tree.passes_any(start, test) && keep(start, base))
+    if (step.axis == Axis::descendant_or_self && model.passes_any(start, test) && keep(start, base))
       return;
-    for (axsNode* at = tree.first_below(start); at != nullptr;)
+    for (axsNode* at = model.first_below(start); at != nullptr;)
     {
       // What lies below another start is passed on the way from that one.
       if (next < from.size() && from[next] == axsXPathNode(at))
         ++next;
-      if (tree.passes(*at, test) && keep(at, *at))
+      if (model.passes(*at, test) && keep(at, *at))
         return;
       at = next_below(*at, base, inside);
     }
   }
 }
 
-void axsXPathSelector::step_up(Step const& step, Nodes const& from, Nodes& to)
+void axsXPathPathEvaluator::step_to_ancestors(Step const& step, Nodes const& from, Nodes& to)
 {
   axsXPathNodeMap seen;
   for (axsXPathNode const node : from)
   {
-    axsXPathNode at = step.axis == Axis::ancestor ? tree.parent(node) : node;
-    for (; !at.is_none() && seen.insert(at); at = tree.parent(at))
-      if (tree.passes_any(at, test_of(step)) && passes_all(step, at))
+    axsXPathNode at = step.axis == Axis::ancestor ? model.parent(node) : node;
+    for (; !at.is_none() && seen.insert(at); at = model.parent(at))
+      if (model.passes_any(at, test_of(step)) && passes_all(step, at))
         to.push_back(at);
   }
   order.sort(to);
 }
 
-void axsXPathSelector::step_to_following_siblings(Step const& step, Nodes const& from, Nodes& to)
+void axsXPathPathEvaluator::step_to_following_siblings(Step const& step, Nodes const& from, Nodes& to)
 {
   // Of siblings the first one has the following siblings of all.
   axsXPathNodeMap seen_parents;
@@ -435,12 +432,12 @@ void axsXPathSelector::step_to_following_siblings(Step const& step, Nodes const&
     return false;
   };
   for (axsXPathNode const node : from)
-    if (is_in_content(node) && node != tree.root() && seen_parents.insert(tree.parent(node)))
+    if (is_in_content(node) && node != model.root() && seen_parents.insert(model.parent(node)))
       walk(step, node, keep);
   order.sort(to);
 }
 
-void axsXPathSelector::step_to_preceding_siblings(Step const& step, Nodes const& from, Nodes& to)
+void axsXPathPathEvaluator::step_to_preceding_siblings(Step const& step, Nodes const& from, Nodes& to)
 {
   axsXPathNodeMap seen_parents;
   auto keep = [&](axsXPathNode node)
@@ -449,23 +446,23 @@ void axsXPathSelector::step_to_preceding_siblings(Step const& step, Nodes const&
     return false;
   };
   for (std::size_t i = from.size(); i > 0; --i)
-    if (is_in_content(from[i - 1]) && from[i - 1] != tree.root() && seen_parents.insert(tree.parent(from[i - 1])))
+    if (is_in_content(from[i - 1]) && from[i - 1] != model.root() && seen_parents.insert(model.parent(from[i - 1])))
       walk(step, from[i - 1], keep);
   std::reverse(to.begin(), to.end());
   order.sort(to);
 }
 
-void axsXPathSelector::step_behind(Step const& step, Nodes const& from, Nodes& to)
+void axsXPathPathEvaluator::step_to_following(Step const& step, Nodes const& from, Nodes& to)
 {
   // What follows any of the nodes follows the one that ends first: the first one, or the innermost one that lies in it
   // before another one ends.
   axsXPathNode earliest = from.front();
-  for (std::size_t i = 1; i < from.size() && lies_in(tree, from[i], earliest); ++i)
+  for (std::size_t i = 1; i < from.size() && lies_in(model, from[i], earliest); ++i)
     earliest = from[i];
   step_from_one(step, earliest, all, to);
 }
 
-void axsXPathSelector::step_before(Step const& step, Nodes const& from, Nodes& to)
+void axsXPathPathEvaluator::step_to_preceding(Step const& step, Nodes const& from, Nodes& to)
 {
   // What precedes any of the nodes precedes the last one.
   step_from_one(step, from.back(), all, to);

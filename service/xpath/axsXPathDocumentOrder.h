@@ -1,7 +1,7 @@
 #pragma once
 
+#include "axsXPathModel.h"
 #include "axsXPathNodeMap.h"
-#include "axsXPathTree.h"
 
 #include <cstddef>
 #include <vector>
@@ -11,10 +11,10 @@
 ///
 /// A few nodes are compared by their way up; for many, or for ways that are long, the tree is walked once and the nodes
 /// numbered, so that sorting n nodes costs O(n log n) and the walk. Good for as long as the tree does not change.
-class axsXPathOrder
+class axsXPathDocumentOrder
 {
 public:
-  explicit axsXPathOrder(axsXPathTree const& tree) noexcept;
+  explicit axsXPathDocumentOrder(axsXPathModel const& tree) noexcept;
 
   /// Sorts and leaves each node once. Throws std::bad_alloc when memory runs out.
   void sort(std::vector<axsXPathNode>& nodes);
@@ -24,7 +24,7 @@ private:
   {
     before,
     same,
-    behind,
+    after,
     too_far
   };
 
@@ -42,7 +42,7 @@ private:
   void number_node(axsNode& node, std::size_t order);
   axsXPathPlace place_of(axsXPathNode node) noexcept;
 
-  axsXPathTree const& tree;
+  axsXPathModel const& tree;
   axsXPathNodeMap places;
   long long steps_left = 0;
   int walks = 0;

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "axsXPathContext.h"
+#include "axsXPathDocumentOrder.h"
 #include "axsXPathExpression.h"
-#include "axsXPathOrder.h"
-#include "axsXPathTest.h"
-#include "axsXPathTree.h"
+#include "axsXPathModel.h"
+#include "axsXPathNodeTest.h"
 #include "axsXPathVisitor.h"
 
 #include <cstddef>
@@ -17,7 +17,7 @@ class axsXPathEvaluator;
 /// A step is taken for all its context nodes together where its predicates do not count positions, so that no node is
 /// looked at twice; otherwise for one after the other. Every node-set is in document order and holds each node once, and
 /// is only sorted where the axis does not lead there by itself.
-class axsXPathSelector
+class axsXPathPathEvaluator
 {
 public:
   using Nodes = std::vector<axsXPathNode>;
@@ -32,9 +32,9 @@ public:
     any
   };
 
-  /// Takes what predicates say from `evaluator`, and the tests of the steps, one for each, from `tests`.
-  axsXPathSelector(axsXPathExpression const& expression, axsXPathTree& tree, std::vector<axsXPathTest> const& tests,
-    axsXPathEvaluator& evaluator) noexcept;
+  /// Takes the values of predicates from `values`, and the node tests of the steps, one for each, from `bound`.
+  axsXPathPathEvaluator(axsXPathExpression const& evaluated, axsXPathModel& searched,
+    std::vector<axsXPathNodeTest> const& bound, axsXPathEvaluator& values) noexcept;
 
   /// Puts what is wanted of the nodes of a path into `found`, which is empty.
   void select(axsXPathExpression::Path const& path, axsXPathContext const& context, Want want, Nodes& found);
@@ -56,9 +56,7 @@ private:
   using Predicate = axsXPathExpression::Predicate;
 
   void take_start(Path const& path, axsXPathContext const& context, Nodes& nodes);
-  Step const& step_of(Path const& path, int index) const noexcept;
-  axsXPathTest const& test_of(Step const& step) const noexcept;
-  Predicate const& predicate_of(int index) const noexcept;
+  axsXPathNodeTest const& test_of(Step const& step) const noexcept;
 
   bool walk(Step const& step, axsXPathNode from, axsXPathVisitor visit);
   bool walk_counting(Step const& step, axsXPathNode from, axsXPathVisitor visit);
@@ -68,24 +66,24 @@ private:
   void filter(int first_predicate, int count, Nodes& nodes);
   void filter(Predicate const& predicate, Nodes& nodes);
 
-  // One step, from nodes in document order to such. `is_flat` says whether it is known that none of the nodes lies in
+  // One step, from nodes in document order to such. `no_nesting` says whether it is known that none of the nodes lies in
   // another, before and after it.
-  void take_step(Step const& step, Nodes const& from, Want want, Nodes& to, bool& is_flat);
+  void take_step(Step const& step, Nodes const& from, Want want, Nodes& to, bool& no_nesting);
   void step_from_one(Step const& step, axsXPathNode from, Want want, Nodes& to);
-  void step_from_each(Step const& step, Nodes const& from, Nodes& to, bool is_flat);
-  void step_down(Step const& step, Nodes const& from, Want want, Nodes& to, bool& is_flat);
-  void step_down_content(Step const& step, Nodes const& from, Want want, Nodes& to, bool& is_flat);
-  void step_up(Step const& step, Nodes const& from, Nodes& to);
+  void step_from_each(Step const& step, Nodes const& from, Nodes& to, bool no_nesting);
+  void step_to_descendants(Step const& step, Nodes const& from, Want want, Nodes& to, bool& no_nesting);
+  void step_to_descendants_of_content(Step const& step, Nodes const& from, Want want, Nodes& to, bool& no_nesting);
+  void step_to_ancestors(Step const& step, Nodes const& from, Nodes& to);
   void step_to_following_siblings(Step const& step, Nodes const& from, Nodes& to);
   void step_to_preceding_siblings(Step const& step, Nodes const& from, Nodes& to);
-  void step_behind(Step const& step, Nodes const& from, Nodes& to);
-  void step_before(Step const& step, Nodes const& from, Nodes& to);
+  void step_to_following(Step const& step, Nodes const& from, Nodes& to);
+  void step_to_preceding(Step const& step, Nodes const& from, Nodes& to);
 
-  Expression const& parsed;
-  axsXPathTree& tree;
-  std::vector<axsXPathTest> const& tests;
+  Expression const& expression;
+  axsXPathModel& model;
+  std::vector<axsXPathNodeTest> const& tests;
   axsXPathEvaluator& evaluator;
-  axsXPathOrder order;
+  axsXPathDocumentOrder order;
   // Vectors that are not in use, with room for those that are.
   std::vector<Nodes> store;
   std::size_t lent = 0;

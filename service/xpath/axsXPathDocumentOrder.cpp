@@ -1,4 +1,4 @@
-#include "axsXPathOrder.h"
+#include "axsXPathDocumentOrder.h"
 
 #include <algorithm>
 #include <utility>
@@ -18,7 +18,7 @@ std::uint64_t const within_attributes = std::uint64_t{1} << 32;
 /// The element that an attribute or namespace belongs to; for other nodes the node itself.
 axsNode& holder(axsXPathNode node) noexcept
 {
-  axsNode& anchor = axsXPathTree::anchor(node);
+  axsNode& anchor = axsXPathModel::anchor(node);
   return anchor.is_attribute() && anchor.parent() != nullptr ? *anchor.parent() : anchor;
 }
 
@@ -32,15 +32,15 @@ enum Rank
 
 Rank rank_within(axsXPathNode node) noexcept
 {
-  if (node.is_extra())
-    return node.extra().is_root() ? detached_root_rank : namespace_rank;
+  if (node.is_virtual())
+    return node.virtual_node().is_root() ? detached_root_rank : namespace_rank;
   return node.node()->is_attribute() ? attribute_rank : node_rank;
 }
 }
 
-axsXPathOrder::axsXPathOrder(axsXPathTree const& ordered) noexcept : tree(ordered) {}
+axsXPathDocumentOrder::axsXPathDocumentOrder(axsXPathModel const& ordered) noexcept : tree(ordered) {}
 
-void axsXPathOrder::sort(std::vector<axsXPathNode>& nodes)
+void axsXPathDocumentOrder::sort(std::vector<axsXPathNode>& nodes)
 {
   if (nodes.size() < 2)
     return;
@@ -49,7 +49,7 @@ void axsXPathOrder::sort(std::vector<axsXPathNode>& nodes)
   sort_by_place(nodes);
 }
 
-bool axsXPathOrder::sort_near(std::vector<axsXPathNode>& nodes)
+bool axsXPathDocumentOrder::sort_near(std::vector<axsXPathNode>& nodes)
 {
   steps_left = steps_for_few;
   std::size_t sorted = 1;
@@ -57,7 +57,7 @@ bool axsXPathOrder::sort_near(std::vector<axsXPathNode>& nodes)
   {
     axsXPathNode const node = nodes[i];
     std::size_t at = sorted;
-    Relation relation = behind;
+    Relation relation = after;
     while (at > 0 && (relation = compare(node, nodes[at - 1])) == before)
       --at;
     if (relation == too_far)
@@ -76,7 +76,7 @@ bool axsXPathOrder::sort_near(std::vector<axsXPathNode>& nodes)
   return true;
 }
 
-bool axsXPathOrder::is_sorted_near(std::vector<axsXPathNode> const& nodes)
+bool axsXPathDocumentOrder::is_sorted_near(std::vector<axsXPathNode> const& nodes)
 {
   steps_left = steps_each * static_cast<long long>(nodes.size());
   for (std::size_t i = 1; i < nodes.size(); ++i)
@@ -85,7 +85,7 @@ bool axsXPathOrder::is_sorted_near(std::vector<axsXPathNode> const& nodes)
   return true;
 }
 
-void axsXPathOrder::sort_by_place(std::vector<axsXPathNode>& nodes)
+void axsXPathDocumentOrder::sort_by_place(std::vector<axsXPathNode>& nodes)
 {
   number(nodes);
   std::vector<std::pair<axsXPathPlace, axsXPathNode>> placed;
@@ -99,7 +99,7 @@ void axsXPathOrder::sort_by_place(std::vector<axsXPathNode>& nodes)
       nodes.push_back(entry.second);
 }
 
-axsXPathOrder::Relation axsXPathOrder::compare(axsXPathNode left, axsXPathNode right)
+axsXPathDocumentOrder::Relation axsXPathDocumentOrder::compare(axsXPathNode left, axsXPathNode right)
 {
   if (left == right)
     return same;
@@ -108,18 +108,18 @@ axsXPathOrder::Relation axsXPathOrder::compare(axsXPathNode left, axsXPathNode r
   return &left_holder == &right_holder ? compare_within(left, right) : compare_nodes(left_holder, right_holder);
 }
 
-axsXPathOrder::Relation axsXPathOrder::compare_within(axsXPathNode left, axsXPathNode right)
+axsXPathDocumentOrder::Relation axsXPathDocumentOrder::compare_within(axsXPathNode left, axsXPathNode right)
 {
   Rank const left_rank = rank_within(left);
   Rank const right_rank = rank_within(right);
   if (left_rank != right_rank)
-    return left_rank < right_rank ? before : behind;
-  if (left.is_extra())
-    return left.extra().index < right.extra().index ? before : behind;
+    return left_rank < right_rank ? before : after;
+  if (left.is_virtual())
+    return left.virtual_node().index < right.virtual_node().index ? before : after;
   return compare_siblings(*left.node(), *right.node());
 }
 
-axsXPathOrder::Relation axsXPathOrder::compare_nodes(axsNode const& left, axsNode const& right)
+axsXPathDocumentOrder::Relation axsXPathDocumentOrder::compare_nodes(axsNode const& left, axsNode const& right)
 {
   long long left_depth = 0;
   long long right_depth = 0;
@@ -137,7 +137,7 @@ axsXPathOrder::Relation axsXPathOrder::compare_nodes(axsNode const& left, axsNod
   for (long long depth = right_depth; depth > left_depth; --depth)
     right_at = right_at->parent();
   if (left_at == right_at)
-    return left_depth < right_depth ? before : behind;
+    return left_depth < right_depth ? before : after;
   while (left_at->parent() != right_at->parent())
   {
     left_at = left_at->parent();
@@ -146,7 +146,7 @@ axsXPathOrder::Relation axsXPathOrder::compare_nodes(axsNode const& left, axsNod
   return compare_siblings(*left_at, *right_at);
 }
 
-axsXPathOrder::Relation axsXPathOrder::compare_siblings(axsNode const& left, axsNode const& right)
+axsXPathDocumentOrder::Relation axsXPathDocumentOrder::compare_siblings(axsNode const& left, axsNode const& right)
 {
   axsNode const* from_left = &left;
   axsNode const* from_right = &right;
@@ -156,17 +156,17 @@ axsXPathOrder::Relation axsXPathOrder::compare_siblings(axsNode const& left, axs
     if (from_left == &right)
       return before;
     if (from_left == nullptr)
-      return behind;
+      return after;
     from_right = from_right->next_sibling();
     if (from_right == &left)
-      return behind;
+      return after;
     if (from_right == nullptr)
       return before;
   }
   return too_far;
 }
 
-void axsXPathOrder::number(std::vector<axsXPathNode> const& nodes)
+void axsXPathDocumentOrder::number(std::vector<axsXPathNode> const& nodes)
 {
   if (is_all_numbered)
     return;
@@ -187,7 +187,7 @@ void axsXPathOrder::number(std::vector<axsXPathNode> const& nodes)
     number_node(*at, ++order);
 }
 
-void axsXPathOrder::number_node(axsNode& node, std::size_t order)
+void axsXPathDocumentOrder::number_node(axsNode& node, std::size_t order)
 {
   if (is_all_numbered)
     places.insert(&node);
@@ -206,9 +206,9 @@ void axsXPathOrder::number_node(axsNode& node, std::size_t order)
   }
 }
 
-axsXPathPlace axsXPathOrder::place_of(axsXPathNode node) noexcept
+axsXPathPlace axsXPathDocumentOrder::place_of(axsXPathNode node) noexcept
 {
-  axsXPathPlace place = *places.find(&axsXPathTree::anchor(node));
+  axsXPathPlace place = *places.find(&axsXPathModel::anchor(node));
   switch (rank_within(node))
   {
   case detached_root_rank:
@@ -217,7 +217,7 @@ axsXPathPlace axsXPathOrder::place_of(axsXPathNode node) noexcept
     place.within = 1;
     break;
   case namespace_rank:
-    place.within = static_cast<std::uint64_t>(node.extra().index) + 2;
+    place.within = static_cast<std::uint64_t>(node.virtual_node().index) + 2;
     break;
   default:
     place.within += within_attributes;

@@ -1,4 +1,4 @@
-#include "axsXPathTree.h"
+#include "axsXPathModel.h"
 
 #include "axsTree.h"
 
@@ -80,7 +80,7 @@ axsNode* previous_in_tree(axsNode& node, long long& depth) noexcept
 }
 }
 
-axsXPathTree::axsXPathTree(axsNode& context)
+axsXPathModel::axsXPathModel(axsNode& context)
   : topmost(&context.root()),
     detached_root{topmost, nullptr, -1},
     tree_root(topmost->is_document() ? axsXPathNode(topmost) : axsXPathNode(&detached_root)),
@@ -88,7 +88,7 @@ axsXPathTree::axsXPathTree(axsNode& context)
 {
 }
 
-axsXPathNode axsXPathTree::wrapped(axsNode& node) const noexcept
+axsXPathNode axsXPathModel::wrapped(axsNode& node) const noexcept
 {
   if (node.kind() == axsKind::doctype)
     return {};
@@ -98,10 +98,10 @@ axsXPathNode axsXPathTree::wrapped(axsNode& node) const noexcept
   return has_characters(first) ? axsXPathNode(&first) : axsXPathNode();
 }
 
-axsXPathTree::Kind axsXPathTree::kind(axsXPathNode node) const noexcept
+axsXPathModel::Kind axsXPathModel::kind(axsXPathNode node) const noexcept
 {
-  if (node.is_extra())
-    return node.extra().is_root() ? root_kind : namespace_kind;
+  if (node.is_virtual())
+    return node.virtual_node().is_root() ? root_kind : namespace_kind;
   switch (node.node()->kind())
   {
   case axsKind::element:
@@ -120,20 +120,21 @@ axsXPathTree::Kind axsXPathTree::kind(axsXPathNode node) const noexcept
   }
 }
 
-axsXPathNode axsXPathTree::parent(axsXPathNode node) const noexcept
+axsXPathNode axsXPathModel::parent(axsXPathNode node) const noexcept
 {
-  if (node.is_extra())
-    return node.extra().is_root() ? axsXPathNode() : axsXPathNode(node.extra().base);
+  if (node.is_virtual())
+    return node.virtual_node().is_root() ? axsXPathNode() : axsXPathNode(node.virtual_node().base);
   if (axsNode* const parent = node.node()->parent())
     return parent;
   // An attribute that was taken from its element stands alone.
   return node == tree_root || node.node()->is_attribute() ? axsXPathNode() : tree_root;
 }
 
-std::string_view axsXPathTree::string_value(axsXPathNode node, std::string& scratch) const
+std::string_view axsXPathModel::string_value(axsXPathNode node, std::string& scratch) const
 {
-  if (node.is_extra() && !node.extra().is_root())
-    return node.extra().declaration == nullptr ? axsXPathScopes::xml_uri : node.extra().declaration->value();
+  if (node.is_virtual() && !node.virtual_node().is_root())
+    return node.virtual_node().declaration == nullptr ? axsXPathScopes::xml_uri
+                                                      : node.virtual_node().declaration->value();
   axsNode const& base = anchor(node);
   if (is_text(&base) && is_text(base.next_sibling()))
   {
@@ -154,14 +155,14 @@ std::string_view axsXPathTree::string_value(axsXPathNode node, std::string& scra
   return scratch;
 }
 
-std::string_view axsXPathTree::local_name(axsXPathNode node) const noexcept
+std::string_view axsXPathModel::local_name(axsXPathNode node) const noexcept
 {
-  if (!node.is_extra())
+  if (!node.is_virtual())
     return node.node()->name() != nullptr ? node.node()->name()->local() : name(node);
   return name(node);
 }
 
-std::string_view axsXPathTree::namespace_uri(axsXPathNode node)
+std::string_view axsXPathModel::namespace_uri(axsXPathNode node)
 {
   switch (kind(node))
   {
@@ -178,16 +179,16 @@ std::string_view axsXPathTree::namespace_uri(axsXPathNode node)
   }
 }
 
-std::string_view axsXPathTree::name(axsXPathNode node) const noexcept
+std::string_view axsXPathModel::name(axsXPathNode node) const noexcept
 {
   switch (kind(node))
   {
   case namespace_kind:
     // The prefix it is declared for; the declaration of the default namespace has none.
-    if (node.extra().declaration == nullptr)
+    if (node.virtual_node().declaration == nullptr)
       return "xml";
-    return node.extra().declaration->name()->prefix().empty() ? std::string_view()
-                                                              : node.extra().declaration->name()->local();
+    return node.virtual_node().declaration->name()->prefix().empty() ? std::string_view()
+                                                                     : node.virtual_node().declaration->name()->local();
   case element_kind:
   case attribute_kind:
   case instruction_kind:
@@ -197,7 +198,7 @@ std::string_view axsXPathTree::name(axsXPathNode node) const noexcept
   }
 }
 
-bool axsXPathTree::walk(axsXPathAxis axis, axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+bool axsXPathModel::walk(axsXPathAxis axis, axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit)
 {
   if (from.is_none())
     return false;
@@ -233,14 +234,14 @@ bool axsXPathTree::walk(axsXPathAxis axis, axsXPathNode from, axsXPathTest const
   return false;
 }
 
-axsNode* axsXPathTree::first_below(axsXPathNode node) const noexcept
+axsNode* axsXPathModel::first_below(axsXPathNode node) const noexcept
 {
-  if (!node.is_extra())
+  if (!node.is_virtual())
     return node.node()->first_child();
-  return node.extra().is_root() && !topmost->is_attribute() ? topmost : nullptr;
+  return node.virtual_node().is_root() && !topmost->is_attribute() ? topmost : nullptr;
 }
 
-bool axsXPathTree::passes_other(axsNode& node, axsXPathTest const& test)
+bool axsXPathModel::passes_other(axsNode& node, axsXPathNodeTest const& test)
 {
   switch (test.kind)
   {
@@ -259,14 +260,15 @@ bool axsXPathTree::passes_other(axsNode& node, axsXPathTest const& test)
   }
 }
 
-bool axsXPathTree::passes_any(axsXPathNode node, axsXPathTest const& test)
+bool axsXPathModel::passes_any(axsXPathNode node, axsXPathNodeTest const& test)
 {
-  if (node.is_extra() || node.node()->is_attribute() || node.node()->is_document())
+  if (node.is_virtual() || node.node()->is_attribute() || node.node()->is_document())
     return test.kind == Test::any_node;
   return passes(*node.node(), test);
 }
 
-bool axsXPathTree::passes_attribute(axsElement const& owner, axsAttribute const& attribute, axsXPathTest const& test)
+bool axsXPathModel::passes_attribute(
+  axsElement const& owner, axsAttribute const& attribute, axsXPathNodeTest const& test)
 {
   axsName const& full_name = attribute.full_name();
   switch (test.kind)
@@ -286,12 +288,12 @@ bool axsXPathTree::passes_attribute(axsElement const& owner, axsAttribute const&
   }
 }
 
-bool axsXPathTree::walk_self(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+bool axsXPathModel::walk_self(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit)
 {
   return !from.is_none() && passes_any(from, test) && visit(from);
 }
 
-bool axsXPathTree::walk_ancestors(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+bool axsXPathModel::walk_ancestors(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit)
 {
   for (axsXPathNode at = from; !at.is_none(); at = parent(at))
     if (passes_any(at, test) && visit(at))
@@ -299,7 +301,7 @@ bool axsXPathTree::walk_ancestors(axsXPathNode from, axsXPathTest const& test, a
   return false;
 }
 
-bool axsXPathTree::walk_attributes(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+bool axsXPathModel::walk_attributes(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit)
 {
   if (kind(from) != element_kind)
     return false;
@@ -310,7 +312,7 @@ bool axsXPathTree::walk_attributes(axsXPathNode from, axsXPathTest const& test, 
   return false;
 }
 
-bool axsXPathTree::walk_namespaces(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+bool axsXPathModel::walk_namespaces(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit)
 {
   if (kind(from) != element_kind)
     return false;
@@ -329,7 +331,7 @@ bool axsXPathTree::walk_namespaces(axsXPathNode from, axsXPathTest const& test, 
   return false;
 }
 
-axsXPathTree::Range axsXPathTree::collect_namespaces(axsElement& element)
+axsXPathModel::Range axsXPathModel::collect_namespaces(axsElement& element)
 {
   Range range{namespace_nodes.size(), 0};
   auto const add = [&](axsNode* declaration)
@@ -355,7 +357,7 @@ axsXPathTree::Range axsXPathTree::collect_namespaces(axsElement& element)
   return range;
 }
 
-bool axsXPathTree::walk_children(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+bool axsXPathModel::walk_children(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit)
 {
   for (axsNode* at = first_below(from); at != nullptr; at = at->next_sibling())
     if (passes(*at, test) && visit(at))
@@ -363,7 +365,7 @@ bool axsXPathTree::walk_children(axsXPathNode from, axsXPathTest const& test, ax
   return false;
 }
 
-bool axsXPathTree::walk_descendants(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+bool axsXPathModel::walk_descendants(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit)
 {
   axsNode& base = anchor(from);
   for (axsNode* at = first_below(from); at != nullptr; at = at->next_in_tree(base))
@@ -372,13 +374,13 @@ bool axsXPathTree::walk_descendants(axsXPathNode from, axsXPathTest const& test,
   return false;
 }
 
-bool axsXPathTree::walk_following(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+bool axsXPathModel::walk_following(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit)
 {
   if (from == tree_root)
     return false;
   axsNode* at = &anchor(from);
   // What comes behind an attribute or namespace begins with the content of its element.
-  bool const is_inside = from.is_extra() || at->is_attribute();
+  bool const is_inside = from.is_virtual() || at->is_attribute();
   if (at->is_attribute())
     at = at->parent();
   if (at != nullptr)
@@ -389,9 +391,9 @@ bool axsXPathTree::walk_following(axsXPathNode from, axsXPathTest const& test, a
   return false;
 }
 
-bool axsXPathTree::walk_following_siblings(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+bool axsXPathModel::walk_following_siblings(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit)
 {
-  if (from.is_extra() || from.node()->is_attribute())
+  if (from.is_virtual() || from.node()->is_attribute())
     return false;
   for (axsNode* at = from.node()->next_sibling(); at != nullptr; at = at->next_sibling())
     if (passes(*at, test) && visit(at))
@@ -399,7 +401,7 @@ bool axsXPathTree::walk_following_siblings(axsXPathNode from, axsXPathTest const
   return false;
 }
 
-bool axsXPathTree::walk_preceding(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+bool axsXPathModel::walk_preceding(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit)
 {
   if (from == tree_root)
     return false;
@@ -418,9 +420,9 @@ bool axsXPathTree::walk_preceding(axsXPathNode from, axsXPathTest const& test, a
   return false;
 }
 
-bool axsXPathTree::walk_preceding_siblings(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit)
+bool axsXPathModel::walk_preceding_siblings(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit)
 {
-  if (from.is_extra() || from.node()->is_attribute())
+  if (from.is_virtual() || from.node()->is_attribute())
     return false;
   for (axsNode* at = from.node()->previous_sibling(); at != nullptr; at = at->previous_sibling())
     if (passes(*at, test) && visit(at))

@@ -2,8 +2,8 @@
 
 #include "axsXPathAxis.h"
 #include "axsXPathNode.h"
+#include "axsXPathNodeTest.h"
 #include "axsXPathScopes.h"
-#include "axsXPathTest.h"
 #include "axsXPathVisitor.h"
 
 #include "axsElement.h"
@@ -26,7 +26,7 @@
 ///   finds the same there as it will once the tree is the content of a document.
 ///
 /// Good for as long as the document does not change; belongs to one evaluation. Nothing recurses.
-class axsXPathTree
+class axsXPathModel
 {
 public:
   enum Kind
@@ -41,9 +41,9 @@ public:
   };
 
   /// The tree that `context` is in.
-  explicit axsXPathTree(axsNode& context);
-  axsXPathTree(axsXPathTree const&) = delete;
-  axsXPathTree& operator=(axsXPathTree const&) = delete;
+  explicit axsXPathModel(axsNode& context);
+  axsXPathModel(axsXPathModel const&) = delete;
+  axsXPathModel& operator=(axsXPathModel const&) = delete;
 
   /// What stands for `node` in the data model; none for a document type declaration and for texts without a character.
   axsXPathNode wrapped(axsNode& node) const noexcept;
@@ -57,7 +57,10 @@ public:
   axsXPathNode parent(axsXPathNode node) const noexcept;
 
   /// The node of the tree that the node is or, of a namespace, that has it; of a detached root the topmost node.
-  static axsNode& anchor(axsXPathNode node) noexcept { return node.is_extra() ? *node.extra().base : *node.node(); }
+  static axsNode& anchor(axsXPathNode node) noexcept
+  {
+    return node.is_virtual() ? *node.virtual_node().base : *node.node();
+  }
 
   /// The string-value (section 5), put together in `scratch` where it does not stand in one piece in the tree.
   std::string_view string_value(axsXPathNode node, std::string& scratch) const;
@@ -69,10 +72,10 @@ public:
 
   /// Shows the nodes on an axis that pass a test, in the order of the axis, until `visit` says to stop. Returns whether
   /// it did. From no node, no axis leads anywhere.
-  bool walk(axsXPathAxis axis, axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
+  bool walk(axsXPathAxis axis, axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit);
 
   /// Whether a node of the tree that is no attribute is a node of the data model that passes the test.
-  bool passes(axsNode& node, axsXPathTest const& test)
+  bool passes(axsNode& node, axsXPathNodeTest const& test)
   {
     using Test = axsXPathExpression::NodeTest;
     switch (test.kind)
@@ -88,7 +91,7 @@ public:
 
   /// The same for any node. The root, attributes and namespaces are nothing that an axis of elements could ask for but
   /// node().
-  bool passes_any(axsXPathNode node, axsXPathTest const& test);
+  bool passes_any(axsXPathNode node, axsXPathNodeTest const& test);
 
   /// The first node below, be it one of the data model or not; null if there is none.
   axsNode* first_below(axsXPathNode node) const noexcept;
@@ -96,26 +99,26 @@ public:
   axsXPathScopes& scopes() noexcept { return namespaces; }
 
 private:
-  bool is_named(axsElement& element, axsXPathTest const& test)
+  bool is_named(axsElement& element, axsXPathNodeTest const& test)
   {
     if (test.has_prefix)
       return element.element_name().local() == test.local && namespaces.uri_of_element(element) == test.uri;
     return test.name != nullptr && element.is_named(*test.name) && namespaces.is_without_namespace(element);
   }
 
-  bool passes_other(axsNode& node, axsXPathTest const& test);
-  bool passes_attribute(axsElement const& owner, axsAttribute const& attribute, axsXPathTest const& test);
+  bool passes_other(axsNode& node, axsXPathNodeTest const& test);
+  bool passes_attribute(axsElement const& owner, axsAttribute const& attribute, axsXPathNodeTest const& test);
 
-  bool walk_self(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
-  bool walk_ancestors(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
-  bool walk_attributes(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
-  bool walk_namespaces(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
-  bool walk_children(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
-  bool walk_descendants(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
-  bool walk_following(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
-  bool walk_following_siblings(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
-  bool walk_preceding(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
-  bool walk_preceding_siblings(axsXPathNode from, axsXPathTest const& test, axsXPathVisitor visit);
+  bool walk_self(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit);
+  bool walk_ancestors(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit);
+  bool walk_attributes(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit);
+  bool walk_namespaces(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit);
+  bool walk_children(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit);
+  bool walk_descendants(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit);
+  bool walk_following(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit);
+  bool walk_following_siblings(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit);
+  bool walk_preceding(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit);
+  bool walk_preceding_siblings(axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit);
 
   struct Range
   {
@@ -126,10 +129,10 @@ private:
   Range collect_namespaces(axsElement& element);
 
   axsNode* topmost;
-  axsXPathExtraNode detached_root;
+  axsXPathVirtualNode detached_root;
   axsXPathNode tree_root;
   axsXPathScopes namespaces;
   // The namespace nodes in use, and where those of each element stand that was asked for them.
-  std::deque<axsXPathExtraNode> namespace_nodes;
+  std::deque<axsXPathVirtualNode> namespace_nodes;
   std::unordered_map<axsElement const*, Range> scope_ranges;
 };
