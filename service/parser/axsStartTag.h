@@ -41,6 +41,6 @@ struct axsStartTag
   /// In their order, the defaults last.
   std::vector<axsTagAttribute> const* attributes;
 
-  /// What is bound inside the element.
+  /// What is bound inside the element. Lives as long as the parser: asked during a later event, what is bound there.
   axsPrefixScope const* prefixes;
 };
