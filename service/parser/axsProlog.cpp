@@ -1,6 +1,7 @@
 #include "axsProlog.h"
 
 #include "axsCharacters.h"
+#include "axsEncodingName.h"
 #include "axsExternalId.h"
 
 #include <string_view>
@@ -21,9 +22,8 @@ std::string_view declared_value(char const*& at)
 }
 }
 
-bool axsProlog::skip_declaration(char const*& at, Encoding& encoding)
+bool axsProlog::skip_declaration(char const*& at)
 {
-  bool const has_mark = skip(at, "\xEF\xBB\xBF");
   if (!begins(at, "<?xml") || !is(at[5], space))
     return true;
   at = behind_spaces(at + 5);
@@ -32,10 +32,7 @@ bool axsProlog::skip_declaration(char const*& at, Encoding& encoding)
   bool spaced = skip_spaces(at);
   if (spaced && skip(at, "encoding"))
   {
-    std::string_view const declared = declared_value(at);
-    if (!has_mark && is_equal_in_any_case(declared, "us-ascii"))
-      encoding = Encoding::ascii;
-    else if (!is_equal_in_any_case(declared, "utf-8"))
+    if (!axsEncodingName::is_name(declared_value(at)))
       return false;
     spaced = skip_spaces(at);
   }

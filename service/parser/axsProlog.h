@@ -4,15 +4,9 @@
 /// unusual there is not taken.
 namespace axsProlog
 {
-enum class Encoding
-{
-  utf8,
-  ascii
-};
-
-/// Moves from the start of a document behind the byte-order mark and the XML declaration (XML 1.0, 2.8, [23] XMLDecl),
-/// either of which may be missing. False where there is another declaration; `at` is then of no use.
-bool skip_declaration(char const*& at, Encoding& encoding);
+/// Moves from the start of a document to the end of the XML declaration (XML 1.0, 2.8, [23] XMLDecl), which may be
+/// missing. False where there is another declaration; `at` is then of no use.
+bool skip_declaration(char const*& at);
 
 /// Moves from the start of a document type declaration (2.8, [28] doctypedecl) to the '[' of its internal subset, or to the
 /// '>' if it has none. False where there is no declaration; `at` is then where that shows.

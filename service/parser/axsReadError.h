@@ -1,5 +1,7 @@
 #pragma once
 
+#include "axsPlace.h"
+
 #include <apString.h>
 #include <axmParseError.h>
 
@@ -13,6 +15,9 @@ struct axsReadError
   int column = -1;
   // Whether it may be that bytes are no characters; then the place is somewhere before them.
   bool is_about_encoding = false;
+
+  /// With a place, as far as its numbers fit.
+  static axsReadError at(apString const& message, apString const& url, axsPlace place);
 
   axmParseError record() const;
 };

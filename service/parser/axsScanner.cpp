@@ -57,7 +57,6 @@ private:
   axsPlace place_of(char const* to) const { return window.place(to); }
 
   void told(char const* to) { event_begin = at, event_end = to; }
-  bool is_in_encoding() const;
   Step step();
   Step outside();
   Step doctype();
@@ -97,7 +96,6 @@ private:
   std::uint64_t elements = 0;
   bool doctype_seen = false;
   bool root_seen = false;
-  axsProlog::Encoding encoding = axsProlog::Encoding::utf8;
 };
 
 Scan::Scan(axsSource& source, axsParseHandler& handler, std::size_t most_expansions)
@@ -117,7 +115,7 @@ Scan::Scan(axsSource& source, axsParseHandler& handler, std::size_t most_expansi
 bool Scan::run()
 {
   events.start_document(*this);
-  if (!axsProlog::skip_declaration(at, encoding) || !is_in_encoding())
+  if (!axsProlog::skip_declaration(at))
     return false;
   while (true)
     switch (step())
@@ -128,20 +126,12 @@ bool Scan::run()
       at = window.advance(at);
       if (normal.capacity() < window.capacity())
         normal.reserve(window.capacity());
-      if (!is_in_encoding())
-        return false;
       break;
     case Step::end:
       return true;
     case Step::refused:
       return false;
     }
-}
-
-// Whether the bytes can be of the encoding that is declared. Those of UTF-8 are looked at as they are read.
-bool Scan::is_in_encoding() const
-{
-  return encoding == axsProlog::Encoding::utf8 || std::all_of(window.begin(), window.end(), is_ascii);
 }
 
 Step Scan::step()

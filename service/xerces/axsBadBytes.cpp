@@ -1,6 +1,6 @@
 #include "axsBadBytes.h"
 
-#include "axsProlog.h"
+#include "axsEncoding.h"
 #include "axsSource.h"
 
 #include <apByteBlock.h>
@@ -85,36 +85,22 @@ private:
   unsigned char most = 0xBF;
 };
 
-bool is_utf8(std::string_view head)
-{
-  // There is no declaration that is longer; behind the text zero bytes are needed.
-  std::string start(head.substr(0, 1000));
-  start.resize(start.size() + 2 * apByteBlock::size);
-  char const* at = start.data();
-  axsProlog::Encoding encoding = axsProlog::Encoding::utf8;
-  bool const has_zero = head.substr(0, 2).find('\0') != std::string_view::npos;
-  bool const is_utf16 = head.substr(0, 2) == "\xFF\xFE" || head.substr(0, 2) == "\xFE\xFF";
-  return !has_zero && !is_utf16 && axsProlog::skip_declaration(at, encoding) && encoding == axsProlog::Encoding::utf8;
-}
-
-bool declares_encoding(std::string_view head)
-{
-  return head.substr(0, 5) == "<?xml" && head.substr(0, head.find("?>")).find("encoding") != std::string_view::npos;
-}
-
-apString message(Text const& text, std::string_view head)
+apString message(Text const& text, bool is_declared)
 {
   if (text.byte() == 0)
     return APSTRING("A zero byte stands in the document");
   apString const byte = apStringFormatter::format(L"The byte 0x%02X is not UTF-8", text.byte());
-  return byte + (declares_encoding(head) ? APSTRING(", which the document says that it is")
-                                         : APSTRING("; a document in another encoding has to declare it"));
+  return byte + (is_declared ? APSTRING(", which the document says that it is")
+                             : APSTRING("; a document in another encoding has to declare it"));
 }
 }
 
 axsReadError axsBadBytes::explained(axsSource& source, axsReadError const& error)
 {
-  if (error.url != source.url() || !source.can_rewind() || !is_utf8(source.head()))
+  if (error.url != source.url() || !source.can_rewind())
+    return error;
+  axsEncoding const encoding = axsEncoding::of(source.head(), error.url);
+  if (encoding.name != "UTF-8")
     return error;
 
   source.rewind();
@@ -126,5 +112,5 @@ axsReadError axsBadBytes::explained(axsSource& source, axsReadError const& error
   bool const is_before = std::make_pair(text.line(), text.column()) <= std::make_pair(error.line, error.column);
   if ((good && text.ends()) || !(is_before || error.line < 0 || error.is_about_encoding))
     return error;
-  return {message(text, source.head()), error.url, text.line(), text.column()};
+  return {message(text, encoding.is_declared), error.url, text.line(), text.column()};
 }

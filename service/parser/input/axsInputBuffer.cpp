@@ -5,13 +5,11 @@
 #include <apByteBlock.h>
 
 #include <cstring>
-#include <string_view>
 #include <utility>
 
 namespace
 {
 std::size_t const usual_room = 65536;
-std::string_view const byte_order_mark = "\xEF\xBB\xBF";
 
 std::unique_ptr<char[]> make_bytes(std::size_t room)
 {
@@ -20,15 +18,13 @@ std::unique_ptr<char[]> make_bytes(std::size_t room)
 }
 
 axsInputBuffer::axsInputBuffer(axsSource& given)
-  : source(given),
+  : url(given.url()),
+    source(given),
     bytes(make_bytes(usual_room)),
     room(usual_room),
     known(begin())
 {
   fill();
-  // The mark is no character.
-  if (std::string_view(begin(), filled).substr(0, byte_order_mark.size()) == byte_order_mark)
-    begin_place.column = known_place.column = 0;
 }
 
 axsPlace axsInputBuffer::place(char const* at) const noexcept
@@ -43,6 +39,8 @@ axsPlace axsInputBuffer::place(char const* at) const noexcept
 
 char const* axsInputBuffer::advance(char const* from)
 {
+  if (!source.fault().empty())
+    throw axsReadError::at(source.fault(), url, place(end()));
   begin_place = place(from);
   std::size_t const kept = static_cast<std::size_t>(end() - from);
   passed += filled - kept;
@@ -65,11 +63,11 @@ char const* axsInputBuffer::advance(char const* from)
 void axsInputBuffer::fill()
 {
   char* const to = bytes.get() + axsLineEnds::bytes_before;
-  while (!last && filled < room)
+  while (!last && source.fault().empty() && room - filled >= axsUtf8Source::min_room)
   {
     std::size_t const count = source.read(to + filled, room - filled);
     filled += count;
-    last = count == 0;
+    last = count == 0 && source.fault().empty();
   }
   to[filled] = '\0';
 }

@@ -2,6 +2,9 @@
 
 #include "axsLineEnds.h"
 #include "axsPlace.h"
+#include "axsUtf8Source.h"
+
+#include <apString.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -10,14 +13,14 @@
 class axsSource;
 
 /// The part of a document that is being read: a piece of it in memory that moves on through a source, and grows when
-/// something does not fit.
+/// something does not fit. It has the text in well-formed UTF-8 without zero bytes, whatever the source has.
 ///
 /// After its last byte stands a zero byte, and after that some bytes more may be read, so that who reads on needs no
 /// look at where the end is.
 class axsInputBuffer
 {
 public:
-  /// The beginning of the source, which is read on from where it is and must live longer.
+  /// The beginning of the source, which is at its start and must live longer. Throws as axsUtf8Source does.
   explicit axsInputBuffer(axsSource& source);
 
   char const* begin() const noexcept { return bytes.get() + axsLineEnds::bytes_before; }
@@ -29,11 +32,13 @@ public:
   /// How many bytes it holds before it grows.
   std::size_t capacity() const noexcept { return room; }
 
-  /// How many bytes of the document stand before `at`, which points into the buffer.
+  /// The encoding of the document.
+  axsEncoding const& encoding() const noexcept { return source.encoding(); }
+
+  /// How many bytes of UTF-8 stand before `at`, which points into the buffer.
   std::uint64_t position(char const* at) const noexcept { return passed + static_cast<std::uint64_t>(at - begin()); }
 
-  /// Line and column of `at`, which points to the beginning of a character in the buffer or to its end. A byte-order mark
-  /// is no character. Takes time in proportion to the bytes between `at` and where the last one was that was asked for; if
+  /// Line and column of `at`, which points to the beginning of a character in the buffer or to its end. Takes time in proportion to the bytes between `at` and where the last one was that was asked for; if
   /// `at` stands before that, also to the length of its line as far as it is in the buffer.
   axsPlace place(char const* at) const noexcept;
 
@@ -41,13 +46,15 @@ public:
   void take_xml_1_1_line_ends() noexcept { line_ends = axsLineEnds::Rule::xml_1_1; }
 
   /// Lets go what is before `from`, which points into the buffer, and reads more, if something comes. Returns where that
-  /// byte stands now. Throws axsReadError when the source cannot be read, std::bad_alloc when memory runs out.
+  /// byte stands now. Throws axsReadError when the source cannot be read and when what comes after the end is not in the
+  /// encoding of the document, std::bad_alloc when memory runs out.
   char const* advance(char const* from);
 
 private:
   void fill();
 
-  axsSource& source;
+  apString url;
+  axsUtf8Source source;
   // First the last ones that were let go.
   std::unique_ptr<char[]> bytes;
   std::size_t room;

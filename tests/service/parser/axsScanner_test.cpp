@@ -2,6 +2,7 @@
 
 #include "BothRoads.h"
 #include "axsCharacters.h"
+#include "axsReadError.h"
 #include "axsReader.h"
 #include "axsSource.h"
 
@@ -126,6 +127,21 @@ TEST(axsScanner, reads_on_wherever_a_piece_ends)
       }
 }
 
+namespace
+{
+bool is_scanned(std::string const& document)
+try
+{
+  apByteArray const data(document.data(), document.size());
+  axsSource source(data);
+  return axsReader::scan(source, axmLoadOptions(axmValidateNone), apString()) != nullptr;
+}
+catch (axsReadError const&)
+{
+  return false;
+}
+}
+
 TEST(axsScanner, refuses_what_ends_too_early_wherever_that_is)
 {
   for (std::size_t length = 0; length < with_everything.size() - 11; ++length)
@@ -133,9 +149,7 @@ TEST(axsScanner, refuses_what_ends_too_early_wherever_that_is)
     {
       std::string const document =
         std::string(before - std::min(before, length), ' ') + with_everything.substr(0, length);
-      apByteArray const data(document.data(), document.size());
-      axsSource source(data);
-      EXPECT_EQ(axsReader::scan(source, axmLoadOptions(axmValidateNone), apString()), nullptr) << document;
+      EXPECT_FALSE(is_scanned(document)) << document;
     }
 }
 

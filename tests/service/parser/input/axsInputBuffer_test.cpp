@@ -1,5 +1,6 @@
 #include "axsInputBuffer.h"
 
+#include "axsReadError.h"
 #include "axsSource.h"
 
 #include <gtest/gtest.h>
@@ -121,13 +122,46 @@ TEST(axsInputBuffer, knows_places_without_being_asked_before)
   EXPECT_EQ(buffer.place(buffer.end()), (axsPlace{100001, 2}));
 }
 
-TEST(axsInputBuffer, a_byte_order_mark_has_no_column)
+TEST(axsInputBuffer, has_no_byte_order_mark)
 {
   std::string const marked = "\xEF\xBB\xBF<r/>";
   apByteArray const bytes(marked.data(), marked.size());
   axsSource source(bytes);
   axsInputBuffer buffer(source);
-  EXPECT_EQ(buffer.place(buffer.begin() + 3), (axsPlace{1, 1}));
-  EXPECT_EQ(buffer.place(buffer.begin() + 5), (axsPlace{1, 3}));
-  EXPECT_EQ(buffer.place(buffer.begin() + 4), (axsPlace{1, 2}));
+  EXPECT_EQ(std::string_view(buffer.begin(), static_cast<std::size_t>(buffer.end() - buffer.begin())), "<r/>");
+  EXPECT_EQ(buffer.place(buffer.begin()), (axsPlace{1, 1}));
+  EXPECT_EQ(buffer.encoding().name, "UTF-8");
+}
+
+TEST(axsInputBuffer, gives_what_stands_before_an_illegal_byte_and_tells_of_it_then)
+{
+  std::string const text(100000, 'x');
+  for (std::string const& before : {std::string(), std::string("<r>\n\xC3\xA4"), text + "\n\xC3\xA4"})
+    for (std::string const& wrong : {std::string("\xFF"), std::string("\xC3"), std::string(1, '\0'), "\xE4" + text})
+    {
+      std::string const document = before + wrong;
+      apByteArray const bytes(document.data(), document.size());
+      axsSource source(bytes);
+      axsInputBuffer buffer(source);
+      std::string seen;
+      axsReadError error;
+      try
+      {
+        while (true)
+        {
+          ASSERT_FALSE(buffer.is_last());
+          seen.append(buffer.begin(), buffer.end());
+          buffer.advance(buffer.end());
+        }
+      }
+      catch (axsReadError const& thrown)
+      {
+        error = thrown;
+      }
+      EXPECT_EQ(seen, before);
+      EXPECT_EQ(error.line, before.empty() ? 1 : 2);
+      EXPECT_EQ(error.column, before.empty() ? 1 : 2);
+      std::string const words = error.message.to_utf8().c_str();
+      EXPECT_EQ(words.find(wrong[0] == '\0' ? "A zero byte" : "The byte 0x"), 0u) << words;
+    }
 }

@@ -1,0 +1,126 @@
+#include "axsUtf8Source.h"
+
+#include "axsDecoder.h"
+#include "axsSource.h"
+
+#include <apStringFormatter.h>
+#include <utUtf8.h>
+
+#include <algorithm>
+#include <cstring>
+#include <string_view>
+
+namespace
+{
+std::size_t const usual_piece = 32768;
+
+std::unique_ptr<axsDecoder> make_decoder(std::string const& name)
+{
+  bool const is_utf8 = name == "UTF-8" || name == "US-ASCII";
+  return is_utf8 ? nullptr : axsDecoder::make(name);
+}
+
+// How many bytes at the beginning are whole characters.
+std::size_t size_of_valid(std::string_view text, bool is_ascii)
+{
+  if (is_ascii)
+    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), utUtf8::is_ascii) - text.begin());
+  return std::min(utUtf8::find_ill_formed(text), text.size());
+}
+
+bool may_go_on(std::string_view part)
+{
+  return utUtf8::decode(part.data(), part.data() + part.size()).is_cut_off();
+}
+}
+
+axsUtf8Source::axsUtf8Source(axsSource& given)
+  : source(given),
+    found(axsEncoding::of(given.head(), given.url())),
+    decoder(make_decoder(found.name))
+{
+  char mark[4];
+  source.read(mark, found.mark_size);
+}
+
+axsUtf8Source::~axsUtf8Source() = default;
+
+std::size_t axsUtf8Source::read(char* to, std::size_t room)
+{
+  if (!wrong.empty())
+    return 0;
+  return decoder == nullptr ? read_utf8(to, room) : read_decoded(to, room);
+}
+
+std::size_t axsUtf8Source::read_utf8(char* to, std::size_t room)
+{
+  while (!at_end)
+  {
+    std::size_t const before = rest.size();
+    std::copy(rest.begin(), rest.end(), to);
+    std::size_t const count = source.read(to + before, room - before);
+    at_end = count == 0;
+    std::string_view const text(to, before + count);
+    std::size_t const valid = size_of_valid(text, found.name == "US-ASCII");
+    std::string_view const part = text.substr(valid);
+    bool const goes_on = !part.empty() && !at_end && may_go_on(part);
+    rest.assign(part.begin(), goes_on ? part.end() : part.begin());
+    std::size_t const size = up_to_zero(to, valid);
+    if (wrong.empty() && !part.empty() && !goes_on)
+      stop_at(part[0]);
+    if (size > 0 || !wrong.empty())
+      return size;
+  }
+  return 0;
+}
+
+std::size_t axsUtf8Source::read_decoded(char* to, std::size_t room)
+{
+  while (true)
+  {
+    std::string_view const bytes = std::string_view(rest.data(), rest.size()).substr(decoded);
+    axsDecoder::Result const made = decoder->decode(bytes, to, room, at_end);
+    decoded += made.taken;
+    // No converter may keep us waiting at the end.
+    bool const is_stuck = made.taken + made.made == 0 && at_end && !bytes.empty();
+    std::size_t const size = up_to_zero(to, made.made);
+    if (wrong.empty() && (made.is_illegal || is_stuck))
+      stop_at(bytes[made.taken]);
+    if (size > 0 || !wrong.empty() || (at_end && made.taken == bytes.size()))
+      return size;
+    if (!at_end)
+      fill();
+  }
+}
+
+void axsUtf8Source::fill()
+{
+  rest.erase(rest.begin(), rest.begin() + static_cast<std::ptrdiff_t>(decoded));
+  decoded = 0;
+  std::size_t const before = rest.size();
+  rest.resize(before + usual_piece);
+  std::size_t const count = source.read(rest.data() + before, usual_piece);
+  rest.resize(before + count);
+  at_end = count == 0;
+}
+
+// What comes before the first zero byte.
+std::size_t axsUtf8Source::up_to_zero(char const* text, std::size_t size)
+{
+  void const* const zero = size == 0 ? nullptr : std::memchr(text, '\0', size);
+  if (zero == nullptr)
+    return size;
+  wrong = APSTRING("A zero byte stands in the document");
+  return static_cast<std::size_t>(static_cast<char const*>(zero) - text);
+}
+
+void axsUtf8Source::stop_at(char byte)
+{
+  wrong =
+    apStringFormatter::format(L"The byte 0x%02X is not ", static_cast<unsigned>(static_cast<unsigned char>(byte))) +
+    apString::from_utf8(found.name);
+  if (found.is_declared)
+    wrong += APSTRING(", which the document says that it is");
+  else if (found.mark_size == 0)
+    wrong += APSTRING("; a document in another encoding has to declare it");
+}
