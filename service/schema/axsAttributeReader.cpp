@@ -1,0 +1,267 @@
+#include "axsAttributeReader.h"
+
+#include "axsBuiltInTypes.h"
+#include "axsNamespaceConstraint.h"
+#include "axsSchemaConstraint.h"
+#include "axsSchemaText.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace
+{
+using Field = axsSchemaField;
+using Tag = axsSchemaTag;
+using Space = axsSchemaSymbol::Space;
+using State = axsSchemaSymbol::State;
+using axsSchemaText::quoted;
+
+axsSchemaNameView view(axsSchemaName const& name)
+{
+  return {name.name_space, name.local};
+}
+
+bool is_same_place(axsSchemaPlace left, axsSchemaPlace right)
+{
+  return left.file == right.file && left.line == right.line && left.column == right.column;
+}
+}
+
+axsAttributeReader::axsAttributeReader(axsSchemaContext& shared, axsSimpleTypeReader& types)
+  : context(shared),
+    simple_types(types)
+{
+}
+
+void axsAttributeReader::fill(axsSchemaSymbol& symbol)
+{
+  axsAttributeDecl& decl = *symbol.attribute_decl;
+  decl.name = {std::string(symbol.name().name_space), std::string(symbol.name().local)};
+  decl.is_global = true;
+  decl.type = type_of(*symbol.unit, *symbol.element);
+  decl.constraint = axsSchemaConstraint::read(context, *symbol.element, *decl.type);
+  decl.place = symbol.element->place;
+  check_name(decl.name, symbol.element->place);
+}
+
+// no-xmlns and no-xsi.
+void axsAttributeReader::check_name(axsSchemaName const& name, axsSchemaPlace place)
+{
+  if (name.local == "xmlns")
+    context.errors.add(place, "no attribute can be named 'xmlns'");
+  if (name.name_space == axsSchemaVocabulary::instance_namespace)
+    context.errors.add(place, "no attribute can be declared in the namespace " + quoted(name.name_space));
+}
+
+axsSimpleType const* axsAttributeReader::type_of(axsSchemaUnit const& unit, axsSchemaElement const& element)
+{
+  if (axsSchemaElement const* const inner = element.child(Tag::simple_type))
+    return &simple_types.anonymous(unit, *inner);
+  if (element.has(Field::type))
+    return &simple_types.referred(unit, element, Field::type);
+  return &axsBuiltInTypes::any_simple_type();
+}
+
+void axsAttributeReader::make_group(axsSchemaSymbol& symbol)
+{
+  struct Open
+  {
+    axsSchemaSymbol* symbol;
+    Groups groups;
+    std::size_t next;
+  };
+  std::vector<Open> open;
+  auto const enter = [&](axsSchemaSymbol& entered)
+  {
+    entered.state = State::active;
+    open.push_back({&entered, groups_of(*entered.unit, *entered.element), 0});
+  };
+
+  if (symbol.state == State::untouched)
+    enter(symbol);
+  while (!open.empty())
+  {
+    Open& innermost = open.back();
+    axsSchemaSymbol& made = *innermost.symbol;
+    if (innermost.next == innermost.groups.size())
+    {
+      made.attributes = collect_direct(*made.unit, *made.element, innermost.groups);
+      made.state = State::done;
+      open.pop_back();
+      continue;
+    }
+    axsSchemaSymbol* const other = innermost.groups[innermost.next++];
+    if (other != nullptr && other->state == State::active) // src-attribute_group.3
+      context.errors.add(made.element->place, quoted(other->name().local) + " is defined by itself");
+    else if (other != nullptr && other->state == State::untouched)
+      enter(*other);
+  }
+}
+
+axsAttributeSet axsAttributeReader::collect(axsSchemaUnit const& unit, axsSchemaElement const& element)
+{
+  Groups const groups = groups_of(unit, element);
+  for (axsSchemaSymbol* const group : groups)
+    if (group != nullptr)
+      make_group(*group);
+  return collect_direct(unit, element, groups);
+}
+
+// The groups that it refers to, in their order; null for one that is not there.
+axsAttributeReader::Groups axsAttributeReader::groups_of(axsSchemaUnit const& unit, axsSchemaElement const& element)
+{
+  Groups found;
+  for (axsSchemaElement const* child = element.first_child; child != nullptr; child = child->next)
+    if (child->tag == Tag::attribute_group)
+      found.push_back(context.symbols.resolve(Space::attribute_group, unit, *child, Field::ref));
+  return found;
+}
+
+// All groups that it refers to are made.
+axsAttributeSet axsAttributeReader::collect_direct(
+  axsSchemaUnit const& unit, axsSchemaElement const& element, Groups const& groups)
+{
+  axsAttributeSet set;
+  auto next_group = groups.begin();
+  if (axsSchemaElement const* const any = element.child(Tag::any_attribute))
+    set.wildcard = wildcard(unit, *any);
+  for (axsSchemaElement const* child = element.first_child; child != nullptr; child = child->next)
+    if (child->tag == Tag::attribute)
+      add_use(set, unit, *child);
+    else if (child->tag == Tag::attribute_group)
+    {
+      axsSchemaSymbol const* const group = *next_group++;
+      if (group != nullptr && group->state == State::done)
+        add_group(set, group->attributes, *child);
+    }
+  check_names(set);
+  return set;
+}
+
+void axsAttributeReader::add_use(axsAttributeSet& set, axsSchemaUnit const& unit, axsSchemaElement const& element)
+{
+  axsAttributeDecl* decl = nullptr;
+  if (element.has(Field::ref))
+  {
+    axsSchemaSymbol const* const symbol = context.symbols.resolve(Space::attribute, unit, element, Field::ref);
+    decl = symbol == nullptr ? nullptr : symbol->attribute_decl;
+  }
+  else
+    decl = local(unit, element);
+  if (decl == nullptr)
+    return;
+  std::string_view const use = element.value(Field::use);
+  if (use == "prohibited")
+  {
+    set.prohibited.push_back({decl->name, element.place});
+    return;
+  }
+  axsAttributeUse& made = set.uses.emplace_back();
+  made.decl = decl;
+  made.is_required = use == "required";
+  made.constraint = axsSchemaConstraint::read(context, element, *decl->type);
+  made.place = element.place;
+  if (decl->constraint.kind != axsValueConstraint::Kind::none)
+    add_constraint_of(made, *decl, element);
+}
+
+// The effective value constraint (3.5.2), and au-props-correct.2.
+void axsAttributeReader::add_constraint_of(
+  axsAttributeUse& use, axsAttributeDecl const& decl, axsSchemaElement const& element)
+{
+  using Kind = axsValueConstraint::Kind;
+  bool const is_changed = use.constraint.kind != Kind::none && decl.constraint.kind == Kind::fixed &&
+                          (use.constraint.kind != Kind::fixed || use.constraint.bytes != decl.constraint.bytes);
+  if (is_changed)
+    context.errors.add(element.place, "attribute " + quoted(decl.name.local) + " has the fixed value " +
+                                        quoted(decl.constraint.value) + ", which a reference cannot change");
+  if (use.constraint.kind == Kind::none)
+    use.constraint = decl.constraint;
+}
+
+axsAttributeDecl* axsAttributeReader::local(axsSchemaUnit const& unit, axsSchemaElement const& element)
+{
+  axsAttributeDecl& made = context.store.attributes.emplace_back();
+  axsSchemaElement const& schema = unit.document->root();
+  std::string_view const form =
+    element.has(Field::form) ? element.value(Field::form) : schema.value(Field::attribute_form_default);
+  made.name.local = element.value(Field::name);
+  if (form == "qualified")
+    made.name.name_space = unit.target;
+  made.type = type_of(unit, element);
+  made.place = element.place;
+  check_name(made.name, element.place);
+  return &made;
+}
+
+void axsAttributeReader::add_group(
+  axsAttributeSet& set, axsAttributeSet const& added, axsSchemaElement const& reference)
+{
+  set.uses.insert(set.uses.end(), added.uses.begin(), added.uses.end());
+  if (added.wildcard.has_value())
+    intersect(set, *added.wildcard, reference);
+}
+
+// The complete wildcard (3.4.2).
+void axsAttributeReader::intersect(axsAttributeSet& set, axsWildcard const& other, axsSchemaElement const& reference)
+{
+  if (!set.wildcard.has_value())
+  {
+    set.wildcard = other;
+    return;
+  }
+  std::optional<axsWildcard> both = axsNamespaceConstraint::intersected(*set.wildcard, other);
+  if (both.has_value())
+    set.wildcard = std::move(both);
+  else
+    context.errors.add(reference.place, "what two attribute wildcards both allow cannot be expressed"
+                                        " (intensional intersection)");
+}
+
+// ct-props-correct.4 and ag-props-correct.2. One use that comes in by several groups is one use.
+void axsAttributeReader::check_names(axsAttributeSet& set)
+{
+  axsSchemaNameTable<axsSchemaPlace> seen;
+  std::vector<axsAttributeUse> kept;
+  kept.reserve(set.uses.size());
+  for (axsAttributeUse& use : set.uses)
+  {
+    auto const [known, is_new] = seen.emplace(view(use.decl->name), use.place);
+    if (is_new)
+      kept.push_back(std::move(use));
+    else if (!is_same_place(known->second, use.place))
+      context.errors.add(use.place, "attribute " + quoted(use.decl->name.local) + " is declared twice; first at line " +
+                                      std::to_string(known->second.line));
+  }
+  set.uses = std::move(kept);
+}
+
+axsWildcard axsAttributeReader::wildcard(axsSchemaUnit const& unit, axsSchemaElement const& element)
+{
+  axsWildcard made;
+  made.place = element.place;
+  std::string_view const process = element.value(Field::process_contents);
+  made.process = process == "lax"    ? axsWildcard::Process::lax
+                 : process == "skip" ? axsWildcard::Process::skip
+                                     : axsWildcard::Process::strict;
+  std::string_view names = element.has(Field::name_space) ? element.value(Field::name_space) : "##any";
+  if (names == "##any")
+    return made;
+  if (names == "##other")
+  {
+    made.kind = axsWildcard::Namespaces::not_one;
+    made.spaces = {unit.target};
+    return made;
+  }
+  made.kind = axsWildcard::Namespaces::one_of;
+  for (std::string_view item = axsSchemaText::next_item(names); !item.empty(); item = axsSchemaText::next_item(names))
+    if (item == "##targetNamespace")
+      made.spaces.push_back(unit.target);
+    else
+      made.spaces.emplace_back(item == "##local" ? std::string_view() : item);
+  std::sort(made.spaces.begin(), made.spaces.end());
+  made.spaces.erase(std::unique(made.spaces.begin(), made.spaces.end()), made.spaces.end());
+  return made;
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "axsSchemaContext.h"
+#include "axsSimpleTypeReader.h"
+
+#include <vector>
+
+/// Makes attribute declarations, uses and groups out of schema documents (Part 1, 3.2.2, 3.5.2, 3.6.2, 3.10.2).
+class axsAttributeReader
+{
+public:
+  axsAttributeReader(axsSchemaContext& shared, axsSimpleTypeReader& types);
+
+  /// Fills the declaration of a global attribute.
+  void fill(axsSchemaSymbol& symbol);
+
+  /// Makes the group, and before it those that it refers to.
+  void make_group(axsSchemaSymbol& symbol);
+
+  /// The attributes that an element declares, one of a type or a derivation.
+  axsAttributeSet collect(axsSchemaUnit const& unit, axsSchemaElement const& element);
+
+  /// What xs:any or xs:anyAttribute says.
+  static axsWildcard wildcard(axsSchemaUnit const& unit, axsSchemaElement const& element);
+
+private:
+  using Groups = std::vector<axsSchemaSymbol*>;
+
+  Groups groups_of(axsSchemaUnit const& unit, axsSchemaElement const& element);
+  axsAttributeSet collect_direct(axsSchemaUnit const& unit, axsSchemaElement const& element, Groups const& groups);
+  void add_use(axsAttributeSet& set, axsSchemaUnit const& unit, axsSchemaElement const& element);
+  void add_constraint_of(axsAttributeUse& use, axsAttributeDecl const& decl, axsSchemaElement const& element);
+  void add_group(axsAttributeSet& set, axsAttributeSet const& added, axsSchemaElement const& reference);
+  void intersect(axsAttributeSet& set, axsWildcard const& other, axsSchemaElement const& reference);
+  void check_names(axsAttributeSet& set);
+  axsAttributeDecl* local(axsSchemaUnit const& unit, axsSchemaElement const& element);
+  axsSimpleType const* type_of(axsSchemaUnit const& unit, axsSchemaElement const& element);
+  void check_name(axsSchemaName const& name, axsSchemaPlace place);
+
+  axsSchemaContext& context;
+  axsSimpleTypeReader& simple_types;
+};

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "axsAttributeUse.h"
+#include "axsSchemaName.h"
+#include "axsSchemaPlace.h"
+#include "axsWildcard.h"
+
+#include <optional>
+#include <vector>
+
+/// The attributes that a group or a type itself declares, those of the groups that it refers to included (Part 1, 3.4.2,
+/// 3.6.2).
+struct axsAttributeSet
+{
+  struct Prohibited
+  {
+    axsSchemaName name;
+    axsSchemaPlace place;
+  };
+
+  std::vector<axsAttributeUse> uses;
+  std::vector<Prohibited> prohibited;
+  /// The complete wildcard.
+  std::optional<axsWildcard> wildcard;
+};

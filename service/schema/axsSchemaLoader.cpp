@@ -1,0 +1,236 @@
+#include "axsSchemaLoader.h"
+
+#include "axsReadError.h"
+#include "axsSchemaGrammar.h"
+#include "axsSchemaLocation.h"
+#include "axsSchemaText.h"
+#include "axsSource.h"
+
+#include <apByteArray.h>
+
+#include <algorithm>
+
+namespace
+{
+using Field = axsSchemaField;
+using axsSchemaText::quoted;
+
+// Most schemas that use attributes of the XML namespace import it from an address, which is never fetched.
+std::string_view const xml_schema =
+  "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' targetNamespace='http://www.w3.org/XML/1998/namespace'>"
+  "<xs:attribute name='lang'><xs:simpleType><xs:union memberTypes='xs:language'><xs:simpleType>"
+  "<xs:restriction base='xs:string'><xs:enumeration value=''/></xs:restriction>"
+  "</xs:simpleType></xs:union></xs:simpleType></xs:attribute>"
+  "<xs:attribute name='space'><xs:simpleType><xs:restriction base='xs:NCName'>"
+  "<xs:enumeration value='default'/><xs:enumeration value='preserve'/>"
+  "</xs:restriction></xs:simpleType></xs:attribute>"
+  "<xs:attribute name='base' type='xs:anyURI'/>"
+  "<xs:attribute name='id' type='xs:ID'/>"
+  "<xs:attributeGroup name='specialAttrs'><xs:attribute ref='xml:base'/><xs:attribute ref='xml:lang'/>"
+  "<xs:attribute ref='xml:space'/><xs:attribute ref='xml:id'/></xs:attributeGroup>"
+  "</xs:schema>";
+
+std::string narrow(apString const& text)
+{
+  utString const utf8 = text.to_utf8();
+  return {utf8.c_str(), static_cast<std::size_t>(utf8.length())};
+}
+
+std::string narrow(apPath const& path)
+{
+  utString const text = path.path();
+  return {text.c_str(), static_cast<std::size_t>(text.length())};
+}
+
+std::string namespace_words(std::string_view name_space)
+{
+  return name_space.empty() ? "elements in no namespace" : "the namespace \"" + std::string(name_space) + "\"";
+}
+
+std::uint32_t counted(int place)
+{
+  return static_cast<std::uint32_t>(std::max(place, 0));
+}
+}
+
+axsSchemaLoader::axsSchemaLoader(axsSchemaErrors& told) : errors(told) {}
+axsSchemaLoader::~axsSchemaLoader() = default;
+
+void axsSchemaLoader::add(std::string_view name_space, apPath const& path)
+{
+  if (path.empty())
+  {
+    errors.add({}, "There is no file name of the schema for " + namespace_words(name_space));
+    return;
+  }
+  File const& added = file(path);
+  given.emplace_back(name_space);
+  has_xml_namespace = has_xml_namespace || name_space == axsSchemaVocabulary::xml_namespace;
+  if (added.document == nullptr)
+    return;
+  check_namespace(added, name_space);
+  unit(added, name_space);
+}
+
+void axsSchemaLoader::add(apPath const& path)
+{
+  File const& added = file(path);
+  if (added.document != nullptr)
+    unit(added, added.document->root().value(Field::target_namespace));
+}
+
+void axsSchemaLoader::read_all()
+{
+  for (; next_to_read < all.size() && !errors.full(); ++next_to_read)
+    read_references(all[next_to_read]);
+}
+
+axsSchemaLoader::File& axsSchemaLoader::file(apPath const& path)
+{
+  std::unique_ptr<File>& made = known[axsSchemaLocation::identity(path)];
+  if (made != nullptr)
+    return *made;
+  made = std::make_unique<File>();
+  made->path = path;
+  paths.push_back(narrow(path));
+  file_paths.push_back(path);
+  made->number = static_cast<std::uint32_t>(paths.size());
+  read(*made);
+  return *made;
+}
+
+void axsSchemaLoader::read(File& made)
+{
+  try
+  {
+    axsSource source(made.path);
+    made.document = std::make_unique<axsSchemaDocument>(source, made.number);
+  }
+  catch (axsReadError const& failure)
+  {
+    errors.add({made.number, counted(failure.line), counted(failure.column)}, narrow(failure.message));
+    return;
+  }
+  axsSchemaGrammar::check(*made.document, errors);
+}
+
+axsSchemaUnit& axsSchemaLoader::unit(File const& of, std::string_view target)
+{
+  axsSchemaUnit*& made = unit_of[std::to_string(of.number) + ' ' + std::string(target)];
+  if (made != nullptr)
+    return *made;
+  made = &all.emplace_back();
+  made->document = of.document.get();
+  made->target = target;
+  made->is_chameleon = !target.empty() && !of.document->root().has(Field::target_namespace);
+  return *made;
+}
+
+void axsSchemaLoader::read_references(axsSchemaUnit& from)
+{
+  for (axsSchemaElement const* child = from.document->root().first_child; child != nullptr; child = child->next)
+    switch (child->role)
+    {
+    case axsSchemaRole::include:
+    case axsSchemaRole::redefine:
+      include(from, *child);
+      break;
+    case axsSchemaRole::import:
+      import(from, *child);
+      break;
+    default:
+      break;
+    }
+}
+
+// src-include and src-redefine.
+void axsSchemaLoader::include(axsSchemaUnit& from, axsSchemaElement const& reference)
+{
+  if (!reference.has(Field::schema_location))
+    return;
+  File const* const found = referred(reference);
+  if (found == nullptr || found->document == nullptr)
+    return;
+  axsSchemaElement const& root = found->document->root();
+  std::string_view const target = root.value(Field::target_namespace);
+  if (root.has(Field::target_namespace) && target != from.target) // src-include.2.1, src-redefine.3.1
+  {
+    errors.add(reference.place, "the schema " + narrow(found->path) + " is for " + namespace_words(target) +
+                                  ", not for " + namespace_words(from.target));
+    return;
+  }
+  axsSchemaUnit const& included = unit(*found, from.target);
+  from.included.push_back(&included);
+  if (reference.role == axsSchemaRole::redefine)
+    from.redefinitions.push_back({&reference, &included});
+}
+
+// src-import.
+void axsSchemaLoader::import(axsSchemaUnit& from, axsSchemaElement const& reference)
+{
+  std::string_view const name_space = reference.value(Field::name_space);
+  from.imports.push_back(name_space);
+  bool const is_given = std::find(given.begin(), given.end(), name_space) != given.end();
+  bool const is_built_in =
+    name_space == axsSchemaVocabulary::schema_namespace || name_space == axsSchemaVocabulary::instance_namespace;
+  if (is_given || is_built_in)
+    return;
+  if (name_space == axsSchemaVocabulary::xml_namespace)
+  {
+    add_xml_namespace();
+    return;
+  }
+  // An import may leave the place open; then there is nothing to read.
+  if (reference.value(Field::schema_location).empty())
+    return;
+  File const* const found = referred(reference);
+  if (found == nullptr || found->document == nullptr)
+    return;
+  std::string_view const target = found->document->root().value(Field::target_namespace);
+  if (target != name_space) // src-import.3
+  {
+    errors.add(reference.place, "the schema " + narrow(found->path) + " is for " + namespace_words(target) +
+                                  ", not for " + namespace_words(name_space));
+    return;
+  }
+  unit(*found, target);
+}
+
+axsSchemaLoader::File* axsSchemaLoader::referred(axsSchemaElement const& reference)
+{
+  std::string_view const location = reference.value(Field::schema_location);
+  axsSchemaPlace const place = reference.place_of(Field::schema_location);
+  apPath const path = axsSchemaLocation::resolve(file_paths[reference.place.file - 1], location);
+  if (path.empty())
+  {
+    errors.add(place, "The schema \"" + std::string(location) + "\" is not a local file; nothing else is read");
+    return nullptr;
+  }
+  if (!path.exists())
+  {
+    errors.add(place, "There is no file " + narrow(path));
+    return nullptr;
+  }
+  return &file(path);
+}
+
+void axsSchemaLoader::add_xml_namespace()
+{
+  if (has_xml_namespace)
+    return;
+  has_xml_namespace = true;
+  apByteArray const bytes(xml_schema.data(), xml_schema.size());
+  axsSource source(bytes);
+  xml_document = std::make_unique<axsSchemaDocument>(source, 0);
+  axsSchemaUnit& made = all.emplace_back();
+  made.document = xml_document.get();
+  made.target = axsSchemaVocabulary::xml_namespace;
+}
+
+void axsSchemaLoader::check_namespace(File const& of, std::string_view expected)
+{
+  std::string_view const target = of.document->root().value(Field::target_namespace);
+  if (target != expected)
+    errors.add(
+      {of.number, 0, 0}, "The schema is for " + namespace_words(target) + ", not for " + namespace_words(expected));
+}

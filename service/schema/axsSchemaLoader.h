@@ -1,0 +1,70 @@
+#pragma once
+
+#include "axsSchemaErrors.h"
+#include "axsSchemaUnit.h"
+
+#include <apPath.h>
+
+#include <deque>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+/// Reads the schema documents of a set with all that they include, import and redefine (Part 1, 4.2), each file once, by
+/// whatever path it is named. What documents refer to is looked for in local files only.
+class axsSchemaLoader
+{
+public:
+  explicit axsSchemaLoader(axsSchemaErrors& told);
+  axsSchemaLoader(axsSchemaLoader const&) = delete;
+  axsSchemaLoader& operator=(axsSchemaLoader const&) = delete;
+  ~axsSchemaLoader();
+
+  /// Adds a schema document for the namespace, that takes precedence over what imports of that namespace name.
+  void add(std::string_view name_space, apPath const& path);
+
+  /// Adds one for the namespace that it says itself.
+  void add(apPath const& path);
+
+  /// Reads on until nothing is left to read.
+  void read_all();
+
+  /// In the order in which they were found.
+  std::deque<axsSchemaUnit> const& units() const noexcept { return all; }
+
+  /// The paths of the files, the first of which has the number 1.
+  std::vector<std::string> const& files() const noexcept { return paths; }
+
+private:
+  struct File
+  {
+    apPath path;
+    std::uint32_t number = 0;
+    std::unique_ptr<axsSchemaDocument> document; // null if it could not be read
+  };
+
+  File& file(apPath const& path);
+  void read(File& made);
+  axsSchemaUnit& unit(File const& of, std::string_view target);
+  void read_references(axsSchemaUnit& from);
+  void include(axsSchemaUnit& from, axsSchemaElement const& reference);
+  void import(axsSchemaUnit& from, axsSchemaElement const& reference);
+  File* referred(axsSchemaElement const& reference);
+  void add_xml_namespace();
+  void check_namespace(File const& of, std::string_view expected);
+
+  axsSchemaErrors& errors;
+  std::vector<std::string> paths;
+  std::vector<apPath> file_paths;
+  // By identity.
+  std::unordered_map<std::string, std::unique_ptr<File>> known;
+  std::deque<axsSchemaUnit> all;
+  // By file number and namespace.
+  std::unordered_map<std::string, axsSchemaUnit*> unit_of;
+  std::vector<std::string> given;
+  std::unique_ptr<axsSchemaDocument> xml_document;
+  bool has_xml_namespace = false;
+  std::size_t next_to_read = 0;
+};
