@@ -15,6 +15,11 @@
 ///   (Namespaces in XML 1.0). An external DTD subset is never read, so that an entity declared only there is an error.
 ///   Besides the number of entity expansions, what they and defaults of attributes make of a document is bounded: to 100
 ///   times its size once that is more than 8 MiB. A document may be nested as deep as memory lasts, one that is validated 20000 levels.
+/// - Encodings: UTF-8, UTF-16, UTF-32, US-ASCII, ISO-8859-1 to -16, windows-1250 to -1258, KOI8-R and -U, and what else the
+///   system has a converter for. A byte that has no meaning in the encoding of the document is an error; so is a
+///   declaration of another encoding than that of the bytes.
+/// - External entities, where the options allow them, and schemas are regular files of this computer, named by a relative
+///   or an absolute path or a "file:" URL. Nothing is ever fetched from a network; documents themselves may be pipes.
 /// - Schemas: read anew at every load, from local files only; a reference that leads to none is an error, but for the
 ///   schema of the XML namespace, which is built in. What repeated groups come to, written out, may have up to 10000
 ///   elements; elements of a schema may be nested up to 500 levels, parentheses of a pattern up to 100. A pattern in which

@@ -1,8 +1,10 @@
 #include "axsEntityHandler.h"
 
+#include "axsLocalFile.h"
 #include "axsSource.h"
 #include "axsSystemId.h"
 #include "axsUtf16.h"
+#include "axsXercesId.h"
 
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/util/XMLResourceIdentifier.hpp>
@@ -35,19 +37,17 @@ xercesc::InputSource* axsEntityHandler::resolveEntity(xercesc::XMLResourceIdenti
                       APSTRING(", but external entities are not resolved");
     throw refused;
   }
-  if (reference.empty() || axsSystemId::is_absolute(reference))
+  apPath const file = axsSystemId::resolve(axsXercesId::path(wanted->getBaseURI()), reference);
+  if (file.empty())
   {
-    refused.message =
-      APSTRING("The external entity ") + quoted(reference) + APSTRING(" is not a file named relative to the document");
+    refused.message = APSTRING("The external entity ") + quoted(reference) + APSTRING(" is not a local file");
     throw refused;
   }
-
-  apPath const file = axsSystemId::resolve(axsSystemId::path(wanted->getBaseURI()), reference);
   std::string_view bytes;
   std::unique_ptr<axsSource> source;
   try
   {
-    source = std::make_unique<axsSource>(file);
+    source = axsLocalFile::open(file);
     bytes = source->whole();
   }
   catch (axsReadError const& unreadable)
@@ -57,5 +57,5 @@ xercesc::InputSource* axsEntityHandler::resolveEntity(xercesc::XMLResourceIdenti
   }
   auto* const copy = new XMLByte[bytes.size() + 1];
   std::copy(bytes.begin(), bytes.end(), copy);
-  return new xercesc::MemBufInputSource(copy, bytes.size(), axsSystemId::of(file).c_str(), true);
+  return new xercesc::MemBufInputSource(copy, bytes.size(), axsXercesId::of(file).c_str(), true);
 }

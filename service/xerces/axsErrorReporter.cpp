@@ -1,8 +1,8 @@
 #include "axsErrorReporter.h"
 
 #include "axsPlainWords.h"
-#include "axsSystemId.h"
 #include "axsUtf16.h"
+#include "axsXercesId.h"
 
 #include <xercesc/util/XMLString.hpp>
 #include <xercesc/util/XMLUni.hpp>
@@ -34,5 +34,5 @@ void axsErrorReporter::error(unsigned int code, XMLCh const* domain, ErrTypes ty
 
 axsReadError axsErrorReporter::make(apString const& message, XMLCh const* system_id, XMLFileLoc line, XMLFileLoc column)
 {
-  return {message, apString(axsSystemId::path(system_id).path()), checked(line), checked(column)};
+  return {message, apString(axsXercesId::path(system_id).path()), checked(line), checked(column)};
 }

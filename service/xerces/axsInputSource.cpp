@@ -1,6 +1,5 @@
 #include "axsInputSource.h"
-
-#include "axsSystemId.h"
+#include "axsXercesId.h"
 
 #include <xercesc/util/BinInputStream.hpp>
 
@@ -34,7 +33,7 @@ private:
 }
 
 axsInputSource::axsInputSource(axsSource& given, axsParserMemory& memory)
-  : InputSource(axsSystemId::of(given.file()).c_str(), &memory),
+  : InputSource(axsXercesId::of(given.file()).c_str(), &memory),
     source(given),
     parser_memory(memory)
 {

@@ -7,6 +7,7 @@
 #include "axsSource.h"
 #include "axsSystemId.h"
 #include "axsUtf16.h"
+#include "axsXercesId.h"
 
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/framework/XMLErrorCodes.hpp>
@@ -88,7 +89,7 @@ std::string schema_start(std::string const& attributes)
 
 std::string inclusion(apPath const& path)
 {
-  return "<xs:include schemaLocation='" + axsUtf16::to_utf8(axsSystemId::of(path).c_str()) + "'/>";
+  return "<xs:include schemaLocation='" + axsUtf16::to_utf8(axsXercesId::of(path).c_str()) + "'/>";
 }
 
 std::string words(unsigned int code, XMLCh const* domain, XMLCh const* text)
@@ -113,16 +114,8 @@ axsReadError place_of(xercesc::XMLResourceIdentifier const& wanted, apString con
 // The file that a schema in `base` refers to; the empty path when it refers to something else.
 apPath referred(apPath const& base, std::string const& reference, XMLCh const* as_given)
 {
-  apPath const own = axsSystemId::path(as_given);
-  if (!own.empty())
-    return own;
-  if (!axsSystemId::is_absolute(reference))
-    return axsSystemId::resolve(base, reference);
-  bool const has_scheme = reference.find(':') < reference.find('/') && reference.find(':') != 1;
-  if (has_scheme)
-    return axsSystemId::file_url_path(reference);
-  apPath const as_written(reference.c_str());
-  return as_written.exists() ? as_written : apPath(axsSystemId::decode(reference).c_str());
+  apPath const own = axsXercesId::path(as_given);
+  return own.empty() ? axsSystemId::resolve(base, reference) : own;
 }
 }
 
@@ -206,7 +199,7 @@ std::unique_ptr<xercesc::InputSource> axsSchemaSet::in_memory(std::string const&
 std::unique_ptr<xercesc::InputSource> axsSchemaSet::source_of(File const& file) const
 {
   auto made = std::make_unique<xercesc::MemBufInputSource>(
-    reinterpret_cast<XMLByte const*>(file.text.data()), file.text.size(), axsSystemId::of(file.path).c_str(), false);
+    reinterpret_cast<XMLByte const*>(file.text.data()), file.text.size(), axsXercesId::of(file.path).c_str(), false);
   made->setCopyBufToStream(false);
   return made;
 }
@@ -236,7 +229,7 @@ xercesc::InputSource* axsSchemaSet::resolveEntity(xercesc::XMLResourceIdentifier
   if (reference.empty())
     return nullptr;
 
-  apPath const path = referred(axsSystemId::path(wanted->getBaseURI()), reference, wanted->getSystemId());
+  apPath const path = referred(axsXercesId::path(wanted->getBaseURI()), reference, wanted->getSystemId());
   if (path.empty())
     throw place_of(*wanted, APSTRING("The schema \"") + apString::from_utf8(reference) +
                               APSTRING("\" is not a local file; nothing else is read"));
@@ -258,7 +251,7 @@ void axsSchemaSet::error(unsigned int code, XMLCh const* domain, ErrTypes type, 
     axsErrorReporter::make(apString::from_utf8(words(code, domain, text)), system_id, line, column);
   bool const is_about_use = code == xercesc::XMLErrs::AttributeDisallowedGlobal &&
                             xercesc::XMLString::equals(domain, xercesc::XMLUni::fgXMLErrDomain);
-  auto const where = files.find(key_of(axsSystemId::path(system_id)));
+  auto const where = files.find(key_of(axsXercesId::path(system_id)));
   if (!is_about_use || where == files.end() || !where->second->scan.has_lenient_use(found.line, found.column))
     throw found;
 }

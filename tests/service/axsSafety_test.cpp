@@ -1,6 +1,7 @@
 #include "Engine.h"
 
 #include <cstdlib>
+#include <filesystem>
 
 namespace
 {
@@ -77,7 +78,7 @@ TEST(axsSafety, a_document_that_needs_an_external_entity_fails_by_default)
   EXPECT_NE(load("<!DOCTYPE r [<!ENTITY e SYSTEM 'engine_entity.txt'>]><r/>"), nullptr);
 }
 
-TEST(axsSafety, resolution_reads_local_files_named_relative_to_the_document_only)
+TEST(axsSafety, resolution_reads_local_files_only)
 {
   TestFile const entity("engine %20 entity.txt", "<b>text</b>");
   TestFile const document(
@@ -87,11 +88,34 @@ TEST(axsSafety, resolution_reads_local_files_named_relative_to_the_document_only
   ASSERT_NE(loaded, nullptr) << narrow(error.message());
   EXPECT_EQ(narrow(loaded->getDocumentElement()->get_xml()), "<r><b>text</b></r>");
 
-  for (char const* const address : {"http://localhost:1/x", "file:///etc/hostname", "/etc/hostname",
-         "ftp://localhost/x", "C:\\x.txt", "no_such_entity.txt"})
+  for (char const* const address : {"http://localhost:1/x", "file://host/x", "//host/x", "ftp://localhost/x",
+         "C:/no_such_folder/x.txt", "no_such_entity.txt", "/no_such_folder/x.txt"})
   {
     std::string const text = "<!DOCTYPE r [<!ENTITY e SYSTEM '" + std::string(address) + "'>]><r>&e;</r>";
     EXPECT_NE(narrow(error_of(text, resolving()).message()).find(address), std::string::npos);
+  }
+}
+
+TEST(axsSafety, resolution_takes_a_file_by_any_path_that_is_here)
+{
+  TestFile const entity("engine_entity.txt", "here");
+  std::string const folder = std::filesystem::current_path().generic_string();
+  std::string const url = "file://" + std::string(folder[0] == '/' ? "" : "/") + folder;
+  for (std::string const& address : {std::string("engine_entity.txt"), std::string("./no_such/../engine_entity.txt"),
+         folder + "/engine_entity.txt", folder + "/no_such/../engine_entity.txt", url + "/engine%5fentity.txt"})
+  {
+    auto const loaded = load("<!DOCTYPE r [<!ENTITY e SYSTEM '" + address + "'>]><r>&e;</r>", resolving());
+    ASSERT_NE(loaded, nullptr) << address;
+    EXPECT_EQ(narrow(loaded->getDocumentElement()->get_xml()), "<r>here</r>") << address;
+  }
+}
+
+TEST(axsSafety, resolution_opens_no_folders_and_devices)
+{
+  for (std::string const& address : {std::string("."), std::string("/dev/zero")})
+  {
+    std::string const text = "<!DOCTYPE r [<!ENTITY e SYSTEM '" + address + "'>]><r>&e;</r>";
+    EXPECT_NE(error_of(text, resolving()).message(), apString()) << address;
   }
 }
 
