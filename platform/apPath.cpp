@@ -65,3 +65,8 @@ bool apPath::operator!=(apPath const& other) const noexcept
 {
   return !(*this == other);
 }
+
+std::ostream& operator<<(std::ostream& out, apPath const& path)
+{
+  return out << path.path();
+}

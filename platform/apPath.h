@@ -5,6 +5,7 @@
 #include <utString.h>
 
 #include <cstdio>
+#include <iosfwd>
 
 /// The path of a file or folder: text in Unicode, used as it stands on every system and under every locale.
 ///
@@ -58,3 +59,6 @@ public:
 private:
   utString name;
 };
+
+/// Writes the path as it was given, in UTF-8.
+AP_API std::ostream& operator<<(std::ostream& out, apPath const& path);

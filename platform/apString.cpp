@@ -177,3 +177,8 @@ apString operator+(apString const& left, apString const& right)
   return apString(left.view().size() + right.view().size(), [&](wchar_t* to)
     { std::copy_n(right.c_str(), right.view().size(), std::copy_n(left.c_str(), left.view().size(), to)); });
 }
+
+std::ostream& operator<<(std::ostream& out, apString const& text)
+{
+  return out << text.to_utf8();
+}

@@ -5,6 +5,7 @@
 #include <utString.h>
 
 #include <cstddef>
+#include <iosfwd>
 #include <string_view>
 #include <utility>
 
@@ -105,6 +106,9 @@ private:
 };
 
 AP_API apString operator+(apString const& left, apString const& right);
+
+/// Writes the text as UTF-8, without regard to width and fill; what is not Unicode as U+FFFD.
+AP_API std::ostream& operator<<(std::ostream& out, apString const& text);
 
 /// A wide text from a narrow literal: APSTRING("name").
 #define APSTRING(literal) apString(L"" literal)

@@ -110,6 +110,16 @@ bool axmNode::set_attribute(apString const& name, apString const& value)
     });
 }
 
+bool axmNode::set_attribute(apString const& name, wchar_t const* value)
+{
+  return without_throwing([&] { return set_attribute(name, apString(value)); });
+}
+
+bool axmNode::set_attribute(apString const& name, char const* value)
+{
+  return without_throwing([&] { return set_attribute(name, apString(value)); });
+}
+
 bool axmNode::set_attribute(apString const& name, double value)
 {
   return without_throwing([&] { return set_attribute(name, apStringFormatter::format(L"%.16g", value)); });

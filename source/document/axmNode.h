@@ -132,9 +132,17 @@ public:
   /// The node as XML text; of the document, the whole document with its declaration.
   virtual apString get_xml() const = 0;
 
-  /// A pointer would be taken for a `bool`: write APSTRING("text") for a text.
+  /// The same for a NUL-terminated text, wide or UTF-8; null is the empty text.
+  bool set_attribute(apString const& name, wchar_t const* value);
+  bool set_attribute(apString const& name, char const* value);
+
+  /// Refused: any other pointer would be taken for a `bool`.
   template <class T>
-  bool set_attribute(apString const& name, T* value) = delete;
+  bool set_attribute(apString const&, T*)
+  {
+    static_assert(sizeof(T*) == 0, "a pointer is no value of an attribute: give a text, a number or a bool");
+    return false;
+  }
 
 protected:
   /// Reads a number from the whole of `text`, in the form of the current C locale. False, with `value` as it was, when

@@ -133,6 +133,16 @@ TEST_F(axmNodeTest, text_is_written_and_read_as_it_is)
   }
 }
 
+TEST_F(axmNodeTest, literals_are_texts)
+{
+  EXPECT_TRUE(node.set_attribute(name, L"wide"));
+  EXPECT_EQ(stored(), L"wide");
+  EXPECT_TRUE(node.set_attribute(name, "narrow \xC3\xA9"));
+  EXPECT_EQ(stored(), L"narrow \u00E9");
+  EXPECT_TRUE(node.set_attribute(name, static_cast<char const*>(nullptr)));
+  EXPECT_EQ(stored(), L"");
+}
+
 TEST_F(axmNodeTest, empty_text_is_a_value)
 {
   EXPECT_TRUE(node.set_attribute(name, apString()));

@@ -1,0 +1,115 @@
+#pragma once
+
+#include "axmUtf8.h"
+
+#include <axmElement.h>
+
+#include <charconv>
+#include <initializer_list>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <type_traits>
+#include <utility>
+
+namespace axm
+{
+/// The names that the values of an enumeration have in a document.
+template <class Enum>
+using enum_names = std::initializer_list<std::pair<std::string_view, Enum>>;
+
+/// A value read from text, none if the whole of `text` is no such value. Integers are decimal, of any size, and one that
+/// does not fit is none; bool and double are as axmNode::get_attribute has them.
+template <class T>
+std::optional<T> value_of(std::string_view text)
+{
+  if constexpr (std::is_same_v<T, std::string>)
+    return std::string(text);
+  else if constexpr (std::is_same_v<T, apString>)
+    return wide(text);
+  else if constexpr (std::is_same_v<T, bool>)
+  {
+    if (text == "true" || text == "1")
+      return true;
+    return text == "false" || text == "0" ? std::optional<bool>(false) : std::nullopt;
+  }
+  else
+  {
+    static_assert(std::is_arithmetic_v<T>, "attributes are read as bool, numbers, std::string or apString; an "
+                                           "enumeration needs the names of its values as a third argument");
+    if (!text.empty() && text.front() == '+')
+      text.remove_prefix(1);
+    T value{};
+    auto const [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    return error == std::errc() && end == text.data() + text.size() ? std::optional<T>(value) : std::nullopt;
+  }
+}
+
+/// The attribute `name` of `node` as a T: none where it is absent, is no T, or `node` is no element.
+///
+///     int const year = axm::attribute<int>(*book, "year").value_or(0);
+template <class T>
+std::optional<T> attribute(axmNode const& node, std::string_view name)
+{
+  apString text;
+  if (!node.get_attribute(wide(name), text))
+    return std::nullopt;
+  return value_of<T>(text.to_utf8().view());
+}
+
+/// The same of an enumeration, by the names of its values.
+template <class Enum>
+std::optional<Enum> attribute(axmNode const& node, std::string_view name, enum_names<Enum> names)
+{
+  apString text;
+  if (!node.get_attribute(wide(name), text))
+    return std::nullopt;
+  utString const narrow_text = text.to_utf8();
+  for (auto const& [spelling, value] : names)
+    if (narrow_text.view() == spelling)
+      return value;
+  return std::nullopt;
+}
+
+/// The same of a node that is held; none of an empty pointer.
+template <class T, class Node>
+std::optional<T> attribute(std::shared_ptr<Node> const& node, std::string_view name)
+{
+  return node == nullptr ? std::nullopt : attribute<T>(*node, name);
+}
+
+template <class Enum, class Node>
+std::optional<Enum> attribute(std::shared_ptr<Node> const& node, std::string_view name, enum_names<Enum> names)
+{
+  return node == nullptr ? std::nullopt : attribute<Enum>(*node, name, names);
+}
+
+/// Sets the attribute `name` of an element. False, with nothing changed, where `node` is none. A double is written so
+/// that it comes back as itself.
+inline bool set_attribute(axmNode& node, std::string_view name, std::string_view value)
+{
+  return node.set_attribute(wide(name), wide(value));
+}
+
+template <class T, std::enable_if_t<std::is_arithmetic_v<T>, int> = 0>
+bool set_attribute(axmNode& node, std::string_view name, T value)
+{
+  if constexpr (std::is_same_v<T, bool>)
+    return set_attribute(node, name, std::string_view(value ? "true" : "false"));
+  else
+  {
+    char text[64];
+    auto const [end, error] = std::to_chars(text, text + sizeof text, value);
+    return error == std::errc() &&
+           set_attribute(node, name, std::string_view(text, static_cast<std::size_t>(end - text)));
+  }
+}
+
+template <class Node, class T>
+bool set_attribute(std::shared_ptr<Node> const& node, std::string_view name, T const& value)
+{
+  return node != nullptr && set_attribute(*node, name, value);
+}
+}

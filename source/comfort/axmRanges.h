@@ -1,0 +1,222 @@
+#pragma once
+
+#include "axmNodeKind.h"
+#include "axmUtf8.h"
+
+#include <axmNodeList.h>
+
+#include <cstddef>
+#include <iterator>
+#include <memory>
+#include <optional>
+#include <string_view>
+#include <utility>
+
+namespace axm
+{
+/// The children of a node for a range-based for loop, in document order: all of them, its elements, or those of one name.
+///
+///     for (auto const& book : axm::elements(catalog, "book"))
+///       ...
+///
+/// The loop's body may take out, move or replace the child it has, and insert children: what comes after the child, as
+/// it stands when the body is done, follows. Cost: O(1) a child. Holds the node.
+class child_range
+{
+public:
+  class iterator
+  {
+  public:
+    using iterator_category = std::input_iterator_tag;
+    using value_type = std::shared_ptr<axmNode>;
+    using difference_type = std::ptrdiff_t;
+    using pointer = value_type const*;
+    using reference = value_type const&;
+
+    iterator() = default;
+    iterator(std::shared_ptr<axmNode> parent_node, std::shared_ptr<axmNode> first)
+      : parent(std::move(parent_node)),
+        current(std::move(first))
+    {
+      following = current == nullptr ? nullptr : current->getNextSibling();
+    }
+
+    reference operator*() const { return current; }
+    pointer operator->() const { return &current; }
+
+    iterator& operator++()
+    {
+      current = is_child(current) ? current->getNextSibling() : is_child(following) ? following : nullptr;
+      following = current == nullptr ? nullptr : current->getNextSibling();
+      return *this;
+    }
+
+    bool operator==(iterator const& other) const { return (current == nullptr) == (other.current == nullptr); }
+    bool operator!=(iterator const& other) const { return !(*this == other); }
+
+  private:
+    bool is_child(std::shared_ptr<axmNode> const& node) const
+    {
+      std::shared_ptr<axmNode> const now = node == nullptr ? nullptr : node->getParentNode();
+      return now != nullptr && *now == *parent;
+    }
+
+    std::shared_ptr<axmNode> parent;
+    std::shared_ptr<axmNode> current;
+    // What the current one stood before when it came, in case it is taken out.
+    std::shared_ptr<axmNode> following;
+  };
+
+  explicit child_range(std::shared_ptr<axmNode> node) : parent(std::move(node)) {}
+
+  iterator begin() const { return {parent, parent == nullptr ? nullptr : parent->getFirstChild()}; }
+  iterator end() const { return {}; }
+
+private:
+  std::shared_ptr<axmNode> parent;
+};
+
+/// The children that are elements, or those of them that bear a name.
+class element_range
+{
+public:
+  class iterator
+  {
+  public:
+    using iterator_category = std::input_iterator_tag;
+    using value_type = std::shared_ptr<axmElement>;
+    using difference_type = std::ptrdiff_t;
+    using pointer = value_type const*;
+    using reference = value_type const&;
+
+    iterator() = default;
+    iterator(child_range::iterator first, std::optional<apString> wanted) : child(first), name(std::move(wanted))
+    {
+      find();
+    }
+
+    reference operator*() const { return current; }
+    pointer operator->() const { return &current; }
+
+    iterator& operator++()
+    {
+      ++child;
+      find();
+      return *this;
+    }
+
+    bool operator==(iterator const& other) const { return child == other.child; }
+    bool operator!=(iterator const& other) const { return child != other.child; }
+
+  private:
+    void find()
+    {
+      for (current = nullptr; child != child_range::iterator(); ++child)
+      {
+        current = as_element(*child);
+        if (current != nullptr && (!name || current->getNodeName() == *name))
+          return;
+      }
+    }
+
+    child_range::iterator child;
+    std::optional<apString> name;
+    std::shared_ptr<axmElement> current;
+  };
+
+  element_range(std::shared_ptr<axmNode> node, std::optional<apString> wanted)
+    : children(std::move(node)),
+      name(std::move(wanted))
+  {
+  }
+
+  iterator begin() const { return {children.begin(), name}; }
+  iterator end() const { return {}; }
+
+private:
+  child_range children;
+  std::optional<apString> name;
+};
+
+/// The items of a list or a map of attributes, by index; a list is followed as it stands.
+template <class Items, class Item>
+class item_range
+{
+public:
+  class iterator
+  {
+  public:
+    using iterator_category = std::input_iterator_tag;
+    using value_type = std::shared_ptr<Item>;
+    using difference_type = std::ptrdiff_t;
+    using pointer = value_type const*;
+    using reference = value_type const&;
+
+    iterator() = default;
+    explicit iterator(std::shared_ptr<Items> of) : items(std::move(of)) { find(); }
+
+    reference operator*() const { return current; }
+    pointer operator->() const { return &current; }
+
+    iterator& operator++()
+    {
+      ++index;
+      find();
+      return *this;
+    }
+
+    bool operator==(iterator const& other) const { return (current == nullptr) == (other.current == nullptr); }
+    bool operator!=(iterator const& other) const { return !(*this == other); }
+
+  private:
+    void find() { current = items == nullptr || index >= count(*items) ? nullptr : item(*items, index); }
+
+    static int count(axmNodeList& list) { return list.length(); }
+    static int count(axmNamedNodeMap& map) { return map.getLength(); }
+    static std::shared_ptr<Item> item(axmNodeList& list, int at) { return list.at(at); }
+    static std::shared_ptr<Item> item(axmNamedNodeMap& map, int at) { return map.item(at); }
+
+    std::shared_ptr<Items> items;
+    std::shared_ptr<Item> current;
+    int index = 0;
+  };
+
+  explicit item_range(std::shared_ptr<Items> of) : items(std::move(of)) {}
+
+  iterator begin() const { return iterator(items); }
+  iterator end() const { return {}; }
+
+private:
+  std::shared_ptr<Items> items;
+};
+
+/// All children of `node`, which may be empty.
+inline child_range children(std::shared_ptr<axmNode> node)
+{
+  return child_range(std::move(node));
+}
+
+/// Its children that are elements.
+inline element_range elements(std::shared_ptr<axmNode> node)
+{
+  return {std::move(node), std::nullopt};
+}
+
+/// Its children that are elements of that name, as it is written in the document.
+inline element_range elements(std::shared_ptr<axmNode> node, std::string_view name)
+{
+  return {std::move(node), wide(name)};
+}
+
+/// Its attributes, as nodes with name and value. Do not add or remove any in the loop.
+inline item_range<axmNamedNodeMap, axmNode> attributes(std::shared_ptr<axmNode> const& node)
+{
+  return item_range<axmNamedNodeMap, axmNode>(node == nullptr ? nullptr : node->getAttributes());
+}
+
+/// The items of a list, such as what selectNodes() found.
+inline item_range<axmNodeList, axmElement> items(std::shared_ptr<axmNodeList> list)
+{
+  return item_range<axmNodeList, axmElement>(std::move(list));
+}
+}

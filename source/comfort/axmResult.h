@@ -1,0 +1,70 @@
+#pragma once
+
+#include "axmUtf8.h"
+
+#include <axmParseError.h>
+
+#include <string>
+#include <utility>
+
+namespace axm
+{
+/// Why something failed, in UTF-8, and where. Line and column are counted from 1, 0 where not known.
+struct error
+{
+  std::string message;
+  std::string file = {};
+  int line = 0;
+  int column = 0;
+
+  /// In one line, as compilers have it: "file:line:column: message".
+  std::string to_string() const
+  {
+    std::string place = file;
+    if (line > 0)
+      place += ':' + std::to_string(line) + (column > 0 ? ':' + std::to_string(column) : std::string());
+    return place.empty() ? message : place + ": " + message;
+  }
+};
+
+inline std::ostream& operator<<(std::ostream& out, error const& failure)
+{
+  return out << failure.to_string();
+}
+
+inline error to_error(axmParseError const& failure)
+{
+  return {utf8(failure.message()), utf8(failure.url()), failure.line_number() > 0 ? failure.line_number() : 0,
+    failure.column_number() > 0 ? failure.column_number() : 0};
+}
+
+/// A value or the reason why there is none.
+///
+///     if (auto const document = axm::load_file("books.xml"))
+///       use(**document);
+///     else
+///       std::cerr << document.error() << '\n';
+template <class T>
+class result
+{
+public:
+  result(T given) : held(std::move(given)), good(true) {}
+  result(axm::error reason) : failure(std::move(reason)) {}
+
+  bool has_value() const noexcept { return good; }
+  explicit operator bool() const noexcept { return good; }
+
+  /// To be asked for only where there is one.
+  T const& value() const noexcept { return held; }
+  T const& operator*() const noexcept { return held; }
+  T const* operator->() const noexcept { return &held; }
+
+  /// Empty where there is a value.
+  axm::error const& error() const noexcept { return failure; }
+
+private:
+  T held{};
+  axm::error failure;
+  bool good = false;
+};
+}

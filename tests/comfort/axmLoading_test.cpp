@@ -1,0 +1,55 @@
+#include "Document.h"
+
+#include <utService.h>
+
+#include <sstream>
+
+TEST(axmLoading, loads_from_text_and_streams)
+{
+  axs_register();
+  std::istringstream in("<r><a>x</a></r>");
+  auto const document = axm::load_stream(in);
+  ASSERT_TRUE(document) << document.error();
+  EXPECT_EQ("x", axm::child_text((*document)->getDocumentElement(), "a"));
+  EXPECT_EQ(std::nullopt, axm::child_text((*document)->getDocumentElement(), "b"));
+}
+
+TEST(axmLoading, an_error_says_file_line_column_and_reason)
+{
+  axs_register();
+  auto const missing = axm::load_file("no such file.xml");
+  ASSERT_FALSE(missing);
+  EXPECT_EQ("no such file.xml", missing.error().file);
+
+  auto const wrong = axm::load_string("<r>\n<a></b></r>");
+  ASSERT_FALSE(wrong);
+  EXPECT_EQ(2, wrong.error().line);
+  EXPECT_LT(0, wrong.error().column);
+  EXPECT_NE(std::string::npos, wrong.error().to_string().find("2:")) << wrong.error();
+}
+
+TEST(axmLoading, without_an_engine_it_says_how_to_register_one)
+{
+  axs_register();
+  utServiceName const name(ut_lit("XMLService"));
+  std::shared_ptr<axmDocumentFactory> const engine = axm::engine();
+  ASSERT_NE(nullptr, engine);
+  utService::get_instance()->register_service(name, nullptr);
+  auto const document = axm::load_string("<r/>");
+  auto const made = axm::create("r");
+  utService::get_instance()->register_service(name, engine);
+  ASSERT_FALSE(document);
+  EXPECT_NE(std::string::npos, document.error().message.find("axs_register()"));
+  EXPECT_FALSE(made);
+}
+
+TEST(axmLoading, creates_documents_and_content)
+{
+  axs_register();
+  auto const document = axm::create("r");
+  ASSERT_TRUE(document);
+  EXPECT_NE(nullptr, axm::append((*document)->getDocumentElement(), "a", "text"));
+  EXPECT_EQ(nullptr, axm::append((*document)->getDocumentElement(), "1", "text"));
+  EXPECT_EQ("text", axm::text(*document));
+  EXPECT_FALSE(axm::create("not a name"));
+}
