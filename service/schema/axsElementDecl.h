@@ -28,8 +28,4 @@ struct axsElementDecl
   axsDerivationSet final_set = 0;
 
   axsSchemaPlace place;
-
-  /// Of a head that is global: all declarations that can stand in its place (Part 1, 3.3.6, Substitution Group), abstract
-  /// ones and the head itself left out; what `block` and types forbid is not among them.
-  std::vector<axsElementDecl const*> substitutes;
 };

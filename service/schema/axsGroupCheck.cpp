@@ -1,8 +1,11 @@
 #include "axsGroupCheck.h"
 
+#include "axsElementDecl.h"
 #include "axsSchemaText.h"
+#include "axsTypeDerivation.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace
@@ -110,6 +113,42 @@ void axsGroupCheck::check_all_groups()
       context.errors.add(type.particle->place, "an 'all' group may occur only once");
 }
 
-void axsGroupCheck::check_restriction(axsComplexType const&, axsComplexType const&) {}
+void axsGroupCheck::check_restriction(axsComplexType const& type, axsComplexType const& base)
+{
+  // All types restrict the ur-type definition (derivation-ok-restriction.5.1).
+  if (!type.particle.has_value() || base.base.complex == &base)
+    return;
+  static axsModelGroup const nothing;
+  axsParticle empty;
+  empty.group = &nothing;
+  axsParticle const& base_particle =
+    base.particle.has_value() ? *base.particle : redefinitions.emplace_back(std::move(empty));
+  check_restriction(*type.particle, base_particle, type.place, axsTypeDerivation::words(type.base));
+}
 
-void axsGroupCheck::check_restriction(axsSchemaSymbol const&) {}
+void axsGroupCheck::check_restriction(axsSchemaSymbol const& redefinition)
+{
+  auto const as_particle = [this](axsModelGroup const& group) -> axsParticle const&
+  {
+    axsParticle& particle = redefinitions.emplace_back();
+    particle.group = &group;
+    return particle;
+  };
+  check_restriction(as_particle(*redefinition.group), as_particle(*redefinition.redefined->group),
+    redefinition.element->place, "the group that it redefines");
+}
+
+void axsGroupCheck::check_restriction(
+  axsParticle const& restricted, axsParticle const& base, axsSchemaPlace place, std::string const& base_words)
+{
+  if (!restrictions)
+    restrictions.emplace(*context.models);
+  if (restrictions->check(restricted, base))
+    return;
+  axsParticle const* const culprit = restrictions->culprit();
+  std::string const what = culprit == nullptr || culprit->element == nullptr
+                             ? std::string()
+                             : ": element " + quoted(culprit->element->name.local) + " does not fit";
+  context.errors.add(culprit == nullptr || culprit->place.line == 0 ? place : culprit->place,
+    "the content is no restriction of that of " + base_words + what);
+}

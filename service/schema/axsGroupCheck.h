@@ -1,7 +1,10 @@
 #pragma once
 
+#include "axsParticleRestriction.h"
 #include "axsSchemaContext.h"
 
+#include <deque>
+#include <optional>
 #include <string>
 #include <unordered_map>
 
@@ -28,7 +31,11 @@ public:
 
 private:
   void complete(axsModelGroup const& group);
+  void check_restriction(
+    axsParticle const& restricted, axsParticle const& base, axsSchemaPlace place, std::string const& base_words);
 
   axsSchemaContext& context;
+  std::optional<axsParticleRestriction> restrictions;
+  std::deque<axsParticle> redefinitions; // of groups, as particles
   std::unordered_map<axsModelGroup const*, bool> emptiable;
 };

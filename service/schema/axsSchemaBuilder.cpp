@@ -77,7 +77,7 @@ axsSchemaBuilder::axsSchemaBuilder(axsSchemaLoader const& documents, axsSchemaEr
     errors(told),
     model(std::make_shared<axsSchemaModel>(documents.files())),
     symbols(told),
-    context{told, symbols, model->components(), nullptr, {}, {}}
+    context{told, symbols, model->components(), nullptr, {}, {}, nullptr}
 {
 }
 
@@ -194,6 +194,7 @@ void axsSchemaBuilder::check()
   axsElementCheck elements(context, groups);
   if (!groups.check_circles() || !elements.check_circles())
     return;
+  context.models = &model->make_content_models();
   groups.check_all_groups();
   for (axsSchemaContext::Declared const& declared : context.elements)
     elements.check(declared);
@@ -211,13 +212,12 @@ void axsSchemaBuilder::check()
 
 void axsSchemaBuilder::compile_contents()
 {
-  axsContentModels& models = model->make_content_models();
   for (axsComplexType& type : context.store.complex_types)
   {
     if (!type.particle.has_value() || errors.full())
       continue;
     axsContentProblem problem;
-    type.automaton = models.compile(*type.particle, problem);
+    type.automaton = context.models->compile(*type.particle, problem);
     if (problem)
       errors.add(type.place, words_of(problem, type));
   }

@@ -6,6 +6,8 @@
 
 #include <vector>
 
+class axsContentModels;
+
 /// What those who make components out of schema documents share.
 struct axsSchemaContext
 {
@@ -29,4 +31,7 @@ struct axsSchemaContext
 
   /// All element declarations.
   std::vector<Declared> elements;
+
+  /// Of contents; null until all components are there.
+  axsContentModels* models = nullptr;
 };

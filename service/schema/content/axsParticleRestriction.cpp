@@ -1,0 +1,394 @@
+#include "axsParticleRestriction.h"
+
+#include "axsContentModels.h"
+#include "axsElementDecl.h"
+#include "axsIdentityConstraint.h"
+#include "axsModelGroup.h"
+#include "axsNamespaceConstraint.h"
+#include "axsTypeDerivation.h"
+#include "axsWildcard.h"
+
+#include <algorithm>
+
+namespace
+{
+using Compositor = axsModelGroup::Compositor;
+
+std::uint64_t const unbounded = axsParticle::unbounded;
+
+std::uint64_t sum(std::uint64_t left, std::uint64_t right) noexcept
+{
+  return left > unbounded - right ? unbounded : left + right;
+}
+
+std::uint64_t product(std::uint64_t left, std::uint64_t right) noexcept
+{
+  if (left == 0 || right == 0)
+    return 0;
+  return left > unbounded / right ? unbounded : left * right;
+}
+
+bool is_once(axsParticle const& particle) noexcept
+{
+  return particle.min_occurs == 1 && particle.max_occurs == 1;
+}
+
+// The only particle of a group that has but one.
+axsParticle const* only_of(axsModelGroup const& group) noexcept
+{
+  axsParticle const* only = nullptr;
+  for (axsParticle const& particle : group.particles)
+  {
+    if (particle.max_occurs == 0)
+      continue;
+    if (only != nullptr)
+      return nullptr;
+    only = &particle;
+  }
+  return only;
+}
+
+bool has_none(axsModelGroup const& group) noexcept
+{
+  return std::all_of(group.particles.begin(), group.particles.end(),
+    [](axsParticle const& particle) { return particle.max_occurs == 0; });
+}
+
+// Whether an empty group is pointless; a choice among nothing is not, for nothing can be chosen.
+bool is_pointless_empty(axsParticle const& particle) noexcept
+{
+  return particle.max_occurs == 0 || (particle.group != nullptr && has_none(*particle.group) &&
+                                       (particle.group->compositor != Compositor::choice || particle.min_occurs == 0));
+}
+
+// Passes over pointless groups of one member.
+axsParticle const& innermost(axsParticle const& particle) noexcept
+{
+  axsParticle const* at = &particle;
+  while (at->group != nullptr && is_once(*at))
+  {
+    axsParticle const* const only = only_of(*at->group);
+    if (only == nullptr)
+      break;
+    at = only;
+  }
+  return *at;
+}
+
+bool is_stricter(axsWildcard::Process restricted, axsWildcard::Process base) noexcept
+{
+  return restricted <= base; // strict, lax, skip
+}
+
+bool allows(axsWildcard const& wildcard, axsElementDecl const& element)
+{
+  return axsNamespaceConstraint::allows(wildcard, element.name.name_space);
+}
+}
+
+bool axsParticleRestriction::check(axsParticle const& restricted, axsParticle const& base)
+{
+  wrong = nullptr;
+  bool const is_empty = is_pointless_empty(innermost(restricted));
+  View const view = view_of(base);
+  if (is_pointless_empty(innermost(base)))
+    return is_empty;
+  return is_empty ? total_range(view).min == 0 : run(view_of(restricted), view);
+}
+
+bool axsParticleRestriction::is_range(Range const& restricted, Range const& base) noexcept
+{
+  return restricted.min >= base.min && restricted.max <= base.max; // no bound is the largest number
+}
+
+axsParticleRestriction::View axsParticleRestriction::view_of(axsParticle const& given)
+{
+  axsParticle const& particle = innermost(given);
+  View view;
+  view.particle = &particle;
+  view.min = particle.min_occurs;
+  view.max = particle.max_occurs;
+  if (particle.element != nullptr)
+  {
+    view.element = particle.element;
+    view.kind = models.names_of(*particle.element).is_single() ? Kind::element : Kind::choice;
+  }
+  else if (particle.wildcard != nullptr)
+    view.kind = Kind::wildcard;
+  else
+    view.kind = particle.group->compositor == Compositor::all      ? Kind::all
+                : particle.group->compositor == Compositor::choice ? Kind::choice
+                                                                   : Kind::sequence;
+  return view;
+}
+
+// The members of a substitution group.
+std::vector<axsParticleRestriction::View> axsParticleRestriction::members_of(View const& view)
+{
+  std::vector<View> members;
+  for (axsContentNames::Span const& span : models.names_of(*view.element).spans)
+    for (std::uint32_t symbol = span.first; symbol <= span.last; ++symbol)
+    {
+      View member;
+      member.particle = view.particle;
+      member.kind = Kind::element;
+      member.element = models.symbols().global(symbol);
+      members.push_back(member);
+    }
+  return members;
+}
+
+// The parts of a group, those of groups in it that are pointless among them.
+std::vector<axsParticleRestriction::View> axsParticleRestriction::parts_of(View const& view)
+{
+  if (view.kind == Kind::element || view.kind == Kind::wildcard)
+    return {view};
+  if (view.element != nullptr)
+    return members_of(view);
+  Compositor const compositor = view.particle->group->compositor;
+  std::vector<View> parts;
+  std::vector<axsParticle const*> waiting;
+  auto const wait = [&](axsModelGroup const& group)
+  {
+    for (auto particle = group.particles.rbegin(); particle != group.particles.rend(); ++particle)
+      waiting.push_back(&*particle);
+  };
+  wait(*view.particle->group);
+  while (!waiting.empty())
+  {
+    axsParticle const& particle = innermost(*waiting.back());
+    waiting.pop_back();
+    if (is_pointless_empty(particle))
+      continue;
+    bool const is_same = particle.group != nullptr && particle.group->compositor == compositor;
+    if (is_same && compositor != Compositor::all && is_once(particle))
+      wait(*particle.group);
+    else
+      parts.push_back(view_of(particle));
+  }
+  return parts;
+}
+
+// cos-seq-range, cos-choice-range, of a particle that occurs once.
+axsParticleRestriction::Range axsParticleRestriction::range_of(axsModelGroup const& outermost)
+{
+  std::vector<axsModelGroup const*> open{&outermost};
+  while (!open.empty())
+  {
+    axsModelGroup const& group = *open.back();
+    bool const is_choice = group.compositor == Compositor::choice;
+    Range range{is_choice ? unbounded : 0, 0};
+    bool is_complete = true;
+    for (axsParticle const& particle : group.particles)
+    {
+      Range inner{1, 1};
+      if (particle.group != nullptr)
+      {
+        auto const found = ranges.find(particle.group);
+        if (found == ranges.end())
+        {
+          open.push_back(particle.group);
+          is_complete = false;
+          continue;
+        }
+        inner = found->second;
+      }
+      inner = {product(inner.min, particle.min_occurs), product(inner.max, particle.max_occurs)};
+      range.min = is_choice ? std::min(range.min, inner.min) : sum(range.min, inner.min);
+      range.max = is_choice ? std::max(range.max, inner.max) : sum(range.max, inner.max);
+    }
+    if (!is_complete)
+      continue;
+    if (group.particles.empty())
+      range.min = 0;
+    ranges[&group] = range;
+    open.pop_back();
+  }
+  return ranges.at(&outermost);
+}
+
+axsParticleRestriction::Range axsParticleRestriction::total_range(View const& view)
+{
+  bool const is_group = view.particle->group != nullptr && view.element == nullptr;
+  Range const once = is_group ? range_of(*view.particle->group) : Range{1, 1};
+  return {product(once.min, view.min), product(once.max, view.max)};
+}
+
+// Groups are compared part by part, those that are begun last first.
+bool axsParticleRestriction::run(View const& restricted, View const& base)
+{
+  tasks.clear();
+  Answer outcome = begin(restricted, base);
+  if (outcome == Answer::no)
+    wrong = restricted.particle;
+  while (!tasks.empty())
+  {
+    View part;
+    View base_part;
+    outcome = next_pair(tasks.back(), part, base_part);
+    if (outcome == Answer::open)
+      outcome = begin(part, base_part);
+    else
+    {
+      Task const& task = tasks.back();
+      bool const fits = outcome == Answer::yes;
+      known[{task.restricted.particle, task.base.particle, task.restricted.is_counted}] = fits;
+      if (!fits)
+        wrong = task.at < task.parts.size() ? task.parts[task.at].particle : nullptr;
+      tasks.pop_back();
+    }
+    if (outcome != Answer::open && !tasks.empty())
+      take(tasks.back(), outcome == Answer::yes);
+  }
+  return outcome == Answer::yes;
+}
+
+axsParticleRestriction::Answer axsParticleRestriction::begin(View const& restricted, View const& base)
+{
+  Range const range{restricted.min, restricted.max};
+  bool const is_in_range = !restricted.is_counted || is_range(range, {base.min, base.max});
+  if (restricted.particle == base.particle && restricted.element == base.element)
+    return answer(is_in_range);
+  if (base.kind == Kind::wildcard)
+    return begin_in_wildcard(restricted, base);
+  if (restricted.element != nullptr && restricted.element == base.element)
+    return answer(is_in_range);
+  if (restricted.kind == Kind::element && base.kind == Kind::element)
+    return answer(is_in_range && is_element_right(restricted, base));
+  if (restricted.kind == Kind::wildcard || base.kind == Kind::element)
+    return Answer::no;
+  return begin_groups(restricted, base);
+}
+
+// rcase-NSCompat, rcase-NSSubset, rcase-NSRecurseCheckCardinality
+axsParticleRestriction::Answer axsParticleRestriction::begin_in_wildcard(View const& restricted, View const& base)
+{
+  axsWildcard const& wildcard = *base.particle->wildcard;
+  bool const is_in_range = !restricted.is_counted || is_range({restricted.min, restricted.max}, {base.min, base.max});
+  if (restricted.kind == Kind::element)
+    return answer(is_in_range && allows(wildcard, *restricted.element));
+  if (restricted.kind == Kind::wildcard)
+    return answer(is_in_range && axsNamespaceConstraint::is_subset(*restricted.particle->wildcard, wildcard) &&
+                  is_stricter(restricted.particle->wildcard->process, wildcard.process));
+  if (restricted.is_counted && !is_range(total_range(restricted), {base.min, base.max}))
+    return Answer::no;
+  return open_task(restricted, base, Rule::each_in_wildcard);
+}
+
+axsParticleRestriction::Rule axsParticleRestriction::rule_for(Kind base) noexcept
+{
+  return base == Kind::choice ? Rule::recurse_lax : Rule::recurse;
+}
+
+// rcase-RecurseAsIfGroup, rcase-Recurse, rcase-RecurseLax, rcase-RecurseUnordered, rcase-MapAndSum
+axsParticleRestriction::Answer axsParticleRestriction::begin_groups(View const& restricted, View const& base)
+{
+  Range const base_range{base.min, base.max};
+  if (restricted.kind == Kind::element)
+    return is_range({1, 1}, base_range) ? open_task(restricted, base, rule_for(base.kind)) : Answer::no;
+  if (restricted.kind == Kind::sequence && base.kind == Kind::choice)
+  {
+    std::uint64_t const count = parts_of(restricted).size();
+    Range const range{product(restricted.min, count), product(restricted.max, count)};
+    return is_range(range, base_range) ? open_task(restricted, base, Rule::map_and_sum) : Answer::no;
+  }
+  if (!is_range({restricted.min, restricted.max}, base_range))
+    return Answer::no;
+  bool const is_same_group =
+    restricted.element == nullptr && base.element == nullptr && restricted.particle->group == base.particle->group;
+  if (is_same_group)
+    return Answer::yes;
+  if (restricted.kind == Kind::sequence && base.kind == Kind::all)
+    return open_task(restricted, base, Rule::recurse_unordered);
+  return restricted.kind == base.kind ? open_task(restricted, base, rule_for(base.kind)) : Answer::no;
+}
+
+axsParticleRestriction::Answer axsParticleRestriction::open_task(View const& restricted, View const& base, Rule rule)
+{
+  auto const found = known.find({restricted.particle, base.particle, restricted.is_counted});
+  bool const is_whole = restricted.element == nullptr && base.element == nullptr;
+  if (is_whole && found != known.end())
+    return answer(found->second);
+  Task task{restricted, base, rule, parts_of(restricted), {}, {}};
+  if (rule == Rule::each_in_wildcard)
+    for (View& part : task.parts)
+      part.is_counted = false;
+  else
+  {
+    task.base_parts = parts_of(base);
+    task.is_used.assign(task.base_parts.size(), 0);
+  }
+  tasks.push_back(std::move(task));
+  return Answer::open;
+}
+
+// The two parts that are to be compared next; what comes of the whole, if that is known.
+axsParticleRestriction::Answer axsParticleRestriction::next_pair(Task& task, View& restricted, View& base)
+{
+  if (task.has_failed)
+    return Answer::no;
+  if (task.at == task.parts.size())
+    return end_of(task);
+  restricted = task.parts[task.at];
+  base = task.base;
+  if (task.rule == Rule::each_in_wildcard)
+    return Answer::open;
+  while (
+    task.rule == Rule::recurse_unordered && task.base_at < task.base_parts.size() && task.is_used[task.base_at] != 0)
+    ++task.base_at;
+  if (task.base_at == task.base_parts.size())
+    return Answer::no;
+  base = task.base_parts[task.base_at];
+  return Answer::open;
+}
+
+// What is left over of the base must be emptiable (cos-group-emptiable), but for a choice.
+axsParticleRestriction::Answer axsParticleRestriction::end_of(Task const& task)
+{
+  if (task.rule != Rule::recurse && task.rule != Rule::recurse_unordered)
+    return Answer::yes;
+  for (std::size_t i = 0; i < task.base_parts.size(); ++i)
+    if (task.is_used[i] == 0 && total_range(task.base_parts[i]).min != 0)
+      return Answer::no;
+  return Answer::yes;
+}
+
+void axsParticleRestriction::take(Task& task, bool fits)
+{
+  if (fits)
+  {
+    if (!task.is_used.empty())
+      task.is_used[task.base_at] = 1;
+    ++task.at;
+    bool const is_in_order = task.rule == Rule::recurse || task.rule == Rule::recurse_lax;
+    task.base_at = is_in_order ? task.base_at + 1 : 0;
+    return;
+  }
+  task.has_failed = task.rule == Rule::each_in_wildcard ||
+                    (task.rule == Rule::recurse && total_range(task.base_parts[task.base_at]).min != 0);
+  ++task.base_at;
+}
+
+// rcase-NameAndTypeOK, but for the numbers of occurrences
+bool axsParticleRestriction::is_element_right(View const& restricted, View const& base) const
+{
+  axsElementDecl const& own = *restricted.element;
+  axsElementDecl const& other = *base.element;
+  using Constraint = axsValueConstraint::Kind;
+  if (own.name != other.name || (own.is_nillable && !other.is_nillable))
+    return false;
+  bool const is_fixed = other.constraint.kind == Constraint::fixed;
+  if (is_fixed && (own.constraint.kind != Constraint::fixed || own.constraint.bytes != other.constraint.bytes))
+    return false;
+  auto const is_known = [&](axsIdentityConstraint const* constraint)
+  {
+    return std::find(other.identity_constraints.begin(), other.identity_constraints.end(), constraint) !=
+           other.identity_constraints.end();
+  };
+  if (!std::all_of(own.identity_constraints.begin(), own.identity_constraints.end(), is_known))
+    return false;
+  if ((other.block & ~own.block) != 0)
+    return false;
+  axsDerivationSet const excluded = axsDerivationExtension | axsDerivationList | axsDerivationUnion;
+  return axsTypeDerivation::is_derived(own.type, other.type, excluded);
+}
