@@ -15,7 +15,7 @@ class axsPattern
 public:
   struct Fault
   {
-    std::size_t offset = 0; // in bytes of the expression
+    std::size_t character = 0; // of the expression, counted from 1
     std::string text;
   };
 

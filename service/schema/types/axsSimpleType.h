@@ -59,11 +59,12 @@ public:
   axsSimpleType const* item() const noexcept { return own_item; }
 
   /// A union's members, in their order, a type that is named again left out; empty of others.
-  std::vector<axsSimpleType const*> const& members() const noexcept { return own_members; }
+  std::vector<axsSimpleType const*> const& members() const noexcept;
 
   /// Of a union collapse, which each member does for itself (Part 2, 4.3.6).
   axsWhiteSpace white_space() const noexcept { return own_white_space; }
 
+  /// Of atomic types.
   Role role() const noexcept { return own_role; }
 
   /// The derivations that may not be made from it.
@@ -89,6 +90,10 @@ public:
     return own_enumeration == nullptr ? nullptr : &own_enumeration->values;
   }
 
+  /// For messages: the patterns of the type's own step of derivation; the listed values, if they are few.
+  std::string const& pattern_text() const noexcept { return patterns.shown; }
+  std::string enumeration_text() const;
+
   /// Whether it is derived from `ancestor`, or is it, by none of the `excluded` derivations (Part 1, 3.14.6
   /// cos-st-derived-ok).
   bool is_derived_from(axsSimpleType const& ancestor, axsDerivationSet excluded = 0) const;
@@ -106,11 +111,6 @@ public:
   /// How the type is called in messages: "xs:int", "'colour'"; empty of a type without a name.
   std::string shown_name() const;
 
-private:
-  friend class axsSimpleTypes;
-  friend class axsTypeChecker;
-  friend class axsRestriction;
-
   // How the text of an atomic value of the type is formed beyond what its primitive type asks for.
   enum class Form : unsigned char
   {
@@ -121,6 +121,12 @@ private:
     name,     // 3.3.6
     ncname    // 3.3.7
   };
+
+private:
+  friend class axsSimpleTypes;
+  friend class axsBuiltInRegistry;
+  friend class axsTypeChecker;
+  friend class axsRestriction;
 
   // The patterns of one step of derivation, of which one must match (Part 2, 4.3.4.3 src-multiple-patterns).
   struct PatternStep
@@ -144,11 +150,18 @@ private:
 
   axsSimpleType() = default;
 
+  // What a type made by restriction begins with, and a list of items.
+  void inherit(axsSimpleType const& base);
+  void make_list(axsSimpleType const& of);
+  void contain(axsSimpleType const& part) noexcept;
+  bool is_restriction_of(axsSimpleType const& ancestor, axsDerivationSet excluded) const noexcept;
+
   std::string own_name;
   std::string own_name_space;
   axsSimpleType const* own_base = nullptr;
   axsSimpleType const* own_item = nullptr;
-  std::vector<axsSimpleType const*> own_members;
+  // Shared with the types that restrict the union.
+  std::shared_ptr<std::vector<axsSimpleType const*> const> own_members;
 
   Variety own_variety = Variety::ur;
   axsPrimitive own_primitive = axsPrimitive::none;
@@ -160,6 +173,10 @@ private:
   bool contains_id = false;
   bool contains_notation = false;
   bool contains_names = false;
+  bool contains_list = false; // the type or a member
+
+  static constexpr unsigned bit(axsFacetKind kind) noexcept { return 1u << static_cast<unsigned>(kind); }
+  static constexpr unsigned length_facets = 7; // length, minLength, maxLength
 
   // The facets in force, bits by their kinds. Lengths and digits that are larger than any text are the largest number.
   unsigned set_facets = 0;

@@ -66,7 +66,7 @@ public:
   static Order compare(std::string_view left, std::string_view right);
 
 private:
-  friend class axsSimpleType;
+  friend class axsTypeChecker;
 
   std::string data;
   axsSimpleType const* active = nullptr;

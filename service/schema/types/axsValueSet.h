@@ -9,32 +9,40 @@
 #include <vector>
 
 /// Values by their bytes, each numbered in the order of its first coming. A table whose hash nobody can foresee
-/// (axsTextHash); takes the bytes themselves and about 20 more each. Any number of threads may look at one at a time that
-/// none changes.
+/// (axsTextHash); takes the bytes themselves and about 30 more for each. Any number of threads may look at one while none
+/// changes it.
 class axsValueSet
 {
 public:
   static constexpr std::size_t none = static_cast<std::size_t>(-1);
 
-  /// The number of the value, which is size() as it was before if it is new.
+  /// The number of the value, whose bytes are not empty, which is size() as it was before if it is new. Where memory runs out, std::bad_alloc, and
+  /// the set is as it was.
   std::size_t insert(std::string_view bytes);
 
   /// The number of the value, none if it is not there.
   std::size_t find(std::string_view bytes) const;
 
+  /// The same for a value whose bytes are `first` and then `rest`.
+  std::size_t find(char first, std::string_view rest) const;
+
+  /// The bytes of a value by its number, up to the next insert.
   std::string_view operator[](std::size_t number) const noexcept;
+
   std::size_t size() const noexcept { return ends.size(); }
   bool empty() const noexcept { return ends.empty(); }
 
 private:
-  std::size_t slot_of(std::string_view bytes, std::size_t hash) const;
-  void grow();
-
+  // A place of the table: free, or the number of a value and its hash.
   struct Slot
   {
-    std::uint32_t hash = 0;
-    std::uint32_t number_after = 0; // one more than the number; 0 of a free slot
+    std::size_t number = none;
+    std::size_t hash = 0;
   };
+
+  std::size_t hash_of(char first, std::string_view rest) const;
+  std::size_t slot_of(std::size_t hash, char first, std::string_view rest) const;
+  void make_room();
 
   std::string data;
   std::vector<std::size_t> ends;

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "axsCharacterSet.h"
+#include "axsPattern.h"
+#include "axsPatternClasses.h"
+#include "axsPatternTree.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+/// A regular expression as a nondeterministic automaton. Repeats are written out, unless that is long; then those of one
+/// character are counted. Immutable, shared between threads.
+class axsPatternProgram
+{
+public:
+  using Index = std::uint32_t;
+
+  enum class Operation : unsigned char
+  {
+    take,  // a character of the set, then on at `next`
+    count, // by `counter`, then on at `next`
+    split, // on at `next` and at `other`
+    match
+  };
+
+  struct Instruction
+  {
+    Operation operation = Operation::match;
+    Index set = 0;
+    Index next = 0;
+    Index other = 0;
+    Index counter = 0;
+  };
+
+  /// Takes characters of the set, as many as one likes from `min` to `max`.
+  struct Counter
+  {
+    std::uint64_t min = 0;
+    std::uint64_t max = 0;
+    Index set = 0;
+    Index next = 0;
+  };
+
+  /// How many instructions an expression may need.
+  static constexpr std::uint64_t max_instructions = 200000;
+
+  /// Up to so many, everything is written out.
+  static constexpr std::uint64_t max_written_out = 1000;
+
+  /// Null, with the fault told, if the expression is too large.
+  static std::unique_ptr<axsPatternProgram const> build(axsPatternTree&& tree, axsPattern::Fault& fault);
+
+  Index start() const noexcept { return first; }
+  Instruction const& operator[](Index index) const noexcept { return instructions[index]; }
+  std::size_t size() const noexcept { return instructions.size(); }
+  std::vector<Counter> const& counters() const noexcept { return counting; }
+  axsPatternClasses const& classes() const noexcept { return alike; }
+
+  /// Whether a set has the characters of a class.
+  bool has(Index set, Index of_class) const noexcept { return sets[set].contains(alike.representative(of_class)); }
+
+private:
+  explicit axsPatternProgram(std::vector<axsCharacterSet>&& of);
+
+  Index add(Instruction const& instruction);
+  Index add_counter(axsPatternTree::Node const& repeat, Index set, Index next);
+
+  std::vector<axsCharacterSet> sets;
+  axsPatternClasses alike;
+  std::vector<Instruction> instructions;
+  std::vector<Counter> counting;
+  Index first = 0;
+
+  friend class axsPatternWriter;
+};

@@ -1,0 +1,116 @@
+#include "axsPatternTree.h"
+
+#include <algorithm>
+
+namespace
+{
+std::uint64_t const largest = axsPatternTree::unbounded;
+
+std::uint64_t sum(std::uint64_t left, std::uint64_t right) noexcept
+{
+  return left > largest - right ? largest : left + right;
+}
+
+std::uint64_t product(std::uint64_t left, std::uint64_t right) noexcept
+{
+  if (left == 0 || right == 0)
+    return 0;
+  return left > largest / right ? largest : left * right;
+}
+
+// What a repeat takes that is written out.
+std::uint64_t written_out(std::uint64_t part, std::uint64_t min, std::uint64_t max) noexcept
+{
+  return product(sum(max == largest ? min : max, 1), sum(part, 1));
+}
+
+// Whether the inner repeat, repeated itself, takes every number from the least to the largest product.
+bool is_contiguous(axsPatternTree::Node const& inner, std::uint64_t min, std::uint64_t max) noexcept
+{
+  if (min == max)
+    return true;
+  // (min + 1) * inner.min <= min * inner.max + 1, and then it holds for all larger numbers, too.
+  return product(sum(min, 1), inner.min) <= sum(product(min, inner.max), 1);
+}
+}
+
+axsPatternTree::Index axsPatternTree::add(Node const& node)
+{
+  nodes.push_back(node);
+  return static_cast<Index>(nodes.size() - 1);
+}
+
+axsPatternTree::Index axsPatternTree::add_empty()
+{
+  return add(Node());
+}
+
+axsPatternTree::Index axsPatternTree::add_set(Index set)
+{
+  Node node;
+  node.kind = Kind::set;
+  node.may_be_empty = false;
+  node.set = set;
+  return add(node);
+}
+
+axsPatternTree::Index axsPatternTree::add_group(Kind kind, Index first)
+{
+  Node node;
+  node.kind = kind;
+  node.first = first;
+  node.may_be_empty = kind == Kind::sequence;
+  node.cost = node.counted_cost = 0;
+  for (Index part = first; part != none; part = nodes[part].next)
+  {
+    node.may_be_empty = kind == Kind::sequence ? node.may_be_empty && nodes[part].may_be_empty
+                                               : node.may_be_empty || nodes[part].may_be_empty;
+    std::uint64_t const more = kind == Kind::choice ? 1 : 0;
+    node.cost = sum(node.cost, sum(nodes[part].cost, more));
+    node.counted_cost = sum(node.counted_cost, sum(nodes[part].counted_cost, more));
+  }
+  return add(node);
+}
+
+axsPatternTree::Index axsPatternTree::add_sequence(Index first)
+{
+  return add_group(Kind::sequence, first);
+}
+
+axsPatternTree::Index axsPatternTree::add_choice(Index first)
+{
+  return add_group(Kind::choice, first);
+}
+
+bool axsPatternTree::is_counted(Node const& repeat, Node const& part) noexcept
+{
+  bool const is_long = repeat.min >= least_counted || (repeat.max != unbounded && repeat.max >= least_counted);
+  return part.kind == Kind::set && is_long;
+}
+
+axsPatternTree::Index axsPatternTree::add_repeat(Index part, std::uint64_t min, std::uint64_t max)
+{
+  if (max == 0 || nodes[part].kind == Kind::empty)
+    return add_empty();
+  if (min == 1 && max == 1)
+    return part;
+  Node node;
+  node.kind = Kind::repeat;
+  node.min = min;
+  node.max = max;
+  if (nodes[part].kind == Kind::repeat && is_contiguous(nodes[part], min, max))
+  {
+    node.min = product(nodes[part].min, min);
+    node.max = product(nodes[part].max, max);
+    part = nodes[part].first;
+  }
+  Node const& repeated = nodes[part];
+  // What may be empty is there as often as needed.
+  if (repeated.may_be_empty)
+    node.min = 0;
+  node.first = part;
+  node.may_be_empty = node.min == 0;
+  node.cost = written_out(repeated.cost, node.min, node.max);
+  node.counted_cost = is_counted(node, repeated) ? 1 : written_out(repeated.counted_cost, node.min, node.max);
+  return add(node);
+}
