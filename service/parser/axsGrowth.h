@@ -11,6 +11,10 @@ class axsInputBuffer;
 class axsGrowth
 {
 public:
+  /// What a document becomes is bounded to `limit` times its size once that exceeds `free` bytes.
+  static constexpr std::size_t free = std::size_t{8} * 1024 * 1024;
+  static constexpr std::size_t limit = 100;
+
   /// Of the document in `window`, which must live longer.
   explicit axsGrowth(axsInputBuffer const& window) noexcept : document(window) {}
 
