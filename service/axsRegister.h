@@ -1,6 +1,6 @@
 #pragma once
 
-#include "axsExport.h"
+#include <axsExport.h>
 
 /// Makes the default engine available: registers a factory under "XMLService" and "axs::XMLService" with utService, in
 /// the place of whatever was registered there. May be called again and from any thread. Throws std::bad_alloc when memory
@@ -12,9 +12,11 @@
 /// - Nodes, lists and maps hold what they need: a node stays valid as long as it is held, even if its tree and its
 ///   document have been let go. A `std::weak_ptr` holds no node, only some bytes of bookkeeping.
 /// - Load: white-space-only text is dropped in CDATA sections, too, and whatever xml:space says. Prefixes must be bound
-///   (Namespaces in XML 1.0). An external DTD subset is never read, so that an entity declared only there is an error.
-///   Besides the number of entity expansions, what they and defaults of attributes make of a document is bounded: to 100
-///   times its size once that is more than 8 MiB. A document may be nested as deep as memory lasts, one that is validated 20000 levels.
+///   (Namespaces in XML 1.0; in a document of XML 1.1, by version 1.1 of them). The external DTD subset is read where the
+///   options enable the resolution of entities and it is a local file; an entity that is declared nowhere in what is read is
+///   an error. The expansions of parameter entities count as those of others. Besides the number of entity expansions, what
+///   they and defaults of attributes make of a document is bounded: to 100 times the size of what is read once that is more
+///   than 8 MiB. A document may be nested as deep as memory lasts, one that is validated 20000 levels.
 /// - Encodings: UTF-8, UTF-16, UTF-32, US-ASCII, ISO-8859-1 to -16, windows-1250 to -1258, KOI8-R and -U, and what else the
 ///   system has a converter for. A byte that has no meaning in the encoding of the document is an error; so is a
 ///   declaration of another encoding than that of the bytes.

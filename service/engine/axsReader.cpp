@@ -1,7 +1,7 @@
 #include "axsReader.h"
 
 #include "axsHandle.h"
-#include "axsScanner.h"
+#include "axsParser.h"
 #include "axsSource.h"
 #include "axsTreeBuilder.h"
 #include "axsXercesParser.h"
@@ -16,18 +16,10 @@ axsDomDocument& tree_of(axmDocument& document)
 
 std::shared_ptr<axmDocument> axsReader::read(axsSource& source, axmLoadOptions const& options, apString const& uri)
 {
-  std::shared_ptr<axmDocument> document = source.can_rewind() ? scan(source, options, uri) : nullptr;
-  return document != nullptr ? document : parse(source, options, uri);
-}
-
-std::shared_ptr<axmDocument> axsReader::scan(axsSource& source, axmLoadOptions const& options, apString const& uri)
-{
   std::shared_ptr<axmDocument> document = axsDomDocument::make(uri);
   axsTreeBuilder builder(tree_of(*document));
-  if (axsScanner::scan(source, options, builder))
-    return document;
-  source.rewind();
-  return nullptr;
+  axsParser(source, options, builder).run();
+  return document;
 }
 
 std::shared_ptr<axmDocument> axsReader::parse(axsSource& source, axmLoadOptions const& options, apString const& uri)

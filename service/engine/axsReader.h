@@ -8,15 +8,13 @@
 class apString;
 class axsSource;
 
-/// Reads documents into trees: ordinary ones with axsScanner, all others with axsXercesParser, which alone says what is
-/// wrong with one. Which of them read a document does not show.
+/// Reads documents into trees.
 namespace axsReader
 {
 /// The tree of the document in `source`, which gets `uri`. Throws axsReadError when it is not well-formed or cannot be
 /// read, std::bad_alloc when memory runs out.
 std::shared_ptr<axmDocument> read(axsSource& source, axmLoadOptions const& options, apString const& uri);
 
-/// The same with one of them. Of what the scanner does not take there is no tree, and the source is where it was.
-std::shared_ptr<axmDocument> scan(axsSource& source, axmLoadOptions const& options, apString const& uri);
+/// The same with the parser library that validates, to compare with.
 std::shared_ptr<axmDocument> parse(axsSource& source, axmLoadOptions const& options, apString const& uri);
 }

@@ -8,7 +8,6 @@
 #include "axsDomInstruction.h"
 #include "axsDomText.h"
 #include "axsDtd.h"
-#include "axsIdDeclarations.h"
 #include "axsStartTag.h"
 
 #include <utXmlCharacter.h>
@@ -73,5 +72,8 @@ void axsTreeBuilder::processing_instruction(std::string_view target, std::string
 void axsTreeBuilder::doctype(std::shared_ptr<axsDtd const> const& type)
 {
   open->append_new(*built.make_doctype(type->text));
-  axsIdDeclarations::read(type->text, built);
+  for (axsDtd::Element const& element : type->elements)
+    for (axsDtd::Attribute const& attribute : element.attributes)
+      if (attribute.type == axsAttributeType::id)
+        built.id_attributes().declare(name(element.name), name(attribute.name));
 }

@@ -1,36 +1,33 @@
 #include "axsAttributeList.h"
 
-#include <algorithm>
-
-bool axsAttributeList::add(axsReadName& name, Type type)
+bool axsAttributeList::add(axsReadName& name, axsAttributeType type)
 {
-  if (all.size() == most_attributes ||
-      std::any_of(all.begin(), all.end(), [&](Declared const& declared) { return declared.name == &name; }))
-    return false;
-  all.push_back({&name, type, false, {}});
-  return true;
+  has_tokens = has_tokens || type != axsAttributeType::cdata;
+  return types.emplace(&name, type).second;
 }
 
-void axsAttributeList::set_default(std::string_view value)
+void axsAttributeList::set_default(axsReadName& name, axsAttributeType type, std::string_view value)
 {
-  all.back().has_default = true;
-  all.back().value = value;
+  defaults.push_back({&name, type, std::string(value)});
 }
 
-bool axsAttributeList::is_of_tokens(axsReadName const& name) const noexcept
+axsAttributeType axsAttributeList::type_of(axsReadName const& name) const
 {
-  return std::any_of(all.begin(), all.end(),
-    [&](Declared const& declared) { return declared.name == &name && declared.type == Type::tokens; });
+  if (!has_tokens)
+    return axsAttributeType::cdata;
+  auto const found = types.find(&name);
+  return found == types.end() ? axsAttributeType::cdata : found->second;
 }
 
-std::size_t axsAttributeList::add_missing(std::vector<axsReadAttribute>& attributes, std::uint64_t element) const
+std::uint64_t axsAttributeList::add_missing(std::vector<axsReadAttribute>& attributes, std::uint64_t element) const
 {
-  std::size_t added = 0;
-  for (Declared const& declared : all)
-    if (declared.has_default && declared.name->last_element != element)
+  std::uint64_t added = 0;
+  for (Default const& missing : defaults)
+    if (missing.name->last_element != element)
     {
-      attributes.push_back({declared.name, declared.value});
-      added += sizeof(void*) + declared.value.size();
+      attributes.push_back({missing.name, missing.value, nullptr, missing.type});
+      added += sizeof(void*) + missing.value.size();
     }
-  return added;
+  // Of the element itself something is kept, too.
+  return added == 0 ? 0 : added + sizeof(void*);
 }

@@ -1,6 +1,8 @@
 #include "axsAttributeValue.h"
 
 #include "axsEntities.h"
+#include "axsInputStack.h"
+#include "axsMessages.h"
 #include "axsReference.h"
 
 #include <algorithm>
@@ -9,71 +11,117 @@ namespace
 {
 using namespace axsCharacters;
 
-void append(std::string& normal, char const* from, char const* to)
-{
-  normal.append(from, static_cast<std::size_t>(to - from));
-}
-
 bool is_collapsed(std::string_view value)
 {
   return value.empty() || (value.front() != ' ' && value.back() != ' ' && value.find("  ") == std::string_view::npos);
 }
 }
 
-bool axsAttributeValue::read_special(
-  char const*& at, std::string& normal, std::string_view& value, axsEntities* entities)
+std::string_view axsAttributeValue::read_special(char const*& p, std::string_view name)
 {
-  char const quote = *at;
+  char const quote = *p;
   if (quote != '"' && quote != '\'')
-    return false;
-  char const* const begin = ++at;
+    in.unexpected(p, axsMessages::attribute_quotes);
+  std::size_t const depth = in.depth();
+  // Where what is being read has begun, should it be read again.
+  char const* const piece = in.at;
+  char const* const begin = ++p;
   char const* from = begin;
   std::size_t const before = normal.size();
   while (true)
   {
-    at = behind_value(at, quote);
-    if (*at == quote)
+    p = behind_value(p, quote);
+    if (*p == quote && in.depth() == depth)
       break;
-    switch (*at)
+    if (*p == '<')
+      fail_at_less_than(p, name);
+    if (*p == '&' || (in.is_end(p) && in.depth() > depth))
     {
-    case '&':
-      append(normal, from, at);
-      if (entities == nullptr ? !axsReference::read(at, normal)
-                              : !entities->read(at, normal, axsEntities::Place::attribute))
-        return false;
-      from = at;
-      break;
-    case '\t':
-    case '\n':
-    case '\r':
-      append(normal, from, at);
-      skip_line_end(at);
-      normal += ' ';
-      from = at;
-      break;
-    default:
-      if (!skip_multibyte(at))
-        return false;
+      take(from, p);
+      if (*p == '&')
+        expand(p);
+      else
+      {
+        in.close();
+        p = in.at;
+      }
+      if (in.depth() == depth)
+        in.at = piece;
+      from = p;
+      continue;
     }
+    if (in.is_end(p))
+      in.unexpected(p, "the value of the attribute " + axsMessages::quoted(name) + " is not ended by its quote");
+    char const* const special = p;
+    bool const is_space = is(*p, space);
+    if (is_space && *p != '\r')
+      ++p;
+    else if (*p == quote)
+    {
+      ++p;
+      continue;
+    }
+    else if (in.pass_special(p) == axsInputStack::Special::characters && !is_space)
+      continue;
+    take(from, special);
+    normal += ' ';
+    from = p;
   }
+  std::string_view value;
   if (from == begin)
-    value = {begin, static_cast<std::size_t>(at - begin)};
+    value = {begin, static_cast<std::size_t>(p - begin)};
   else
   {
-    append(normal, from, at);
+    take(from, p);
     value = std::string_view(normal).substr(before);
   }
-  ++at;
-  return true;
+  in.check_controls(begin, p);
+  ++p;
+  return value;
 }
 
-void axsAttributeValue::collapse(std::string& normal, std::string_view& value)
+// A reference (4.4.5).
+void axsAttributeValue::expand(char const*& p)
+{
+  char const* const reference = p;
+  if (axsReference::read(in, p, normal))
+    return;
+  axsEntity& entity = all_entities.general(in, p);
+  // WFC: No External Entity References (3.1)
+  if (!entity.declared->is_internal)
+    in.fail(p, "the entity " + axsMessages::quoted(entity.name) +
+                 " is in another file, which the value of an attribute cannot be");
+  if (!entity.is_plain)
+  {
+    in.at = p;
+    in.open(entity, reference);
+    p = in.at;
+    return;
+  }
+  in.count_expansion(entity, reference);
+  std::string const& text = entity.declared->replacement;
+  normal += text;
+  std::replace_if(
+    normal.end() - static_cast<std::string::difference_type>(text.size()), normal.end(),
+    [](char c) { return is(c, space); }, ' ');
+}
+
+// WFC: No < in Attribute Values (3.1)
+void axsAttributeValue::fail_at_less_than(char const* p, std::string_view name) const
+{
+  if (axsEntity const* const entity = in.is_internal() ? in.entity() : nullptr)
+    in.fail(p, "the entity " + axsMessages::quoted(entity->name) +
+                 " has a '<', which cannot stand in the value of the attribute " + axsMessages::quoted(name));
+  in.fail(p + 1, "the value of the attribute " + axsMessages::quoted(name) +
+                   " has a '<', which is written &lt; there, or the quote that ends it is missing");
+}
+
+std::string_view axsAttributeValue::collapsed(std::string_view value)
 {
   if (is_collapsed(value))
-    return;
-  // What stands in `normal` already stands at its end.
-  bool const is_normal = value.data() + value.size() == normal.data() + normal.size();
-  if (!is_normal)
+    return value;
+  // What was made already stands at the end.
+  if (!is_made(value))
     normal.append(value);
   std::size_t const begin = normal.size() - value.size();
   auto const first = normal.begin() + static_cast<std::string::difference_type>(begin);
@@ -81,7 +129,8 @@ void axsAttributeValue::collapse(std::string& normal, std::string_view& value)
   normal.erase(std::unique(first, normal.end(), repeats), normal.end());
   if (normal.size() > begin && normal.back() == ' ')
     normal.pop_back();
-  value = std::string_view(normal).substr(begin);
-  if (!value.empty() && value.front() == ' ')
-    value.remove_prefix(1);
+  std::string_view collapsed = std::string_view(normal).substr(begin);
+  if (!collapsed.empty() && collapsed.front() == ' ')
+    collapsed.remove_prefix(1);
+  return collapsed;
 }

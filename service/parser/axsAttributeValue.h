@@ -2,35 +2,58 @@
 
 #include "axsCharacters.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 class axsEntities;
+class axsInputStack;
 
-/// The values of attributes, in memory as axsCharacters wants it.
-namespace axsAttributeValue
+/// Reads the values of attributes and normalises them (3.3.3).
+class axsAttributeValue
 {
-/// Reads the value in quotes at `at`, moves behind it and normalises it as that of an attribute of character data
-/// (3.3.3). `value` refers to where it stands, or to the end of `normal`, to which it was appended where it does not
-/// stand as it is. Its references are those that axsReference reads and, unless that is null, those to `entities`. False
-/// where there is no such value; `at` is then where that shows, unless the entities lack something.
-inline bool read(char const*& at, std::string& normal, std::string_view& value, axsEntities* entities);
+public:
+  /// Refers to both, which must live longer.
+  axsAttributeValue(axsInputStack& input, axsEntities& entities) : in(input), all_entities(entities) {}
 
-/// Makes of a value that was read what it is to an attribute of tokens: no spaces at its ends, and one where there are
-/// several (3.3.3). `normal` is what it was read with, and nothing was appended to it since.
-void collapse(std::string& normal, std::string_view& value);
+  /// Reads the value in quotes at `p` of the attribute `name` and moves after it. What comes out is the value as that of an
+  /// attribute of character data: it stands where it was read or, where it does not stand there as it is, at the end of
+  /// `made()`, which moves when more is read. Throws as the input does.
+  std::string_view read(char const*& p, std::string_view name)
+  {
+    std::string_view value;
+    char const* end = p;
+    // Most values are plain ASCII.
+    if (axsCharacters::read_literal(end, value))
+    {
+      p = end;
+      return value;
+    }
+    return read_special(p, name);
+  }
 
-/// The same as read(), for values in which there is something to be looked at.
-bool read_special(char const*& at, std::string& normal, std::string_view& value, axsEntities* entities);
-}
+  /// Makes of a value that was read last what it is to an attribute of tokens: no spaces at its ends, and one where there
+  /// are several.
+  std::string_view collapsed(std::string_view value);
 
-// Most values are plain ASCII.
-inline bool axsAttributeValue::read(
-  char const*& at, std::string& normal, std::string_view& value, axsEntities* entities)
-{
-  char const* end = at;
-  if (!axsCharacters::read_literal(end, value))
-    return read_special(at, normal, value, entities);
-  at = end;
-  return true;
-}
+  /// Whether the value was made, and does not stand where it was read.
+  bool is_made(std::string_view value) const noexcept
+  {
+    return value.data() >= normal.data() && value.data() <= normal.data() + normal.size();
+  }
+
+  std::string const& made() const noexcept { return normal; }
+
+  /// Forgets what was made.
+  void clear() noexcept { normal.clear(); }
+
+private:
+  std::string_view read_special(char const*& p, std::string_view name);
+  void expand(char const*& p);
+  [[noreturn]] void fail_at_less_than(char const* p, std::string_view name) const;
+  void take(char const* from, char const* to) { normal.append(from, static_cast<std::size_t>(to - from)); }
+
+  axsInputStack& in;
+  axsEntities& all_entities;
+  std::string normal;
+};

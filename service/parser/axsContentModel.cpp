@@ -1,76 +1,133 @@
 #include "axsContentModel.h"
 
-#include "axsCharacters.h"
+#include "axsDeclarationReader.h"
+#include "axsMessages.h"
+
+#include <vector>
 
 namespace
 {
-using namespace axsCharacters;
-
-void skip_occurrence(char const*& at)
+class Reading
 {
-  if (*at == '?' || *at == '*' || *at == '+')
-    ++at;
+public:
+  explicit Reading(axsDeclarationReader& given) : reader(given) {}
+
+  std::string read();
+
+private:
+  void read_mixed();
+  void read_children();
+  void read_occurrence();
+  bool take(char c);
+  bool end_groups();
+  void read_separator();
+
+  axsDeclarationReader& reader;
+  std::string model;
+  // What separates the parts of each open group; zero as long as it has one only.
+  std::vector<char> separators;
+};
+
+bool Reading::take(char c)
+{
+  if (!reader.is_at(c))
+    return false;
+  model += c;
+  return reader.take({&c, 1});
 }
 
-// Behind "(#PCDATA" ([51] Mixed).
-bool skip_rest_of_mixed(char const*& at)
+void Reading::read_occurrence()
 {
+  if (!take('?') && !take('*'))
+    take('+');
+}
+
+std::string Reading::read()
+{
+  for (char const* const word : {"EMPTY", "ANY"})
+    if (reader.take(word))
+      return word;
+  if (!take('('))
+    reader.unexpected(axsMessages::content_expected);
+  reader.spaces();
+  if (reader.take("#PCDATA"))
+    read_mixed();
+  else
+    read_children();
+  return std::move(model);
+}
+
+// After "(#PCDATA" ([51] Mixed)
+void Reading::read_mixed()
+{
+  model += "#PCDATA";
   bool has_names = false;
   while (true)
   {
-    skip_spaces(at);
-    if (skip_character(at, ')'))
-      return skip_character(at, '*') || !has_names;
-    if (!skip_character(at, '|'))
-      return false;
-    skip_spaces(at);
-    if (!skip_name(at))
-      return false;
+    reader.spaces();
+    if (take(')'))
+    {
+      if (!take('*') && has_names)
+        reader.unexpected(axsMessages::mixed_end);
+      return;
+    }
+    if (!take('|'))
+      reader.unexpected(axsMessages::mixed_end);
+    reader.spaces();
+    model += reader.name(axsMessages::content_name);
     has_names = true;
   }
 }
 
-// Behind the first "(" ([47] children to [50] seq).
-bool skip_rest_of_children(char const*& at)
+// After the first "(" ([47] children to [50] seq)
+void Reading::read_children()
 {
-  // What separates the parts of each open group; zero as long as it has one only.
-  char separators[axsContentModel::most_levels] = {};
-  int level = 1;
+  separators.push_back(0);
   while (true)
   {
-    skip_spaces(at);
-    if (skip_character(at, '('))
+    reader.spaces();
+    if (take('('))
     {
-      if (level == axsContentModel::most_levels)
-        return false;
-      separators[level++] = 0;
+      separators.push_back(0);
       continue;
     }
-    if (!skip_name(at))
-      return false;
-    skip_occurrence(at);
-    skip_spaces(at);
-    while (skip_character(at, ')'))
-    {
-      skip_occurrence(at);
-      if (--level == 0)
-        return true;
-      skip_spaces(at);
-    }
-    char& separator = separators[level - 1];
-    if ((*at != ',' && *at != '|') || (separator != 0 && separator != *at))
-      return false;
-    separator = *at++;
+    model += reader.name(axsMessages::content_name);
+    read_occurrence();
+    if (end_groups())
+      return;
+    read_separator();
   }
+}
+
+// Whether the outermost one ended.
+bool Reading::end_groups()
+{
+  reader.spaces();
+  while (take(')'))
+  {
+    read_occurrence();
+    separators.pop_back();
+    if (separators.empty())
+      return true;
+    reader.spaces();
+  }
+  return false;
+}
+
+void Reading::read_separator()
+{
+  char const found = reader.is_at(',') ? ',' : '|';
+  if (!reader.is_at(found))
+    reader.unexpected(axsMessages::content_separator);
+  char& separator = separators.back();
+  if (separator != 0 && separator != found)
+    reader.unexpected(axsMessages::content_mixture);
+  separator = found;
+  take(found);
 }
 }
 
-bool axsContentModel::skip(char const*& at)
+std::string axsContentModel::read(axsDeclarationReader& reader)
 {
-  if (axsCharacters::skip(at, "EMPTY") || axsCharacters::skip(at, "ANY"))
-    return true;
-  if (!skip_character(at, '('))
-    return false;
-  skip_spaces(at);
-  return axsCharacters::skip(at, "#PCDATA") ? skip_rest_of_mixed(at) : skip_rest_of_children(at);
+  return Reading(reader).read();
 }

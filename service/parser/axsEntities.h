@@ -1,52 +1,37 @@
 #pragma once
 
+#include "axsEntity.h"
 #include "axsTextHash.h"
 
-#include <cstddef>
+#include <deque>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 
-class axsGrowth;
-class axsInputBuffer;
+class axsInputStack;
 
-/// The entities that a document declares itself and uses, as long as they are plain text. Others are left to others.
+/// The entities of one document.
 class axsEntities
 {
 public:
-  /// Where a reference stands.
-  enum class Place
-  {
-    text,
-    attribute
-  };
+  /// A document that is standalone uses what it declares itself only.
+  void set_standalone() noexcept { is_standalone = true; }
 
-  /// Of the document in `window`. At most `most_expansions` references are expanded, those that are read again counted
-  /// again. What they refer to must live longer.
-  axsEntities(axsInputBuffer const& window, axsGrowth& growth, std::size_t most_expansions)
-    : document(window),
-      grown(growth),
-      expansions_left(most_expansions)
-  {
-  }
+  /// Takes an entity into the model `type` where it is declared first; of several with one name the first counts (4.2).
+  void declare_general(axsDtd& type, std::string const& name, axsDtd::Entity&& declared, axsInputStack const& input);
+  void declare_parameter(std::string const& name, axsDtd::Entity&& declared, axsInputStack const& input);
 
-  /// An entity with that replacement text (4.5). Of several with one name the first one counts (4.2).
-  void declare(std::string_view name, std::string_view replacement);
+  /// Moves after the reference to a general entity at `p`. Throws as the input does where there is none, or none to an
+  /// entity that is declared and parsed.
+  axsEntity& general(axsInputStack const& input, char const*& p);
 
-  /// Moves behind the reference at `at`, one to a declared entity or one that axsReference reads, and appends to `text`
-  /// what becomes of it at that place (4.4.2, 4.4.5). Behind a replacement text, `text` has room for all of the window: it
-  /// does not move. False where there is another reference or none, and `at` is then where that shows; where there are too
-  /// many or too large ones; and where `text` lacks room.
-  bool read(char const*& at, std::string& text, Place place);
-
-  /// How much room the last reading lacked, if that was why it failed; asked once.
-  std::size_t take_lacking_room() noexcept;
+  /// The same for a parameter entity; the '%' is at `p`.
+  axsEntity& parameter(axsInputStack const& input, char const*& p);
 
 private:
-  axsInputBuffer const& document;
-  axsGrowth& grown;
-  std::size_t expansions_left;
-  std::size_t lacking_room = 0;
-  // Of one that is not plain text, empty.
-  std::unordered_map<std::string, std::string, axsTextHash> replacements;
+  std::unordered_map<std::string_view, axsEntity, axsTextHash> generals;
+  std::unordered_map<std::string_view, axsEntity, axsTextHash> parameters;
+  // What is declared of parameter entities, of which the model has none.
+  std::deque<std::pair<std::string const, axsDtd::Entity>> kept;
+  bool is_standalone = false;
 };

@@ -8,9 +8,9 @@
 
 namespace
 {
-apString quoted(std::string_view text)
+std::string quoted(std::string_view text)
 {
-  return APSTRING("'") + apString::from_utf8(text) + APSTRING("'");
+  return '\'' + std::string(text) + '\'';
 }
 
 // Empty when it is not bound.
@@ -80,10 +80,9 @@ bool axsNamespaceScope::declare(axsReadAttribute const& attribute)
   axsPrefix& prefix = *attribute.name->declared;
   std::string_view const value = attribute.value;
   if (prefix.text == "xmlns" || (prefix.text == "xml") != (value == xml_namespace) || value == xmlns_namespace)
-    return fail(
-      APSTRING("the prefix ") + quoted(prefix.text) + APSTRING(" cannot be bound to the namespace ") + quoted(value));
-  if (!prefix.text.empty() && value.empty())
-    return fail(APSTRING("the prefix ") + quoted(prefix.text) + APSTRING(" cannot be bound to no namespace"));
+    return fail("the prefix " + quoted(prefix.text) + " cannot be bound to the namespace " + quoted(value));
+  if (!prefix.text.empty() && value.empty() && !may_undeclare)
+    return fail("the prefix " + quoted(prefix.text) + " cannot be bound to no namespace");
   prefix.bound.emplace_back(value);
   declared.emplace_back(depth, &prefix);
   return true;
@@ -94,11 +93,11 @@ bool axsNamespaceScope::check_name(axsReadName const& name, bool is_attribute)
   if (name.prefix == nullptr)
     return true;
   if (!name.is_qualified)
-    return fail(quoted(name.name->utf8()) + APSTRING(" is not a name with a prefix"));
+    return fail(quoted(name.name->utf8()) + " is not a name with a prefix");
   if ((is_attribute && name.declared != nullptr) || !bound_to(*name.prefix).empty())
     return true;
-  return fail(APSTRING("the prefix ") + quoted(name.prefix->text) + APSTRING(" of ") + quoted(name.name->utf8()) +
-              APSTRING(" is not bound to a namespace"));
+  return fail(
+    "the prefix " + quoted(name.prefix->text) + " of " + quoted(name.name->utf8()) + " is not bound to a namespace");
 }
 
 // Two attributes of one element must not have the same name in the same namespace. With one prefix they have not.
@@ -118,11 +117,11 @@ bool axsNamespaceScope::check_repetition(Attributes const& attributes)
   auto const repeated = std::adjacent_find(qualified.begin(), qualified.end());
   if (repeated == qualified.end())
     return true;
-  return fail(APSTRING("the attribute ") + quoted(repeated->second) + APSTRING(" of the namespace ") +
-              quoted(repeated->first) + APSTRING(" is given twice"));
+  return fail(
+    "the attribute " + quoted(repeated->second) + " of the namespace " + quoted(repeated->first) + " is given twice");
 }
 
-bool axsNamespaceScope::fail(apString const& text)
+bool axsNamespaceScope::fail(std::string const& text)
 {
   error = text;
   return false;

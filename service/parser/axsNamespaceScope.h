@@ -3,9 +3,8 @@
 #include "axsPrefixScope.h"
 #include "axsReadName.h"
 
-#include <apString.h>
-
 #include <cstddef>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -26,6 +25,9 @@ public:
 
   using Attributes = std::vector<axsReadAttribute>;
 
+  /// From now on a prefix may be bound to nothing (Namespaces in XML 1.1, 5).
+  void allow_undeclaring() noexcept { may_undeclare = true; }
+
   /// An element begins, of whose attributes no two have the same name. Whether nothing is wrong with it.
   bool open(axsReadName const& name, Attributes const& attributes);
 
@@ -39,16 +41,17 @@ public:
   std::string_view of_attribute(axsReadName const& name) const;
 
   /// What is wrong with the element that did not open.
-  apString const& wrong() const noexcept { return error; }
+  std::string const& wrong() const noexcept { return error; }
 
 private:
   bool declare(axsReadAttribute const& attribute);
   bool check_name(axsReadName const& name, bool is_attribute);
   bool check_repetition(Attributes const& attributes);
-  bool fail(apString const& text);
+  bool fail(std::string const& text);
 
   axsNameCache const& names;
-  apString error;
+  std::string error;
+  bool may_undeclare = false;
   // The prefixes declared by the open elements, and at which depth.
   std::vector<std::pair<std::size_t, axsPrefix*>> declared;
   std::size_t depth = 0;

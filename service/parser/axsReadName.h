@@ -1,5 +1,8 @@
 #pragma once
 
+#include "axsAttributeType.h"
+
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -7,7 +10,7 @@ class axsAttributeList;
 class axsName;
 struct axsPrefix;
 
-/// A name of a document as its parsers need it: the name of the tree, and what namespaces make of it.
+/// A name of a document as its parser needs it: the name of the tree, and what namespaces make of it.
 struct axsReadName
 {
   axsName const* name;
@@ -33,4 +36,9 @@ struct axsReadAttribute
 {
   axsReadName const* name;
   std::string_view value;
+
+  /// Where its name stands; null of a default.
+  char const* at = nullptr;
+
+  axsAttributeType type = axsAttributeType::cdata;
 };

@@ -35,6 +35,9 @@ struct QualifiedName
 class Check
 {
 public:
+  // Of a document of XML 1.1, for which the later namespaces hold.
+  explicit Check(bool is_xml_1_1) : may_undeclare(is_xml_1_1) {}
+
   bool open(axsElement const& element);
   void close();
 
@@ -45,6 +48,7 @@ private:
   bool declare(Prefix& prefix, std::string_view value);
   bool has_repetition(axsElement const& element);
 
+  bool const may_undeclare;
   // The texts of names and values lie in the tree.
   std::unordered_map<axsName const*, QualifiedName> names;
   std::unordered_map<std::string_view, Prefix, axsTextHash> prefixes;
@@ -125,12 +129,12 @@ Prefix& Check::find_prefix(std::string_view text)
 }
 
 // Namespaces in XML 1.0, 3 and 5: only "xml" and its namespace belong together, "xmlns" and its namespace are for nobody,
-// and no prefix can be bound to nothing.
+// and no prefix can be bound to nothing; in version 1.1 of them it can.
 bool Check::declare(Prefix& prefix, std::string_view value)
 {
   if (prefix.text == "xmlns" || (prefix.text == "xml") != (value == xml_namespace) || value == xmlns_namespace)
     return false;
-  if (!prefix.text.empty() && value.empty())
+  if (!prefix.text.empty() && value.empty() && !may_undeclare)
     return false;
   prefix.bound.push_back(value);
   declared.emplace_back(depth, &prefix);
@@ -164,7 +168,7 @@ bool axsNamespaceCheck::holds(axsTree const& document)
   axsNode const* const root = document.root_element();
   if (root == nullptr || !document.names().has_namespaces())
     return true;
-  Check check;
+  Check check(document.is_xml_1_1());
   for (axsNode const* node = root;;)
   {
     if (node->is_element() && !check.open(static_cast<axsElement const&>(*node)))

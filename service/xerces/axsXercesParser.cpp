@@ -277,7 +277,7 @@ void Run::startElement(xercesc::XMLElementDecl const& decl, unsigned int, XMLCh 
   axsReadName const& name = names.find(utf8(decl.getFullName()));
   read_attributes(attributes, number);
   if (!namespaces.open(name, read))
-    fail(namespaces.wrong());
+    fail(apString::from_utf8(namespaces.wrong()));
 
   std::vector<axsTagAttribute> told;
   for (axsReadAttribute const& attribute : read)

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "axsGrowth.h"
-
 #include <apString.h>
 #include <axmLoadOptions.h>
 
@@ -16,8 +14,8 @@ class axsSource;
 /// May run in many threads at once.
 namespace axsXercesParser
 {
-constexpr std::size_t growth_free = axsGrowth::free;
-constexpr std::size_t growth_limit = axsGrowth::limit;
+constexpr std::size_t growth_free = std::size_t{8} * 1024 * 1024;
+constexpr std::size_t growth_limit = 100;
 
 /// Tells `events` of the document in `source`. Throws axsReadError when it is not well-formed, breaks a bound or needs
 /// what it may not have, std::bad_alloc when memory runs out.

@@ -18,23 +18,18 @@ axsNode* handed_out(axsXPathNode node) noexcept
   return node.is_virtual() ? node.virtual_node().declaration : node.node();
 }
 
-// In place: the node-set of //x may have millions of nodes.
-std::vector<axsXPathNode> handed_out(std::vector<axsXPathNode> nodes)
+std::vector<axsNode*> handed_out(std::vector<axsXPathNode> const& nodes)
 {
+  std::vector<axsNode*> found;
+  found.reserve(nodes.size());
   std::unordered_set<axsNode*> declarations;
-  auto const place = [&](axsXPathNode& node)
+  for (axsXPathNode const node : nodes)
   {
-    if (!node.is_virtual())
-      return true;
-    node = handed_out(node);
-    return !node.is_none() && declarations.insert(node.node()).second;
-  };
-  auto kept = nodes.begin();
-  for (axsXPathNode& node : nodes)
-    if (place(node))
-      *kept++ = node;
-  nodes.erase(kept, nodes.end());
-  return nodes;
+    axsNode* const shown = handed_out(node);
+    if (shown != nullptr && (!node.is_virtual() || declarations.insert(shown).second))
+      found.push_back(shown);
+  }
+  return found;
 }
 
 bool bind(axsXPathEvaluator& evaluator, std::string_view text, axsXPathError& error)
@@ -61,7 +56,7 @@ std::vector<axsXPathNode> select_nodes(axsXPathEvaluator& evaluator, axsXPathExp
 }
 }
 
-std::vector<axsXPathNode> axsXPathQuery::select(
+std::vector<axsNode*> axsXPathQuery::select(
   axsXPathCache& cache, axsNode& context, std::string_view text, axsXPathError& error)
 {
   auto const expression = cache.compile(text, error);

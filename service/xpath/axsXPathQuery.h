@@ -1,7 +1,6 @@
 #pragma once
 
 #include "axsXPathError.h"
-#include "axsXPathNode.h"
 #include "axsXPathType.h"
 
 #include <string>
@@ -22,7 +21,7 @@ public:
   struct Value
   {
     axsXPathType type = axsXPathType::node_set;
-    std::vector<axsXPathNode> nodes;
+    std::vector<axsNode*> nodes;
     bool boolean = false;
     double number = 0;
     /// The value as a string.
@@ -31,7 +30,7 @@ public:
 
   /// The nodes that `expression`, UTF-8, selects, in document order, each once. Where it is wrong or does not give a
   /// node-set, none, with the reason in `error`, which is without a message otherwise.
-  static std::vector<axsXPathNode> select(
+  static std::vector<axsNode*> select(
     axsXPathCache& cache, axsNode& context, std::string_view expression, axsXPathError& error);
 
   /// The first of them, null if there is none, without looking for the others where that can be spared.

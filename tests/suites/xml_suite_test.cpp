@@ -194,20 +194,19 @@ TEST(xml_suite, data_is_that_of_the_canonical_form_but_for_the_listed_ones)
   hold_against_list("xml_data_differences.tsv", data_difference);
 }
 
-TEST(xml_suite, disabled_resolution_refuses_only_documents_that_name_an_external_identifier)
+TEST(xml_suite, resolution_matters_only_to_documents_that_name_an_external_identifier)
 {
-  int refused = 0;
+  int differences = 0;
   for (XmlTest const& test : suite())
   {
     bool const loads = load(test.file).document != nullptr;
     bool const loads_alone = load(test.file, Resolution::disabled).document != nullptr;
     if (loads == loads_alone)
       continue;
-    ++refused;
-    EXPECT_TRUE(loads) << test.id << " loads only with resolution disabled";
+    ++differences;
     std::string const text = read_text(test.file);
     bool const names_one = text.find("SYSTEM") != std::string::npos || text.find("PUBLIC") != std::string::npos;
     EXPECT_TRUE(names_one) << test.id;
   }
-  EXPECT_GT(refused, 0);
+  EXPECT_GT(differences, 0);
 }

@@ -29,6 +29,9 @@ public:
   /// Whether nothing comes after the end.
   bool is_last() const noexcept { return last; }
 
+  /// Whether something comes after the end that is not in the encoding of the document, which advance() then tells.
+  bool is_stopped() const noexcept { return !source.fault().empty(); }
+
   /// How many bytes it holds before it grows.
   std::size_t capacity() const noexcept { return room; }
 

@@ -24,9 +24,8 @@ std::string quoted(std::string_view text)
 
 std::string compare(std::string_view what, std::string_view scanned, std::string_view parsed)
 {
-  return scanned == parsed
-           ? std::string()
-           : std::string(what) + " is " + quoted(scanned) + ", but " + quoted(parsed) + " to the parser";
+  return scanned == parsed ? std::string()
+                           : std::string(what) + " is " + quoted(scanned) + ", but " + quoted(parsed) + " to the judge";
 }
 
 std::string compare_attributes(axsNode const& scanned, axsNode const& parsed)
@@ -84,7 +83,7 @@ std::string compare_trees(axsNode const& scanned, axsNode const& parsed)
 std::shared_ptr<axmDocument> scan(axsSource& source, axmLoadOptions const& options, apString const& uri)
 try
 {
-  return axsReader::scan(source, options, uri);
+  return axsReader::read(source, options, uri);
 }
 catch (axsReadError const&)
 {
@@ -110,6 +109,6 @@ BothRoads::BothRoads(std::string_view document, axmLoadOptions const& options)
   catch (axsReadError const& error)
   {
     if (was_scanned)
-      found = "only the scanner takes it; the parser says: " + text_of(error.message);
+      found = "only the parser takes it; the judge says: " + text_of(error.message);
   }
 }

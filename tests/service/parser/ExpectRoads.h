@@ -7,7 +7,7 @@
 #include <initializer_list>
 #include <string>
 
-/// The scanner takes them, and the parser agrees.
+/// The parser takes them, and the judge agrees.
 inline void expect_taken(std::initializer_list<std::string> documents)
 {
   for (std::string const& document : documents)
@@ -18,8 +18,8 @@ inline void expect_taken(std::initializer_list<std::string> documents)
   }
 }
 
-/// They are right, but not for the scanner.
-inline void expect_left(std::initializer_list<std::string> documents)
+/// They are wrong, though the judge lets them pass.
+inline void expect_refused_alone(std::initializer_list<std::string> documents)
 {
   for (std::string const& document : documents)
   {

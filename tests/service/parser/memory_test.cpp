@@ -1,4 +1,4 @@
-// Reading a document without the parser, with each allocation failing in turn.
+// Reading a document with each allocation failing in turn.
 
 #include "../../FailingMemory.h"
 #include "axsReader.h"
@@ -8,7 +8,7 @@
 
 #include <string>
 
-TEST(reading_memory, the_scanner_fails_cleanly)
+TEST(reading_memory, the_parser_fails_cleanly)
 {
   std::string document = "<!DOCTYPE r [<!ATTLIST r d NMTOKENS '  a longer default  value  ' e CDATA '&lt;'>"
                          "<!ATTLIST p:name7 f CDATA #FIXED 'of several'>"
@@ -25,7 +25,7 @@ TEST(reading_memory, the_scanner_fails_cleanly)
     [&]
     {
       source.rewind();
-      if (axsReader::scan(source, axmLoadOptions(axmValidateNone), uri) == nullptr)
+      if (axsReader::read(source, axmLoadOptions(axmValidateNone), uri) == nullptr)
         ADD_FAILURE();
     });
   EXPECT_GT(allocations, 100);

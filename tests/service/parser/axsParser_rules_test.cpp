@@ -8,7 +8,7 @@ namespace
 std::string const mark = "\xEF\xBB\xBF";
 }
 
-TEST(axsScanner_rules, document)
+TEST(axsParser_rules, document)
 {
   expect_taken({"<r/>", "<r></r>", " \t\r\n<r/> \t\r\n", "<!--a--><?b c?>\n<r/>\n<?d?><!--e-->", mark + "<r/>"});
   expect_refused(
@@ -17,7 +17,7 @@ TEST(axsScanner_rules, document)
       mark + mark + "<r/>", "<r/>" + mark, std::string("<r/>\0", 5), std::string("\0<r/>", 5), "<r/><", "< r/>"});
 }
 
-TEST(axsScanner_rules, declaration_of_xml)
+TEST(axsParser_rules, declaration_of_xml)
 {
   expect_taken({"<?xml version='1.0'?><r/>", "<?xml version=\"1.0\" ?><r/>", "<?xml\tversion\r\n=\n'1.0'?>\n<r/>",
     "<?xml version='1.0' encoding='UTF-8'?><r/>", "<?xml version='1.0' encoding=\"utf-8\" ?><r>\xC3\xA4</r>",
@@ -26,7 +26,7 @@ TEST(axsScanner_rules, declaration_of_xml)
     mark + "<?xml version='1.0' encoding='UTF-8'?><r/>", mark + "<?xml version='1.0'?><r/>",
     "<?xml version='1.0' encoding='ISO-8859-1'?><r>\xE4</r>", "<?xml version='1.0' encoding='UTF8'?><r/>",
     "<?xml version='1.0' encoding='windows-1252'?><r/>"});
-  expect_left({"<?xml version='1.1'?><r/>"});
+  expect_taken({"<?xml version='1.1'?><r/>"});
   expect_refused({"<?xml?><r/>", "<?xml ?><r/>", "<?xml version=1.0?><r/>", "<?xml version='2.0'?><r/>",
     "<?xml version='1.0\"?><r/>", "<?xml version='1.0'><r/>", "<?xml version='1.0'? ><r/>",
     "<?xml encoding='UTF-8'?><r/>", "<?xml encoding='UTF-8' version='1.0'?><r/>",
@@ -42,14 +42,14 @@ TEST(axsScanner_rules, declaration_of_xml)
     "<?xml version='1.0'", "<?xml version='1.", "<?xml"});
 }
 
-TEST(axsScanner_rules, ascii_is_ascii_up_to_the_end)
+TEST(axsParser_rules, ascii_is_ascii_up_to_the_end)
 {
   std::string const begin = "<?xml version='1.0' encoding='US-ASCII'?><r>" + std::string(100000, 'x');
   expect_taken({begin + "</r>", begin + "&#xE4;</r>"});
   expect_refused({begin + "\xC3\xA4</r>", begin + "<!--\xC3\xA4--></r>", begin + "<a\xC3\xA4/></r>"});
 }
 
-TEST(axsScanner_rules, encodings_show_in_the_first_bytes)
+TEST(axsParser_rules, encodings_show_in_the_first_bytes)
 {
   std::string little = "\xFF\xFE";
   std::string big = "\xFE\xFF";
@@ -62,7 +62,7 @@ TEST(axsScanner_rules, encodings_show_in_the_first_bytes)
   expect_refused({little.substr(2)});
 }
 
-TEST(axsScanner_rules, document_types)
+TEST(axsParser_rules, document_types)
 {
   expect_taken(
     {"<!DOCTYPE r><r/>", "<!DOCTYPE r ><r/>", "<!DOCTYPE\r\n\tr\n>\n<r/>", "<!--a--><!DOCTYPE other><?b?><r>&amp;</r>",
@@ -71,8 +71,9 @@ TEST(axsScanner_rules, document_types)
       "<!DOCTYPE r PUBLIC \"it's\"\n'>'\n><r/>", "<!DOCTYPE r PUBLIC '' ''><r/>", "<!DOCTYPE p:r><r/>",
       "<?xml version='1.0' standalone='yes'?><!DOCTYPE r SYSTEM 's'><r/>", "<!DOCTYPE SYSTEM><r/>",
       "<!DOCTYPE r SYSTEM 'a[b]'><r/>"});
-  expect_left({"<!DOCTYPE r SYSTEM 'a&b'><r/>", "<!DOCTYPE r SYSTEM 's\x01'><r/>", "<!DOCTYPE r SYSTEM '\xC3\xA4'><r/>",
-    "<!DOCTYPE r PUBLIC 'a\nb' 's'><r/>"});
+  expect_taken(
+    {"<!DOCTYPE r SYSTEM 'a&b'><r/>", "<!DOCTYPE r SYSTEM '\xC3\xA4'><r/>", "<!DOCTYPE r PUBLIC 'a\nb' 's'><r/>"});
+  expect_refused_alone({"<!DOCTYPE r SYSTEM 's\x01'><r/>"});
   expect_refused({"<r/><!DOCTYPE r>", "<r><!DOCTYPE r></r>", "<!DOCTYPE r>", "<!ELEMENT r ANY><r/>", "<!DOCTYPE><r/>",
     "<!DOCTYPE ><r/>", "<!DOCTYPEr><r/>", "<!doctype r><r/>", "<!DOCTYPE r", "<!DOCTYPE r SYSTEM",
     "<!DOCTYPE r SYSTEM 's", "<!DOCTYPE r SYSTEM 's'", "<!DOCTYPE r SYSTEM><r/>", "<!DOCTYPE r SYSTEM s><r/>",
@@ -84,7 +85,7 @@ TEST(axsScanner_rules, document_types)
     "<!DOCTYPE r SYSTEM 's']><r/>"});
 }
 
-TEST(axsScanner_rules, names)
+TEST(axsParser_rules, names)
 {
   expect_taken({"<_/>", "<a1.-_:b xmlns:a1.-_='u'/>", "<\xC3\xA4/>", "<a\xC2\xB7\xCC\x80/>", "<r \xC3\xA4='1'/>",
     "<?\xC3\xA4 b?><r/>", "<\xF0\x90\x80\x80 a\xF0\x90\x80\x80='1'></\xF0\x90\x80\x80>", "<?\xF0\x90\x80\x80 b?><r/>",
@@ -97,7 +98,7 @@ TEST(axsScanner_rules, names)
       "<\xF3\xB0\x80\x80/>", "<a\xF4\x8F\xBF\xBF/>", "<a\xFF/>", "<a\xC3/>", "<a\xE2\x82/>", "<r><a></r></a>"});
 }
 
-TEST(axsScanner_rules, attributes)
+TEST(axsParser_rules, attributes)
 {
   expect_taken({"<r a='1'/>", "<r a=\"1\" b='2'></r>", "<r\ta\r\n=\n '1'\n/>", "<r a=''/>", "<r a='\"' b=\"'\"/>",
     "<r a='>]]>&gt;'/>", "<r b='1' a='2' c='3'/>", "<r a='1' A='1'/>", "<r a='1' p:a='1' xmlns:p='u'/>",
@@ -110,20 +111,20 @@ TEST(axsScanner_rules, attributes)
 }
 
 // 3.3.3 and 2.11
-TEST(axsScanner_rules, values_are_normalised)
+TEST(axsParser_rules, values_are_normalised)
 {
   expect_taken({"<r a='\t'/>", "<r a='\n'/>", "<r a='\r'/>", "<r a='\r\n'/>", "<r a='\r\r\n\n'/>", "<r a=' x  y '/>",
     "<r a='&#9;&#10;&#13;&#32;'/>", "<r a='x\ty\nz\rq' b='\t' c='plain' d='&lt;\n'/>", "<r a='&#xD;\n'/>",
     "<r a='\r&#10;'/>", "<r a='&#13;&#10;'/>"});
 }
 
-TEST(axsScanner_rules, references)
+TEST(axsParser_rules, references)
 {
   expect_taken({"<r>&lt;&gt;&amp;&quot;&apos;</r>", "<r a='&lt;&gt;&amp;&quot;&apos;'/>", "<r>&amp;lt;</r>",
     "<r>&#65;&#x41;&#x00041;&#xe4;&#xE4;&#8364;&#x1D11E;&#119070;&#x10FFFF;&#xD7FF;&#xE000;&#xFFFD;</r>",
     "<r>a&#65;b&#66;c</r>", "<r>&#127;&#x80;&#x7FF;&#x800;&#xFFFD;&#x10000;</r>", "<r a='&#60;&#38;&#39;&#34;'/>",
     "<r>&#60;a&#62;</r>", "<r>&#38;lt;</r>"});
-  expect_left({"<r>&#x0000000000041;</r>"});
+  expect_taken({"<r>&#x0000000000041;</r>"});
   expect_refused({"<r>&</r>", "<r>& </r>", "<r>&;</r>", "<r>&lt</r>", "<r>&lt ;</r>", "<r>& lt;</r>", "<r>&nbsp;</r>",
     "<r>&LT;</r>", "<r>&#;</r>", "<r>&#x;</r>", "<r>&#X41;</r>", "<r>&#xG;</r>", "<r>&#A;</r>", "<r>&#65</r>",
     "<r>&#65 ;</r>", "<r>&#-65;</r>", "<r>&#0;</r>", "<r>&#1;</r>", "<r>&#11;</r>", "<r>&#31;</r>", "<r>&#xD800;</r>",
@@ -132,7 +133,7 @@ TEST(axsScanner_rules, references)
     "<r>&", "<r a='&#0;'/>"});
 }
 
-TEST(axsScanner_rules, text)
+TEST(axsParser_rules, text)
 {
   expect_taken({"<r>text</r>", "<r> </r>", "<r>  </r>", "<r>\n</r>", "<r>a<b/>c<b/></r>", "<r>\ta\n</r>", "<r>]</r>",
     "<r>]]</r>", "<r>] ]></r>", "<r>]&gt;</r>", "<r>]]&gt;</r>", "<r>]]&#62;</r>", "<r>&#93;&#93;></r>", "<r>></r>",
@@ -146,14 +147,14 @@ TEST(axsScanner_rules, text)
   expect_refused({std::string("<r>\0</r>", 8)});
 }
 
-TEST(axsScanner_rules, line_ends)
+TEST(axsParser_rules, line_ends)
 {
   expect_taken({"<r>\r</r>", "<r>a\rb\r\nc\n\rd\r\r\ne\r</r>", "<r>\r\n</r>", "<r>&#13;\n</r>", "<r>\r&#10;</r>",
     "<r><!--\r\n\r--></r>", "<?a b\r\nc\rd?><r/>", "<r><![CDATA[\r\na\r]]></r>", "<r>\xC2\x85\xE2\x80\xA8</r>",
     "<r\r\n></r\r>\r\n"});
 }
 
-TEST(axsScanner_rules, comments)
+TEST(axsParser_rules, comments)
 {
   expect_taken(
     {"<r><!----></r>", "<r><!-- a --></r>", "<r><!--<a>&b;]]>?>--></r>", "<r><!-- - - --></r>", "<r><!-->--></r>",
@@ -164,7 +165,7 @@ TEST(axsScanner_rules, comments)
   expect_refused({std::string("<r><!--\0--></r>", 15)});
 }
 
-TEST(axsScanner_rules, processing_instructions)
+TEST(axsParser_rules, processing_instructions)
 {
   expect_taken({"<r><?a?></r>", "<r><?a ?></r>", "<r><?a b?></r>", "<r><?a   b  ?></r>", "<r><?a\tb\n?></r>",
     "<r><?a ?\?></r>", "<r><?a b?c>?></r>", "<r><?a <b>&c;]]>-->?></r>", "<r><?xml-stylesheet a='b'?></r>",
@@ -174,7 +175,7 @@ TEST(axsScanner_rules, processing_instructions)
     "<r><?a b", "<r><?a b?", "<r><?", "<r><?a:b?></r>", "<?a:b c?><r/>"});
 }
 
-TEST(axsScanner_rules, cdata_sections)
+TEST(axsParser_rules, cdata_sections)
 {
   expect_taken({"<r><![CDATA[]]></r>", "<r><![CDATA[a]]></r>", "<r><![CDATA[ ]]></r>", "<r><![CDATA[  ]]></r>",
     "<r><![CDATA[<a>&b;]]></r>", "<r><![CDATA[]]]></r>", "<r><![CDATA[]]]]></r>", "<r><![CDATA[]>]]></r>",
@@ -188,7 +189,7 @@ TEST(axsScanner_rules, cdata_sections)
 }
 
 // Namespaces in XML 1.0
-TEST(axsScanner_rules, namespaces)
+TEST(axsParser_rules, namespaces)
 {
   std::string const xml = "http://www.w3.org/XML/1998/namespace";
   std::string const xmlns = "http://www.w3.org/2000/xmlns/";

@@ -1,0 +1,125 @@
+#pragma once
+
+#include "axsAttributeValue.h"
+#include "axsDtdParser.h"
+#include "axsEntities.h"
+#include "axsInputStack.h"
+#include "axsLocator.h"
+#include "axsNameCache.h"
+#include "axsNamespaceScope.h"
+#include "axsStartTag.h"
+
+#include <axmLoadOptions.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+class axsParseHandler;
+class axsSource;
+
+/// The XML processor: XML 1.0 (fifth edition), XML 1.1, Namespaces in XML 1.0 and 1.1. Bytes go in, events come out.
+///
+/// It checks that the document is well-formed and keeps to its namespaces, and uses what the document type declares:
+/// entities, defaults, types of attributes; it does not validate. Nothing outside the document is read, except where the
+/// options enable the resolution of entities: then the external subset and the entities that are local files, named
+/// relative to what names them. An entity that is declared nowhere in what is read is an error. How much a document may
+/// become is bounded; see axsBounds. The time is linear in what is read and told; elements and entities may be nested as
+/// deep as memory lasts.
+/// One object belongs to one thread at a time.
+class axsParser final : private axsLocator
+{
+public:
+  /// Reads the document in `source` on from where it is and tells `handler`, both of which must live longer.
+  /// This and what follows throw axsReadError when the document is wrong or cannot be read or the handler throws that,
+  /// std::bad_alloc when memory runs out. After that there is nothing more to ask for.
+  axsParser(axsSource& source, axmLoadOptions const& options, axsParseHandler& handler);
+  ~axsParser() override;
+
+  /// Reads on until there was something to tell. False when the document has ended.
+  bool step();
+
+  /// Reads all of the document.
+  void run();
+
+private:
+  enum class State
+  {
+    begin,
+    prolog,
+    document_type,
+    content,
+    epilog,
+    end
+  };
+
+  struct OpenElement
+  {
+    axsReadName const* name;
+    // Where it begins; null once its line is known.
+    char const* at;
+    std::uint64_t line;
+    std::size_t depth;
+  };
+
+  apString url() const override { return in.url(); }
+  axsPlace begin() const override;
+  axsPlace attribute(std::size_t index) const override;
+  axsPlace end() const override { return in.place(event_end); }
+
+  void read_on();
+  void piece();
+  void read_begin();
+  void outside();
+  void end_or_fail();
+  void document_type();
+  void content();
+  void start_tag();
+  void read_attribute(char const*& p, axsReadName const& element);
+  void place_made_values();
+  void tell_start(axsReadName const& name);
+  void end_tag();
+  void end_element();
+  [[noreturn]] void fail_start_tag(char const* p, axsReadName const& name) const;
+  [[noreturn]] void fail_end_tag(char const* p) const;
+  void comment();
+  void exclamation();
+  void cdata();
+  void processing_instruction();
+  void text();
+  bool reference(char const*& p);
+  void keep_text();
+  void end_text(char const* from, char const* to);
+  void end_input();
+  void told(char const* to) noexcept;
+  std::string since(OpenElement const& element) const;
+
+  axsInputStack in;
+  axsParseHandler& events;
+  axsNameCache names;
+  axsNamespaceScope namespaces;
+  axsEntities entities;
+  axsAttributeValue values;
+  std::unique_ptr<axsDtdParser> dtd;
+  State state = State::begin;
+  std::vector<OpenElement> open;
+  std::vector<axsReadAttribute> attributes;
+  // The attributes whose values were made, and where those begin among what was made.
+  std::vector<std::pair<std::size_t, std::size_t>> made;
+  std::vector<axsTagAttribute> tag_attributes;
+  // What does not stand in the input as it is: of a text that entities part, what came before.
+  std::string normal;
+  std::size_t kept = 0;
+  bool is_in_text = false;
+  // Of an event whose beginning may have been let go.
+  std::optional<axsPlace> early_begin;
+  char const* event_begin = nullptr;
+  char const* event_end = nullptr;
+  std::uint64_t elements = 0;
+  bool has_told = false;
+};
