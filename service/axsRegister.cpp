@@ -1,4 +1,4 @@
-#include <axsRegister.h>
+#include "axsRegister.h"
 
 #include "axsDocumentFactory.h"
 

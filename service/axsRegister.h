@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axsExport.h>
+#include "axsExport.h"
 
 /// Makes the default engine available: registers a factory under "XMLService" and "axs::XMLService" with utService, in
 /// the place of whatever was registered there. May be called again and from any thread. Throws std::bad_alloc when memory

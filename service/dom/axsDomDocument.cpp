@@ -51,7 +51,7 @@ void axsDomDocument::reserved_document_7() {}
 
 std::shared_ptr<axmNodeList> axsDomDocument::getElementsByTagName(apString const& name)
 {
-  std::vector<axsNode*> found;
+  std::vector<axsXPathNode> found;
   if (axsName const* const wanted = names().find(name.to_utf8().view()))
     for (axsNode* node = first_child(); node != nullptr; node = node->next_in_tree(*this))
       if (node->is_element() && static_cast<axsElement*>(node)->is_named(*wanted))

@@ -5,13 +5,13 @@
 
 #include <utility>
 
-std::shared_ptr<axmNodeList> axsStaticNodeList::make(axsNode& context, std::vector<axsNode*> found)
+std::shared_ptr<axmNodeList> axsStaticNodeList::make(axsNode& context, std::vector<axsXPathNode> found)
 {
   return std::allocate_shared<axsStaticNodeList>(
     axsHandleAllocator<axsStaticNodeList>(axsDomDocument::of(context).handle_pool()), context, std::move(found));
 }
 
-axsStaticNodeList::axsStaticNodeList(axsNode& context, std::vector<axsNode*> found) noexcept
+axsStaticNodeList::axsStaticNodeList(axsNode& context, std::vector<axsXPathNode> found) noexcept
   : nodes(std::move(found)),
     root(nodes.empty() ? nullptr : &context.root())
 {
@@ -29,15 +29,15 @@ axsStaticNodeList::~axsStaticNodeList()
     root->release();
     return;
   }
-  for (axsNode* const node : nodes)
-    node->release();
+  for (axsXPathNode const node : nodes)
+    node.node()->release();
 }
 
 std::shared_ptr<axmElement> axsStaticNodeList::at(int index)
 {
   if (index < 0 || index >= length())
     return nullptr;
-  return axsHandle::of_item(*nodes[static_cast<std::size_t>(index)]);
+  return axsHandle::of_item(*nodes[static_cast<std::size_t>(index)].node());
 }
 
 int axsStaticNodeList::length() const
@@ -47,8 +47,8 @@ int axsStaticNodeList::length() const
 
 void axsStaticNodeList::hold_each() noexcept
 {
-  for (axsNode* const node : nodes)
-    node->acquire();
+  for (axsXPathNode const node : nodes)
+    node.node()->acquire();
   axsDomDocument::of(*root).remove(*this);
   std::exchange(root, nullptr)->release();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "axsChained.h"
+#include "axsXPathNode.h"
 
 #include <axmNodeList.h>
 
@@ -15,9 +16,9 @@ class axsStaticNodeList final : public axmNodeList, public axsChained<axsStaticN
 {
 public:
   /// A list of nodes of the tree that `context` is in. Throws std::bad_alloc when memory runs out.
-  static std::shared_ptr<axmNodeList> make(axsNode& context, std::vector<axsNode*> found);
+  static std::shared_ptr<axmNodeList> make(axsNode& context, std::vector<axsXPathNode> found);
 
-  axsStaticNodeList(axsNode& context, std::vector<axsNode*> found) noexcept;
+  axsStaticNodeList(axsNode& context, std::vector<axsXPathNode> found) noexcept;
   ~axsStaticNodeList() override;
 
   std::shared_ptr<axmElement> at(int index) override;
@@ -27,7 +28,7 @@ public:
   void hold_each() noexcept;
 
 private:
-  std::vector<axsNode*> nodes;
+  std::vector<axsXPathNode> nodes;
   // Held for all of them; null while each is held by itself.
   axsNode* root;
 };

@@ -21,8 +21,8 @@ bool axsXPath::evaluate(axmNode& context, apString const& expression, Value& val
   Value made;
   made.type = found.type;
   made.nodes.reserve(found.nodes.size());
-  for (axsNode* const each : found.nodes)
-    made.nodes.push_back(axsHandle::of(each));
+  for (axsXPathNode const each : found.nodes)
+    made.nodes.push_back(axsHandle::of(each.node()));
   made.boolean = found.boolean;
   made.number = found.number;
   made.text = apString::from_utf8(found.text);

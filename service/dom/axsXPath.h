@@ -1,10 +1,10 @@
 #pragma once
 
+#include "axsExport.h"
+#include "axsXPathError.h"
+#include "axsXPathType.h"
 #include <apString.h>
 #include <axmNode.h>
-#include <axsExport.h>
-#include <axsXPathError.h>
-#include <axsXPathType.h>
 
 #include <memory>
 #include <vector>

@@ -18,18 +18,23 @@ axsNode* handed_out(axsXPathNode node) noexcept
   return node.is_virtual() ? node.virtual_node().declaration : node.node();
 }
 
-std::vector<axsNode*> handed_out(std::vector<axsXPathNode> const& nodes)
+// In place: the node-set of //x may have millions of nodes.
+std::vector<axsXPathNode> handed_out(std::vector<axsXPathNode> nodes)
 {
-  std::vector<axsNode*> found;
-  found.reserve(nodes.size());
   std::unordered_set<axsNode*> declarations;
-  for (axsXPathNode const node : nodes)
+  auto const place = [&](axsXPathNode& node)
   {
-    axsNode* const shown = handed_out(node);
-    if (shown != nullptr && (!node.is_virtual() || declarations.insert(shown).second))
-      found.push_back(shown);
-  }
-  return found;
+    if (!node.is_virtual())
+      return true;
+    node = handed_out(node);
+    return !node.is_none() && declarations.insert(node.node()).second;
+  };
+  auto kept = nodes.begin();
+  for (axsXPathNode& node : nodes)
+    if (place(node))
+      *kept++ = node;
+  nodes.erase(kept, nodes.end());
+  return nodes;
 }
 
 bool bind(axsXPathEvaluator& evaluator, std::string_view text, axsXPathError& error)
@@ -56,7 +61,7 @@ std::vector<axsXPathNode> select_nodes(axsXPathEvaluator& evaluator, axsXPathExp
 }
 }
 
-std::vector<axsNode*> axsXPathQuery::select(
+std::vector<axsXPathNode> axsXPathQuery::select(
   axsXPathCache& cache, axsNode& context, std::string_view text, axsXPathError& error)
 {
   auto const expression = cache.compile(text, error);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "axsXPathError.h"
+#include "axsXPathNode.h"
 #include "axsXPathType.h"
 
 #include <string>
@@ -21,7 +22,7 @@ public:
   struct Value
   {
     axsXPathType type = axsXPathType::node_set;
-    std::vector<axsNode*> nodes;
+    std::vector<axsXPathNode> nodes;
     bool boolean = false;
     double number = 0;
     /// The value as a string.
@@ -30,7 +31,7 @@ public:
 
   /// The nodes that `expression`, UTF-8, selects, in document order, each once. Where it is wrong or does not give a
   /// node-set, none, with the reason in `error`, which is without a message otherwise.
-  static std::vector<axsNode*> select(
+  static std::vector<axsXPathNode> select(
     axsXPathCache& cache, axsNode& context, std::string_view expression, axsXPathError& error);
 
   /// The first of them, null if there is none, without looking for the others where that can be spared.
