@@ -19,11 +19,6 @@ results=build/benchmark/results
 mkdir -p "$results"
 status=0
 build/benchmark/bin/bench_reader ${folder:+"$folder"} --output "$results/reader" || status=1
-if grep -q -m 1 -w avx2 /proc/cpuinfo; then
-  echo "The same with SSE2 only:"
-  build/benchmark/bin/bench_reader_ways ${folder:+"$folder"} --way sse2 --only-pugixml --output "$results/reader_sse2" ||
-    status=1
-fi
 documents=()
 [ -z "$folder" ] || documents=("$folder"/*.xml)
 build/benchmark/bin/document_benchmark --output "$results/document" "${documents[@]}" || status=1

@@ -4,10 +4,6 @@
 #include "made.h"
 #include "measures.h"
 
-#if defined(AXM_BENCH_WAYS)
-#  include "axmMarks.h"
-#endif
-
 #include <malloc.h>
 
 #include <algorithm>
@@ -26,38 +22,9 @@ struct Options
 };
 
 char const usage[] =
-  "usage: bench_reader [FOLDER] [--output PREFIX] [--runs N] [--only-pugixml] [--way words|sse2|avx2]\n"
+  "usage: bench_reader [FOLDER] [--output PREFIX] [--runs N] [--only-pugixml]\n"
   "Measures on the documents in FOLDER and on generated ones, and writes PREFIX.txt and PREFIX.svg.\n"
   "With --only-pugixml, only the extraction, and against pugixml alone.\n";
-
-#if defined(AXM_BENCH_WAYS)
-bool choose_way(std::string const& name)
-{
-  char const* const names[] = {"words", "sse2", "avx2"};
-  for (int way = axmMarks::words; way <= axmMarks::avx2; ++way)
-    if (name == names[way] && axmMarks::has(static_cast<axmMarks::Way>(way)))
-    {
-      axmMarks::choose(static_cast<axmMarks::Way>(way));
-      return true;
-    }
-  return false;
-}
-
-double least_mean()
-{
-  return axmMarks::chosen() == axmMarks::avx2 ? 1.6 : 1.35;
-}
-#else
-bool choose_way(std::string const&)
-{
-  return false;
-}
-
-double least_mean()
-{
-  return 1.6;
-}
-#endif
 
 bool parse(int argc, char** argv, Options& options)
 {
@@ -71,11 +38,6 @@ bool parse(int argc, char** argv, Options& options)
       options.extent.runs = std::max(1, std::atoi(argv[++i]));
     else if (argument == "--only-pugixml")
       options.extent.only_pugixml = true;
-    else if (argument == "--way" && has_value)
-    {
-      if (!choose_way(argv[++i]))
-        return false;
-    }
     else if (argument.front() != '-' && options.folder.empty())
       options.folder = argument;
     else
@@ -115,7 +77,7 @@ int main(int argc, char** argv)
       std::vector<std::string> const given = documents_in(options.folder);
       files.insert(files.begin(), given.begin(), given.end());
     }
-    options.extent.least_mean = least_mean();
+    options.extent.least_mean = 1.6;
     measure_documents(folder, files, options.extent, report);
     if (!options.extent.only_pugixml)
       measure_growth(folder, options.extent.runs, report);

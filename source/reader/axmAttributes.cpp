@@ -8,6 +8,18 @@
 namespace
 {
 std::ptrdiff_t const block_size = apByteBlock::size;
+
+// One bit of 64 for a name.
+std::uint64_t filter_bit(std::string_view name)
+{
+  auto const first = name.empty() ? 0u : static_cast<unsigned char>(name.front());
+  return std::uint64_t(1) << ((first + 13 * static_cast<unsigned>(name.size())) & 63);
+}
+
+std::string_view between(char const* begin, char const* end)
+{
+  return {begin, static_cast<std::size_t>(end - begin)};
+}
 }
 
 utString axmAttributes::value(char const* tag, utString const& name, utString const& default_value)
@@ -15,66 +27,74 @@ utString axmAttributes::value(char const* tag, utString const& name, utString co
   if (tag != tag_start)
     enter(tag);
 
-  axmTagName const wanted = axmTagName::of(name);
-  std::uint64_t const trace = trace_of(wanted);
-  if ((traces & trace) == 0)
+  // Most often it is the very next one, and short.
+  std::uint64_t const bit = filter_bit(name.view());
+  Attribute found;
+  if ((name_filter & bit) == 0 && count < max_known && read_next_short(name, found))
   {
-    // Most often it is the very next one, and short.
-    char const* const at = rest;
-    int const length = wanted.length();
-    if (count < most && length < block_size - 2 && text_end - at >= 3 * block_size)
-    {
-      apByteBlock const text(at);
-      unsigned const behind_name = 1u << length;
-      char const* const value = at + length + 2;
-      apByteBlock const value_text(value);
-      if ((text.is('=').bits() & (2 * behind_name - 1)) == behind_name &&
-          (~text.is(apByteBlock(wanted.begin)).bits() & (behind_name - 1)) == 0 && !text.is('\0').any())
-        if (auto const ends = value_text.is(value[-1]) | value_text.is('\0'); ends.any())
-        {
-          char const* const end = value + ends.first();
-          if (end[0] != '\0' && end[1] != '\0')
-          {
-            char const* const behind = skip_space(end + 1);
-            begins[count++] = at;
-            traces |= trace;
-            rest = behind;
-            return axm_text(value, end, text_end);
-          }
-        }
-    }
+    keep(rest, bit, found.next);
+    return axm_text(found.value, found.value_end, text_end);
   }
-  return any_value(name, trace, default_value);
+  return search(name, default_value);
 }
 
-// The same, wherever and however long the attribute is.
-utString axmAttributes::any_value(utString const& name, std::uint64_t trace, utString const& default_value)
+// Reads the attribute where reading goes on, if it has that name, and name and value are so short that a block each shows
+// all of them.
+[[gnu::always_inline]] inline bool axmAttributes::read_next_short(utString const& name, Attribute& found) const
 {
-  axmTagName const wanted = axmTagName::of(name);
-  if ((traces & trace) != 0)
-    if (char const* const begin = known_value(wanted))
+  int const length = name.length();
+  if (length >= block_size - 2 || text_end - rest < 3 * block_size)
+    return false;
+  apByteBlock const text(rest);
+  unsigned const name_end = 1u << length;
+  if ((text.is('=').bits() & (2 * name_end - 1)) != name_end ||
+      (~text.is(apByteBlock(name.c_str())).bits() & (name_end - 1)) != 0 || text.is('\0').any())
+    return false;
+
+  found.value = rest + length + 2;
+  apByteBlock const value(found.value);
+  auto const ends = value.is(found.value[-1]) | value.is('\0');
+  if (!ends.any())
+    return false;
+  found.value_end = found.value + ends.first();
+  if (found.value_end[0] == '\0' || found.value_end[1] == '\0')
+    return false;
+  found.next = skip_space(found.value_end + 1);
+  return true;
+}
+
+// Finds the attribute wherever and however long it is.
+utString axmAttributes::search(utString const& name, utString const& default_value)
+{
+  std::uint64_t const bit = filter_bit(name.view());
+  if ((name_filter & bit) != 0)
+    if (char const* const begin = known_value(name.view()))
       return axm_text(begin, value_end(begin), text_end);
 
   for (char const* at = rest; *at != '>';)
   {
     if (*at == '/')
     {
-      Search const& search = search_beyond(at, name);
-      return search.value == nullptr ? default_value : axm_text(search.value, search.value_end, text_end);
+      Search const& beyond = search_beyond(at, name);
+      return beyond.value == nullptr ? default_value : axm_text(beyond.value, beyond.value_end, text_end);
     }
     Attribute found;
-    bool const is_wanted = read(at, wanted, found);
-    if (count < most)
-    {
-      begins[count++] = at;
-      traces |= is_wanted ? trace : trace_of({at, found.value - 2});
-      rest = found.behind;
-    }
+    bool const is_wanted = read(at, name, found);
+    if (count < max_known)
+      keep(at, is_wanted ? bit : filter_bit(between(at, found.value - 2)), found.next);
     if (is_wanted)
       return axm_text(found.value, found.value_end, text_end);
-    at = found.behind;
+    at = found.next;
   }
   return default_value;
+}
+
+// Keeps the attribute that begins at `at`, and goes on at `next`.
+inline void axmAttributes::keep(char const* at, std::uint64_t bit, char const* next)
+{
+  begins[count++] = at;
+  name_filter |= bit;
+  rest = next;
 }
 
 // Goes to the place where the attributes of a tag begin.
@@ -99,16 +119,16 @@ void axmAttributes::enter(char const* tag)
       throw axmEndException();
   rest = skip_space(at);
   count = 0;
-  traces = 0;
+  name_filter = 0;
   tag_start = tag;
 }
 
 // Where the value of that attribute begins, null if it is not among those in front.
-char const* axmAttributes::known_value(axmTagName wanted) const
+char const* axmAttributes::known_value(std::string_view name) const
 {
   for (int i = 0; i < count; ++i)
-    if (is_named(begins[i], wanted))
-      return begins[i] + wanted.length() + 2;
+    if (between(begins[i], axm_find(begins[i], text_end, '=')) == name)
+      return begins[i] + name.size() + 2;
   return nullptr;
 }
 
@@ -134,15 +154,8 @@ inline char const* axmAttributes::value_end(char const* value) const
   return end;
 }
 
-// Whether an attribute that has been read has that name.
-bool axmAttributes::is_named(char const* at, axmTagName wanted) const
-{
-  return axmTagName{at, axm_find(at, text_end, '=')} == wanted;
-}
-
-// Finds the end of the name at `at`, behind which stand a quote and one character more, and tells whether it is the name
-// wanted.
-inline bool axmAttributes::read_name(char const* at, axmTagName wanted, char const*& name_end) const
+// Finds the end of the name at `at`, after which stand a quote and one character more, and tells whether it is `name`.
+inline bool axmAttributes::read_name(char const* at, utString const& name, char const*& name_end) const
 {
   if (axm_has_block(at, text_end))
   {
@@ -154,44 +167,43 @@ inline bool axmAttributes::read_name(char const* at, axmTagName wanted, char con
       int const length = apBits::lowest(equals);
       name_end = at + length;
       unsigned const in_name = (equals - 1) & ~equals;
-      return length == wanted.length() && (~text.is(apByteBlock(wanted.begin)).bits() & in_name) == 0;
+      return length == name.length() && (~text.is(apByteBlock(name.c_str())).bits() & in_name) == 0;
     }
   }
-  return read_long_name(at, wanted, name_end);
+  return read_long_name(at, name.view(), name_end);
 }
 
 // The same for a name of any length.
-bool axmAttributes::read_long_name(char const* at, axmTagName wanted, char const*& name_end) const
+bool axmAttributes::read_long_name(char const* at, std::string_view name, char const*& name_end) const
 {
   name_end = axm_find(at, text_end, '=');
   if (name_end[0] == '\0' || name_end[1] == '\0' || name_end[2] == '\0')
     throw axmEndException();
-  return axmTagName{at, name_end} == wanted;
+  return between(at, name_end) == name;
 }
 
 // Reads the attribute at `at` and tells whether it is the one wanted.
-bool axmAttributes::read(char const* at, axmTagName wanted, Attribute& found) const
+bool axmAttributes::read(char const* at, utString const& name, Attribute& found) const
 {
   char const* name_end;
-  bool const is_wanted = read_name(at, wanted, name_end);
+  bool const is_wanted = read_name(at, name, name_end);
   found.value = name_end + 2;
   found.value_end = value_end(found.value);
-  found.behind = skip_space(found.value_end + 1);
+  found.next = skip_space(found.value_end + 1);
   return is_wanted;
 }
 
-// What a search for `name` from `at` on, a place behind an attribute, comes to.
+// What a search for `name` from `at` on, where an attribute ends, comes to.
 axmAttributes::Search const& axmAttributes::search_beyond(char const* at, utString const& name)
 {
-  axmTagName const wanted = axmTagName::of(name);
   Search& known = search_of(name);
   Attribute found;
   if (known.at <= at && at <= known.end)
   {
     while (known.at < at)
     {
-      read(known.at, wanted, found);
-      known.at = found.behind;
+      read(known.at, name, found);
+      known.at = found.next;
     }
     if (known.at == at)
       return known;
@@ -200,13 +212,13 @@ axmAttributes::Search const& axmAttributes::search_beyond(char const* at, utStri
   Search search = {name, at, at, nullptr, nullptr};
   while (*search.end != '>')
   {
-    if (read(search.end, wanted, found))
+    if (read(search.end, name, found))
     {
       search.value = found.value;
       search.value_end = found.value_end;
       break;
     }
-    search.end = found.behind;
+    search.end = found.next;
   }
   return search_of(name) = search;
 }
@@ -214,24 +226,16 @@ axmAttributes::Search const& axmAttributes::search_beyond(char const* at, utStri
 // What is kept for `name`. Whoever looks for very many names that are not there gets the place of another one.
 axmAttributes::Search& axmAttributes::search_of(utString const& name)
 {
-  std::size_t const most_searches = 64;
-  axmTagName const wanted = axmTagName::of(name);
+  std::size_t const max_searches = 64;
   for (Search& search : searches)
-    if (axmTagName::of(search.name) == wanted)
+    if (search.name.view() == name.view())
       return search;
   Search const nothing = {name, text_end, nullptr, nullptr, nullptr};
-  if (searches.size() < most_searches)
+  if (searches.size() < max_searches)
   {
     searches.push_back(nothing);
     return searches.back();
   }
-  next_search = (next_search + 1) % most_searches;
+  next_search = (next_search + 1) % max_searches;
   return searches[next_search] = nothing;
-}
-
-// One bit of 64 for a name.
-inline std::uint64_t axmAttributes::trace_of(axmTagName name)
-{
-  auto const first = name.begin == name.end ? 0u : static_cast<unsigned char>(*name.begin);
-  return std::uint64_t(1) << ((first + 13 * static_cast<unsigned>(name.end - name.begin)) & 63);
 }

@@ -9,21 +9,6 @@
 
 namespace
 {
-// Whether `length` bytes are equal, where `readable` bytes can be read at `other` and more at `one`. Most names are so
-// short that a call of the C library is too much.
-inline bool are_equal(char const* one, char const* other, std::uint32_t length, std::uint32_t readable)
-{
-  if (length > 16 || readable < 8)
-    return std::memcmp(one, other, length) == 0;
-  if (length >= 8)
-    return ((apBits::load(one) ^ apBits::load(other)) |
-             (apBits::load(one + length - 8) ^ apBits::load(other + length - 8))) == 0;
-  if (length == 0)
-    return true;
-  std::uint64_t const difference = apBits::load(one) ^ apBits::load(other);
-  return difference << (64 - 8 * length) == 0;
-}
-
 std::uint32_t name_end(char const* text, std::uint32_t at)
 {
   while (text[at] != ' ' && text[at] != '>')
@@ -41,7 +26,7 @@ void axmElementIndex::restart(char const* given, Place given_size, Place root)
   open = none;
   last_closed = none;
   markup_in_sections = false;
-  block = axmMarks::blocks; // no marks of this text are known yet
+  current = axmStructuralScan::masks; // nothing of this text has been scanned yet
   seek(root);
   pass(0, none);
 }
@@ -81,7 +66,7 @@ public:
       closed(passed.last_closed),
       count(passed.used)
   {
-    take_marks();
+    take_mask();
   }
 
   // Whether there is an element `wanted` or `parent` is closed.
@@ -90,22 +75,22 @@ public:
     return wanted < count || (parent != none && index[parent].is_closed());
   }
 
-  // Whether there is a mark among those at hand.
-  [[gnu::always_inline]] inline bool has_mark_at_hand()
+  // Whether there is a bracket among those that have been scanned.
+  [[gnu::always_inline]] inline bool has_bracket_at_hand()
   {
     while (bits == 0)
     {
-      if (index.block == axmMarks::blocks - 1)
+      if (index.current == axmStructuralScan::masks - 1)
         return false;
-      next_block();
+      next_mask();
     }
     return true;
   }
 
-  // Passes what begins at the next mark; false when the pass halts there.
+  // Passes what begins at the next bracket; false when the pass halts there.
   [[gnu::always_inline]] inline bool step()
   {
-    Place const at = next_mark();
+    Place const at = next_bracket();
     if (bytes[at] == '>')
       return true;
     if (bytes[at] == '\0')
@@ -115,37 +100,37 @@ public:
 
   void put_back()
   {
-    index.block_marks = bits;
+    index.current_mask = bits;
     index.open = innermost;
     index.last_closed = closed;
     index.used = count;
   }
 
 private:
-  void take_marks()
+  void take_mask()
   {
-    bits = index.block_marks;
-    block_begin = index.marks_begin + static_cast<Place>(index.block * axmMarks::block_bytes);
+    bits = index.current_mask;
+    mask_begin = index.scan_begin + static_cast<Place>(index.current * axmStructuralScan::mask_bytes);
   }
 
-  [[gnu::always_inline]] inline void next_block()
+  [[gnu::always_inline]] inline void next_mask()
   {
-    if (++index.block == axmMarks::blocks)
+    if (++index.current == axmStructuralScan::masks)
     {
-      index.marks_begin += axmMarks::bytes;
-      index.find_marks();
-      index.block = 0;
+      index.scan_begin += axmStructuralScan::bytes;
+      index.scan();
+      index.current = 0;
     }
-    index.block_marks = index.marks[index.block];
-    take_marks();
+    index.current_mask = index.masks[index.current];
+    take_mask();
   }
 
   // The place of the next `<`, `>` or NUL.
-  [[gnu::always_inline]] inline Place next_mark()
+  [[gnu::always_inline]] inline Place next_bracket()
   {
     while (bits == 0)
-      next_block();
-    Place const at = block_begin + static_cast<Place>(apBits::lowest(bits));
+      next_mask();
+    Place const at = mask_begin + static_cast<Place>(apBits::lowest(bits));
     bits &= bits - 1;
     return at;
   }
@@ -160,15 +145,15 @@ private:
   {
     put_back();
     bool const has_end = index.pass_special(at);
-    take_marks();
+    take_mask();
     return has_end;
   }
 
   [[gnu::always_inline]] inline bool pass_tag(Place at)
   {
-    Place tag_end = next_mark();
+    Place tag_end = next_bracket();
     while (bytes[tag_end] == '<')
-      tag_end = next_mark();
+      tag_end = next_bracket();
     // What is left must be more than the tag.
     if (bytes[tag_end] == '\0' || bytes[tag_end + 1] == '\0')
       return false;
@@ -216,13 +201,13 @@ private:
   axmElementIndex& index;
   char const* const bytes;
   std::uint64_t bits = 0;
-  Place block_begin = 0;
+  Place mask_begin = 0;
   Id innermost;
   Id closed;
   Id count;
 };
 
-// Goes on until there is an element `wanted` or `parent` is closed, and from there on to the end of the marks at hand;
+// Goes on until there is an element `wanted` or `parent` is closed, and from there on to the end of what has been scanned;
 // false when the pass halts before.
 bool axmElementIndex::pass(Id const wanted, Id const parent)
 {
@@ -230,7 +215,7 @@ bool axmElementIndex::pass(Id const wanted, Id const parent)
     return false;
   Pass run(*this);
   do
-    if (!run.has_mark_at_hand() && run.has_come_to(wanted, parent))
+    if (!run.has_bracket_at_hand() && run.has_come_to(wanted, parent))
     {
       run.put_back();
       return true;
@@ -246,20 +231,20 @@ bool axmElementIndex::pass_special(Place at)
 {
   bool const is_comment = text[at + 2] == '-';
   Place const content = at + (is_comment ? 4 : 9);
-  Place behind = 0;
-  if (!pass_marked(content, is_comment ? '-' : ']', behind))
+  Place end = 0;
+  if (!find_section_end(content, is_comment ? '-' : ']', end))
     return false;
-  if (!is_comment && std::memchr(text + content, '<', behind - content) != nullptr)
+  if (!is_comment && std::memchr(text + content, '<', end - content) != nullptr)
   {
     (last_closed == none ? element(open).start_and_flag : element(last_closed).end_and_flag) |= flag;
     markup_in_sections = true;
   }
-  seek(behind);
+  seek(end);
   return true;
 }
 
-// Passes what ends with two marks and a `>`, where the character behind a lone mark is no mark.
-bool axmElementIndex::pass_marked(Place from, char mark, Place& behind) const
+// Finds the end of what ends with two marks and a `>`, where the character after a lone mark is no mark.
+bool axmElementIndex::find_section_end(Place from, char mark, Place& end) const
 {
   for (Place at = from;;)
   {
@@ -274,8 +259,8 @@ bool axmElementIndex::pass_marked(Place from, char mark, Place& behind) const
       at += 2;
       continue;
     }
-    behind = at + 3;
-    return text[at + 2] == '>' && text[behind] != '\0' && std::memchr(text + from, '\0', behind - from) == nullptr;
+    end = at + 3;
+    return text[at + 2] == '>' && text[end] != '\0' && std::memchr(text + from, '\0', end - from) == nullptr;
   }
 }
 
@@ -286,7 +271,7 @@ inline bool axmElementIndex::matches(Place start, Place name, Place tag_end) con
   Place const length = tag_end - name;
   // Without a space in the name, which is the rule, its length need not be looked for; with one, names that are equal
   // beyond it are equal up to it.
-  if (are_equal(open_name, text + name, length, size - name) && (open_name[length] == '>' || open_name[length] == ' '))
+  if (std::memcmp(open_name, text + name, length) == 0 && (open_name[length] == '>' || open_name[length] == ' '))
     return true;
   Place const name_length = name_end(text, name) - name;
   Place const open_length = name_end(open_name, 0);
@@ -327,21 +312,21 @@ bool axmElementIndex::add_pages(std::size_t count)
 void axmElementIndex::seek(Place place)
 {
   frontier = place;
-  if (place < marks_begin || place - marks_begin >= axmMarks::bytes || block == axmMarks::blocks)
+  if (place < scan_begin || place - scan_begin >= axmStructuralScan::bytes || current == axmStructuralScan::masks)
   {
-    marks_begin = place;
-    find_marks();
+    scan_begin = place;
+    scan();
   }
-  block = static_cast<int>((place - marks_begin) / axmMarks::block_bytes);
-  block_marks = marks[block] & (~std::uint64_t(0) << (place - marks_begin) % axmMarks::block_bytes);
+  current = static_cast<int>((place - scan_begin) / axmStructuralScan::mask_bytes);
+  current_mask = masks[current] & (~std::uint64_t(0) << (place - scan_begin) % axmStructuralScan::mask_bytes);
 }
 
-void axmElementIndex::find_marks()
+void axmElementIndex::scan()
 {
-  if (size - marks_begin >= axmMarks::bytes)
-    return axmMarks::find(text + marks_begin, marks);
+  if (size - scan_begin >= axmStructuralScan::bytes)
+    return axmStructuralScan::find(text + scan_begin, masks);
   // Nothing behind the text may be read. What stands for it is NUL.
-  char rest[axmMarks::bytes] = {};
-  std::memcpy(rest, text + marks_begin, size - marks_begin);
-  axmMarks::find(rest, marks);
+  char rest[axmStructuralScan::bytes] = {};
+  std::memcpy(rest, text + scan_begin, size - scan_begin);
+  axmStructuralScan::find(rest, masks);
 }

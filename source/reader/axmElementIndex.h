@@ -1,6 +1,6 @@
 #pragma once
 
-#include "axmMarks.h"
+#include "axmStructuralScan.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -8,7 +8,7 @@
 #include <vector>
 
 // Where the elements of a document begin and end, found in one pass from the root element on and only as far as asked, or
-// as the characters go that are looked at together (axmMarks::bytes).
+// as the characters go that are looked at together (axmStructuralScan::bytes).
 //
 // A memory of what axmPositionX::skip_object() finds: an element is in it as soon as its opening tag has been passed, and
 // is closed as soon as skip_object() from its `<` would have come to its end. What skip_object() would throw for, be it
@@ -36,15 +36,15 @@ public:
   class Element
   {
   public:
-    // Behind `<` it is the name.
+    // The place of its `<`.
     Place start() const { return start_and_flag & mask; }
 
     bool is_closed() const { return end_and_flag != 0; }
 
-    // Behind the closing tag of a closed element.
+    // The end of the closing tag of a closed element.
     Place end() const { return end_and_flag & mask; }
 
-    // The first element behind a closed one that is not in it.
+    // The first element after a closed one that is not in it.
     Id next() const { return next_and_flag & mask; }
 
     // Whether a closed element has no closing tag.
@@ -53,7 +53,7 @@ public:
   private:
     friend class axmElementIndex;
 
-    // The first one has the flag when a section at the start has markup, the second when one behind the element has, the
+    // The first one has the flag when a section at the start has markup, the second when one after the element has, the
     // third when the element closes itself. As long as the element is open, the second is 0 and the third the parent.
     Place start_and_flag;
     Place end_and_flag;
@@ -71,7 +71,7 @@ public:
   // Whether a CDATA section with a `<` in it stands between the opening tag and the first child, or between an element
   // that is closed and the next tag of its parent. To be asked when the pass has come to that next tag.
   bool has_markup_in_section_at_start(Id id) const { return ((*this)[id].start_and_flag & flag) != 0; }
-  bool has_markup_in_section_behind(Id id) const { return ((*this)[id].end_and_flag & flag) != 0; }
+  bool has_markup_in_section_after(Id id) const { return ((*this)[id].end_and_flag & flag) != 0; }
 
   // Whether there is any such section so far.
   bool has_markup_in_sections() const { return markup_in_sections; }
@@ -85,7 +85,7 @@ public:
   // The element that begins at `place`, none if the pass knows of none there.
   Id find(Place place);
 
-  // The first element that begins at `place` or behind it; count() if there is none (yet).
+  // The first element that begins at `place` or after it; count() if there is none (yet).
   Id first_from(Place place) const;
 
 private:
@@ -100,12 +100,12 @@ private:
 
   bool pass(Id wanted, Id parent);
   bool pass_special(Place at);
-  bool pass_marked(Place from, char mark, Place& behind) const;
+  bool find_section_end(Place from, char mark, Place& end) const;
   bool matches(Place start, Place name, Place tag_end) const;
   bool make_room();
   bool add_pages(std::size_t count);
   void seek(Place place);
-  void find_marks();
+  void scan();
 
   char const* text = nullptr;
   Place size = 0;
@@ -119,9 +119,9 @@ private:
   Id room = 0; // for how many elements there are pages in use
   bool markup_in_sections = false;
 
-  Place frontier = 0; // behind the last tag, comment or section passed
-  Place marks_begin = 0;
-  int block = 0;
-  std::uint64_t block_marks = 0;
-  std::uint64_t marks[axmMarks::blocks] = {};
+  Place frontier = 0;   // the end of the last tag, comment or section passed
+  Place scan_begin = 0; // of what `masks` tell
+  int current = 0;      // the mask in which the pass stands, and what is left of it
+  std::uint64_t current_mask = 0;
+  std::uint64_t masks[axmStructuralScan::masks] = {};
 };

@@ -1,14 +1,14 @@
 #include "axmElementWalk.h"
 
+#include "axmCursor.h"
 #include "axmFind.h"
-#include "axmPositionSteps.h"
 #include "axmText.h"
 
+#include <apBits.h>
 #include <axmEndException.h>
 
-#include <algorithm>
+#include <cstddef>
 #include <cstring>
-#include <new>
 
 namespace
 {
@@ -17,92 +17,51 @@ std::uint64_t first_bytes(std::size_t count)
 {
   return ~(~std::uint64_t(0) << (8 * count));
 }
+
+char*& place(axmPositionX& cursor)
+{
+  return axmCursor::place(cursor);
+}
 }
 
-axmElementWalk::axmElementWalk(char const* given, int given_size)
+axmElementWalk::axmElementWalk(
+  char const* given, int given_size, axmPositionX& before_root, axmPositionXcoPageArrPrgcoPrgcoPageArr& cursors)
   : text(const_cast<char*>(given)),
     text_end(given + given_size),
     size(static_cast<Place>(given_size)),
+    document(before_root),
+    stack(cursors),
     attributes(text_end)
 {
 }
 
-void axmElementWalk::add_cursor(axmPositionX& cursor)
+bool axmElementWalk::down_to(utString const& name)
 {
-  Standing const nowhere = {axmElementIndex::none, axmElementIndex::none, axmElementIndex::none, true};
-  if (!levels.append({&cursor, nowhere, false, 0}))
-    throw std::bad_alloc();
-}
-
-bool axmElementWalk::down_to_root(axmPositionX& document, utString const& name)
-{
-  if (!document.find_sub_tag(name))
+  Level& entered = stack.upcoming();
+  if (!(depth() == 0 ? find_root(entered, name) : find_child(entered, name)))
     return false;
-  Place const place = place_of(document.current_pos);
-  if (index.count() == 0 || index[0].start() != place)
-    index.restart(text, size, place);
-  Id const id = index.count() == 0 ? axmElementIndex::none : 0;
-  enter(id, document, 0, *levels[0].cursor);
-  levels[0].standing = at_start_of(id);
-  levels[0].has_traces = false;
+  stack.push();
   return true;
 }
 
-bool axmElementWalk::down_to_child(int depth, utString const& name)
+void axmElementWalk::up()
 {
-  Level& level = levels[depth];
-  Wanted const wanted(name);
-  if (!(level.standing.by_itself ? find_child_step_by_step(level, wanted.name) : find_child(level, wanted)))
-    return false;
-  Id const id = level.standing.by_itself ? index.find(place_of(level.cursor->current_pos)) : level.standing.upcoming;
-  enter(id, *level.cursor, wanted.is_plain ? static_cast<Place>(wanted.name.length()) : 0, *levels[depth + 1].cursor);
-  levels[depth + 1].standing = at_start_of(id);
-  levels[depth + 1].has_traces = false;
-  return true;
+  if (depth() == 1)
+    pass_children(stack.top());
+  Id const left = stack.top().state.element;
+  stack.pop();
+  if (depth() > 0)
+    pass_child(stack.top(), left);
 }
 
-void axmElementWalk::pass_child(int depth)
+utString axmElementWalk::text_node()
 {
-  Level& level = levels[depth];
+  Level& level = stack.top();
   axmPositionX& cursor = *level.cursor;
-  Id const id = levels[depth + 1].standing.element;
-  if (id == axmElementIndex::none || !index.reach_end(id))
-  {
-    level.standing.by_itself = true;
-    level.has_traces = false;
-    cursor.skip_object();
-  }
-  else
-  {
-    axmElementIndex::Element const& child = index[id];
-    cursor.current_pos = text + child.end();
-    level.standing.upcoming = child.next();
-    level.standing.passed = id;
-  }
-  tag = cursor.object_start;
-}
-
-void axmElementWalk::pass_children()
-{
-  Level& level = levels[0];
-  if (!level.standing.by_itself && index.reach_end(level.standing.element) && !index.has_markup_in_sections())
-  {
-    return_to_start(level);
-    return;
-  }
-  // No tag has a NUL in its name.
-  char const no_name[] = "";
-  find_child_step_by_step(level, {no_name, no_name + 1});
-}
-
-utString axmElementWalk::text_node(int depth)
-{
-  Level& level = levels[depth];
-  axmPositionX& element = *level.cursor;
-  level.standing.upcoming = axmElementIndex::none;
+  level.state.upcoming = axmElementIndex::none;
 
   // Most often a text is all there is up to the next tag.
-  char const* at = element.current_pos;
+  char const* at = place(cursor);
   if (static_cast<unsigned char>(*at) <= ' ')
     at = axm_find_no_space(at, text_end);
   if (*at != '<' && *at != '\0')
@@ -110,18 +69,21 @@ utString axmElementWalk::text_node(int depth)
     char const* const next = axm_find(at, text_end, '<');
     if (next[0] == '<' && next[1] != '!' && next[1] != '\0' && next[2] != '\0')
     {
-      char const* const begin = element.current_pos;
-      element.current_pos = text + (next - text);
+      char const* const begin = place(cursor);
+      place(cursor) = text + (next - text);
       return axm_text(begin, next, text_end);
     }
   }
-  return element.text_of([&](auto& sink) { return element.pass_text_node(sink, [&] { skip(element); }); });
+  return axmCursor::move(
+    cursor, [this](axmCursor& moved) { return moved.find_text_node([this](axmPositionX& child) { skip(child); }); });
 }
 
-inline axmElementWalk::Wanted::Wanted(utString const& given) : name(axmTagName::of(given))
+inline axmElementWalk::Wanted::Wanted(utString const& given)
+  : name(given),
+    text(given.view()),
+    word(apBits::load(text.data()))
 {
-  std::size_t const length = static_cast<std::size_t>(given.length());
-  word = apBits::load(name.begin);
+  std::size_t const length = text.size();
   if (length <= sizeof word)
   {
     mask = length < sizeof word ? first_bytes(length) : ~std::uint64_t(0);
@@ -134,155 +96,198 @@ inline axmElementWalk::Wanted::Wanted(utString const& given) : name(axmTagName::
   else
   {
     mask = ~std::uint64_t(0);
-    is_plain = std::memchr(name.begin, '>', length) == nullptr;
+    is_plain = std::memchr(text.data(), '>', length) == nullptr;
   }
 }
 
 // Whether no child has such a name; only for some of those names that no child has.
-inline bool axmElementWalk::is_without_trace(Level const& level, Wanted const& wanted)
+inline bool axmElementWalk::is_filtered_out(axmCursorState const& state, Wanted const& wanted)
 {
-  return level.has_traces && wanted.is_plain && wanted.name.length() >= 2 &&
-         (level.traces & trace_of(wanted.name.begin)) == 0;
+  return state.has_name_filter && wanted.is_plain && wanted.text.size() >= 2 &&
+         (state.name_filter & filter_bit(wanted.text.data())) == 0;
 }
 
-inline std::uint64_t axmElementWalk::trace_of(char const* name)
+// One bit of 64 for the first two characters of a name.
+inline std::uint64_t axmElementWalk::filter_bit(char const* name)
 {
   unsigned const number = static_cast<unsigned char>(name[0]) * 5u + static_cast<unsigned char>(name[1]);
   return std::uint64_t(1) << (number % 64);
 }
 
-// Behind the opening tag of an element. What is read from a self-closing element is not in it.
-inline axmElementWalk::Standing axmElementWalk::at_start_of(Id id) const
+// At the end of the opening tag of an element. What is read from a self-closing element is not in it.
+inline axmCursorState axmElementWalk::at_start_of(Id id) const
 {
   if (id == axmElementIndex::none)
-    return {id, axmElementIndex::none, axmElementIndex::none, true};
+    return {};
   axmElementIndex::Element const& element = index[id];
   if (element.is_closed() && element.is_self_closing())
-    return {id, axmElementIndex::none, axmElementIndex::none, true};
-  return {id, id + 1, id, false};
+    return {id, axmElementIndex::none, axmElementIndex::none, true, false, 0};
+  return {id, id + 1, id, false, false, 0};
 }
 
-// Moves to the next child of that name by the index.
-[[gnu::always_inline]] inline bool axmElementWalk::find_child(Level& level, Wanted const& wanted)
+// The same for a cursor that has gone back there. The names of the children are as they were.
+inline void axmElementWalk::go_to_start(axmCursorState& state) const
 {
-  if (is_without_trace(level, wanted))
+  axmCursorState const start = at_start_of(state.element);
+  state.upcoming = start.upcoming;
+  state.passed = start.passed;
+  state.must_scan = start.must_scan;
+}
+
+// Moves the cursor of the document to the next root element of that name, and `entered` into it.
+bool axmElementWalk::find_root(Level& entered, utString const& name)
+{
+  if (!axmCursor::move(document,
+        [&](axmCursor& moved) { return moved.find_child(name, [](axmPositionX& child) { child.skip_object(); }); }))
+    return false;
+  Place const root = place_of(place(document));
+  if (index.count() == 0 || index[0].start() != root)
+    index.restart(text, size, root);
+  enter(index.count() == 0 ? axmElementIndex::none : 0, document, 0, entered);
+  return true;
+}
+
+// Moves the innermost cursor to the next child of that name, and `entered` into it.
+bool axmElementWalk::find_child(Level& entered, utString const& name)
+{
+  Level& level = stack.top();
+  Wanted const wanted(name);
+  if (!(level.state.must_scan ? find_child_by_steps(level, name) : find_child_by_index(level, wanted)))
+    return false;
+  Id const id = level.state.must_scan ? index.find(place_of(place(*level.cursor))) : level.state.upcoming;
+  enter(id, *level.cursor, wanted.is_plain ? static_cast<Place>(wanted.text.size()) : 0, entered);
+  return true;
+}
+
+[[gnu::always_inline]] inline bool axmElementWalk::find_child_by_index(Level& level, Wanted const& wanted)
+{
+  axmCursorState& state = level.state;
+  if (is_filtered_out(state, wanted))
     return return_to_start(level);
 
-  Standing& standing = level.standing;
-  axmPositionX& cursor = *level.cursor;
-  if (standing.upcoming == axmElementIndex::none)
+  char*& cursor = place(*level.cursor);
+  if (state.upcoming == axmElementIndex::none)
     find_upcoming(level);
-  Id const id = standing.element;
-  Id child = standing.upcoming;
-  Id passed = standing.passed;
+  Id const id = state.element;
+  Id child = state.upcoming;
+  Id passed = state.passed;
   bool const sees_all = passed == id;
-  std::uint64_t traces = 0;
+  std::uint64_t name_filter = 0;
   for (;;)
   {
-    if (!index.reach_child(id, child) || (index.has_markup_in_sections() && has_markup_in_section(standing, passed)))
+    if (!index.reach_child(id, child) || (index.has_markup_in_sections() && has_markup_in_section(state, passed)))
       break;
     if (index[id].is_closed() && child >= index[id].next())
     {
       if (sees_all)
       {
-        level.has_traces = true;
-        level.traces = traces;
+        state.has_name_filter = true;
+        state.name_filter = name_filter;
       }
       return return_to_start(level);
     }
     Place const start = index[child].start();
-    cursor.current_pos = text + start;
+    cursor = text + start;
     if (is_named(start, wanted))
     {
-      standing.upcoming = child;
-      standing.passed = axmElementIndex::none;
+      state.upcoming = child;
+      state.passed = axmElementIndex::none;
       return true;
     }
-    traces |= trace_of(cursor.current_pos + 1);
+    name_filter |= filter_bit(cursor + 1);
     if (!index.reach_end(child))
       break;
     passed = child;
     child = index[child].next();
-    if (!index.has_markup_in_sections())
-      pass_others(id, wanted, passed, child, traces);
-    cursor.current_pos = text + index[passed].end();
+    cursor = text + index[passed].end();
   }
-  return find_child_step_by_step(level, wanted.name);
-}
-
-// Passes the children of an element, from one behind a closed one on, as long as they are closed and have other names.
-void axmElementWalk::pass_others(Id id, Wanted const& wanted, Id& passed, Id& child, std::uint64_t& traces) const
-{
-  Id const behind = index[id].is_closed() ? index[id].next() : index.count();
-  if (child >= behind)
-    return;
-  axmElementIndex::Element const* element = &index[child];
-  while (element->is_closed() && !is_named(element->start(), wanted))
-  {
-    traces |= trace_of(text + element->start() + 1);
-    passed = child;
-    child = element->next();
-    if (child >= behind)
-      break;
-    element = index.moved(element, passed, child);
-  }
-}
-
-// Back behind the opening tag of an element that the index knows; there is no such child.
-bool axmElementWalk::return_to_start(Level& level)
-{
-  level.cursor->current_pos = text + place_of(content_of(level.standing.element, 0));
-  level.standing = at_start_of(level.standing.element);
-  return false;
+  return find_child_by_steps(level, wanted.name);
 }
 
 // The same by the steps of the cursor. Where these find something, the element may have been left: a closing tag in a
 // CDATA section is one to them.
-bool axmElementWalk::find_child_step_by_step(Level& level, axmTagName const& name)
+bool axmElementWalk::find_child_by_steps(Level& level, utString const& name)
 {
-  axmPositionX& cursor = *level.cursor;
-  level.standing.by_itself = true;
-  level.has_traces = false;
-  if (cursor.find_sub_tag_by(name, [&] { skip(cursor); }))
+  level.state.must_scan = true;
+  level.state.has_name_filter = false;
+  if (axmCursor::move(*level.cursor,
+        [&](axmCursor& moved) { return moved.find_child(name, [this](axmPositionX& child) { skip(child); }); }))
     return true;
-  level.standing = at_start_of(level.standing.element);
+  go_to_start(level.state);
   return false;
 }
 
-// Finds out where a cursor stands after it has read text: on a tag, or back behind the opening tag.
-void axmElementWalk::find_upcoming(Level& level) const
+// Back to the end of the opening tag of an element that the index knows. There is no such child: false.
+bool axmElementWalk::return_to_start(Level& level)
 {
-  Place const place = place_of(level.cursor->current_pos);
-  if (place == place_of(content_of(level.standing.element, 0)))
-    level.standing = at_start_of(level.standing.element);
+  place(*level.cursor) = text + place_of(content_of(level.state.element, 0));
+  go_to_start(level.state);
+  return false;
+}
+
+// Moves a cursor, which stands on the child, to its end.
+void axmElementWalk::pass_child(Level& level, Id child)
+{
+  axmPositionX& cursor = *level.cursor;
+  if (child == axmElementIndex::none || !index.reach_end(child))
+  {
+    level.state.must_scan = true;
+    level.state.has_name_filter = false;
+    cursor.skip_object();
+  }
   else
   {
-    level.standing.upcoming = index.first_from(place);
-    level.standing.passed = axmElementIndex::none;
+    place(cursor) = text + index[child].end();
+    level.state.upcoming = index[child].next();
+    level.state.passed = child;
+  }
+  tag = axmCursor::start(cursor);
+}
+
+// Moves a cursor past all children that are left, and back to the end of the opening tag.
+void axmElementWalk::pass_children(Level& level)
+{
+  if (!level.state.must_scan && index.reach_end(level.state.element) && !index.has_markup_in_sections())
+  {
+    return_to_start(level);
+    return;
+  }
+  // No tag has a NUL in its name.
+  find_child_by_steps(level, utString("", 1));
+}
+
+// Finds out where a cursor stands after it has read text: on a tag, or back at the end of the opening tag.
+void axmElementWalk::find_upcoming(Level& level) const
+{
+  Place const at = place_of(place(*level.cursor));
+  if (at == place_of(content_of(level.state.element, 0)))
+    go_to_start(level.state);
+  else
+  {
+    level.state.upcoming = index.first_from(at);
+    level.state.passed = axmElementIndex::none;
   }
 }
 
-bool axmElementWalk::has_markup_in_section(Standing const& standing, Id passed) const
+bool axmElementWalk::has_markup_in_section(axmCursorState const& state, Id passed) const
 {
   if (passed == axmElementIndex::none)
     return false;
-  return passed == standing.element ? index.has_markup_in_section_at_start(passed)
-                                    : index.has_markup_in_section_behind(passed);
+  return passed == state.element ? index.has_markup_in_section_at_start(passed)
+                                 : index.has_markup_in_section_after(passed);
 }
 
-// As axmPositionX::is_tag_name() has it, for a tag that the index knows: behind its `>` is at least one character, so a
-// comparison that does not go on behind the `>` does not come to the end of the document.
+// As axmPositionX::is_tag_name() has it, for a tag that the index knows: after its `>` is at least one character, so a
+// comparison that does not go beyond the `>` does not come to the end of the document.
 inline bool axmElementWalk::is_named(Place start, Wanted const& wanted) const
 {
   char const* const name = text + start + 1;
   if (!wanted.is_plain || text_end - name < static_cast<std::ptrdiff_t>(sizeof wanted.word))
-    return axmPositionX(text + start).is_tag_named(wanted.name);
-  std::uint64_t const word = apBits::load(name);
-  if ((word & wanted.mask) != wanted.word)
+    return axmCursor(axmPositionX(text + start)).is_tag_name(wanted.name);
+  if ((apBits::load(name) & wanted.mask) != wanted.word)
     return false;
-  char const* at = name + sizeof word;
-  for (char const* rest = wanted.name.begin + sizeof word; rest < wanted.name.end; ++rest, ++at)
-    if (*at != *rest)
+  for (std::size_t i = sizeof wanted.word; i < wanted.text.size(); ++i)
+    if (name[i] != wanted.text[i])
       return false;
   return true;
 }
@@ -290,13 +295,14 @@ inline bool axmElementWalk::is_named(Place start, Wanted const& wanted) const
 // Moves a cursor past the element on which it stands.
 void axmElementWalk::skip(axmPositionX& cursor)
 {
-  Id const id = index.count() == 0 ? axmElementIndex::none : index.find(place_of(cursor.current_pos));
+  Id const id = index.count() == 0 ? axmElementIndex::none : index.find(place_of(place(cursor)));
   if (id == axmElementIndex::none || !index.reach_end(id))
     return cursor.skip_object();
-  cursor.current_pos = text + index[id].end();
+  place(cursor) = text + index[id].end();
 }
 
-// Behind the opening tag of an element that the index knows; `name_length` characters behind its `<` are part of its name.
+// The end of the opening tag of an element that the index knows; `name_length` characters after its `<` are part of its
+// name.
 inline char const* axmElementWalk::content_of(Id id, Place name_length) const
 {
   axmElementIndex::Element const& element = index[id];
@@ -306,11 +312,12 @@ inline char const* axmElementWalk::content_of(Id id, Place name_length) const
   return (*name_end == '>' ? name_end : axm_find(name_end, text_end, '>')) + 1;
 }
 
-// Makes `child` stand in the content of the element on which `parent` stands.
-inline void axmElementWalk::enter(Id id, axmPositionX const& parent, Place name_length, axmPositionX& child)
+// Makes `entered` stand in the content of the element on which `parent` stands.
+inline void axmElementWalk::enter(Id id, axmPositionX& parent, Place name_length, Level& entered)
 {
-  child.object_start = parent.current_pos;
-  child.current_pos = parent.current_pos;
+  axmPositionX& child = *entered.cursor;
+  axmCursor::start(child) = place(parent);
+  place(child) = place(parent);
   if (id == axmElementIndex::none)
     child.object_setup();
   else
@@ -320,12 +327,8 @@ inline void axmElementWalk::enter(Id id, axmPositionX const& parent, Place name_
       content = axm_find_no_space(content, text_end);
     if (*content == '\0')
       throw axmEndException();
-    child.current_pos = text + place_of(content);
+    place(child) = text + place_of(content);
   }
-  tag = child.object_start;
-}
-
-axmElementWalk::Place axmElementWalk::place_of(char const* at) const
-{
-  return static_cast<Place>(at - text);
+  tag = axmCursor::start(child);
+  entered.state = at_start_of(id);
 }

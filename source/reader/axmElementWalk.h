@@ -1,43 +1,40 @@
 #pragma once
 
 #include "axmAttributes.h"
+#include "axmCursorStack.h"
 #include "axmElementIndex.h"
-#include "axmTagName.h"
 
 #include <axmPositionX.h>
-#include <coDynArr.h>
 #include <utString.h>
 
 #include <cstdint>
+#include <string_view>
 
 // Moves the cursors of a reader as they would move themselves, with the help of an index of the elements: an element that
 // has been passed once is never scanned again. Where the index does not tell, the cursors take their own steps.
 //
-// It refers to the text and the cursors of the reader, of which there is one for each depth (0 for that of the outermost
-// element). What is kept here can be told again from the cursors and the text. Not installed.
+// It refers to the text and the cursors of the reader, which must live longer; what is kept here can be told again from
+// them. Throws what axmPositionX throws. Not installed.
 class axmElementWalk
 {
 public:
-  // A walk over the `size` bytes before the NUL at the end of `text`.
-  axmElementWalk(char const* text, int size);
+  // A walk over the `size` bytes before the NUL at the end of `text`, which stands before the elements as `document` does.
+  axmElementWalk(char const* text, int size, axmPositionX& document, axmPositionXcoPageArrPrgcoPrgcoPageArr& cursors);
 
-  bool has_cursor(int depth) const { return depth < levels.count(); }
+  // How many elements are entered.
+  int depth() const { return stack.depth(); }
 
-  // The cursor for the next depth, which must stay where it is. Throws std::bad_alloc when memory runs out.
-  void add_cursor(axmPositionX& cursor);
+  // Whether there is a cursor for one element more. down_to() needs one: add_cursor().
+  bool has_cursor() const { return stack.has_upcoming(); }
 
-  // Moves the cursor of the document to the next root element of that name, and makes that at depth 0 stand in its
-  // content.
-  bool down_to_root(axmPositionX& document, utString const& name);
+  // Adds a cursor, which must stay where it is. Throws std::bad_alloc when memory runs out.
+  void add_cursor(axmPositionX& cursor) { stack.add(cursor); }
 
-  // The same for a child, from the cursor at `depth` on: makes that at the next depth stand in its content.
-  bool down_to_child(int depth, utString const& name);
+  // Enters the next child element of that name, the next root element where none is entered. False if there is none.
+  bool down_to(utString const& name);
 
-  // Moves the cursor at `depth`, which stands on a child, behind that child.
-  void pass_child(int depth);
-
-  // Moves the cursor at depth 0 past all children that are left, and back behind its opening tag.
-  void pass_children();
+  // Leaves the innermost element, the outermost one only after all its children. Where it throws for these, it stays.
+  void up();
 
   // An attribute of the element entered last, or come back to.
   utString attribute(utString const& name, utString const& default_value)
@@ -45,65 +42,53 @@ public:
     return attributes.value(tag, name, default_value);
   }
 
-  utString text_node(int depth);
+  // The text of the innermost element.
+  utString text_node();
 
 private:
   using Place = axmElementIndex::Place;
   using Id = axmElementIndex::Id;
-
-  // What is known about a cursor: its element, and where in the content it stands.
-  struct Standing
-  {
-    Id element;     // none where the index does not know it
-    Id upcoming;    // the first child that is not passed yet, as soon as the index has come to it; none if not known
-    Id passed;      // what the cursor stands behind: a child, the opening tag of `element`, or none if that is a tag
-    bool by_itself; // whether the cursor has to take its own steps
-  };
-
-  struct Level
-  {
-    axmPositionX* cursor;
-    Standing standing;
-
-    // What the names of all children begin with, one bit of 64 for the first two characters, as soon as a search in vain
-    // has seen them all: another name of which there is no trace need not be looked for.
-    bool has_traces;
-    std::uint64_t traces;
-  };
+  using Level = axmCursorStack::Level;
 
   // A name to look for, and what speeds that up.
   struct Wanted
   {
     explicit Wanted(utString const& given);
 
-    axmTagName name;
-    std::uint64_t word; // the first eight bytes, 0 where there are fewer
-    std::uint64_t mask; // those that count
-    bool is_plain;      // without `>`: it cannot be found beyond a tag
+    utString const& name;
+    std::string_view text; // of `name`
+    std::uint64_t word;    // the first eight bytes, 0 where there are fewer
+    std::uint64_t mask;    // those that count
+    bool is_plain;         // without `>`: it cannot be found beyond a tag
   };
 
-  static std::uint64_t trace_of(char const* name);
-  static bool is_without_trace(Level const& level, Wanted const& wanted);
+  static std::uint64_t filter_bit(char const* name);
+  static bool is_filtered_out(axmCursorState const& state, Wanted const& wanted);
 
-  Standing at_start_of(Id element) const;
-  bool find_child(Level& level, Wanted const& wanted);
-  void pass_others(Id id, Wanted const& wanted, Id& passed, Id& child, std::uint64_t& traces) const;
+  axmCursorState at_start_of(Id element) const;
+  void go_to_start(axmCursorState& state) const;
+  bool find_root(Level& entered, utString const& name);
+  bool find_child(Level& entered, utString const& name);
+  bool find_child_by_index(Level& level, Wanted const& wanted);
+  bool find_child_by_steps(Level& level, utString const& name);
   bool return_to_start(Level& level);
-  bool find_child_step_by_step(Level& level, axmTagName const& name);
+  void pass_child(Level& level, Id child);
+  void pass_children(Level& level);
   void find_upcoming(Level& level) const;
-  bool has_markup_in_section(Standing const& standing, Id passed) const;
+  bool has_markup_in_section(axmCursorState const& state, Id passed) const;
   bool is_named(Place start, Wanted const& wanted) const;
   void skip(axmPositionX& cursor);
-  void enter(Id id, axmPositionX const& parent, Place name_length, axmPositionX& child);
+  void enter(Id id, axmPositionX& parent, Place name_length, Level& entered);
   char const* content_of(Id id, Place name_length) const;
 
-  Place place_of(char const* at) const;
+  Place place_of(char const* at) const { return static_cast<Place>(at - text); }
 
   char* text;
   char const* text_end; // the NUL
   Place size;
+  axmPositionX& document;
+  axmCursorStack stack;
   char const* tag = nullptr; // where the current element begins
   axmElementIndex index;
-  coDynArr<Level> levels;
   axmAttributes attributes;
 };

@@ -1,7 +1,8 @@
 #include <axmPositionX.h>
 
+#include "axmCursor.h"
 #include "axmOpenTags.h"
-#include "axmPositionSteps.h"
+#include "axmTagName.h"
 
 #include <axmCharException.h>
 #include <axmEndException.h>
@@ -15,6 +16,11 @@ namespace
 char const closing_mark[] = {'<', '/'};
 char const comment_mark[] = {'<', '!', '-', '-'};
 char const cdata_mark[] = {'<', '!', '[', 'C', 'D', 'A', 'T', 'A', '['};
+
+void skip_by_steps(axmPositionX& cursor)
+{
+  cursor.skip_object();
+}
 
 // Whether `pattern` stands at `at`; throws where the comparison comes to the last character of the document.
 bool stands_at(char const* at, char const* pattern, int length)
@@ -83,12 +89,7 @@ void axmPositionX::object_setup()
 
 utString axmPositionX::read_text()
 {
-  return text_of(
-    [this](auto& sink)
-    {
-      pass_text(sink);
-      return true;
-    });
+  return axmCursor::move(*this, [](axmCursor& cursor) { return cursor.take_text(); });
 }
 
 void axmPositionX::skip_object()
@@ -113,7 +114,10 @@ void axmPositionX::skip_object()
 
 utString axmPositionX::text_node()
 {
-  return text_of([this](auto& sink) { return pass_text_node(sink, [this] { skip_object(); }); });
+  utString text = ut_lit("");
+  if (!axmCursor::move(*this, [&](axmCursor& cursor) { return cursor.take_text_node(skip_by_steps, text); }))
+    return_to_start();
+  return text;
 }
 
 char* axmPositionX::current() const
@@ -265,7 +269,10 @@ utString axmPositionX::find_attribute(utString const& name, utString const& defa
 
 bool axmPositionX::find_sub_tag(utString const& name)
 {
-  return find_sub_tag_by(axmTagName::of(name), [this] { skip_object(); });
+  if (axmCursor::move(*this, [&](axmCursor& cursor) { return cursor.pass_to_child(name, skip_by_steps); }))
+    return true;
+  return_to_start();
+  return false;
 }
 
 utString axmPositionX::make_string_from(char const* from) const

@@ -4,7 +4,6 @@
 #include <utPtrRelease.h>
 #include <utString.h>
 
-class axmElementWalk;
 class axmOpenTags;
 struct axmTagName;
 
@@ -127,8 +126,6 @@ protected:
   char* object_start;
 
 private:
-  friend class axmElementWalk;
-
   axmTagName tag_name() const;
   bool begins_with(char const* pattern, int length) const;
   bool is_tag_named(axmTagName name) const;
@@ -139,12 +136,4 @@ private:
   void open_object(axmOpenTags& open);
   void close_object(axmOpenTags& open);
   void return_to_start();
-  template <class Skip>
-  bool find_sub_tag_by(axmTagName name, Skip skip);
-  template <class Sink>
-  void pass_text(Sink& sink);
-  template <class Sink, class Skip>
-  bool pass_text_node(Sink& sink, Skip skip);
-  template <class Pass>
-  utString text_of(Pass pass);
 };

@@ -32,16 +32,11 @@ void axmSimpleXmlReader::up()
 {
   if (error_flag)
     return;
-  int const depth = positions.count();
-  if (depth == 0)
+  if (positions.count() == 0)
     return error_has_occurred(ut_lit("Incorrect xml nesting"));
   try
   {
-    if (depth == 1)
-      walk->pass_children();
-    positions.shrink(depth - 1, 0);
-    if (depth > 1)
-      walk->pass_child(depth - 2);
+    walk->up();
   }
   catch (axmException const& error)
   {
@@ -60,13 +55,9 @@ bool axmSimpleXmlReader::down_to(utString const& name)
   }
   try
   {
-    int const depth = positions.count();
-    if (!walk->has_cursor(depth))
-      add_cursor(depth);
-    if (!(depth == 0 ? walk->down_to_root(*initial_position, name) : walk->down_to_child(depth - 1, name)))
-      return false;
-    positions[depth]; // takes it into use
-    return true;
+    if (!walk->has_cursor())
+      add_cursor(positions.count());
+    return walk->down_to(name);
   }
   catch (axmException const& error)
   {
@@ -96,7 +87,7 @@ utString axmSimpleXmlReader::text_node()
     return ut_lit("");
   try
   {
-    return walk->text_node(positions.count() - 1);
+    return walk->text_node();
   }
   catch (axmException const& error)
   {
@@ -155,8 +146,8 @@ bool axmSimpleXmlReader::read_declaration()
     encoding_name = declaration->encoding();
     if (encoding_name.case_compare(ut_lit("utf-16")) == 0)
       return false;
-    walk = std::make_unique<axmElementWalk>(buffer.data(), buffer.count() - 1);
     initial_position.swap(declaration);
+    walk = std::make_unique<axmElementWalk>(buffer.data(), buffer.count() - 1, *initial_position, positions);
     return true;
   }
   catch (axmException const& error)

@@ -9,7 +9,7 @@ namespace
 using Id = axmElementIndex::Id;
 
 // More characters than are looked at together.
-std::string const far(2 * axmMarks::bytes, 'x');
+std::string const far(2 * axmStructuralScan::bytes, 'x');
 
 // An index of a document that begins with its root.
 class Index
@@ -134,9 +134,9 @@ TEST(axmElementIndex, marks_the_gaps_in_which_a_section_has_markup)
   Index index("<r><![CDATA[<]]><a/><![CDATA[x]]><b></b> <![CDATA[<]]><c/></r>\n");
   EXPECT_TRUE(index->reach_end(0));
   EXPECT_TRUE(index->has_markup_in_section_at_start(0));
-  EXPECT_FALSE(index->has_markup_in_section_behind(1));
-  EXPECT_TRUE(index->has_markup_in_section_behind(2));
-  EXPECT_FALSE(index->has_markup_in_section_behind(3));
+  EXPECT_FALSE(index->has_markup_in_section_after(1));
+  EXPECT_TRUE(index->has_markup_in_section_after(2));
+  EXPECT_FALSE(index->has_markup_in_section_after(3));
   EXPECT_FALSE(index->has_markup_in_section_at_start(2));
   EXPECT_EQ(index.from(index[2].end()).substr(0, 3), " <!");
   EXPECT_EQ(index[2].next(), 3u);

@@ -6,8 +6,6 @@
 #include "PlainCursor.h"
 #include "PlainReader.h"
 
-#include "axmMarks.h"
-
 #include <axmCharException.h>
 #include <axmEndException.h>
 #include <axmInitialPositionX.h>
@@ -24,11 +22,13 @@
 
 namespace
 {
-// The generated documents are shared out to tests that can run side by side: most to the way of finding marks that is the
-// fastest on this machine, some to each of the others. A build that watches every access is slow and looks at fewer.
-int const shares = 12;
-axmMarks::Way const ways[shares] = {axmMarks::avx2, axmMarks::avx2, axmMarks::avx2, axmMarks::avx2, axmMarks::avx2,
-  axmMarks::avx2, axmMarks::avx2, axmMarks::avx2, axmMarks::sse2, axmMarks::sse2, axmMarks::words, axmMarks::words};
+// The generated documents are shared out to tests that can run side by side. A build that watches every access is slow and
+// looks at fewer, and so does the one without vectors, which is to be right and not to be used.
+#if defined(AP_WITHOUT_VECTORS)
+int const shares = 2;
+#else
+int const shares = 8;
+#endif
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 int const documents_per_share = 2000;
 #else
@@ -267,15 +267,6 @@ private:
 class PlainModel : public testing::TestWithParam<int>
 {
 protected:
-  PlainModel()
-  {
-    // Where there is no such way, the next best one is the fastest.
-    int way = ways[GetParam()];
-    while (!axmMarks::has(static_cast<axmMarks::Way>(way)))
-      --way;
-    axmMarks::choose(static_cast<axmMarks::Way>(way));
-  }
-
   DocumentMaker maker{static_cast<std::uint32_t>(GetParam())};
 };
 
