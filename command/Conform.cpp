@@ -44,7 +44,7 @@ struct Request
   std::string service;
   std::string junit;
   int time_limit = 60;
-  std::vector<std::string> classes;
+  ConformSelection selection;
 };
 
 struct FileCloser
@@ -67,7 +67,9 @@ std::vector<std::string> worker_arguments(Request const& request)
   std::vector<std::string> arguments = {"conform-worker"};
   if (!request.service.empty())
     arguments.insert(arguments.end(), {"--service", whole_path(request.service)});
-  for (std::string const& name : request.classes)
+  arguments.insert(arguments.end(), {"--seed", std::to_string(request.selection.seed)});
+  arguments.insert(arguments.end(), {"--rounds", std::to_string(request.selection.rounds)});
+  for (std::string const& name : request.selection.classes)
     arguments.insert(arguments.end(), {"--class", name});
   return arguments;
 }
@@ -112,7 +114,12 @@ void add_conform(CLI::App& app, int& exit_code)
   verb->add_option("--time-limit", request->time_limit, "How long a group of checks may take; 60 by default")
     ->type_name("SECONDS")
     ->check(CLI::Range(1, 86400));
-  verb->add_option("CLASS", request->classes, "Classes of checks to run; all by default")
+  verb->add_option("--seed", request->selection.seed, "Draw other random operations: the same for the same number")
+    ->type_name("N");
+  verb->add_option("--rounds", request->selection.rounds, "How many sequences of them a group draws")
+    ->type_name("N")
+    ->check(CLI::Range(0, 1000000000));
+  verb->add_option("CLASS", request->selection.classes, "Classes of checks to run; all by default")
     ->check(CLI::IsMember(conform_class_names()));
   verb->callback([request, &exit_code] { exit_code = conform(*request); });
 }

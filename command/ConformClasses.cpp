@@ -5,6 +5,7 @@
 #include <axmDocumentFactoryUtest.h>
 #include <axmDocumentUtest.h>
 #include <axmElementUtest.h>
+#include <axmModelUtest.h>
 #include <axmNamedNodeMapUtest.h>
 #include <axmNodeListUtest.h>
 #include <axmNodeUtest.h>
@@ -35,6 +36,12 @@ void run_with_reference(ConformSelection const&, utUnitTest* tester, Factory con
   Suite(tester).run_tests(*factory);
 }
 
+template <class Suite>
+void run_with_draws(ConformSelection const& selection, utUnitTest* tester, Factory const& factory)
+{
+  Suite(tester, selection.seed, selection.rounds).run_tests(factory);
+}
+
 CheckClass const check_classes[] = {
   {"axmDocumentFactoryUtest", run_with_owner<axmDocumentFactoryUtest>},
   {"axmValidationUtest", run_with_reference<axmValidationUtest>},
@@ -46,6 +53,7 @@ CheckClass const check_classes[] = {
   {"axmTextNodeUtest", run_with_reference<axmTextNodeUtest>},
   {"axmCommentNodeUtest", run_with_reference<axmCommentNodeUtest>},
   {"axmContractUtest", run_with_owner<axmContractUtest>},
+  {"axmModelUtest", run_with_draws<axmModelUtest>},
 };
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <axmDocumentFactory.h>
+#include <axmModelUtest.h>
 
 #include <cstdint>
 #include <memory>
@@ -14,6 +15,9 @@ struct ConformSelection
 {
   /// The classes of checks; all if it is empty.
   std::vector<std::string> classes;
+  /// What is drawn at random, and how much of it; see axmModelUtest.
+  std::uint64_t seed = axmModelUtest::default_seed;
+  int rounds = axmModelUtest::default_rounds;
 };
 
 /// The names of all classes of checks, in the order in which they run.

@@ -140,6 +140,8 @@ void add_conform_worker(CLI::App& app, int& exit_code)
   verb->add_option("--service", request->service);
   verb->add_option("--skip", request->skip);
   verb->add_option("--class", request->selection.classes);
+  verb->add_option("--seed", request->selection.seed);
+  verb->add_option("--rounds", request->selection.rounds);
   verb->add_option("--pipe", request->pipe)->required();
   verb->callback([request, &exit_code] { exit_code = work(*request); });
 }

@@ -53,7 +53,7 @@ std::shared_ptr<axmDocument> parsed(
   }
   xmlParserCtxt* const context = xmlNewParserCtxt();
   xmlDoc* document = xmlCtxtReadMemory(context, data.data(), static_cast<int>(data.size()), url.to_utf8().c_str(),
-    nullptr, XML_PARSE_NOENT | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING);
+    nullptr, XML_PARSE_NOENT | XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_NOERROR | XML_PARSE_NOWARNING);
   if (document == nullptr)
     error = parser_error(*context, url);
   xmlFreeParserCtxt(context);
@@ -115,6 +115,8 @@ bool xml2Factory::saveDocument(std::shared_ptr<axmDocument> document, apByteArra
 {
   xml2Handle const* const handle = xml2Handle::of(document.get());
   if (handle == nullptr)
+    return false;
+  if (!handle->tree->can_be_written())
     return false;
   utString const text = handle->xml().to_utf8();
   output = apByteArray(text.c_str(), static_cast<std::size_t>(text.length()));

@@ -97,7 +97,7 @@ void xml2Handle::set_text(apString const& text) const
 {
   if (!holds_children(*node))
   {
-    xml2_with(text, [this](xmlChar const* utf8) { xmlNodeSetContent(node, utf8); });
+    xml2_with(text, [this](xmlChar const* utf8) { set_content(utf8); });
     return;
   }
   if (node->type != XML_ELEMENT_NODE)
@@ -106,6 +106,19 @@ void xml2Handle::set_text(apString const& text) const
     tree->detach(node->children);
   tree->link(
     node, xml2_with(text, [this](xmlChar const* utf8) { return xmlNewDocText(tree->document(), utf8); }), nullptr);
+}
+
+void xml2Handle::set_content(xmlChar const* utf8) const
+{
+  if (node->type != XML_ATTRIBUTE_NODE)
+  {
+    xmlNodeSetContent(node, utf8);
+    return;
+  }
+  // Of an attribute it is taken for markup.
+  xmlChar* const escaped = xmlEncodeSpecialChars(tree->document(), utf8);
+  xmlNodeSetContent(node, escaped);
+  xmlFree(escaped);
 }
 
 apString xml2Handle::xml() const
@@ -138,8 +151,10 @@ bool xml2Handle::may_hold(xml2Handle const& child, xmlNode const* replaced) cons
   for (xmlNode const* ancestor = node; ancestor != nullptr; ancestor = ancestor->parent)
     if (ancestor == child.node)
       return false;
-  if (node->type != XML_DOCUMENT_NODE || child.node->type != XML_ELEMENT_NODE)
+  if (node->type != XML_DOCUMENT_NODE)
     return true;
+  if (child.node->type != XML_ELEMENT_NODE)
+    return child.node->type != XML_TEXT_NODE && child.node->type != XML_CDATA_SECTION_NODE;
   xmlNode const* const root = xmlDocGetRootElement(tree->document());
   return root == nullptr || root == replaced || root == child.node;
 }

@@ -47,6 +47,7 @@ public:
   xmlNode* const node;
 
 private:
+  void set_content(xmlChar const* utf8) const;
   bool is_child(axmNode const* child) const;
   bool may_hold(xml2Handle const& child, xmlNode const* replaced) const;
 };

@@ -22,8 +22,15 @@ public:
   std::shared_ptr<axmNodeList> getChildNodes() override { return std::make_shared<xml2ChildList>(*this); }
   std::shared_ptr<axmNode> getFirstChild() override { return wrap(node->children); }
   std::shared_ptr<axmNode> getLastChild() override { return wrap(node->last); }
-  std::shared_ptr<axmNode> getPreviousSibling() override { return wrap(node->prev); }
-  std::shared_ptr<axmNode> getNextSibling() override { return wrap(node->next); }
+  // The attributes of an element are chained as children are, but are nobody's siblings.
+  std::shared_ptr<axmNode> getPreviousSibling() override
+  {
+    return node->type == XML_ATTRIBUTE_NODE ? nullptr : wrap(node->prev);
+  }
+  std::shared_ptr<axmNode> getNextSibling() override
+  {
+    return node->type == XML_ATTRIBUTE_NODE ? nullptr : wrap(node->next);
+  }
   std::shared_ptr<axmDocument> getOwnerDocument() override { return owner_document(); }
   std::shared_ptr<axmNode> insertBefore(std::shared_ptr<axmNode> new_child, std::shared_ptr<axmNode> ref_child) override
   {

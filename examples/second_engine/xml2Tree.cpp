@@ -1,6 +1,35 @@
 #include "xml2Tree.h"
 
+#include <libxml/chvalid.h>
+
 #include <cstring>
+#include <string_view>
+
+namespace
+{
+// XML 1.0, 2.2, [2] Char.
+bool is_storable(xmlChar const* text)
+{
+  while (text != nullptr && *text != 0)
+  {
+    int length = 4;
+    int const character = xmlGetUTF8Char(text, &length);
+    if (character < 0 || !xmlIsCharQ(character))
+      return false;
+    text += length;
+  }
+  return true;
+}
+
+// Whether a comment or instruction holds what would end it.
+bool ends_early(xmlNode const& node)
+{
+  std::string_view const text = reinterpret_cast<char const*>(node.content);
+  if (node.type == XML_COMMENT_NODE)
+    return text.find("--") != std::string_view::npos || (!text.empty() && text.back() == '-');
+  return node.type == XML_PI_NODE && text.find("?>") != std::string_view::npos;
+}
+}
 
 xml2Tree::xml2Tree(xmlDoc* document) : doc(document) {}
 
@@ -56,6 +85,24 @@ void xml2Tree::drop_white_space()
     xmlUnlinkNode(node);
     xmlFreeNode(node);
   }
+}
+
+bool xml2Tree::can_be_written() const
+{
+  if (xmlDocGetRootElement(doc) == nullptr)
+    return false;
+  for (xmlNode* node = top(); node != nullptr; node = next_in_document(node, top()))
+  {
+    xmlAttr const* attribute = node->type == XML_ELEMENT_NODE ? node->properties : nullptr;
+    for (; attribute != nullptr; attribute = attribute->next)
+      if (attribute->children != nullptr && !is_storable(attribute->children->content))
+        return false;
+    bool const has_content = node->type != XML_ELEMENT_NODE && node->type != XML_DOCUMENT_NODE &&
+                             node->type != XML_DTD_NODE && node->content != nullptr;
+    if (has_content && (!is_storable(node->content) || ends_early(*node)))
+      return false;
+  }
+  return true;
 }
 
 xmlNode* xml2Tree::next_in_document(xmlNode* node, xmlNode* top)

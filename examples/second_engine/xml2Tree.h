@@ -32,6 +32,9 @@ public:
   // Text that is white space only is dropped, except where it is exactly one space.
   void drop_white_space();
 
+  // Whether the document, written, is one that loads again: it has a root, and no text holds what XML cannot.
+  bool can_be_written() const;
+
   // The next node in document order under `top`, null behind the last one.
   static xmlNode* next_in_document(xmlNode* node, xmlNode* top);
 

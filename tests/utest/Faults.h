@@ -19,6 +19,11 @@ std::vector<Fault> const& content_faults();
 std::vector<Fault> const& collection_faults();
 std::vector<Fault> const& factory_faults();
 
+// Those that show at certain sizes, after certain sequences or with certain characters only.
+std::vector<Fault> const& subtle_tree_faults();
+std::vector<Fault> const& subtle_content_faults();
+std::vector<Fault> const& subtle_factory_faults();
+
 // The text with every `wanted` replaced.
 apString replaced(apString text, apString const& wanted, apString const& replacement);
 

@@ -8,10 +8,12 @@
 #include <axmDocumentFactoryUtest.h>
 #include <axmDocumentUtest.h>
 #include <axmElementUtest.h>
+#include <axmModelUtest.h>
 #include <axmNamedNodeMapUtest.h>
 #include <axmNodeListUtest.h>
 #include <axmNodeUtest.h>
 #include <axmTextNodeUtest.h>
+#include <axmUtestGroupListener.h>
 #include <axmValidationUtest.h>
 #include <axsRegister.h>
 #include <utAssert.h>
@@ -153,13 +155,14 @@ Factory quick_engine()
   return engine;
 }
 
-std::vector<Check> run_suite(Factory const& factory)
+namespace
 {
-  SilentAssertions const silent;
-  Recorder recorder;
-  utUnitTest tester;
-  tester.add_listener(recorder);
-  utUnitTest* const replaced = utUnitTest::set_tester(&tester);
+// What a test can afford that runs everything, and one that looks for a fault and is over once it is seen.
+constexpr int few_rounds = 40;
+constexpr int more_rounds = 400;
+
+void run_fixed(utUnitTest& tester, Factory const& factory)
+{
   axmDocumentFactoryUtest(&tester).run_tests(factory);
   axmValidationUtest(&tester).run_tests(*factory);
   axmNodeUtest(&tester).run_tests(*factory);
@@ -170,8 +173,68 @@ std::vector<Check> run_suite(Factory const& factory)
   axmTextNodeUtest(&tester).run_tests(*factory);
   axmCommentNodeUtest(&tester).run_tests(*factory);
   axmContractUtest(&tester).run_tests(factory);
+}
+
+void run_generated(utUnitTest& tester, Factory const& factory, int rounds)
+{
+  axmModelUtest(&tester, axmModelUtest::default_seed, rounds).run_tests(factory);
+}
+
+// What `run` reports.
+template <class Run>
+std::vector<Check> recorded(Run run)
+{
+  SilentAssertions const silent;
+  Recorder recorder;
+  utUnitTest tester;
+  tester.add_listener(recorder);
+  utUnitTest* const replaced = utUnitTest::set_tester(&tester);
+  run(tester, recorder);
   utUnitTest::set_tester(replaced);
   return std::move(recorder.checks);
+}
+
+// Leaves out all groups after the first one with a failed check.
+class UpToFailure : public axmUtestGroupListener
+{
+public:
+  explicit UpToFailure(std::vector<Check> const& given) : checks(given) { set(this); }
+  ~UpToFailure() override { set(nullptr); }
+
+  bool begins(char const*) override
+  {
+    return std::all_of(checks.begin(), checks.end(), [](Check const& check) { return check.passed; });
+  }
+  void ended(char const*) override {}
+
+private:
+  std::vector<Check> const& checks;
+};
+}
+
+std::vector<Check> run_suite(Factory const& factory)
+{
+  return recorded(
+    [&](utUnitTest& tester, Recorder const&)
+    {
+      run_fixed(tester, factory);
+      run_generated(tester, factory, few_rounds);
+    });
+}
+
+std::vector<Check> run_fixed_classes(Factory const& factory)
+{
+  return recorded([&](utUnitTest& tester, Recorder const&) { run_fixed(tester, factory); });
+}
+
+std::vector<Check> run_generated_classes(Factory const& factory)
+{
+  return recorded(
+    [&](utUnitTest& tester, Recorder const& recorder)
+    {
+      UpToFailure const listener(recorder.checks);
+      run_generated(tester, factory, more_rounds);
+    });
 }
 
 std::vector<std::string> failed_groups(std::vector<Check> const& checks)
@@ -208,4 +271,20 @@ std::vector<Fault> all_faults()
   for (auto const* const some : {&node_faults(), &content_faults(), &collection_faults(), &factory_faults()})
     faults.insert(faults.end(), some->begin(), some->end());
   return faults;
+}
+
+std::vector<Fault> all_subtle_faults()
+{
+  std::vector<Fault> faults;
+  for (auto const* const some : {&subtle_tree_faults(), &subtle_content_faults(), &subtle_factory_faults()})
+    faults.insert(faults.end(), some->begin(), some->end());
+  return faults;
+}
+
+std::string run_with(Fault const& fault, std::vector<Check> (*run)(Factory const& factory))
+{
+  SuiteFolder const folder("axm fault");
+  Hooks hooks;
+  fault.put_into(hooks);
+  return table_row(fault, run(hooked_engine(quick_engine(), hooks)));
 }

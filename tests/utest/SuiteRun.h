@@ -42,8 +42,14 @@ Factory default_engine();
 // the time of a run.
 Factory quick_engine();
 
-// Runs every class of the suite in the folder in which the program works. Assertions are kept from standard error.
+// Runs every class of the suite in the folder in which the program works; few rounds of what is drawn at random.
+// Assertions are kept from standard error.
 std::vector<Check> run_suite(Factory const& factory);
+
+// The same for the classes whose checks are written by hand, and for those whose cases are drawn or generated, the latter
+// up to the first group with a failed check.
+std::vector<Check> run_fixed_classes(Factory const& factory);
+std::vector<Check> run_generated_classes(Factory const& factory);
 
 // The groups with failed checks in the order of their first failure, each with their number: "class::group (2)".
 std::vector<std::string> failed_groups(std::vector<Check> const& checks);
@@ -52,5 +58,9 @@ std::vector<std::string> failed_groups(std::vector<Check> const& checks);
 struct Fault;
 std::string table_row(Fault const& fault, std::vector<Check> const& checks);
 
-// Every fault there is.
+// Every fault that the fixed classes are to see, and those that only the others are.
 std::vector<Fault> all_faults();
+std::vector<Fault> all_subtle_faults();
+
+// The row of an engine with the fault, in a folder of its own.
+std::string run_with(Fault const& fault, std::vector<Check> (*run)(Factory const& factory));

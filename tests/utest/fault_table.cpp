@@ -1,5 +1,5 @@
 // Writes the table of the faulty engines and of what sees them, as faults.txt holds it. An argument is a part of the names
-// of the faults wanted.
+// of the faults wanted, or --subtle for those that only the generated cases see.
 
 #include "Faults.h"
 #include "SuiteRun.h"
@@ -7,16 +7,26 @@
 #include <cstdio>
 #include <cstring>
 
-int main(int argc, char** argv)
+namespace
 {
-  for (Fault const& fault : all_faults())
+void write(std::vector<Fault> const& faults, std::vector<Check> (*run)(Factory const& factory), char const* wanted)
+{
+  for (Fault const& fault : faults)
   {
-    if (argc > 1 && std::strstr(fault.name, argv[1]) == nullptr)
+    if (wanted != nullptr && std::strstr(fault.name, wanted) == nullptr &&
+        std::strstr(fault.operation, wanted) == nullptr)
       continue;
-    SuiteFolder const folder("axm fault table");
-    Hooks hooks;
-    fault.put_into(hooks);
-    std::printf("%s\n", table_row(fault, run_suite(hooked_engine(quick_engine(), hooks))).c_str());
+    std::printf("%s\n", run_with(fault, run).c_str());
     std::fflush(stdout);
   }
+}
+}
+
+int main(int argc, char** argv)
+{
+  bool const subtle_only = argc > 1 && std::strcmp(argv[1], "--subtle") == 0;
+  char const* const wanted = argc > 1 && !subtle_only ? argv[1] : nullptr;
+  if (!subtle_only)
+    write(all_faults(), run_fixed_classes, wanted);
+  write(all_subtle_faults(), run_generated_classes, wanted);
 }

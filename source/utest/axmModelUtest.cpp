@@ -1,0 +1,116 @@
+#include <axmModelUtest.h>
+
+#include "axmUtestGroup.h"
+#include "model/axmModelDraw.h"
+#include "model/axmModelRun.h"
+#include "model/axmModelShrink.h"
+
+#include <utUnitTest.h>
+
+#include <string>
+
+namespace
+{
+using Factory = std::shared_ptr<axmDocumentFactory>;
+using Topic = axmModelTopic;
+
+char const file[] = "source/utest/axmModelUtest";
+
+// A round is over at its first difference, which is in the result then.
+axmModelFinding round_of(axmDocumentFactory& factory, Topic topic, std::uint64_t seed)
+{
+  axmModelDraw draw(topic, seed);
+  axmModelRun run(factory, 8);
+  axmModelFinding finding;
+  for (int step = 0; step < draw.length() && run.difference().empty(); ++step)
+  {
+    finding.steps.push_back(draw.next(run));
+    run.execute(finding.steps.back());
+  }
+  run.compare_all();
+  finding.difference = run.difference();
+  return finding;
+}
+
+struct Draws
+{
+  Topic topic;
+  std::uint64_t seed;
+  int rounds;
+};
+
+void run_rounds(
+  utUnitTest* tester, char const* name, char const* description, axmDocumentFactory& factory, Draws const& draws)
+{
+  axmUtestGroup const group(tester, file, name);
+  char const expression[] = "every answer is the promised one";
+  for (int round = 0; round < draws.rounds; ++round)
+  {
+    std::uint64_t const number = draws.seed * 1000003U + static_cast<std::uint64_t>(round);
+    axmModelFinding finding = round_of(factory, draws.topic, number * 8U + static_cast<std::uint64_t>(draws.topic));
+    if (finding.difference.empty())
+      continue;
+    finding = axm_model_shrunk(factory, finding);
+    tester->printf("%s// %s", axm_model_program(finding.steps).c_str(), finding.difference.c_str());
+    group.check(false, expression, __LINE__, description);
+    return;
+  }
+  group.check(true, expression, __LINE__, description);
+}
+}
+
+axmModelUtest::axmModelUtest(utUnitTest* given_tester) : axmModelUtest(given_tester, default_seed, default_rounds) {}
+
+axmModelUtest::axmModelUtest(utUnitTest* given_tester, std::uint64_t given_seed, int given_rounds)
+  : tester(given_tester),
+    seed(given_seed),
+    rounds(given_rounds)
+{
+}
+
+axmModelUtest::~axmModelUtest() = default;
+
+void axmModelUtest::run_tests(Factory const& factory) const
+{
+  using Utest = axmModelUtest;
+  axmUtestEntry<Utest, Factory const&> const groups[] = {
+    {&Utest::test_trees, "axmModelUtest::test_trees"},
+    {&Utest::test_attributes, "axmModelUtest::test_attributes"},
+    {&Utest::test_lists, "axmModelUtest::test_lists"},
+    {&Utest::test_loads, "axmModelUtest::test_loads"},
+    {&Utest::test_everything, "axmModelUtest::test_everything"},
+    {&Utest::test_many_children, "axmModelUtest::test_many_children"},
+    {&Utest::test_many_attributes, "axmModelUtest::test_many_attributes"},
+    {&Utest::test_long_texts, "axmModelUtest::test_long_texts"},
+  };
+  axm_run_groups(*this, factory, groups, tester, file);
+}
+
+void axmModelUtest::test_trees(Factory const& factory) const
+{
+  run_rounds(tester, "axmModelUtest::test_trees", "edits of trees", *factory, {Topic::trees, seed, rounds});
+}
+
+void axmModelUtest::test_attributes(Factory const& factory) const
+{
+  run_rounds(
+    tester, "axmModelUtest::test_attributes", "edits of attributes", *factory, {Topic::attributes, seed, rounds});
+}
+
+void axmModelUtest::test_lists(Factory const& factory) const
+{
+  run_rounds(
+    tester, "axmModelUtest::test_lists", "lists held while trees change", *factory, {Topic::lists, seed, rounds});
+}
+
+void axmModelUtest::test_loads(Factory const& factory) const
+{
+  run_rounds(
+    tester, "axmModelUtest::test_loads", "documents loaded, edited, saved", *factory, {Topic::loads, seed, rounds});
+}
+
+void axmModelUtest::test_everything(Factory const& factory) const
+{
+  run_rounds(
+    tester, "axmModelUtest::test_everything", "all operations at once", *factory, {Topic::everything, seed, rounds});
+}

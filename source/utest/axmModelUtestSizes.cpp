@@ -1,0 +1,214 @@
+#include <axmModelUtest.h>
+
+#include "axmUtestAccess.h"
+#include "axmUtestGroup.h"
+#include "model/axmModelRandom.h"
+
+#include <axmCommentNode.h>
+#include <axmTextNode.h>
+#include <utUnitTest.h>
+
+#include <string>
+#include <vector>
+
+using namespace axmUtestAccess;
+
+namespace
+{
+using Factory = std::shared_ptr<axmDocumentFactory>;
+using Document = std::shared_ptr<axmDocument>;
+using Element = std::shared_ptr<axmElement>;
+
+char const file[] = "source/utest/axmModelUtestSizes";
+
+// Around every power of two up to `max`, and `max`.
+std::vector<int> sizes_up_to(int max)
+{
+  std::vector<int> sizes = {1};
+  for (int power = 2; power <= max; power *= 2)
+    for (int const size : {power - 1, power, power + 1})
+      if (size > sizes.back() && size <= max)
+        sizes.push_back(size);
+  if (sizes.back() < max)
+    sizes.push_back(max);
+  return sizes;
+}
+
+apString numbered(wchar_t const* prefix, int number)
+{
+  return apString(std::wstring_view(prefix + std::to_wstring(number)));
+}
+
+// Whether a list of `size` children named by their indexes says so, at both ends and at some places between.
+bool is_numbered(std::shared_ptr<axmNodeList> const& list, int size, axmModelRandom& random)
+{
+  if (length_of(list) != size || list->at(size) != nullptr || list->at(-1) != nullptr)
+    return false;
+  for (int const index : {0, size - 1, size / 2, random.below(size), random.below(size)})
+    if (name_of(list->at(index)) != numbered(L"c", index))
+      return false;
+  return true;
+}
+
+// Whether the children come one after the other, in both directions.
+bool is_chained(Node const& parent, int size)
+{
+  Node forward = first_of(parent);
+  Node backward = last_of(parent);
+  for (int index = 0; index < size; ++index)
+  {
+    if (name_of(forward) != numbered(L"c", index) || name_of(backward) != numbered(L"c", size - 1 - index))
+      return false;
+    forward = next_of(forward);
+    backward = previous_of(backward);
+  }
+  return forward == nullptr && backward == nullptr;
+}
+
+bool append_numbered(Document const& document, Element const& parent, int from, int to)
+{
+  for (int index = from; index < to; ++index)
+    if (append(parent, created(document, numbered(L"c", index))) == nullptr)
+      return false;
+  return true;
+}
+
+bool has_attributes(Element const& element, int count)
+{
+  auto const map = map_of(element);
+  if (map == nullptr || map->getLength() != count || map->item(count) != nullptr || map->item(count - 1) == nullptr)
+    return false;
+  for (int index = 0; index < count; ++index)
+    if (element->getAttribute(numbered(L"a", index)) != numbered(L"v", index))
+      return false;
+  return !element->hasAttribute(numbered(L"a", count));
+}
+
+// `size` characters of which the ones at the end take several bytes and, in some systems, several places.
+apString long_text(int size, wchar_t const* end)
+{
+  std::wstring const last = end;
+  std::wstring text(static_cast<std::size_t>(size), L'x');
+  for (std::size_t at = 0; at < text.size(); at += 7)
+    text[at] = L'y';
+  return apString(std::wstring_view(text + last));
+}
+
+Element saved_and_loaded(Factory const& factory, Document const& document)
+{
+  apByteArray output;
+  axmParseError error;
+  bool const saved = factory->saveDocument(document, output);
+  return saved ? root_of(factory->loadDocument(output, axmLoadOptions(), error)) : nullptr;
+}
+
+// Whether a text of that length comes back as text, attribute, comment and, saved, as all of them.
+bool comes_back(Factory const& factory, apString const& text)
+{
+  auto const document = factory->createDocument(APSTRING("r"));
+  auto const root = root_of(document);
+  if (root == nullptr)
+    return false;
+  append(root, document->createTextNode(text));
+  append(root, document->createComment(text));
+  root->setAttribute(APSTRING("k"), text);
+  auto const holds = [&text](Element const& element)
+  {
+    return attribute_of(element, APSTRING("k")) == text && value_of(child_of(element, 0)) == text &&
+           value_of(child_of(element, 1)) == text && text_of(element) == text;
+  };
+  return holds(root) && holds(saved_and_loaded(factory, document));
+}
+
+bool name_comes_back(Factory const& factory, apString const& name)
+{
+  auto const document = factory->createDocument(name);
+  auto const root = root_of(document);
+  if (root == nullptr || root->getNodeName() != name)
+    return false;
+  root->setAttribute(name, APSTRING("v"));
+  auto const copy = saved_and_loaded(factory, document);
+  return name_of(copy) == name && attribute_of(copy, name) == APSTRING("v");
+}
+}
+
+void axmModelUtest::test_many_children(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmModelUtest::test_many_children");
+  axmModelRandom random(seed);
+  auto const document = factory->createDocument(APSTRING("root"));
+  auto const root = root_of(document);
+  auto const held = children_of(root);
+  int size = 0;
+  int right = 0;
+  std::vector<int> const sizes = sizes_up_to(70000);
+  for (int const wanted : sizes)
+  {
+    bool const is_appended = append_numbered(document, root, size, wanted);
+    size = wanted;
+    if (!is_appended || !is_numbered(held, size, random) || !is_numbered(children_of(root), size, random))
+      break;
+    ++right;
+  }
+  group.check(right, static_cast<int>(sizes.size()), "list of that many children, for each size", __LINE__,
+    "a list is right around every power of two");
+  group.check(is_chained(root, size), "children one after the other", __LINE__, "many children in both directions");
+  auto const copy = saved_and_loaded(factory, document);
+  group.check(number_of_children(copy), size, "loaded(saved)->getChildNodes()->length()", __LINE__,
+    "many children survive a save and a load");
+  group.check(is_chained(copy, size), "loaded children one after the other", __LINE__, "in their order");
+  auto const found = document != nullptr ? document->getElementsByTagName(numbered(L"c", size - 1)) : nullptr;
+  group.check(length_of(found), 1, "document->getElementsByTagName(last)->length()", __LINE__, "the last one is found");
+  while (size > 60000 && remove(root, last_of(root)) != nullptr)
+  {
+    --size;
+    if (random.once_in(1000) && !is_numbered(held, size, random))
+      break;
+  }
+  group.check(is_numbered(held, 60000, random), "list after removals", __LINE__, "a list that has become shorter");
+}
+
+void axmModelUtest::test_many_attributes(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmModelUtest::test_many_attributes");
+  auto const document = factory->createDocument(APSTRING("root"));
+  auto const root = root_of(document);
+  if (!group.prerequisite(root != nullptr, "root.get()", __LINE__, "Prerequisite: create document"))
+    return;
+  int count = 0;
+  int right = 0;
+  std::vector<int> const sizes = sizes_up_to(2000);
+  for (int const wanted : sizes)
+  {
+    for (; count < wanted; ++count)
+      root->setAttribute(numbered(L"a", count), numbered(L"v", count));
+    if (!has_attributes(root, count))
+      break;
+    ++right;
+  }
+  group.check(right, static_cast<int>(sizes.size()), "map of that many attributes, for each size", __LINE__,
+    "a map is right around every power of two");
+  group.check(has_attributes(saved_and_loaded(factory, document), count), "loaded(saved) has them all", __LINE__,
+    "many attributes survive a save and a load");
+  for (; count > 1000; --count)
+    root->removeAttribute(numbered(L"a", count - 1));
+  group.check(has_attributes(root, count), "map after removals", __LINE__, "a map that has become shorter");
+}
+
+void axmModelUtest::test_long_texts(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmModelUtest::test_long_texts");
+  std::vector<int> const sizes = sizes_up_to(100000);
+  wchar_t const* const ends[] = {L"", L"\u00E4", L"\u20AC", L"\U00010437", L"&<>"};
+  int right = 0;
+  for (int const size : sizes)
+    for (wchar_t const* const end : ends)
+      right += comes_back(factory, long_text(size, end)) ? 1 : 0;
+  group.check(right, static_cast<int>(sizes.size() * std::size(ends)), "texts that come back, of all lengths and ends",
+    __LINE__, "a text of every length comes back, also saved and loaded");
+  right = 0;
+  for (int const size : sizes)
+    right += name_comes_back(factory, long_text(size, L"")) ? 1 : 0;
+  group.check(right, static_cast<int>(sizes.size()), "names that come back, of all lengths", __LINE__,
+    "a name of every length comes back, also saved and loaded");
+}
