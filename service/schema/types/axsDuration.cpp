@@ -3,9 +3,13 @@
 #include "axsDecimal.h"
 
 #include <algorithm>
+#include <charconv>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
+#include <limits>
+#include <system_error>
 
 using Order = axsValue::Order;
 
@@ -213,6 +217,31 @@ bool take_span(std::string_view bytes, Span& span)
   return to_span_part(months, span.months, no_fraction) && to_span_part(seconds, span.seconds, span.fraction);
 }
 
+// About how many seconds a number of months or seconds is; INF where that is beyond a double.
+double about(axsDecimal::Number const& number, double unit)
+{
+  std::string const digits = "0." + number.digits + "e" + std::to_string(number.exponent);
+  double value = 0;
+  auto const read = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  if (read.ec == std::errc::result_out_of_range && number.exponent > 0)
+    value = std::numeric_limits<double>::infinity();
+  return (number.negative ? -value : value) * unit;
+}
+
+// Of spans too large to be computed with: a month is 1/4800 of 400 years, of which it is at most days off. That is nothing beside
+// what they differ by, or they are so near each other that nothing is said.
+Order compare_large(std::string_view left, std::string_view right)
+{
+  double const month_seconds = 146097.0 * 24 * 60 * 60 / 4800;
+  double const months = about(axsDecimal::take(left), month_seconds) - about(axsDecimal::take(right), month_seconds);
+  double const seconds = about(axsDecimal::take(left), 1) - about(axsDecimal::take(right), 1);
+  double const difference = months + seconds;
+  double const certain = (std::abs(months) + std::abs(seconds)) * 1e-6;
+  if (!(std::abs(difference) > certain))
+    return Order::none;
+  return difference < 0 ? Order::less : Order::greater;
+}
+
 // The bytes of the months at the beginning of those of a span.
 std::string_view months_of(std::string_view bytes)
 {
@@ -247,5 +276,5 @@ Order axsDuration::compare(std::string_view left, std::string_view right)
   Span left_span;
   Span right_span;
   return take_span(left, left_span) && take_span(right, right_span) ? compare_spans(left_span, right_span)
-                                                                    : Order::none;
+                                                                    : compare_large(left, right);
 }

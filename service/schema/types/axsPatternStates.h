@@ -23,6 +23,8 @@ public:
   /// How many instructions have been looked at in making states.
   std::uint64_t steps() const noexcept { return reach.steps(); }
 
+  std::size_t memory_taken() const noexcept { return memory; }
+
   /// What states may take together, in bytes, apart from the newest one.
   static constexpr std::size_t max_memory = 512 * 1024;
 
