@@ -94,13 +94,15 @@ Verdict axsTypeChecker::check_any(axsSimpleType const& type, std::string_view te
 Verdict axsTypeChecker::check_atomic(axsSimpleType const& type, std::string_view text, Target& target) const
 {
   // Of the other types, white space inside is wrong anyway, or makes no difference.
-  bool const is_trimmed_only = !is_text(type.primitive()) && type.with_patterns == nullptr;
+  bool const is_its_text = is_text(type.primitive());
+  bool const is_trimmed_only = !is_its_text && type.with_patterns == nullptr;
   std::string buffer;
   std::string_view const literal =
     is_trimmed_only ? axsWhiteSpaces::trimmed(text) : axsWhiteSpaces::normalised(text, type.white_space(), buffer);
 
   std::string own_bytes;
-  std::string* const bytes = target.bytes == nullptr && needs_bytes(type) ? &own_bytes : target.bytes;
+  // A text that is its own value is found among those listed as it is.
+  std::string* const bytes = target.bytes == nullptr && needs_bytes(type) && !is_its_text ? &own_bytes : target.bytes;
   std::size_t const begin = bytes == nullptr ? 0 : bytes->size();
   Counts counts;
   Verdict verdict = read(type, literal, bytes, counts);
@@ -114,7 +116,7 @@ Verdict axsTypeChecker::check_atomic(axsSimpleType const& type, std::string_view
   if (verdict.is_valid() && !made.empty())
     verdict = check_bounds(type, made);
   if (verdict.is_valid() && type.own_enumeration != nullptr)
-    verdict = check_enumeration(type, made);
+    verdict = is_its_text ? check_enumerated_text(type, literal) : check_enumeration(type, made);
   if (verdict.is_valid())
     verdict = check_role(type, literal, target);
   target.active = &type;
@@ -405,4 +407,12 @@ Verdict axsTypeChecker::check_enumeration(axsSimpleType const& type, std::string
 {
   return type.own_enumeration->values.find(bytes) == axsValueSet::none ? against(axsFacetKind::enumeration, type)
                                                                        : valid();
+}
+
+Verdict axsTypeChecker::check_enumerated_text(axsSimpleType const& type, std::string_view literal)
+{
+  auto const first = static_cast<char>(type.primitive());
+  return type.own_enumeration->values.find(first, literal) == axsValueSet::none
+           ? against(axsFacetKind::enumeration, type)
+           : valid();
 }

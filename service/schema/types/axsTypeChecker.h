@@ -76,6 +76,7 @@ private:
   static Verdict check_digits(axsSimpleType const& type, Counts const& counts);
   static Verdict check_bounds(axsSimpleType const& type, std::string_view bytes);
   static Verdict check_enumeration(axsSimpleType const& type, std::string_view bytes);
+  static Verdict check_enumerated_text(axsSimpleType const& type, std::string_view literal);
   static bool needs_bytes(axsSimpleType const& type) noexcept;
   Verdict check_role(axsSimpleType const& type, std::string_view literal, Target& target) const;
 
