@@ -1,0 +1,233 @@
+// Loads documents with axs, pugixml (with its default flags) and libxml2, in turn, in two ways: once in a process of its
+// own, and over and over in one process, each document let go before the next load. Shown are the medians in milliseconds
+// of processor time, and how many times faster axs is than each of the others; at the end the geometric means and the
+// worst.
+//
+//   load_benchmark [--rounds N] FILE...
+
+#include <axmDocumentFactory.h>
+#include <axsRegister.h>
+
+#include <libxml/parser.h>
+#include <pugixml.hpp>
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <string>
+#include <vector>
+
+namespace
+{
+bool load_axs(char const* file)
+{
+  static std::shared_ptr<axmDocumentFactory> const factory = []
+  {
+    axs_register();
+    utServiceName resolved;
+    return utService::locate_service<axmDocumentFactory>(utServiceName(ut_lit("XMLService")), resolved);
+  }();
+  static axmLoadOptions const options(axmValidateNone);
+  axmParseError error;
+  return factory->loadDocument(apPath(file), options, error) != nullptr;
+}
+
+bool load_pugixml(char const* file)
+{
+  pugi::xml_document document;
+  return document.load_file(file);
+}
+
+bool load_libxml2(char const* file)
+{
+  xmlDoc* const document = xmlReadFile(file, nullptr, XML_PARSE_HUGE | XML_PARSE_NOENT);
+  xmlFreeDoc(document);
+  return document != nullptr;
+}
+
+struct Library
+{
+  char const* name;
+  bool (*load)(char const*);
+};
+
+std::array<Library, 3> const libraries = {{{"axs", load_axs}, {"pugixml", load_pugixml}, {"libxml2", load_libxml2}}};
+
+double now()
+{
+  timespec time;
+  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+  return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+}
+
+struct Load
+{
+  double milliseconds = -1;
+  double megabytes = 0;
+};
+
+double peak_megabytes()
+{
+  rusage usage;
+  getrusage(RUSAGE_SELF, &usage);
+  return static_cast<double>(usage.ru_maxrss) / 1024;
+}
+
+Load load_here(Library const& library, char const* file)
+{
+  Load load;
+  double const memory = peak_megabytes();
+  double const start = now();
+  bool const good = library.load(file);
+  load.milliseconds = good ? now() - start : -1;
+  load.megabytes = peak_megabytes() - memory;
+  return load;
+}
+
+double median(std::vector<double> values)
+{
+  std::sort(values.begin(), values.end());
+  return values[values.size() / 2];
+}
+
+// The first load of a process takes memory from the system that later ones find there.
+Load load_often(Library const& library, char const* file, int rounds)
+{
+  load_here(library, file);
+  std::vector<double> times;
+  for (int round = 0; round < rounds; ++round)
+    times.push_back(load_here(library, file).milliseconds);
+  return {median(times), 0};
+}
+
+// What `measure` finds in a process of its own.
+template <class Measure>
+Load apart(Measure const& measure)
+{
+  Load load;
+  int ends[2];
+  if (pipe(ends) != 0)
+    return load;
+  pid_t const child = fork();
+  if (child == 0)
+  {
+    load = measure();
+    bool const written = write(ends[1], &load, sizeof load) == sizeof load;
+    _exit(written ? 0 : 1);
+  }
+  close(ends[1]);
+  if (read(ends[0], &load, sizeof load) != sizeof load)
+    load = Load();
+  close(ends[0]);
+  waitpid(child, nullptr, 0);
+  return load;
+}
+
+using Times = std::array<std::vector<double>, libraries.size()>;
+
+// Of axs against each other library, by the files.
+class Ratios
+{
+public:
+  void add(Times const& times)
+  {
+    for (std::size_t i = 1; i < libraries.size(); ++i)
+      all[i].push_back(median(times[i]) / median(times[0]));
+  }
+
+  void print_last() const
+  {
+    for (std::size_t i = 1; i < libraries.size(); ++i)
+      std::printf(" %8.2f", all[i].back());
+  }
+
+  void print_means(char const* title) const
+  {
+    for (std::size_t i = 1; i < libraries.size(); ++i)
+    {
+      double logarithms = 0;
+      for (double const ratio : all[i])
+        logarithms += std::log(ratio);
+      std::printf("%s against %s: geometric mean %.2f, worst %.2f\n", title, libraries[i].name,
+        std::exp(logarithms / static_cast<double>(all[i].size())), *std::min_element(all[i].begin(), all[i].end()));
+    }
+  }
+
+private:
+  std::array<std::vector<double>, libraries.size()> all;
+};
+
+void print(Times const& times, Ratios const& ratios)
+{
+  for (std::vector<double> const& of_library : times)
+    std::printf(" %8.2f", median(of_library));
+  ratios.print_last();
+}
+
+std::string base_name(std::string const& file)
+{
+  return file.substr(file.find_last_of('/') + 1);
+}
+}
+
+int main(int argc, char** argv)
+{
+  int rounds = 15;
+  int first = 1;
+  if (argc > 2 && std::string(argv[1]) == "--rounds")
+  {
+    rounds = std::atoi(argv[2]);
+    first = 3;
+  }
+  if (first >= argc || rounds < 1)
+  {
+    std::fprintf(stderr, "usage: load_benchmark [--rounds N] FILE...\n");
+    return 2;
+  }
+
+  Ratios alone;
+  Ratios repeated;
+  std::printf("%-30s %44s %44s %26s\n", "", "alone, and axs times faster", "over and over, and axs times faster",
+    "peak memory, MB");
+  for (int i = first; i < argc; ++i)
+  {
+    Times once;
+    Times often;
+    Times memory;
+    for (int round = 0; round < rounds; ++round)
+      for (std::size_t library = 0; library < libraries.size(); ++library)
+      {
+        Load const load = apart([&] { return load_here(libraries[library], argv[i]); });
+        if (load.milliseconds < 0)
+        {
+          std::fprintf(stderr, "%s does not load %s\n", libraries[library].name, argv[i]);
+          return 1;
+        }
+        once[library].push_back(load.milliseconds);
+        memory[library].push_back(load.megabytes);
+      }
+    int const processes = 3;
+    for (int process = 0; process < processes; ++process)
+      for (std::size_t library = 0; library < libraries.size(); ++library)
+        often[library].push_back(apart([&] { return load_often(libraries[library], argv[i], rounds); }).milliseconds);
+    alone.add(once);
+    repeated.add(often);
+    std::printf("%-30s", base_name(argv[i]).c_str());
+    print(once, alone);
+    print(often, repeated);
+    for (std::vector<double> const& of_library : memory)
+      std::printf(" %8.1f", median(of_library));
+    std::printf("\n");
+    std::fflush(stdout);
+  }
+  alone.print_means("alone");
+  repeated.print_means("over and over");
+  return 0;
+}
