@@ -1,5 +1,7 @@
 #include "axsArena.h"
 
+#include <apMemory.h>
+
 #include <algorithm>
 #include <cstdlib>
 #include <utility>
@@ -18,7 +20,10 @@
 
 namespace
 {
-std::size_t const most_pages = 256;
+std::size_t const max_pages = 256;
+
+// Of the system. Where pages come in as much at a time, the system gives them at once if they stand at such a place.
+std::size_t const large_page = 2u << 20;
 
 std::size_t rounded(std::size_t size, std::size_t unit)
 {
@@ -38,6 +43,11 @@ struct alignas(std::max_align_t) axsArena::LargeBlock
   std::size_t size;
 };
 
+std::align_val_t axsArena::alignment_of(std::size_t size) noexcept
+{
+  return std::align_val_t(size > large_page ? large_page : page_size);
+}
+
 axsArena::axsArena(axsTree& owner) noexcept : tree(&owner) {}
 
 axsArena::~axsArena()
@@ -47,7 +57,7 @@ axsArena::~axsArena()
     Page* const page = newest;
     newest = page->older;
     ASAN_UNPOISON_MEMORY_REGION(page, page->pages * page_size);
-    ::operator delete(page, std::align_val_t(page_size));
+    ::operator delete(page, alignment_of(page->pages * page_size));
   }
   while (large != nullptr)
     std::free(std::exchange(large, large->next));
@@ -119,12 +129,14 @@ void axsArena::release_large(void* block) noexcept
 void axsArena::add_pages()
 {
   std::size_t const size = next_pages * page_size;
-  auto* const memory = static_cast<char*>(::operator new(size, std::align_val_t(page_size)));
+  auto* const memory = static_cast<char*>(::operator new(size, alignment_of(size)));
+  if (size > large_page)
+    apMemory::will_fill(memory, size);
   newest = new (memory) Page{tree, newest, next_pages};
   untouched = memory;
   untouched_end = memory + size;
   taken += size;
-  next_pages = std::min(next_pages * 2, most_pages);
+  next_pages = std::min(next_pages * 2, max_pages);
 }
 
 // What is left of the page before is for smaller blocks.

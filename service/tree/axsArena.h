@@ -64,6 +64,7 @@ private:
   // Pages lie at multiples of their size, so that a node finds its document without a pointer of its own.
   static constexpr std::size_t page_size = 16 * 1024;
 
+  static std::align_val_t alignment_of(std::size_t size) noexcept;
   void* allocate_large(std::size_t size);
   void release_large(void* block) noexcept;
   void add_pages();
