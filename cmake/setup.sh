@@ -29,7 +29,7 @@ build_preset() {
   fi
 }
 
-packages_to_build=(g++ cmake ninja-build libcli11-dev libxerces-c-dev)
+packages_to_build=(g++ cmake ninja-build libcli11-dev libxerces-c-dev zlib1g-dev liblzma-dev libzstd-dev)
 packages_to_test=(libgtest-dev locales libxml2-dev abigail-tools clang clang-format-14 g++-mingw-w64-x86-64-posix python3)
 # Whoever has npm from elsewhere keeps it.
 command -v npm > /dev/null || packages_to_test+=(npm)

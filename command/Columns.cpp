@@ -71,9 +71,9 @@ Columns::Columns(std::vector<std::string> const& columns) : count(columns.size()
   }
 }
 
-std::vector<Value> Columns::read(axmAbstractXmlReader& reader) const
+Columns::Values Columns::read(axmAbstractXmlReader& reader) const
 {
-  std::vector<Value> values(count);
+  Values values(count);
   read_element(reader, record, values);
   return values;
 }
@@ -89,7 +89,7 @@ Columns::Element& Columns::child(Element& element, std::string const& name)
 }
 
 // The depth is that of the columns, not that of the document.
-void Columns::read_element(axmAbstractXmlReader& reader, Element const& element, std::vector<Value>& values)
+void Columns::read_element(axmAbstractXmlReader& reader, Element const& element, Values& values)
 {
   for (Element::Attribute const& attribute : element.attributes)
   {

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "RowFormat.h"
-
 #include <axmAbstractXmlReader.h>
+#include <utString.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,6 +16,9 @@
 class Columns
 {
 public:
+  /// What the reader gave; none where the record has no such value.
+  using Values = std::vector<std::optional<utString>>;
+
   /// Why `columns` cannot be read; empty if they can.
   static std::string complaint(std::vector<std::string> const& columns);
 
@@ -24,7 +27,7 @@ public:
 
   /// The values in the element in which `reader` stands, one for each column. The reader stays in that element. When it
   /// is in error afterwards, the values are not to be used.
-  std::vector<Value> read(axmAbstractXmlReader& reader) const;
+  Values read(axmAbstractXmlReader& reader) const;
 
 private:
   struct Element
@@ -42,7 +45,7 @@ private:
   };
 
   static Element& child(Element& element, std::string const& name);
-  static void read_element(axmAbstractXmlReader& reader, Element const& element, std::vector<Value>& values);
+  static void read_element(axmAbstractXmlReader& reader, Element const& element, Values& values);
 
   Element record;
   std::size_t count;

@@ -6,6 +6,14 @@
 #include <algorithm>
 #include <iostream>
 
+namespace
+{
+std::string place_of(axmParseError const& error, std::string const& file)
+{
+  return error.url().empty() ? file : std::string(error.url().to_utf8().view());
+}
+}
+
 std::shared_ptr<axmDocument> load_or_complain(
   axmDocumentFactory const& factory, std::string const& file, axmLoadOptions const& options)
 {
@@ -14,14 +22,23 @@ std::shared_ptr<axmDocument> load_or_complain(
   if (document != nullptr)
     return document;
 
-  std::string const where = error.url().empty() ? file : error.url().to_utf8().c_str();
-  std::cerr << where;
+  complain_about(error, file);
+  return nullptr;
+}
+
+void complain_about(axmParseError const& error, std::string const& file, std::string const& more)
+{
+  complain_in_one_line(error, file, more);
+  if (error.line_number() > 0)
+    std::cerr << shown_place(apPath(place_of(error, file).c_str()), error.line_number(), error.column_number());
+}
+
+void complain_in_one_line(axmParseError const& error, std::string const& file, std::string const& more)
+{
+  std::cerr << place_of(error, file);
   if (error.line_number() > 0)
     std::cerr << ':' << error.line_number() << ':' << std::max(error.column_number(), 1);
-  std::cerr << ": " << shown(error.message().to_utf8().c_str()) << '\n';
-  if (error.line_number() > 0)
-    std::cerr << shown_place(apPath(where.c_str()), error.line_number(), error.column_number());
-  return nullptr;
+  std::cerr << ": " << shown(error.message().to_utf8().c_str()) << more << '\n';
 }
 
 std::shared_ptr<axmDocumentFactory> engine_or_complain()

@@ -6,17 +6,9 @@
 
 namespace
 {
-std::string_view text(Value const& value)
-{
-  return value ? std::string_view(value->c_str(), static_cast<std::size_t>(value->length())) : std::string_view();
-}
-
 std::vector<Value> names(std::vector<std::string> const& columns)
 {
-  std::vector<Value> values;
-  for (std::string const& column : columns)
-    values.emplace_back(utString(column.c_str()));
-  return values;
+  return {columns.begin(), columns.end()};
 }
 
 void append_csv(std::string& line, std::string_view field, bool alone)
@@ -68,7 +60,7 @@ bool is_ascii(std::string_view field)
 
 void append_json(std::string& line, std::string_view field)
 {
-  utString valid;
+  utString valid; // where the field has bytes that are not UTF-8
   if (!is_ascii(field))
   {
     valid = apString::from_utf8(field).to_utf8();
@@ -100,58 +92,64 @@ void append_json(std::string& line, std::string_view field)
 }
 }
 
-std::string CsvFormat::header(std::vector<std::string> const& columns) const
+std::unique_ptr<RowFormat> RowFormat::of(std::string const& name)
 {
-  return row(columns, names(columns));
+  if (name == "tsv")
+    return std::make_unique<TsvFormat>();
+  if (name == "jsonl")
+    return std::make_unique<JsonLinesFormat>();
+  return std::make_unique<CsvFormat>();
 }
 
-std::string CsvFormat::row(std::vector<std::string> const&, std::vector<Value> const& values) const
+void CsvFormat::append_header(std::string& text, std::vector<std::string> const& columns) const
 {
-  std::string line;
-  for (Value const& value : values)
-  {
-    if (&value != &values.front())
-      line += ',';
-    append_csv(line, text(value), values.size() == 1);
-  }
-  return line + "\r\n";
+  append_row(text, columns, names(columns));
 }
 
-std::string TsvFormat::header(std::vector<std::string> const& columns) const
+void CsvFormat::append_row(std::string& text, std::vector<std::string> const&, std::vector<Value> const& values) const
 {
-  return row(columns, names(columns));
-}
-
-std::string TsvFormat::row(std::vector<std::string> const&, std::vector<Value> const& values) const
-{
-  std::string line;
-  for (Value const& value : values)
-  {
-    if (&value != &values.front())
-      line += '\t';
-    append_tsv(line, text(value));
-  }
-  return line + '\n';
-}
-
-std::string JsonLinesFormat::header(std::vector<std::string> const&) const
-{
-  return {}; // every row has the names
-}
-
-std::string JsonLinesFormat::row(std::vector<std::string> const& columns, std::vector<Value> const& values) const
-{
-  std::string line = "{";
   for (std::size_t i = 0; i < values.size(); ++i)
   {
     if (i > 0)
-      line += ',';
-    append_json(line, columns[i]);
-    line += ':';
-    if (values[i])
-      append_json(line, text(values[i]));
-    else
-      line += "null";
+      text += ',';
+    append_csv(text, values[i].value_or(std::string_view()), values.size() == 1);
   }
-  return line + "}\n";
+  text += "\r\n";
+}
+
+void TsvFormat::append_header(std::string& text, std::vector<std::string> const& columns) const
+{
+  append_row(text, columns, names(columns));
+}
+
+void TsvFormat::append_row(std::string& text, std::vector<std::string> const&, std::vector<Value> const& values) const
+{
+  for (std::size_t i = 0; i < values.size(); ++i)
+  {
+    if (i > 0)
+      text += '\t';
+    append_tsv(text, values[i].value_or(std::string_view()));
+  }
+  text += '\n';
+}
+
+// Every row has the names.
+void JsonLinesFormat::append_header(std::string&, std::vector<std::string> const&) const {}
+
+void JsonLinesFormat::append_row(
+  std::string& text, std::vector<std::string> const& columns, std::vector<Value> const& values) const
+{
+  text += '{';
+  for (std::size_t i = 0; i < values.size(); ++i)
+  {
+    if (i > 0)
+      text += ',';
+    append_json(text, columns[i]);
+    text += ':';
+    if (values[i])
+      append_json(text, *values[i]);
+    else
+      text += "null";
+  }
+  text += "}\n";
 }

@@ -26,7 +26,7 @@ echo "axm at work, on the samples in examples/"
 
 show "Fields out of a file, a row a record:" \
   table books.xml catalog/book @id title author/name year
-show "The same as JSON lines, from attributes of elements that close themselves:" \
+show "The same as JSON lines, from another document:" \
   table stations.xml network/station @id @lat --format jsonl
 show "Is a document well-formed, and valid by a schema?" \
   check books.xml --no-namespace-schema books.xsd

@@ -80,6 +80,22 @@ void axsInputStack::read_on()
   innermost();
 }
 
+axsInputStack::Mark axsInputStack::mark() const
+{
+  Input const& input = inputs.back();
+  if (internal)
+    return {{}, static_cast<std::size_t>(at - input.entity->parsed.get()), all_bounds.count()};
+  return {input.buffer->mark(at), 0, all_bounds.count()};
+}
+
+void axsInputStack::return_to(Mark const& mark)
+{
+  Input const& input = inputs.back();
+  at = internal ? input.entity->parsed.get() + mark.in_text : input.buffer->return_to(mark.in_file);
+  all_bounds.reset(mark.count);
+  innermost();
+}
+
 void axsInputStack::open(axsEntity& entity, char const* reference)
 {
   std::string const name = axsMessages::quoted(entity.name);

@@ -51,6 +51,9 @@ public:
   /// may have every character.
   bool is_internal() const noexcept { return internal; }
 
+  /// The encoding of the document.
+  std::string const& encoding() const noexcept { return inputs.front().buffer->encoding().name; }
+
   /// How many entities are open.
   std::size_t depth() const noexcept { return inputs.size() - 1; }
 
@@ -62,6 +65,16 @@ public:
 
   /// Reads on, keeping what stands from `at` on. Throws axsReadError where what comes is not in its encoding.
   void read_on();
+
+  /// A place in the innermost input to which return_to() can go back, as long as that is open.
+  struct Mark
+  {
+    axsInputBuffer::Mark in_file;
+    std::size_t in_text;
+    axsBounds::Count count;
+  };
+  Mark mark() const;
+  void return_to(Mark const& mark);
 
   /// Opens the entity to which the reference at `reference` refers, which ends at `at` in the innermost input: reading
   /// goes on in it. Counts it. Throws axsReadError where the entity is open already (4.1, WFC: No Recursion), cannot be

@@ -46,26 +46,35 @@ bool axsParser::step()
 {
   has_told = false;
   while (!has_told && state != State::end)
-  {
-    axsBounds::Count const count = in.bounds().count();
-    try
-    {
-      if (in.has_fewer(few))
-        read_on();
-      piece();
-    }
-    catch (axsInputStack::NeedsMore const&)
-    {
-      in.bounds().reset(count);
-      normal.resize(kept);
-      read_on();
-    }
-  }
+    advance();
   return has_told;
+}
+
+void axsParser::advance()
+{
+  axsBounds::Count const count = in.bounds().count();
+  try
+  {
+    if (in.has_fewer(few))
+      read_on();
+    piece();
+  }
+  catch (axsInputStack::NeedsMore const&)
+  {
+    in.bounds().reset(count);
+    normal.resize(kept);
+    read_on();
+  }
 }
 
 // The lines of elements whose beginning is let go are counted now: each once, and only of those that are still open.
 void axsParser::read_on()
+{
+  count_lines();
+  in.read_on();
+}
+
+void axsParser::count_lines()
 {
   std::size_t first = open.size();
   while (first > 0 && open[first - 1].at != nullptr && open[first - 1].depth == in.depth())
@@ -75,7 +84,26 @@ void axsParser::read_on()
     open[first].line = in.place(open[first].at).line;
     open[first].at = nullptr;
   }
-  in.read_on();
+}
+
+axsParser::Next axsParser::next()
+{
+  if (state != State::content)
+    return Next::end;
+  if (in.has_fewer(few))
+    read_on();
+  if (*in.at != '<' || (is_in_text && kept > 0) || in.is_end(in.at))
+    return Next::other;
+  char const second = in.at[1];
+  if (second == '/')
+    return Next::end_tag;
+  return second == '!' || second == '?' ? Next::other : Next::start_tag;
+}
+
+void axsParser::return_to(Mark const& mark)
+{
+  count_lines();
+  in.return_to(mark);
 }
 
 void axsParser::piece()

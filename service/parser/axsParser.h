@@ -44,8 +44,33 @@ public:
   /// Reads on until there was something to tell. False when the document has ended.
   bool step();
 
+  /// Reads on by the smallest piece, of which there may be nothing to tell.
+  void advance();
+
   /// Reads all of the document.
   void run();
+
+  /// What comes next in the content of the root element, before advance() reads it.
+  enum class Next
+  {
+    start_tag,
+    end_tag,
+    other,
+    end // the root element has ended
+  };
+  Next next();
+
+  /// The encoding of the document, as it is declared or found out.
+  std::string const& encoding() const noexcept { return in.encoding(); }
+
+  /// A place in the content of the innermost open element.
+  using Mark = axsInputStack::Mark;
+  Mark mark() const { return in.mark(); }
+
+  /// Goes on from `mark` again, which was made in the element that is the innermost open one now, and in whose content
+  /// reading stands outside of all entities that its content refers to: before a tag of its own. Throws axsReadError
+  /// where what was read cannot be read again; see axsSource::seek().
+  void return_to(Mark const& mark);
 
 private:
   enum class State
@@ -73,6 +98,7 @@ private:
   axsPlace end() const override { return in.place(event_end); }
 
   void read_on();
+  void count_lines();
   void piece();
   void read_begin();
   void outside();

@@ -43,8 +43,7 @@ void axsAttributeReader::fill(axsSchemaSymbol& symbol)
   decl.type = type_of(*symbol.unit, *symbol.element);
   decl.constraint = axsSchemaConstraint::read(context, *symbol.element, *decl.type);
   decl.place = symbol.element->place;
-  if (decl.place.file != 0) // those of the instance namespace are built in
-    check_name(decl.name, decl.place);
+  check_name(decl.name, symbol.element->place);
 }
 
 // no-xmlns and no-xsi.

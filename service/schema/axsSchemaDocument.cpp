@@ -4,9 +4,10 @@
 #include "axsName.h"
 #include "axsNameTable.h"
 #include "axsParseHandler.h"
-#include "axsParser.h"
+#include "axsScanner.h"
 #include "axsSource.h"
 #include "axsStartTag.h"
+#include "axsXercesParser.h"
 
 #include <algorithm>
 #include <cstring>
@@ -235,8 +236,17 @@ axsSchemaPlace axsSchemaDocument::Builder::place(axsPlace given) const
 
 axsSchemaDocument::axsSchemaDocument(axsSource& source, std::uint32_t file) : number(file)
 {
+  {
+    Builder builder(*this);
+    if (source.can_rewind() && axsScanner::scan(source, axmLoadOptions(), builder))
+    {
+      root_element = builder.root();
+      return;
+    }
+  }
+  source.rewind();
   Builder builder(*this);
-  axsParser(source, axmLoadOptions(), builder).run();
+  axsXercesParser::parse(source, axmLoadOptions(), builder);
   root_element = builder.root();
 }
 

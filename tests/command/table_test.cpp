@@ -13,13 +13,13 @@
 
 namespace
 {
-// Runs `axm table` on a document that is the root element given.
+// Runs `axm table` on a document.
 class Table : public testing::Test
 {
 protected:
-  ProgramRun table(std::string const& root, std::vector<std::string> const& arguments)
+  ProgramRun table(std::string const& text, std::vector<std::string> const& arguments)
   {
-    TemporaryFile const file(document, "<?xml version='1.0' encoding='utf-8'?>\n" + root + "\n");
+    TemporaryFile const file(document, text);
     return table_of(file.name, arguments);
   }
 
@@ -37,135 +37,81 @@ protected:
 std::string const books =
   "<books>\n"
   "  <book id='1' lang='en'><title>One, \"two\"</title><author><name first='A'>B</name></author></book>\n"
-  "  <book id='2'><author><name first='C'>D</name></author><title>Three\nfour</title></book>\n"
-  "  <book id='3'></book>\n"
+  "  <book id='2'><author><name first='C'>D</name></author><title>Three\nfour &amp; five</title></book>\n"
+  "  <books id='8'/><book id='3'/>\n"
   "</books>";
 }
 
 TEST_F(Table, writes_one_csv_row_for_each_record)
 {
-  ProgramRun const run = table(books, {"books/book", "@id", "title", "author/name", "author/name/@first"});
+  ProgramRun const run = table(books, {"books/book", "author/name", "@id", "title", "author/name/@first"});
   EXPECT_EQ(run.exit_code, 0);
-  EXPECT_EQ(run.out, "1,\"One, \"\"two\"\"\",B,A\r\n2,\"Three\nfour\",D,C\r\n3,,,\r\n");
+  EXPECT_EQ(run.out, "B,1,\"One, \"\"two\"\"\",A\r\nD,2,\"Three\nfour & five\",C\r\n,3,,\r\n");
   EXPECT_EQ(run.err, "");
 }
 
-TEST_F(Table, columns_may_stand_before_the_previous_one)
+TEST_F(Table, documents_with_a_type_a_mark_and_no_declaration_have_rows)
 {
-  ProgramRun const run = table(books, {"books/book", "author/name", "title", "author/name/@first", "@lang", "@id"});
-  EXPECT_EQ(run.out, "B,\"One, \"\"two\"\"\",A,en,1\r\nD,\"Three\nfour\",C,,2\r\n,,,,3\r\n");
-}
-
-TEST_F(Table, a_column_is_the_first_child_wherever_the_previous_column_was)
-{
-  ProgramRun const run = table("<r><a>1</a><b>2</b><a>3</a></r>", {"r", "b", "a"});
-  EXPECT_EQ(run.out, "2,1\r\n");
-}
-
-TEST_F(Table, a_child_that_is_missing_does_not_hide_the_others)
-{
-  ProgramRun const run = table("<r><a>1</a><b>2</b></r>", {"r", "b", "x", "y/z", "a"});
-  EXPECT_EQ(run.out, "2,,,1\r\n");
-}
-
-TEST_F(Table, records_may_lie_deep_and_under_several_parents)
-{
-  ProgramRun const run = table(
-    "<r><g><s><i k='1'/><i k='2'/></s></g><h/><g></g><g><s><i k='3'/></s><s><i k='4'/></s></g></r>", {"r/g/s/i", "@k"});
+  ProgramRun const run = table("\xEF\xBB\xBF<!DOCTYPE r [<!ENTITY e 'E'>]><r><a k='&e;'/></r>", {"r/a", "@k"});
   EXPECT_EQ(run.exit_code, 0);
-  EXPECT_EQ(run.out, "1\r\n2\r\n3\r\n4\r\n");
+  EXPECT_EQ(run.out, "E\r\n");
 }
 
-TEST_F(Table, the_record_may_be_the_root)
+TEST_F(Table, jsonl_has_null_where_there_is_no_value)
 {
-  ProgramRun const run = table("<r k='1'>text</r>", {"r", "@k", "."});
-  EXPECT_EQ(run.out, "1,text\r\n");
-}
-
-TEST_F(Table, the_text_of_the_record_goes_with_columns_before_it)
-{
-  ProgramRun const run = table("<r><a>1</a>text<b>2</b></r>", {"r", ".", "b", "a"});
-  EXPECT_EQ(run.out, "text,2,1\r\n");
-}
-
-TEST_F(Table, a_path_that_leads_nowhere_gives_no_rows)
-{
-  ProgramRun const run = table(books, {"books/film", "@id"});
-  EXPECT_EQ(run.exit_code, 0);
-  EXPECT_EQ(run.out, "");
-  EXPECT_EQ(run.err, "");
-}
-
-TEST_F(Table, a_row_of_one_empty_field_is_quoted)
-{
-  ProgramRun const run = table("<r><a k=''></a><a k='x'></a></r>", {"r/a", "@k"});
-  EXPECT_EQ(run.out, "\"\"\r\nx\r\n");
+  ProgramRun const run = table("<r><a k=''><b/></a></r>", {"r/a", "@k", "b", "c", "--format", "jsonl"});
+  EXPECT_EQ(run.out, "{\"@k\":\"\",\"b\":\"\",\"c\":null}\n");
 }
 
 TEST_F(Table, header_comes_first)
 {
-  ProgramRun const run = table(books, {"books/book", "@id", "@lang", "--header"});
-  EXPECT_EQ(run.out, "@id,@lang\r\n1,en\r\n2,\r\n3,\r\n");
+  ProgramRun const run = table(books, {"books/book", "@id", "@lang", "--header", "--format", "tsv"});
+  EXPECT_EQ(run.out, "@id\t@lang\n1\ten\n2\t\n3\t\n");
 }
 
-TEST_F(Table, tsv_escapes_what_would_break_a_line)
+TEST_F(Table, a_value_can_stand_for_what_is_missing)
 {
-  ProgramRun const run = table("<r><a k='1\t2\n3\r4\\5'></a></r>", {"r/a", "@k", "@x", "--format", "tsv"});
+  EXPECT_EQ(table(books, {"books/book", "@id", "@lang", "--missing", "?"}).out, "1,en\r\n2,?\r\n3,?\r\n");
+}
+
+TEST_F(Table, children_that_repeat_are_the_first_or_joined_or_rows)
+{
+  std::string const text = "<r><e id='1'><t k='a' v='1'/><t k='b'/></e></r>";
+  EXPECT_EQ(table(text, {"r/e", "@id", "t/@k", "t/@v"}).out, "1,a,1\r\n");
+  EXPECT_EQ(table(text, {"r/e", "@id", "t/@k", "t/@v", "--repeat", "join=;"}).out, "1,a;b,1\r\n");
+  EXPECT_EQ(table(text, {"r/e", "@id", "t/@k", "t/@v", "--repeat", "rows"}).out, "1,a,1\r\n1,b,\r\n");
+}
+
+TEST_F(Table, prefixes_stand_for_the_namespaces_that_are_given)
+{
+  ProgramRun const run = table("<r xmlns='urn:x=y'><e k='1'/></r>", {"p:r/p:e", "@k", "--ns", "p=urn:x=y"});
+  EXPECT_EQ(run.exit_code, 0) << run.err;
+  EXPECT_EQ(run.out, "1\r\n");
+}
+
+TEST_F(Table, several_documents_make_one_table)
+{
+  TemporaryFile const other(name + "_2.xml", "<r><e k='2'/></r>");
+  ProgramRun const run = table("<r><e k='1'/></r>", {"r/e", "@k", "--header", "--more", other.name});
   EXPECT_EQ(run.exit_code, 0);
-  EXPECT_EQ(run.out, "1\\t2\\n3\\r4\\\\5\t\n");
+  EXPECT_EQ(run.out, "@k\r\n1\r\n2\r\n");
 }
 
-TEST_F(Table, jsonl_writes_objects_with_null_for_what_is_missing)
+TEST_F(Table, rows_before_an_error_are_written_and_counted_and_the_error_has_its_place)
 {
-  ProgramRun const run =
-    table("<r><a k='say \"x\\y\"\n'><b></b></a></r>", {"r/a", "@k", "b", "c", "--format", "jsonl"});
-  EXPECT_EQ(run.out, "{\"@k\":\"say \\\"x\\\\y\\\"\\n\",\"b\":\"\",\"c\":null}\n");
-}
-
-TEST_F(Table, jsonl_is_utf8)
-{
-  ProgramRun const run = table("<r><a k='\xC3\xA4\xE4\x01'></a></r>", {"r/a", "@k", "--format", "jsonl"});
-  EXPECT_EQ(run.out, "{\"@k\":\"\xC3\xA4\xEF\xBF\xBD\\u0001\"}\n");
-}
-
-TEST_F(Table, values_stay_as_they_are_written)
-{
-  ProgramRun const run = table("<r><a k='&lt;&#65;'>&amp; </a></r>", {"r/a", "@k", "."});
-  EXPECT_EQ(run.out, "&lt;&#65;,&amp; \r\n");
-}
-
-TEST_F(Table, rows_before_an_error_are_written_and_counted)
-{
-  ProgramRun const run = table("<r><a k='1'></a><a k='2'></a><a k='3'></b></a></r>", {"r/a", "@k"});
+  ProgramRun const run = table("<r><a k='1'/>\n<a k='2'/>\n<a k='3'></b></r>", {"r/a", "@k"});
   EXPECT_EQ(run.exit_code, 1);
-  EXPECT_EQ(run.out, "1\r\n2\r\n3\r\n");
-  EXPECT_EQ(run.err, "axm: " + document + ": axmTagException:: Something wrong with tag a; rows read before that: 3\n");
+  EXPECT_EQ(run.out, "1\r\n2\r\n");
+  EXPECT_EQ(run.err.find(document + ":3:"), 0u) << run.err;
+  EXPECT_NE(run.err.find("; rows read before that: 2\n"), std::string::npos) << run.err;
+  EXPECT_NE(run.err.find("<a k='3'></b>"), std::string::npos) << run.err;
 }
 
-TEST_F(Table, a_record_that_cannot_be_read_is_no_row)
+TEST_F(Table, what_is_wrong_after_the_last_record_is_an_error_too)
 {
-  ProgramRun const run = table("<r><a k='1'></a><a k='2'/></r>", {"r/a", "@k", "@x"});
+  ProgramRun const run = table("<r><a k='1'/></r><", {"r/a", "@k"});
   EXPECT_EQ(run.exit_code, 1);
-  EXPECT_EQ(run.out, "1,\r\n");
-  EXPECT_EQ(run.err,
-    "axm: " + document + ": axmEndException:: Xml reader moved of the end of the file; rows read before that: 1\n");
-}
-
-TEST_F(Table, an_error_without_a_text_of_its_own_gets_one)
-{
-  ProgramRun const run = table("<r><a k='1'></a><!--a--b--></r>", {"r/a", "@k"});
-  EXPECT_EQ(run.exit_code, 1);
-  EXPECT_EQ(run.err, "axm: " + document + ": a character that must be there is missing; rows read before that: 1\n");
-}
-
-TEST_F(Table, an_error_of_a_document_type_has_a_hint)
-{
-  std::string const hint =
-    "; rows read before that: 0; the streaming reader cannot pass a DOCTYPE, but 'axm select' can\n";
-  ProgramRun const run = table("<!DOCTYPE r><r><a k='1'></a></r>", {"r/a", "@k"});
-  EXPECT_EQ(run.exit_code, 1);
-  EXPECT_NE(run.err.find(hint), std::string::npos) << run.err;
-  EXPECT_EQ(table("<r><a k='1'></b></r>", {"r/a/c", "@k"}).err.find("DOCTYPE"), std::string::npos);
+  EXPECT_EQ(run.out, "1\r\n");
 }
 
 TEST_F(Table, a_file_that_is_not_there_is_an_error)
@@ -173,88 +119,44 @@ TEST_F(Table, a_file_that_is_not_there_is_an_error)
   ProgramRun const run = table_of("no such file.xml", {"r", "@k"});
   EXPECT_EQ(run.exit_code, 1);
   EXPECT_EQ(run.out, "");
-  EXPECT_EQ(run.err, "axm: no such file.xml: cannot be read\n");
+  EXPECT_NE(run.err.find("no such file.xml"), std::string::npos) << run.err;
 }
 
-TEST_F(Table, a_file_in_utf16_is_an_error)
+TEST_F(Table, data_that_is_compressed_but_cut_off_is_an_error)
 {
-  TemporaryFile const file(document, "<?xml version='1.0' encoding='UTF-16'?><r></r>\n");
-  ProgramRun const run = table_of(file.name, {"r", "@k"});
+  ProgramRun const run = table(std::string("\x1F\x8B\x08\0\0\0\0\0\0\x03", 10), {"r", "@k"});
   EXPECT_EQ(run.exit_code, 1);
-  EXPECT_EQ(run.err, "axm: " + document + ": is in UTF-16, which this reader does not read\n");
-}
-
-TEST_F(Table, a_file_without_a_declaration_is_an_error)
-{
-  TemporaryFile const file(document, "<r></r>\n");
-  ProgramRun const run = table_of(file.name, {"r", "@k"});
-  EXPECT_EQ(run.exit_code, 1);
-  EXPECT_EQ(run.err, "axm: " + document +
-                       ": no XML declaration with a version stands at the very beginning, byte-order mark included "
-                       "(a character that must be there is missing)\n");
-}
-
-TEST_F(Table, output_goes_to_a_file)
-{
-  std::string const output = name + ".csv";
-  ProgramRun const run = table(books, {"books/book", "@id", "--output", output});
-  EXPECT_EQ(run.exit_code, 0);
-  EXPECT_EQ(run.out, "");
-  EXPECT_EQ(contents_of(output), "1\r\n2\r\n3\r\n");
-  EXPECT_TRUE(apPath(output.c_str()).delete_file());
-}
-
-TEST_F(Table, output_of_a_document_with_an_error_has_the_rows_before_it)
-{
-  TemporaryFile const output(name + ".csv", "old");
-  ProgramRun const run = table("<r><a k='1'></a></s></r>", {"r/a", "@k", "--output", output.name});
-  EXPECT_EQ(run.exit_code, 1);
-  EXPECT_EQ(contents_of(output.name), "1\r\n");
-}
-
-TEST_F(Table, output_stays_as_it_was_when_nothing_could_be_read)
-{
-  TemporaryFile const output(name + ".csv", "old");
-  ProgramRun const run = table_of("no such file.xml", {"r", "@k", "--output", output.name});
-  EXPECT_EQ(run.exit_code, 1);
-  EXPECT_EQ(contents_of(output.name), "old");
-}
-
-TEST_F(Table, output_that_cannot_be_written_is_an_error)
-{
-  ProgramRun const run = table(books, {"books/book", "@id", "--output", "no such folder/x.csv"});
-  EXPECT_EQ(run.exit_code, 1);
-  EXPECT_EQ(run.err, "axm: no such folder/x.csv: cannot be written\n");
+  EXPECT_NE(run.err.find("compressed"), std::string::npos) << run.err;
 }
 
 #if defined(__linux__)
-TEST_F(Table, output_to_a_full_device_is_an_error)
+// The formats' own commands make what is read here.
+TEST_F(Table, compressed_documents_and_standard_input_are_read)
 {
-  ProgramRun const run = table(books, {"books/book", "@id", "--output", "/dev/full"});
-  EXPECT_EQ(run.exit_code, 1);
-  EXPECT_EQ(run.err, "axm: /dev/full: cannot be written\n");
-}
-
-TEST_F(Table, output_to_a_device_leaves_the_device_in_place)
-{
-  ProgramRun const run = table(books, {"books/book", "@id", "--output", "/dev/null"});
-  EXPECT_EQ(run.exit_code, 0);
-  EXPECT_EQ(contents_of("/dev/null"), "");
+  TemporaryFile const file(document, books);
+  for (char const* const compress : {"cat", "gzip -c", "xz -c", "zstd -qc"})
+  {
+    std::string const packed = name + ".packed";
+    if (std::system((std::string("command -v ") + compress + " >/dev/null").c_str()) != 0)
+      continue;
+    ASSERT_EQ(std::system((std::string(compress) + " < " + document + " > " + packed).c_str()), 0);
+    EXPECT_EQ(table_of(packed, {"books/book", "@id"}).out, "1\r\n2\r\n3\r\n") << compress;
+    std::string const out = name + ".out";
+    ASSERT_EQ(std::system(("cat " + packed + " | " AXM_PROGRAM " table - books/book @id > " + out).c_str()), 0)
+      << compress;
+    EXPECT_EQ(contents_of(out), "1\r\n2\r\n3\r\n") << compress;
+    apPath(packed.c_str()).delete_file();
+    apPath(out.c_str()).delete_file();
+  }
 }
 #endif
-
-TEST_F(Table, names_of_files_may_go_beyond_ascii)
-{
-  TemporaryFile const file(name + "_\xC3\xA4\xE2\x82\xAC.xml", "<?xml version='1.0'?><r k='1'></r>\n");
-  ProgramRun const run = table_of(file.name, {"r", "@k"});
-  EXPECT_EQ(run.exit_code, 0);
-  EXPECT_EQ(run.out, "1\r\n");
-}
 
 TEST_F(Table, wrong_usage_is_exit_code_2)
 {
   std::vector<std::vector<std::string>> const wrong = {{"r"}, {"r", "@k", "--format", "xls"}, {"r//a", "@k"},
-    {"r", "@"}, {"r", "@a/b"}, {"r", "a//b"}, {"r", "@k", "@k"}, {"r", "@k", "--unknown"}};
+    {"r", "@"}, {"r", "@a/b"}, {"r", "a//b"}, {"r", "@k", "@k"}, {"r", "@k", "--unknown"}, {"r", "@k", "--ns", "x"},
+    {"r", "@k", "--repeat", "last"}, {"r", "@k", "--reader", "other"}, {"r", "*"},
+    {"r", "@k", "--reader", "simple", "--repeat", "rows"}};
   for (auto const& arguments : wrong)
   {
     ProgramRun const run = table("<r k='1'></r>", arguments);
@@ -273,7 +175,6 @@ TEST_F(Table, help_has_two_examples)
   EXPECT_NE(run.out.find("axm table map.osm osm/node @id @lat @lon"), std::string::npos);
   EXPECT_NE(run.out.find("axm table books.xml catalog/book @id title author/name --format jsonl"), std::string::npos);
 }
-
 TEST(Progress, line_tells_rows_and_time)
 {
   EXPECT_EQ(Progress::line(1234567, std::chrono::milliseconds(12345)), "1234567 rows, 12.3 s");
@@ -282,6 +183,8 @@ TEST(Progress, line_tells_rows_and_time)
 TEST(RowFormat, csv_quotes_what_has_to_be_quoted)
 {
   CsvFormat const format;
-  std::vector<Value> const values = {utString("plain"), utString("a,b"), utString("\""), utString("\r"), Value()};
-  EXPECT_EQ(format.row({"1", "2", "3", "4", "5"}, values), "plain,\"a,b\",\"\"\"\",\"\r\",\r\n");
+  std::vector<Value> const values = {"plain", "a,b", "\"", "\r", Value()};
+  std::string text;
+  format.append_row(text, {"1", "2", "3", "4", "5"}, values);
+  EXPECT_EQ(text, "plain,\"a,b\",\"\"\"\",\"\r\",\r\n");
 }

@@ -19,3 +19,9 @@ std::unique_ptr<axsDecoder> axsDecoder::make(std::string_view name)
     return std::make_unique<axsUnicodeDecoder<4, axsByteOrder::big>>();
   return axsSystemDecoder::make(name);
 }
+
+bool axsDecoder::has_states(std::string_view name) noexcept
+{
+  bool const is_ours = axsSingleByteSets::find(name) != nullptr || name.substr(0, 4) == "UTF-";
+  return !is_ours;
+}

@@ -27,6 +27,10 @@ public:
   /// std::bad_alloc when memory runs out.
   static std::unique_ptr<axsDecoder> make(std::string_view name);
 
+  /// Whether what a byte means depends on more than the character it is in, as in ISO-2022-JP: then a decoder cannot begin
+  /// in the middle. Taken for true of what the system converts.
+  static bool has_states(std::string_view name) noexcept;
+
   axsDecoder() = default;
   axsDecoder(axsDecoder const&) = delete;
   axsDecoder& operator=(axsDecoder const&) = delete;

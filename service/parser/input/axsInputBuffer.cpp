@@ -37,6 +37,22 @@ axsPlace axsInputBuffer::place(char const* at) const noexcept
   return known_place;
 }
 
+char const* axsInputBuffer::return_to(Mark const& mark)
+{
+  if (mark.position >= passed)
+    return begin() + (mark.position - passed);
+  source.seek(mark.position);
+  std::memset(bytes.get(), 0, axsLineEnds::bytes_before);
+  passed = mark.position;
+  begin_place = mark.place;
+  known = begin();
+  known_place = mark.place;
+  filled = 0;
+  last = false;
+  fill();
+  return begin();
+}
+
 char const* axsInputBuffer::advance(char const* from)
 {
   if (!source.fault().empty())

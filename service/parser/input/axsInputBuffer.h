@@ -53,6 +53,18 @@ public:
   /// encoding of the document, std::bad_alloc when memory runs out.
   char const* advance(char const* from);
 
+  /// A place to which return_to() can go back.
+  struct Mark
+  {
+    std::uint64_t position;
+    axsPlace place;
+  };
+  Mark mark(char const* at) const noexcept { return {position(at), place(at)}; }
+
+  /// Reads again from `mark` on, which must be at the beginning of a character. Returns where that stands now. Throws as
+  /// axsSource::seek() does.
+  char const* return_to(Mark const& mark);
+
 private:
   void fill();
 

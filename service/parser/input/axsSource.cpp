@@ -1,5 +1,6 @@
 #include "axsSource.h"
 
+#include "axsByteStream.h"
 #include "axsReadError.h"
 
 #include <algorithm>
@@ -72,6 +73,15 @@ axsSource::axsSource(apPath const& file) : path(file)
     close();
 }
 
+axsSource::axsSource(axsByteStream& given, apPath const& name) : path(name), bytes(&given)
+{
+  kept.resize(head_size);
+  kept.resize(read_file(kept.data(), kept.size()));
+  present = {kept.data(), kept.size()};
+  if (kept.size() < head_size)
+    close();
+}
+
 axsSource::~axsSource()
 {
   close();
@@ -82,15 +92,16 @@ void axsSource::close() noexcept
   if (stream != nullptr)
     std::fclose(stream);
   stream = nullptr;
+  bytes = nullptr;
 }
 
 std::string_view axsSource::whole()
 {
-  while (stream != nullptr)
+  while (is_open())
   {
     std::size_t const before = kept.size();
     // One more than there should be shows the end.
-    std::size_t const rest = rest_of(stream);
+    std::size_t const rest = stream == nullptr ? 0 : rest_of(stream);
     std::size_t const room = rest == 0 ? before : rest + 1;
     kept.resize(before + room);
     std::size_t const more = read_file(kept.data() + before, room);
@@ -128,28 +139,93 @@ bool axsSource::has_stray_zero() const noexcept
   return zero_seen && present.substr(0, 4).find('\0') == std::string_view::npos;
 }
 
+void axsSource::keep_what_is_read()
+{
+  before_recent = present.size();
+  keeps = is_open() && !move_to(before_recent);
+}
+
+void axsSource::seek(std::uint64_t to)
+{
+  bool const is_here = !is_open() || move_to(std::max<std::uint64_t>(to, present.size()));
+  bool const is_kept = keeps && (to >= before_recent || before_recent == present.size());
+  if (!is_here && !is_kept)
+    throw axsReadError{APSTRING("What was read cannot be read again: of a pipe, the last 32 MiB are kept"), url()};
+  position = to;
+}
+
+// False where there are no places to go to, as in a pipe.
+bool axsSource::move_to(std::uint64_t to)
+{
+  if (bytes != nullptr)
+    return bytes->seek(to);
+#if defined(_WIN32)
+  return _fseeki64(stream, static_cast<std::int64_t>(to), SEEK_SET) == 0;
+#else
+  return fseeko(stream, static_cast<off_t>(to), SEEK_SET) == 0;
+#endif
+}
+
 std::size_t axsSource::read_next(char* to, std::size_t size)
 {
   if (position < present.size())
   {
-    std::size_t const count = std::min(size, present.size() - position);
-    std::memcpy(to, present.data() + position, count);
+    std::size_t const from = static_cast<std::size_t>(position);
+    std::size_t const count = std::min(size, present.size() - from);
+    std::memcpy(to, present.data() + from, count);
     position += count;
     return count;
   }
-  if (stream == nullptr)
+  if (position < before_recent + recent.size() && position >= before_recent)
+  {
+    std::size_t const from = static_cast<std::size_t>(position - before_recent);
+    std::size_t const count = recent.copy(to, size, from);
+    position += count;
+    return count;
+  }
+  if (!is_open())
     return 0;
   // What was kept of the beginning has been read.
   std::size_t const count = read_file(to, size);
   position += count;
+  remember(to, count);
   return count;
+}
+
+void axsSource::remember(char const* read, std::size_t size)
+{
+  if (!keeps)
+    return;
+  recent.append(read, size);
+  if (recent.size() > 2 * max_kept)
+  {
+    before_recent += recent.size() - max_kept;
+    recent.erase(0, recent.size() - max_kept);
+  }
 }
 
 // Fewer bytes than asked for mean the end of the file.
 std::size_t axsSource::read_file(char* to, std::size_t size)
 {
+  if (bytes != nullptr)
+    return read_stream(to, size);
   std::size_t const count = std::fread(to, 1, size, stream);
   if (count < size && std::ferror(stream) != 0)
     fail(L"Cannot read the file ", path, errno);
+  return count;
+}
+
+std::size_t axsSource::read_stream(char* to, std::size_t size)
+{
+  std::size_t count = 0;
+  while (count < size)
+  {
+    std::size_t const more = bytes->read(to + count, size - count);
+    if (apString const fault = bytes->fault(); !fault.empty())
+      throw axsReadError{fault, url()};
+    if (more == 0)
+      break;
+    count += more;
+  }
   return count;
 }

@@ -47,6 +47,12 @@ axsUtf8Source::~axsUtf8Source() = default;
 
 std::size_t axsUtf8Source::read(char* to, std::size_t room)
 {
+  if (!surplus.empty())
+  {
+    std::size_t const count = surplus.copy(to, room);
+    surplus.erase(0, count);
+    return count;
+  }
   if (!wrong.empty())
     return 0;
   return decoder == nullptr ? read_utf8(to, room) : read_decoded(to, room);
@@ -78,9 +84,12 @@ std::size_t axsUtf8Source::read_decoded(char* to, std::size_t room)
 {
   while (true)
   {
+    note_place();
     std::string_view const bytes = std::string_view(rest.data(), rest.size()).substr(decoded);
     axsDecoder::Result const made = decoder->decode(bytes, to, room, at_end);
     decoded += made.taken;
+    now.taken += made.taken;
+    now.made += made.made;
     // No converter may keep us waiting at the end.
     bool const is_stuck = made.taken + made.made == 0 && at_end && !bytes.empty();
     std::size_t const size = up_to_zero(to, made.made);
@@ -90,6 +99,46 @@ std::size_t axsUtf8Source::read_decoded(char* to, std::size_t room)
       return size;
     if (!at_end)
       fill();
+  }
+}
+
+void axsUtf8Source::note_place()
+{
+  if (places.empty() || now.made >= places.back().made + usual_piece)
+    places.push_back(now);
+}
+
+void axsUtf8Source::seek(std::uint64_t position)
+{
+  rest.clear();
+  surplus.clear();
+  decoded = 0;
+  at_end = false;
+  wrong = apString();
+  if (decoder == nullptr)
+    return source.seek(found.mark_size + position);
+
+  bool const has_states = axsDecoder::has_states(found.name);
+  if (has_states)
+    decoder = axsDecoder::make(found.name);
+  auto const after = std::upper_bound(places.begin(), places.end(), position,
+    [](std::uint64_t wanted, Place const& place) { return wanted < place.made; });
+  now = has_states || after == places.begin() ? Place{0, 0} : *(after - 1);
+  source.seek(found.mark_size + now.taken);
+  skip(position - now.made);
+}
+
+void axsUtf8Source::skip(std::uint64_t bytes)
+{
+  char scratch[4096];
+  while (bytes > 0)
+  {
+    std::size_t const count = read_decoded(scratch, sizeof scratch);
+    if (count == 0)
+      return;
+    std::size_t const wanted = static_cast<std::size_t>(std::min<std::uint64_t>(count, bytes));
+    surplus.assign(scratch + wanted, count - wanted);
+    bytes -= wanted;
   }
 }
 

@@ -5,7 +5,9 @@
 #include <apString.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <string>
 #include <vector>
 
 class axsDecoder;
@@ -29,6 +31,10 @@ public:
   /// when the source cannot be read, std::bad_alloc when memory runs out.
   std::size_t read(char* to, std::size_t room);
 
+  /// Goes on with the character that stands after so many bytes of UTF-8, which have been read before. Throws as
+  /// axsSource::seek() does. Takes constant time where the encoding has no states.
+  void seek(std::uint64_t position);
+
   /// Why there is no more to read; empty at the end of the source.
   apString const& fault() const noexcept { return wrong; }
 
@@ -39,6 +45,8 @@ private:
   std::size_t read_decoded(char* to, std::size_t room);
   std::size_t up_to_zero(char const* text, std::size_t size);
   void fill();
+  void note_place();
+  void skip(std::uint64_t bytes);
   void stop_at(char byte);
 
   axsSource& source;
@@ -50,5 +58,16 @@ private:
   // How many of them the decoder has taken.
   std::size_t decoded = 0;
   bool at_end = false;
+  // Of what is decoded: how many bytes of UTF-8 were made and how many bytes of the source that took, now and from time
+  // to time before.
+  struct Place
+  {
+    std::uint64_t made;
+    std::uint64_t taken;
+  };
+  Place now{0, 0};
+  std::vector<Place> places;
+  // What was decoded too much when it went on from a place.
+  std::string surplus;
   apString wrong;
 };
