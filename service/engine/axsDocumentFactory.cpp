@@ -5,7 +5,6 @@
 #include "axsReader.h"
 #include "axsSaver.h"
 #include "axsSource.h"
-#include "axsValidator.h"
 
 #include <apStringFormatter.h>
 
@@ -31,14 +30,8 @@ axsDomDocument* own_document(std::shared_ptr<axmDocument> const& document)
 
 std::shared_ptr<axmDocument> read(axsSource& source, axmLoadOptions const& options)
 {
-  bool const validates = axsValidator::is_wanted(options);
-  if (validates)
-    source.whole();
   apString const url = source.url();
-  std::shared_ptr<axmDocument> document = axsReader::read(source, options, url.empty() ? new_uri() : url);
-  if (validates)
-    axsValidator::validate(source, options, *own_document(document)->root_element());
-  return document;
+  return axsReader::read(source, options, url.empty() ? new_uri() : url);
 }
 
 template <class Open>

@@ -1,9 +1,12 @@
 #include "axsReader.h"
 
+#include "axsAssessment.h"
 #include "axsHandle.h"
 #include "axsParser.h"
+#include "axsSchemas.h"
 #include "axsSource.h"
 #include "axsTreeBuilder.h"
+#include "axsValidityErrors.h"
 #include "axsXercesParser.h"
 
 namespace
@@ -12,13 +15,25 @@ axsDomDocument& tree_of(axmDocument& document)
 {
   return static_cast<axsDomDocument&>(*axsHandle::node_of(document));
 }
+
+// The first thing that is not valid ends it.
+void read_valid(axsSource& source, axmLoadOptions const& options, axsTreeBuilder& builder)
+{
+  std::shared_ptr<axsSchemaComponents const> const schema = axsSchemas::of(options);
+  axsValidityErrors errors(1);
+  axsAssessment assessment(*schema, &builder, errors);
+  axsParser(source, options, assessment).run();
+}
 }
 
 std::shared_ptr<axmDocument> axsReader::read(axsSource& source, axmLoadOptions const& options, apString const& uri)
 {
   std::shared_ptr<axmDocument> document = axsDomDocument::make(uri);
   axsTreeBuilder builder(tree_of(*document));
-  axsParser(source, options, builder).run();
+  if (axsSchemas::are_wanted(options))
+    read_valid(source, options, builder);
+  else
+    axsParser(source, options, builder).run();
   return document;
 }
 

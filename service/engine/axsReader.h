@@ -11,8 +11,9 @@ class axsSource;
 /// Reads documents into trees.
 namespace axsReader
 {
-/// The tree of the document in `source`, which gets `uri`. Throws axsReadError when it is not well-formed or cannot be
-/// read, std::bad_alloc when memory runs out.
+/// The tree of the document in `source`, which gets `uri`, validated in the same pass where the options ask for it. Throws
+/// axsReadError when it is not well-formed, not valid or cannot be read, or its schemas cannot be used; std::bad_alloc when
+/// memory runs out.
 std::shared_ptr<axmDocument> read(axsSource& source, axmLoadOptions const& options, apString const& uri);
 
 /// The same with the parser library that validates, to compare with.

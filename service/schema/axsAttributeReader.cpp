@@ -43,7 +43,8 @@ void axsAttributeReader::fill(axsSchemaSymbol& symbol)
   decl.type = type_of(*symbol.unit, *symbol.element);
   decl.constraint = axsSchemaConstraint::read(context, *symbol.element, *decl.type);
   decl.place = symbol.element->place;
-  check_name(decl.name, symbol.element->place);
+  if (decl.place.file != 0) // those of the instance namespace are built in
+    check_name(decl.name, decl.place);
 }
 
 // no-xmlns and no-xsi.

@@ -4,10 +4,9 @@
 #include "axsName.h"
 #include "axsNameTable.h"
 #include "axsParseHandler.h"
-#include "axsScanner.h"
+#include "axsParser.h"
 #include "axsSource.h"
 #include "axsStartTag.h"
-#include "axsXercesParser.h"
 
 #include <algorithm>
 #include <cstring>
@@ -236,17 +235,8 @@ axsSchemaPlace axsSchemaDocument::Builder::place(axsPlace given) const
 
 axsSchemaDocument::axsSchemaDocument(axsSource& source, std::uint32_t file) : number(file)
 {
-  {
-    Builder builder(*this);
-    if (source.can_rewind() && axsScanner::scan(source, axmLoadOptions(), builder))
-    {
-      root_element = builder.root();
-      return;
-    }
-  }
-  source.rewind();
   Builder builder(*this);
-  axsXercesParser::parse(source, axmLoadOptions(), builder);
+  axsParser(source, axmLoadOptions(), builder).run();
   root_element = builder.root();
 }
 

@@ -1,10 +1,11 @@
 #include "axsSchemaLoader.h"
 
+#include "axsLocalFile.h"
 #include "axsReadError.h"
 #include "axsSchemaGrammar.h"
-#include "axsSchemaLocation.h"
 #include "axsSchemaText.h"
 #include "axsSource.h"
+#include "axsSystemId.h"
 
 #include <apByteArray.h>
 
@@ -28,6 +29,15 @@ std::string_view const xml_schema =
   "<xs:attribute name='id' type='xs:ID'/>"
   "<xs:attributeGroup name='specialAttrs'><xs:attribute ref='xml:base'/><xs:attribute ref='xml:lang'/>"
   "<xs:attribute ref='xml:space'/><xs:attribute ref='xml:id'/></xs:attributeGroup>"
+  "</xs:schema>";
+
+// The attributes that may stand on every element (3.2.7).
+std::string_view const instance_schema =
+  "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' "
+  "targetNamespace='http://www.w3.org/2001/XMLSchema-instance'>"
+  "<xs:attribute name='type' type='xs:QName'/><xs:attribute name='nil' type='xs:boolean'/>"
+  "<xs:attribute name='schemaLocation'><xs:simpleType><xs:list itemType='xs:anyURI'/></xs:simpleType></xs:attribute>"
+  "<xs:attribute name='noNamespaceSchemaLocation' type='xs:anyURI'/>"
   "</xs:schema>";
 
 std::string narrow(apString const& text)
@@ -65,7 +75,6 @@ void axsSchemaLoader::add(std::string_view name_space, apPath const& path)
   }
   File const& added = file(path);
   given.emplace_back(name_space);
-  has_xml_namespace = has_xml_namespace || name_space == axsSchemaVocabulary::xml_namespace;
   if (added.document == nullptr)
     return;
   check_namespace(added, name_space);
@@ -83,11 +92,13 @@ void axsSchemaLoader::read_all()
 {
   for (; next_to_read < all.size() && !errors.full(); ++next_to_read)
     read_references(all[next_to_read]);
+  add_built_in(axsSchemaVocabulary::xml_namespace, xml_schema);
+  add_built_in(axsSchemaVocabulary::instance_namespace, instance_schema);
 }
 
 axsSchemaLoader::File& axsSchemaLoader::file(apPath const& path)
 {
-  std::unique_ptr<File>& made = known[axsSchemaLocation::identity(path)];
+  std::unique_ptr<File>& made = known[axsLocalFile::identity(path)];
   if (made != nullptr)
     return *made;
   made = std::make_unique<File>();
@@ -103,8 +114,8 @@ void axsSchemaLoader::read(File& made)
 {
   try
   {
-    axsSource source(made.path);
-    made.document = std::make_unique<axsSchemaDocument>(source, made.number);
+    std::unique_ptr<axsSource> const source = axsLocalFile::open(made.path);
+    made.document = std::make_unique<axsSchemaDocument>(*source, made.number);
   }
   catch (axsReadError const& failure)
   {
@@ -173,16 +184,14 @@ void axsSchemaLoader::import(axsSchemaUnit& from, axsSchemaElement const& refere
   bool const is_given = std::find(given.begin(), given.end(), name_space) != given.end();
   bool const is_built_in =
     name_space == axsSchemaVocabulary::schema_namespace || name_space == axsSchemaVocabulary::instance_namespace;
-  if (is_given || is_built_in)
+  // An import may leave the place open; then there is nothing to read.
+  if (is_given || is_built_in || reference.value(Field::schema_location).empty())
     return;
   if (name_space == axsSchemaVocabulary::xml_namespace)
   {
-    add_xml_namespace();
+    import_xml_namespace(reference);
     return;
   }
-  // An import may leave the place open; then there is nothing to read.
-  if (reference.value(Field::schema_location).empty())
-    return;
   File const* const found = referred(reference);
   if (found == nullptr || found->document == nullptr)
     return;
@@ -196,16 +205,37 @@ void axsSchemaLoader::import(axsSchemaUnit& from, axsSchemaElement const& refere
   unit(*found, target);
 }
 
+// Copies of the schema of that namespace lie everywhere: the first one is taken, and the one that is built in where none
+// is there.
+void axsSchemaLoader::import_xml_namespace(axsSchemaElement const& reference)
+{
+  apPath const path =
+    axsSystemId::resolve(file_paths[reference.place.file - 1], reference.value(Field::schema_location));
+  bool const is_there = std::any_of(all.begin(), all.end(),
+    [](axsSchemaUnit const& unit) { return unit.target == axsSchemaVocabulary::xml_namespace; });
+  if (is_there || path.empty() || !path.exists())
+    return;
+  File const& found = file(path);
+  bool const is_it = found.document != nullptr &&
+                     found.document->root().value(Field::target_namespace) == axsSchemaVocabulary::xml_namespace;
+  if (is_it)
+    unit(found, axsSchemaVocabulary::xml_namespace);
+}
+
 axsSchemaLoader::File* axsSchemaLoader::referred(axsSchemaElement const& reference)
 {
   std::string_view const location = reference.value(Field::schema_location);
   axsSchemaPlace const place = reference.place_of(Field::schema_location);
-  apPath const path = axsSchemaLocation::resolve(file_paths[reference.place.file - 1], location);
+  apPath const path = axsSystemId::resolve(file_paths[reference.place.file - 1], location);
   if (path.empty())
   {
     errors.add(place, "The schema \"" + std::string(location) + "\" is not a local file; nothing else is read");
     return nullptr;
   }
+  bool const is_import = reference.role == axsSchemaRole::import;
+  // An import says where a schema may be; what is not found of it is told of where it is referred to (4.2.3).
+  if (!path.exists() && is_import)
+    return nullptr;
   if (!path.exists())
   {
     errors.add(place, "There is no file " + narrow(path));
@@ -214,17 +244,20 @@ axsSchemaLoader::File* axsSchemaLoader::referred(axsSchemaElement const& referen
   return &file(path);
 }
 
-void axsSchemaLoader::add_xml_namespace()
+void axsSchemaLoader::add_built_in(std::string_view name_space, std::string_view text)
 {
-  if (has_xml_namespace)
+  bool const is_wanted = std::any_of(all.begin(), all.end(),
+    [&](axsSchemaUnit const& unit)
+    { return std::find(unit.imports.begin(), unit.imports.end(), name_space) != unit.imports.end(); });
+  bool const is_there =
+    std::any_of(all.begin(), all.end(), [&](axsSchemaUnit const& unit) { return unit.target == name_space; });
+  if (!is_wanted || is_there)
     return;
-  has_xml_namespace = true;
-  apByteArray const bytes(xml_schema.data(), xml_schema.size());
+  apByteArray const bytes(text.data(), text.size());
   axsSource source(bytes);
-  xml_document = std::make_unique<axsSchemaDocument>(source, 0);
   axsSchemaUnit& made = all.emplace_back();
-  made.document = xml_document.get();
-  made.target = axsSchemaVocabulary::xml_namespace;
+  made.document = built_in.emplace_back(std::make_unique<axsSchemaDocument>(source, 0)).get();
+  made.target = name_space;
 }
 
 void axsSchemaLoader::check_namespace(File const& of, std::string_view expected)

@@ -52,7 +52,8 @@ private:
   void include(axsSchemaUnit& from, axsSchemaElement const& reference);
   void import(axsSchemaUnit& from, axsSchemaElement const& reference);
   File* referred(axsSchemaElement const& reference);
-  void add_xml_namespace();
+  void import_xml_namespace(axsSchemaElement const& reference);
+  void add_built_in(std::string_view name_space, std::string_view text);
   void check_namespace(File const& of, std::string_view expected);
 
   axsSchemaErrors& errors;
@@ -64,7 +65,6 @@ private:
   // By file number and namespace.
   std::unordered_map<std::string, axsSchemaUnit*> unit_of;
   std::vector<std::string> given;
-  std::unique_ptr<axsSchemaDocument> xml_document;
-  bool has_xml_namespace = false;
+  std::vector<std::unique_ptr<axsSchemaDocument>> built_in;
   std::size_t next_to_read = 0;
 };

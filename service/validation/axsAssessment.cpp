@@ -334,11 +334,7 @@ void axsAssessment::text(std::string_view text, bool is_cdata)
     }
     bool const has_constraint = element.decl != nullptr && element.decl->constraint.kind != Kind::none;
     if (element.content == Content::simple || (element.content == Content::mixed && has_constraint))
-    {
       value += text;
-      if (axsSimpleType const* const type = simple_type_of(element); type != nullptr && type->needs_namespaces())
-        findings.context.keep(value);
-    }
   }
   if (next != nullptr)
     next->text(text, is_cdata);

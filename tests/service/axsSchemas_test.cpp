@@ -120,7 +120,7 @@ TEST(axsSchemas, says_in_plain_words_what_is_not_valid_and_where)
     {"<r><date>31.12.2024</date></r>", 1, 27,
       "element 'date': \"31.12.2024\" is not of the type xs:date, as in 2024-12-31"},
     {"<r><date>2024-02-30</date></r>", 1, 27,
-      "element 'date': \"2024-02-30\" is not of the type xs:date: day value '2024-02-30' must be between 1 and 29"},
+      "element 'date': \"2024-02-30\" is not of the type xs:date: its day must be between 1 and 29"},
     {"<r><code>ab</code></r>", 1, 19,
       "element 'code': \"ab\" is not of the type 'code': it does not match the pattern '[A-Z]{3}'"},
     {"<r><percent>x</percent></r>", 1, 24,
@@ -129,7 +129,7 @@ TEST(axsSchemas, says_in_plain_words_what_is_not_valid_and_where)
       "element 'percent': \"101\" is not of the type 'percent': it must be less than or equal to maxInclusive facet "
       "value '100'"},
     {"<r><ints>1 x</ints></r>", 1, 20,
-      "element 'ints': \"1 x\" is not of the type 'ints': value 'x' does not match the pattern '[+\\-]?[0-9]+'"},
+      "element 'ints': \"1 x\" is not of the type 'ints': its item 'x' is not of the type xs:int"},
     {"<r><size>abc</size></r>", 1, 20,
       "element 'size': \"abc\" is not allowed: it has length '3' which exceeds maxLength facet value '2'"},
     {"<r><item id='x'><name/></item></r>", 1, 17, "attribute 'id' of element 'item': \"x\" is not of the type xs:int"},
@@ -138,7 +138,7 @@ TEST(axsSchemas, says_in_plain_words_what_is_not_valid_and_where)
     {"<r><item id='99999999999'><name/></item></r>", 1, 27,
       "attribute 'id' of element 'item': \"99999999999\" is not of the type xs:int: it must be less than or equal to "
       "maxInclusive facet value '2147483647'"},
-    {"<r><id>a</id><id>a</id></r>", 1, 24, "element 'id': ID value 'a' is not unique"},
+    {"<r><id>a</id><id>a</id></r>", 1, 24, "element 'id': ID value 'a' is not unique; first at line 1"},
     // What stands where.
     {"<r>\n<item id='1'/>\n</r>", 2, 15, "element 'item' ends too early; expected is 'name'"},
     {"<r>\n<item id='1'>\n<price>1</price>\n</item>\n</r>", 3, 8,
@@ -156,8 +156,8 @@ TEST(axsSchemas, says_in_plain_words_what_is_not_valid_and_where)
     {"<R/>", 1, 5, "no declaration found for element 'R'"},
     // Across the document.
     {"<r>\n<item id='1'><name/></item>\n<item id='1'><name/></item></r>", 3, 14,
-      "element 'item': its key is not unique in the element 'r'"},
-    {"<r>\n<ref>a</ref>\n</r>", 3, 5, "there is no ID 'a', to which an IDREF refers"},
+      "element 'item': its key \"1\" is not unique in the element 'r'; first at line 2"},
+    {"<r>\n<ref>a</ref>\n</r>", 2, 13, "there is no ID 'a', to which an IDREF refers"},
   };
   for (Invalid const& document : documents)
   {
@@ -284,7 +284,7 @@ TEST(axsSchemas, says_in_plain_words_what_is_wrong_with_a_schema)
     {"<xs:complexType name='A'><xs:complexContent><xs:extension base='A'/></xs:complexContent></xs:complexType>",
       "'A' is defined by itself"},
     {"<xs:element name='r' type='xs:boolean' default='x'/>",
-      "a facet or value in this declaration is wrong: value 'x' is invalid boolean"},
+      "the default is wrong: \"x\" is not of the type xs:boolean, which is true, false, 1 or 0"},
   };
   for (auto const& [content, words] : faults)
   {
@@ -415,52 +415,36 @@ TEST(axsSchemas, takes_file_names_as_they_are_also_in_includes)
   error_of("<r>x</r>", plain(whole.path()));
 }
 
-TEST(axsSchemas, schemas_that_would_take_minutes_or_the_stack_are_refused)
+TEST(axsSchemas, numbers_of_occurrences_are_not_bounded)
 {
-  TestFile const repeated("engine_repeated.xsd",
-    schema("", "<xs:element name='r'><xs:complexType><xs:sequence maxOccurs='200'><xs:choice maxOccurs='100'>"
-               "<xs:element name='a'/><xs:element name='b'/></xs:choice></xs:sequence></xs:complexType></xs:element>"));
-  EXPECT_NE(narrow(error_of("<r/>", plain(repeated.path())).message()).find("10000"), std::string::npos);
+  TestFile const part("engine_groups.xsd",
+    schema("", "<xs:group name='a'><xs:sequence><xs:element name='x'/><xs:element name='y'/></xs:sequence></xs:group>"
+               "<xs:group name='b'><xs:sequence><xs:group ref='a' maxOccurs='4294967296'/></xs:sequence></xs:group>"));
+  TestFile const whole("engine_groups_2.xsd",
+    schema("", "<xs:include schemaLocation='engine_groups.xsd'/>\n<xs:element name='r'><xs:complexType><xs:sequence>"
+               "<xs:group ref='b' maxOccurs='1000000'/><xs:element name='z' minOccurs='2' maxOccurs='3'/></xs:sequence>"
+               "</xs:complexType></xs:element>"));
+  EXPECT_NE(load("<r><x/><y/><x/><y/><z/><z/></r>", plain(whole.path())), nullptr);
+  EXPECT_EQ(narrow(error_of("<r><x/><y/><x/><z/></r>", plain(whole.path())).message()),
+    "element 'z' may not stand here in 'r'; expected is 'y'");
+  EXPECT_EQ(narrow(error_of("<r><x/><y/><z/></r>", plain(whole.path())).message()),
+    "element 'r' ends too early; expected is 'z'");
+}
+
+TEST(axsSchemas, groups_may_be_nested_deeply)
+{
   std::string open;
   std::string close;
   for (int i = 0; i < 20000; ++i)
   {
-    open += "<xs:sequence>";
-    close += "</xs:sequence>";
+    open += i % 2 == 0 ? "<xs:sequence>" : "<xs:choice>";
+    close.insert(0, i % 2 == 0 ? "</xs:sequence>" : "</xs:choice>");
   }
-  TestFile const nested("engine_nested.xsd",
-    schema("", "<xs:element name='r'><xs:complexType>" + open + close + "</xs:complexType></xs:element>"));
-  EXPECT_NE(narrow(error_of("<r/>", plain(nested.path())).message()).find("500"), std::string::npos);
-}
-
-TEST(axsSchemas, repetition_over_groups_types_and_files_is_refused_with_its_place)
-{
-  TestFile const part("engine_groups.xsd",
-    schema("", "<xs:group name='a'><xs:sequence><xs:element name='x'/><xs:element name='y'/></xs:sequence></xs:group>"
-               "<xs:group name='b'><xs:sequence><xs:group ref='a' maxOccurs='1900'/></xs:sequence></xs:group>"));
-  auto const by_reference = [](std::string const& times)
-  {
-    return schema(
-      "", "<xs:include schemaLocation='engine_groups.xsd'/>\n<xs:element name='r'><xs:complexType><xs:sequence>"
-          "<xs:group ref='b' maxOccurs='" +
-            times + "'/></xs:sequence></xs:complexType></xs:element>");
-  };
-  TestFile const accepted("engine_groups_1.xsd", by_reference("1"));
-  EXPECT_NE(load("<r><x/><y/></r>", plain(accepted.path())), nullptr);
-  TestFile const refused("engine_groups_5.xsd", by_reference("5"));
-  axmParseError const error = error_of("<r/>", plain(refused.path()));
-  EXPECT_NE(narrow(error.message()).find("10000"), std::string::npos) << narrow(error.message());
-  EXPECT_EQ(error.line_number(), 3);
-
-  std::string types =
-    "<xs:complexType name='t0'><xs:sequence maxOccurs='900'><xs:element name='a'/><xs:element name='b'/>"
-    "</xs:sequence></xs:complexType>";
-  for (int i = 1; i < 8; ++i)
-    types += "<xs:complexType name='t" + std::to_string(i) + "'><xs:complexContent><xs:extension base='t" +
-             std::to_string(i - 1) + "'><xs:sequence maxOccurs='900'><xs:element name='a" + std::to_string(i) +
-             "'/><xs:element name='b'/></xs:sequence></xs:extension></xs:complexContent></xs:complexType>";
-  TestFile const extended("engine_extended.xsd", schema("", types + "<xs:element name='r' type='t7'/>"));
-  EXPECT_NE(narrow(error_of("<r/>", plain(extended.path())).message()).find("10000"), std::string::npos);
+  TestFile const nested(
+    "engine_nested.xsd", schema("", "<xs:element name='r'><xs:complexType>" + open + "<xs:element name='a'/>" + close +
+                                      "</xs:complexType></xs:element>"));
+  EXPECT_NE(load("<r><a/></r>", plain(nested.path())), nullptr);
+  error_of("<r/>", plain(nested.path()));
 }
 
 namespace
@@ -472,49 +456,26 @@ std::string pattern_schema(std::string const& pattern)
 }
 }
 
-TEST(axsSchemas, patterns_that_the_matcher_cannot_bear_are_refused_with_their_place)
+TEST(axsSchemas, patterns_that_repeat_what_repeats_are_matched)
 {
-  for (char const* const pattern : {"(a*)*b", "(a*)+", "(a*){2,}", "(a{0,5})*", "(a*b*)*", "(a|b*)*", "((a|b)*)*c",
-         "(\\s*[a-z]*)*;", "((a+)?)*", "x(y(a*)*)?", "([()]*)*", "(\\p{L}*)*", "([a-z-[x]]*)*"})
+  for (char const* const pattern : {"(a*)*b?", "(a*)+", "(a*){2,}", "(a{0,5})*", "(a*b*)*", "(a|b*)*", "((a|b)*)*c?",
+         "((a+)?)*", "(a+)*", "(a|b)*", "a*b*a*", "(a*)?", "(a?)*", "()*a*", "[(a*)*]*", "(b*a|\\p{Lu})*a"})
   {
     TestFile const file("engine_pattern.xsd", pattern_schema(pattern));
-    axmParseError const error = error_of("<r>aaaaaaaa</r>", plain(file.path()));
-    EXPECT_NE(narrow(error.message()).find("may be empty"), std::string::npos) << pattern << narrow(error.message());
-    EXPECT_EQ(narrow(error.url()), file.name);
-    EXPECT_EQ(error.line_number(), 3);
+    EXPECT_NE(load("<r>aaaaaaaa</r>", plain(file.path())), nullptr) << pattern;
+    error_of("<r>" + std::string(100000, 'a') + "!</r>", plain(file.path()));
   }
-  for (char const* const pattern : {"(a+)*", "(a|b)*", "a*b*a*", "(a*)?", "(a*){1,3}", "(a?)*", "(a*,)*a*", "()*a*",
-         "[(a*)*]*", "(\\(a*\\))*a*", "[\\]()]*a*", "(\\[a*|a)*", "(b*a|\\p{Lu})*a"})
-  {
-    TestFile const file("engine_pattern.xsd", pattern_schema(pattern));
-    EXPECT_NE(load("<r>aa</r>", plain(file.path())), nullptr) << pattern;
-  }
-  std::string const open(100000, '(');
-  TestFile const deep("engine_pattern.xsd", pattern_schema(open + "a" + std::string(100000, ')')));
-  EXPECT_NE(narrow(error_of("<r>a</r>", plain(deep.path())).message()).find("100 levels"), std::string::npos);
 }
 
-#if defined(__linux__) || defined(_WIN32)
-TEST(axsSchemas, a_value_too_long_for_the_matcher_of_patterns_is_refused)
+TEST(axsSchemas, a_long_value_is_matched)
 {
   TestFile const file("engine_long_pattern.xsd", pattern_schema("(a|b|c)+x?"));
   std::string value;
   for (int i = 0; i < 1000000; ++i)
     value += "abc";
-  EXPECT_NE(load("<r>" + value.substr(0, 300) + "</r>", plain(file.path())), nullptr);
-  axmParseError const error = error_of("\n<r>" + value + "</r>", plain(file.path()));
-  EXPECT_EQ(narrow(error.message()), "A value is too long to be matched with the pattern of its type");
-  EXPECT_EQ(error.line_number(), 2);
-  // The factory goes on as before, in a thread with its own stack, too.
-  std::thread(
-    [&]
-    {
-      error_of("<r>" + value + "</r>", plain(file.path()));
-      EXPECT_NE(load("<r>" + value.substr(0, 300) + "</r>", plain(file.path())), nullptr);
-    })
-    .join();
+  EXPECT_NE(load("<r>" + value + "</r>", plain(file.path())), nullptr);
+  error_of("<r>" + value + "y</r>", plain(file.path()));
 }
-#endif
 
 #if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
 namespace
@@ -544,14 +505,6 @@ TEST(axsSchemas, validation_works_on_the_stack_of_a_fiber)
 }
 #endif
 
-TEST(axsSchemas, elements_repeated_without_a_group_are_not_bounded)
-{
-  TestFile const many("engine_many.xsd",
-    schema("", "<xs:element name='r'><xs:complexType><xs:sequence><xs:element name='a' maxOccurs='1000000'/>"
-               "<xs:element name='b' minOccurs='0' maxOccurs='99999'/></xs:sequence></xs:complexType></xs:element>"));
-  EXPECT_NE(load("<r><a/><a/><b/></r>", plain(many.path())), nullptr);
-}
-
 TEST(axsSchemas, a_redefined_group_may_refer_to_itself)
 {
   TestFile const part("engine_redefined.xsd",
@@ -571,12 +524,12 @@ TEST(axsSchemas, a_document_type_declaration_does_not_disturb_validation)
   error_of(doctype + "<machine><XY Value='&t;'/></machine>", plain(file.path()));
 }
 
-TEST(axsSchemas, documents_nested_deeper_than_can_be_validated_are_refused)
+TEST(axsSchemas, documents_may_be_nested_as_deep_as_memory_lasts)
 {
   TestFile const file("engine_deep.xsd",
     schema("", "<xs:element name='a'><xs:complexType><xs:sequence><xs:element ref='a' minOccurs='0'/></xs:sequence>"
                "</xs:complexType></xs:element>"));
-  auto const nested = [](int levels)
+  auto const nested = [](int levels, std::string const& innermost)
   {
     std::string open;
     std::string close;
@@ -585,8 +538,9 @@ TEST(axsSchemas, documents_nested_deeper_than_can_be_validated_are_refused)
       open += "<a>";
       close += "</a>";
     }
-    return open + close;
+    return open + innermost + close;
   };
-  EXPECT_NE(load(nested(2000), plain(file.path())), nullptr);
-  EXPECT_NE(narrow(error_of(nested(30000), plain(file.path())).message()).find("20000"), std::string::npos);
+  EXPECT_NE(load(nested(200000, ""), plain(file.path())), nullptr);
+  EXPECT_EQ(narrow(error_of(nested(200000, "<b/>"), plain(file.path())).message()),
+    "element 'b' may not stand here in 'a'; expected is 'a' or the end of the element");
 }
