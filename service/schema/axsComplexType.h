@@ -1,6 +1,6 @@
 #pragma once
 
-#include "axsAttributeUse.h"
+#include "axsAttributeUses.h"
 #include "axsParticle.h"
 #include "axsSchemaName.h"
 #include "axsSchemaPlace.h"
@@ -9,7 +9,6 @@
 
 #include <memory>
 #include <optional>
-#include <vector>
 
 class axsContentAutomaton;
 
@@ -31,7 +30,7 @@ struct axsComplexType
   axsDerivationSet final_set = 0;
   axsDerivationSet block = 0;
 
-  std::vector<axsAttributeUse> attributes;
+  axsAttributeUses attributes;
   std::optional<axsWildcard> attribute_wildcard;
 
   Content content = Content::empty;

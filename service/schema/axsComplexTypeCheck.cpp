@@ -13,11 +13,6 @@ namespace
 using Content = axsComplexType::Content;
 using axsSchemaText::quoted;
 
-axsSchemaNameView view(axsSchemaName const& name)
-{
-  return {name.name_space, name.local};
-}
-
 int strength(axsWildcard::Process process)
 {
   return process == axsWildcard::Process::strict ? 2 : process == axsWildcard::Process::lax ? 1 : 0;
@@ -39,24 +34,30 @@ void axsComplexTypeCheck::check(axsComplexType const& type)
     check_restriction(type);
 }
 
-// ct-props-correct.5.
+// ct-props-correct.5. What an extension inherits has been looked at, unless there is one ID of its own.
 void axsComplexTypeCheck::check_ids(axsComplexType const& type)
 {
+  bool const inherits = type.derivation == axsDerivationExtension && type.base.complex != nullptr;
+  std::size_t const own = inherits ? type.base.complex->attributes.size() : 0;
   axsAttributeUse const* first = nullptr;
-  for (axsAttributeUse const& use : type.attributes)
-  {
-    if (use.decl->type->role() != axsSimpleType::Role::id)
-      continue;
-    if (first != nullptr)
-    {
-      context.errors.add(type.place, "the attributes " + quoted(first->decl->name.local) + " and " +
-                                       quoted(use.decl->name.local) +
-                                       " are both of the type xs:ID; a type may have "
-                                       "one such attribute");
-      return;
-    }
-    first = &use;
-  }
+  for (std::size_t i = own; i < type.attributes.size(); ++i)
+    first = other_id(type, i, first);
+  for (std::size_t i = 0; first != nullptr && i < own; ++i)
+    first = other_id(type, i, first);
+}
+
+// The use with that number if it is an ID and `first` is null; another one beside `first` is told of.
+axsAttributeUse const* axsComplexTypeCheck::other_id(
+  axsComplexType const& type, std::size_t number, axsAttributeUse const* first)
+{
+  axsAttributeUse const& use = type.attributes[number];
+  if (use.decl->type->role() != axsSimpleType::Role::id)
+    return first;
+  if (first != nullptr)
+    context.errors.add(type.place, "the attributes " + quoted(first->decl->name.local) + " and " +
+                                     quoted(use.decl->name.local) +
+                                     " are both of the type xs:ID; a type may have one such attribute");
+  return first == nullptr ? &use : first;
 }
 
 // cos-ct-extends.
@@ -89,24 +90,21 @@ void axsComplexTypeCheck::check_restriction(axsComplexType const& type)
       type.place, "the type " + axsTypeDerivation::words(type.base) + " may not be restricted: it is final");
   if (base == context.any_type)
     return;
-  check_attributes(type.attributes, type.attribute_wildcard, base->attributes, base->attribute_wildcard, type.place);
+  if (type.attributes.is_shared_with(base->attributes))
+    check_attributes({}, type.attribute_wildcard, {}, base->attribute_wildcard, type.place);
+  else
+    check_attributes(type.attributes, type.attribute_wildcard, base->attributes, base->attribute_wildcard, type.place);
   check_restricted_content(type, *base);
 }
 
-void axsComplexTypeCheck::check_attributes(std::vector<axsAttributeUse> const& uses,
-  std::optional<axsWildcard> const& wildcard, std::vector<axsAttributeUse> const& base_uses,
-  std::optional<axsWildcard> const& base_wildcard, axsSchemaPlace place)
+void axsComplexTypeCheck::check_attributes(axsAttributeUses const& uses, std::optional<axsWildcard> const& wildcard,
+  axsAttributeUses const& base_uses, std::optional<axsWildcard> const& base_wildcard, axsSchemaPlace place)
 {
-  axsSchemaNameTable<axsAttributeUse const*> own;
-  for (axsAttributeUse const& use : uses)
-    own.emplace(view(use.decl->name), &use);
-  axsSchemaNameTable<bool> of_base;
   for (axsAttributeUse const& use : base_uses)
   {
-    of_base.emplace(view(use.decl->name), true);
-    auto const found = own.find(view(use.decl->name));
-    if (found != own.end())
-      check_use(*found->second, use);
+    std::size_t const own = uses.find(use.decl->name.name_space, use.decl->name.local);
+    if (own != axsAttributeUses::none)
+      check_use(uses[own], use);
     else if (use.is_required) // derivation-ok-restriction.3
       context.errors.add(
         place, "attribute " + quoted(use.decl->name.local) + " is required by the base type and may not be left out");
@@ -116,8 +114,9 @@ void axsComplexTypeCheck::check_attributes(std::vector<axsAttributeUse> const& u
     axsSchemaName const& name = use.decl->name;
     bool const is_allowed =
       base_wildcard.has_value() && axsNamespaceConstraint::allows(*base_wildcard, name.name_space);
-    if (!is_allowed && of_base.find(view(name)) == of_base.end()) // derivation-ok-restriction.2.2
-      context.errors.add(use.place,
+    if (!is_allowed && base_uses.find(name.name_space, name.local) == axsAttributeUses::none)
+      context.errors.add( // derivation-ok-restriction.2.2
+        use.place,
         "attribute " + quoted(name.local) + " is not one of the base type, so a restriction may not have it");
   }
   if (wildcard.has_value())

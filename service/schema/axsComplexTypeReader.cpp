@@ -285,38 +285,38 @@ void axsComplexTypeReader::set_attributes(Derivation const& derivation)
   {
     if (derivation.base.complex == context.any_type && derivation.is_extension())
       unite_wildcards(derivation);
-    type.attributes = std::move(own.uses);
+    type.attributes = axsAttributeUses(std::move(own.uses));
   }
 }
 
 void axsComplexTypeReader::inherit_attributes(Derivation const& derivation, axsAttributeSet& own)
 {
   axsComplexType& type = derivation.type();
-  std::vector<axsAttributeUse> const& inherited = derivation.base.complex->attributes;
+  axsAttributeUses const& inherited = derivation.base.complex->attributes;
+  if (derivation.is_extension())
+  {
+    for (axsAttributeUse const& use : own.uses)
+      if (inherited.find(use.decl->name.name_space, use.decl->name.local) != axsAttributeUses::none)
+        context.errors.add(use.place, // ct-props-correct.4
+          "attribute " + quoted(use.decl->name.local) + " is declared twice: the base type has it, too");
+    type.attributes = axsAttributeUses(inherited, std::move(own.uses));
+    return;
+  }
   if (own.uses.empty() && own.prohibited.empty())
   {
     type.attributes = inherited;
     return;
   }
-  axsSchemaNameTable<axsSchemaPlace> said;
+  axsSchemaNameTable<bool> said;
   for (axsAttributeUse const& use : own.uses)
-    said.emplace(view(use.decl->name), use.place);
-  if (!derivation.is_extension())
-    for (axsAttributeSet::Prohibited const& prohibited : own.prohibited)
-      said.emplace(view(prohibited.name), prohibited.place);
+    said.emplace(view(use.decl->name), true);
+  for (axsAttributeSet::Prohibited const& prohibited : own.prohibited)
+    said.emplace(view(prohibited.name), true);
   std::vector<axsAttributeUse> all;
-  all.reserve(inherited.size() + own.uses.size());
-  for (axsAttributeUse const& use : inherited)
-  {
-    auto const known = said.find(view(use.decl->name));
-    if (known == said.end())
-      all.push_back(use);
-    else if (derivation.is_extension()) // ct-props-correct.4
-      context.errors.add(
-        known->second, "attribute " + quoted(use.decl->name.local) + " is declared twice: the base type has it, too");
-  }
+  std::copy_if(inherited.begin(), inherited.end(), std::back_inserter(all),
+    [&](axsAttributeUse const& use) { return said.find(view(use.decl->name)) == said.end(); });
   std::move(own.uses.begin(), own.uses.end(), std::back_inserter(all));
-  type.attributes = std::move(all);
+  type.attributes = axsAttributeUses(std::move(all));
 }
 
 // Of an extension, all that its own and that of its base allow (3.4.2).

@@ -122,7 +122,7 @@ bool axsIdentityPathReader::name_test(axsIdentityPath::Step& step)
 bool axsIdentityPathReader::fail(char const* message)
 {
   context.errors.add(element.place_of(axsSchemaField::xpath),
-    "the path " + quoted(text) + " of " + quoted(element.name) + " is not allowed: " + message);
+    "the path " + quoted(text) + " of " + quoted(element.name()) + " is not allowed: " + message);
   return false;
 }
 

@@ -40,7 +40,7 @@ void axsSchemaConstraint::check(
   std::string const what = is_fixed ? "the fixed value" : "the default";
   if (type.role() == axsSimpleType::Role::id) // a-props-correct.3, e-props-correct.5
   {
-    context.errors.add(place, what + " of " + axsSchemaText::quoted(element.name) + " is not allowed for an ID");
+    context.errors.add(place, what + " of " + axsSchemaText::quoted(element.name()) + " is not allowed for an ID");
     return;
   }
   axsSchemaValueContext const around(context.symbols, element.scope);

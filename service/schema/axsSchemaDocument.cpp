@@ -40,6 +40,13 @@ bool is_collapsed(std::string_view text)
   return text.empty() || before != ' ';
 }
 
+// Attributes of other namespaces are no business of ours, but for those that only look like ours.
+bool is_of_schemas(axsTagAttribute const& attribute)
+{
+  return !attribute.is_declaration &&
+         (attribute.name_space.empty() || attribute.name_space == axsSchemaVocabulary::schema_namespace);
+}
+
 // Part 2, 4.3.6 whiteSpace, collapse.
 std::string collapsed(std::string_view text)
 {
@@ -168,7 +175,6 @@ axsSchemaElement& axsSchemaDocument::Builder::make(axsStartTag const& tag)
   axsSchemaElement& element = *new (array<axsSchemaElement>(1)) axsSchemaElement();
   if (tag.name_space == axsSchemaVocabulary::schema_namespace)
     element.tag = axsSchemaVocabulary::tag(tag.name->local());
-  element.name = element.tag == axsSchemaTag::other ? kept(tag.name->utf8()) : axsSchemaVocabulary::name(element.tag);
   element.place = place(locator->begin());
   element.scope = declare(*tag.attributes);
   add_attributes(element, *tag.attributes);
@@ -197,21 +203,18 @@ axsSchemaScope const* axsSchemaDocument::Builder::declare(Attributes const& attr
 
 void axsSchemaDocument::Builder::add_attributes(axsSchemaElement& element, Attributes const& attributes)
 {
-  auto* const texts = array<axsSchemaAttributeText>(attributes.size() + 1);
-  std::size_t count = 0;
+  auto const count = std::count_if(attributes.begin(), attributes.end(), is_of_schemas);
+  if (count == 0)
+    return;
+  auto* const texts = array<axsSchemaAttributeText>(static_cast<std::size_t>(count));
   for (std::size_t i = 0; i < attributes.size(); ++i)
-  {
-    axsTagAttribute const& attribute = attributes[i];
-    bool const is_foreign =
-      !attribute.name_space.empty() && attribute.name_space != axsSchemaVocabulary::schema_namespace;
-    if (attribute.is_declaration || is_foreign)
-      continue;
-    axsSchemaAttributeText* const text = new (texts + count) axsSchemaAttributeText(made(attribute));
-    text->place = place(locator->attribute(i));
-    ++count;
-  }
+    if (is_of_schemas(attributes[i]))
+    {
+      auto* const text = new (texts + element.attribute_count) axsSchemaAttributeText(made(attributes[i]));
+      text->place = place(locator->attribute(i));
+      ++element.attribute_count;
+    }
   element.attributes = texts;
-  element.attribute_count = count;
 }
 
 axsSchemaAttributeText axsSchemaDocument::Builder::made(axsTagAttribute const& attribute)
@@ -220,9 +223,11 @@ axsSchemaAttributeText axsSchemaDocument::Builder::made(axsTagAttribute const& a
   if (attribute.name_space.empty())
     made.field = axsSchemaVocabulary::field(attribute.name->utf8());
   if (made.field == axsSchemaField::other)
-    made.name = kept(attribute.name->utf8());
-  bool const is_as_given = keeps_white_space(made.field) || is_collapsed(attribute.value);
-  made.value = is_as_given ? kept(attribute.value) : kept(collapsed(attribute.value));
+    made.value = kept(attribute.name->utf8());
+  else if (keeps_white_space(made.field) || is_collapsed(attribute.value))
+    made.value = kept(attribute.value);
+  else
+    made.value = kept(collapsed(attribute.value));
   return made;
 }
 

@@ -14,9 +14,7 @@
 struct axsSchemaAttributeText
 {
   axsSchemaField field = axsSchemaField::other;
-  /// As it is written, where the field is `other`.
-  std::string_view name;
-  /// White space collapsed, but for `value`, `default` and `fixed`.
+  /// White space collapsed, but for `value`, `default` and `fixed`. Of `other` the name instead.
   std::string_view value;
   axsSchemaPlace place;
 };
@@ -29,15 +27,16 @@ struct axsSchemaElement
   axsSchemaRole role = axsSchemaRole::none;
   /// Whether there is text in it that is not white space.
   bool has_text = false;
-  /// The name as it is written.
-  std::string_view name;
   axsSchemaPlace place;
   axsSchemaElement const* parent = nullptr;
   axsSchemaElement const* first_child = nullptr;
   axsSchemaElement const* next = nullptr;
   axsSchemaScope const* scope = nullptr;
   axsSchemaAttributeText const* attributes = nullptr;
-  std::size_t attribute_count = 0;
+  std::uint32_t attribute_count = 0;
+
+  /// As documents have it; empty of `other`.
+  std::string_view name() const noexcept { return axsSchemaVocabulary::name(tag); }
 
   axsSchemaAttributeText const* find(axsSchemaField field) const noexcept
   {

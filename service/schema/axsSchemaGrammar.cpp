@@ -215,7 +215,7 @@ void Check::element(axsSchemaElement const& checked)
   if (is_open)
     return;
   if (checked.has_text)
-    errors.add(checked.place, "text may not stand in " + quoted(checked.name));
+    errors.add(checked.place, "text may not stand in " + quoted(checked.name()));
   children(checked, production);
   representation(checked);
 }
@@ -227,15 +227,16 @@ void Check::attributes(axsSchemaElement const& checked, axsSchemaProduction cons
   {
     axsSchemaAttributeText const& attribute = checked.attributes[i];
     bool const is_known = attribute.field != Field::other;
-    std::string_view const name = is_known ? axsSchemaVocabulary::name(attribute.field) : attribute.name;
+    std::string_view const name = is_known ? axsSchemaVocabulary::name(attribute.field) : attribute.value;
     if (!is_known || (production.fields & bit(attribute.field)) == 0)
     {
-      errors.add(attribute.place, "attribute " + quoted(name) + " may not stand on " + quoted(checked.name) + " here");
+      errors.add(
+        attribute.place, "attribute " + quoted(name) + " may not stand on " + quoted(checked.name()) + " here");
       continue;
     }
     seen |= bit(attribute.field);
     if (char const* const wanted = fault_of(attribute.field, checked.role, attribute.value))
-      errors.add(attribute.place, "attribute " + quoted(name) + " of " + quoted(checked.name) + ": " +
+      errors.add(attribute.place, "attribute " + quoted(name) + " of " + quoted(checked.name()) + ": " +
                                     quoted(attribute.value) + " is not " + wanted);
     else if (attribute.field == Field::id && !ids.insert(attribute.value).second)
       errors.add(attribute.place, "the id " + quoted(attribute.value) + " is given twice in the document");
@@ -245,7 +246,7 @@ void Check::attributes(axsSchemaElement const& checked, axsSchemaProduction cons
     auto const field = static_cast<Field>(number);
     if ((production.required & ~seen & bit(field)) != 0)
       errors.add(
-        checked.place, quoted(checked.name) + " lacks its attribute " + quoted(axsSchemaVocabulary::name(field)));
+        checked.place, quoted(checked.name()) + " lacks its attribute " + quoted(axsSchemaVocabulary::name(field)));
   }
 }
 
@@ -262,7 +263,7 @@ void Check::children(axsSchemaElement const& checked, axsSchemaProduction const&
   {
     if (child->tag == Tag::other || (any_slot & bit(child->tag)) == 0)
     {
-      errors.add(child->place, "this element may not stand in " + quoted(checked.name));
+      errors.add(child->place, "this element may not stand in " + quoted(checked.name()));
       continue;
     }
     std::size_t next = slot;
@@ -271,7 +272,7 @@ void Check::children(axsSchemaElement const& checked, axsSchemaProduction const&
       ++next;
     if (next == production.slot_count || is_closed)
     {
-      errors.add(child->place, quoted(child->name) + " may not stand here in " + quoted(checked.name));
+      errors.add(child->place, quoted(child->name()) + " may not stand here in " + quoted(checked.name()));
       return;
     }
     for (; slot < next; ++slot, count = 0)
@@ -293,7 +294,7 @@ void Check::missing_children(
   for (auto number = 0u; number < static_cast<unsigned>(Tag::other); ++number)
     if ((production.slots[slot].tags & bit(static_cast<Tag>(number))) != 0)
       wanted += (wanted.empty() ? "" : " or ") + quoted(axsSchemaVocabulary::name(static_cast<Tag>(number)));
-  errors.add(checked.place, quoted(checked.name) + " lacks its " + wanted);
+  errors.add(checked.place, quoted(checked.name()) + " lacks its " + wanted);
 }
 
 void Check::representation(axsSchemaElement const& checked)
@@ -352,7 +353,7 @@ void Check::element_declaration(axsSchemaElement const& checked)
       {Field::nillable, Field::default_value, Field::fixed, Field::form, Field::block, Field::type}); // src-element.2.2
   for (axsSchemaElement const* child = checked.first_child; child != nullptr; child = child->next)
     if (child->tag != Tag::annotation)
-      errors.add(child->place, quoted(child->name) + " may not stand in an 'element' with 'ref'");
+      errors.add(child->place, quoted(child->name()) + " may not stand in an 'element' with 'ref'");
 }
 
 // src-attribute.
@@ -386,7 +387,7 @@ void Check::occurrences(axsSchemaElement const& checked)
   bool const is_unbounded = checked.value(Field::max_occurs) == "unbounded";
   std::optional<std::uint64_t> const max = checked.has(Field::max_occurs) ? count(checked.value(Field::max_occurs)) : 1;
   if (!is_unbounded && min.has_value() && max.has_value() && *min > *max)
-    errors.add(checked.place_of(Field::max_occurs), "maxOccurs of " + quoted(checked.name) +
+    errors.add(checked.place_of(Field::max_occurs), "maxOccurs of " + quoted(checked.name()) +
                                                       " is less than its minOccurs" +
                                                       (checked.has(Field::max_occurs) ? "" : "; without one it is 1"));
 }
@@ -410,11 +411,11 @@ void Check::import(axsSchemaElement const& checked)
 void Check::needs_one_of(axsSchemaElement const& checked, Field field, bool has_child)
 {
   if (checked.has(field) && has_child)
-    errors.add(checked.place, quoted(checked.name) + " has both an attribute " +
+    errors.add(checked.place, quoted(checked.name()) + " has both an attribute " +
                                 quoted(axsSchemaVocabulary::name(field)) + " and a type in it");
   if (!checked.has(field) && !has_child)
     errors.add(
-      checked.place, quoted(checked.name) + " lacks its attribute " + quoted(axsSchemaVocabulary::name(field)));
+      checked.place, quoted(checked.name()) + " lacks its attribute " + quoted(axsSchemaVocabulary::name(field)));
 }
 
 // Whether both are there, which is told of.
@@ -422,7 +423,7 @@ bool Check::conflict(axsSchemaElement const& checked, Field one, Field other)
 {
   if (!checked.has(one) || !checked.has(other))
     return false;
-  errors.add(checked.place_of(other), quoted(checked.name) + " has both " + quoted(axsSchemaVocabulary::name(one)) +
+  errors.add(checked.place_of(other), quoted(checked.name()) + " has both " + quoted(axsSchemaVocabulary::name(one)) +
                                         " and " + quoted(axsSchemaVocabulary::name(other)));
   return true;
 }
@@ -432,7 +433,7 @@ void Check::only_with_name(axsSchemaElement const& checked, std::initializer_lis
   for (Field const field : fields)
     if (checked.has(field))
       errors.add(checked.place_of(field), "attribute " + quoted(axsSchemaVocabulary::name(field)) +
-                                            " may not stand on an " + quoted(checked.name) + " with 'ref'");
+                                            " may not stand on an " + quoted(checked.name()) + " with 'ref'");
 }
 }
 

@@ -44,7 +44,15 @@ std::optional<axsFacetKind> facet_kind(axsSchemaElement const& element)
 {
   axsFacetKind kind{};
   bool const is_facet = element.role == axsSchemaRole::facet || element.role == axsSchemaRole::value_facet;
-  return is_facet && axsFacets::find(element.name, kind) ? std::optional(kind) : std::nullopt;
+  return is_facet && axsFacets::find(element.name(), kind) ? std::optional(kind) : std::nullopt;
+}
+
+std::size_t count_of_facets(axsSchemaElement const& element)
+{
+  std::size_t count = 0;
+  for (axsSchemaElement const* child = element.first_child; child != nullptr; child = child->next)
+    ++count;
+  return count;
 }
 
 axsSchemaElement const* derivation_of(axsSchemaElement const& type)
@@ -237,6 +245,7 @@ axsSimpleType const& axsSimpleTypeReader::with_facets(
   axsSchemaUnit const& unit, axsSchemaElement const& element, axsSimpleType const& base, axsSchemaElement const* type)
 {
   std::vector<axsFacet> facets;
+  facets.reserve(count_of_facets(element));
   std::deque<axsSchemaValueContext> contexts;
   axsSchemaScope const* last_scope = nullptr;
   for (axsSchemaElement const* child = element.first_child; child != nullptr; child = child->next)

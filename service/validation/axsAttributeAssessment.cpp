@@ -12,9 +12,6 @@
 
 namespace
 {
-// Up to so many uses, a look at each is as fast.
-std::size_t const few = 12;
-
 using Kind = axsValueConstraint::Kind;
 
 // That of the use where both have one (Part 1, 3.5.4 cvc-au).
@@ -112,23 +109,8 @@ void axsAttributeAssessment::skip(axsStartTag const& tag)
 
 std::size_t axsAttributeAssessment::find_use(axsComplexType const& type, axsTagAttribute const& attribute)
 {
-  std::string_view const local = attribute.name->local();
-  std::vector<axsAttributeUse> const& uses = type.attributes;
-  if (uses.size() <= few)
-  {
-    std::size_t i = 0;
-    while (
-      i < uses.size() && (uses[i].decl->name.local != local || uses[i].decl->name.name_space != attribute.name_space))
-      ++i;
-    return i;
-  }
-  Index& index = indexes[&type];
-  if (index.empty())
-    for (std::size_t i = 0; i < uses.size(); ++i)
-      index.emplace(
-        std::pair<std::string_view, std::string_view>(uses[i].decl->name.name_space, uses[i].decl->name.local), i);
-  auto const found = index.find(std::pair<std::string_view, std::string_view>(attribute.name_space, local));
-  return found == index.end() ? uses.size() : found->second;
+  std::size_t const found = type.attributes.find(attribute.name_space, attribute.name->local());
+  return found == axsAttributeUses::none ? type.attributes.size() : found;
 }
 
 // cvc-attribute, cvc-au

@@ -48,8 +48,6 @@ private:
       return text(name.first) * 31 + text(name.second);
     }
   };
-  using Index = std::unordered_map<std::pair<std::string_view, std::string_view>, std::size_t, NameHash>;
-
   static bool is_exempt(axsTagAttribute const& attribute) noexcept;
   std::size_t find_use(axsComplexType const& type, axsTagAttribute const& attribute);
   void assess_use(axsTagAttribute const& attribute, axsAttributeUse const& use);
@@ -66,5 +64,4 @@ private:
   std::vector<char> is_seen; // by the number of the use
   std::size_t wild_ids = 0;
   std::vector<axsAttributeUse const*> added;
-  std::unordered_map<axsComplexType const*, Index> indexes; // of types with many
 };
