@@ -1,36 +1,158 @@
 #include <apAtomicFile.h>
 
+#include "apHeldSignals.h"
 #include "apNativeFile.h"
 
-#include <apProcessControl.h>
-#include <apStringFormatter.h>
-
-#include <atomic>
+#include <array>
+#include <chrono>
+#include <cstdint>
+#include <exception>
+#include <memory>
+#include <random>
 #include <utility>
 
 namespace
 {
-// Beside the target, so that renaming does not cross file systems; no two of them alike, in whatever process or thread.
-apPath beside(apPath const& target)
+using Stream = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+
+std::uint64_t draw()
 {
-  static std::atomic<unsigned int> files{0};
-  apString const suffix = apStringFormatter::format(L".%d_%u.tmp", apProcessControl::getpid(), ++files);
-  return apPath(target.path() + suffix.to_utf8());
+  try
+  {
+    std::random_device device;
+    return static_cast<std::uint64_t>(device()) << 32 | device();
+  }
+  catch (std::exception const&)
+  {
+    // A name that somebody else has is tried again, with another time.
+    return static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
+  }
+}
+
+// A name beside the target, so that renaming does not cross file systems; short, for the target's may be as long as the
+// system takes.
+utString name_beside(utString const& target)
+{
+  char const characters[] = "abcdefghijklmnopqrstuvwxyz234567";
+  char name[] = "/.ax----------.tmp";
+  std::uint64_t random = draw();
+  for (char& c : name)
+    if (c == '-')
+    {
+      c = characters[random % 32];
+      random /= 32;
+    }
+  return apNativeFile::folder_of(target) + utString(name);
+}
+
+// Calls `make(name)` with names beside the target until it does not find the name taken. Empty where it cannot be.
+template <class Make>
+utString made_beside(utString const& target, Make make)
+{
+  int const max_attempts = 100;
+  for (int attempt = 0; attempt < max_attempts; ++attempt)
+  {
+    utString name = name_beside(target);
+    switch (make(name))
+    {
+    case apNativeFile::Made::yes:
+      return name;
+    case apNativeFile::Made::exists:
+      break;
+    case apNativeFile::Made::no:
+      return utString();
+    }
+  }
+  return utString();
+}
+
+// Makes `to` hold what `from` holds.
+bool copy(std::FILE* from, std::FILE* to)
+{
+  if (std::fseek(from, 0, SEEK_SET) != 0 || std::fseek(to, 0, SEEK_SET) != 0)
+    return false;
+  std::array<char, 16384> bytes;
+  for (std::size_t count; (count = std::fread(bytes.data(), 1, bytes.size(), from)) > 0;)
+    if (std::fwrite(bytes.data(), 1, count, to) != count)
+      return false;
+  return std::ferror(from) == 0 && apNativeFile::end_here(to);
+}
+
+// Whether all that was written to the stream so far has reached the system.
+bool is_written(std::FILE* file)
+{
+  return std::ferror(file) == 0 && std::fflush(file) == 0;
+}
+
+// Puts `file`, which is called `temporary` unless that is empty, in the place of `place`. False with it open still, under
+// the name in `temporary` if it has got one.
+bool take_place(std::FILE*& file, apPath const& place, apPath& temporary)
+{
+  if (apNativeFile::has_further_names(place.path()) || !apNativeFile::take_permissions(file, place.path()))
+    return false;
+  // With a name, the file would stay if a signal ended the process.
+  apHeldSignals const held;
+  if (temporary.empty())
+    temporary =
+      apPath(made_beside(place.path(), [&](utString const& name) { return apNativeFile::give_name(file, name); }));
+  if (temporary.empty())
+    return false;
+#if defined(_WIN32)
+  // There, what is open cannot be renamed.
+  std::fclose(std::exchange(file, nullptr));
+#endif
+  if (temporary.replace(place))
+  {
+    temporary = apPath();
+    return true;
+  }
+#if defined(_WIN32)
+  file = temporary.file_open("r+b");
+#endif
+  return false;
+}
+
+bool write_in_place(std::FILE* file, apPath const& place)
+{
+  Stream const target(place.file_open("r+b"), &std::fclose);
+  Stream const old(std::tmpfile(), &std::fclose);
+  if (file == nullptr || target == nullptr || old == nullptr || !copy(target.get(), old.get()))
+    return false;
+  if (copy(file, target.get()) && apNativeFile::sync(target.get()))
+    return true;
+  // The old bytes need no room that the file did not have.
+  std::clearerr(target.get());
+  static_cast<void>(copy(old.get(), target.get()) && apNativeFile::sync(target.get()));
+  return false;
 }
 }
 
-apAtomicFile::apAtomicFile(apPath const& target) : place(target)
+apAtomicFile::apAtomicFile(apPath const& target)
 {
-  if (!apNativeFile::is_special(target.path()))
+  utString const resolved = apNativeFile::resolved(target.path());
+  int const descriptor = apNativeFile::descriptor(resolved);
+  if (descriptor >= 0 || apNativeFile::is_special(resolved))
   {
-    place = apPath(apNativeFile::resolved(target.path()));
-    if (place.empty() || !apNativeFile::may_be_written(place.path()))
-      return;
-    temporary = beside(place);
+    file = descriptor >= 0 ? apNativeFile::open_descriptor(descriptor) : target.file_open(apPath::write_mode());
+    return;
   }
-  file = (temporary.empty() ? place : temporary).file_open(apPath::write_mode());
+  if (resolved.length() == 0 || !apNativeFile::may_be_written(resolved))
+    return;
+
+  place = apPath(resolved);
+  bool const is_new = !place.exists();
+  file = apNativeFile::open_nameless(resolved, is_new);
   if (file == nullptr)
-    temporary = apPath();
+    temporary = apPath(made_beside(resolved,
+      [&](utString const& name)
+      {
+        bool exists = false;
+        file = apNativeFile::open_new(name, is_new, exists);
+        return file != nullptr ? apNativeFile::Made::yes : exists ? apNativeFile::Made::exists : apNativeFile::Made::no;
+      }));
+  // Where nothing new may be made, the file itself is written at the end.
+  if (file == nullptr && !is_new)
+    file = std::tmpfile();
 }
 
 apAtomicFile::~apAtomicFile()
@@ -51,17 +173,12 @@ try
 {
   if (file == nullptr)
     return false;
-  bool const straight = temporary.empty();
-  bool const written = std::ferror(file) == 0 && std::fflush(file) == 0 && (straight || apNativeFile::sync(file));
-  if (std::fclose(std::exchange(file, nullptr)) != 0 || !written)
-    return false;
-  if (straight)
-    return true;
-  apNativeFile::keep_permissions(place.path(), temporary.path());
-  if (!temporary.replace(place))
-    return false;
-  temporary = apPath();
-  return true;
+  bool const straight = place.empty();
+  bool const done =
+    is_written(file) &&
+    (straight || (apNativeFile::sync(file) && (take_place(file, place, temporary) || write_in_place(file, place))));
+  bool const is_closed = file == nullptr || std::fclose(std::exchange(file, nullptr)) == 0;
+  return is_closed && done;
 }
 catch (...)
 {

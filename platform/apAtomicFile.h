@@ -7,16 +7,25 @@
 
 /// A file that takes the place of another in one step, once it is whole.
 ///
-/// Until commit() it grows beside its target under a name of its own (the target's with process and number behind it,
-/// ending in ".tmp"), and what is at the target stays as it is. Destroyed without commit(), it goes.
+/// Until commit() what is at the target stays as it is. Destroyed without commit(), or with the process, the new file is
+/// gone: where the system knows files without a name, it has none before; elsewhere it has a short random one in the
+/// folder of the target, ".ax" with ten characters and ".tmp", that nothing else had.
 ///
-/// The target keeps its permissions, where the system lets us its owner and group as well; a symbolic link to it stays a
-/// link. Something that is there and no regular file, such as a device or a pipe, is written straight: there is nothing to
-/// be kept whole.
+/// What takes the place has the permissions, owner and group of what was there before it takes the place, and may be read
+/// by its owner only until then; access lists and extended attributes do not go over. A symbolic link to the target stays
+/// a link.
+///
+/// The file is written in place instead, at commit() and from a copy that is whole by then, where nothing can take its
+/// place although it may be written: in a folder without permission, where the file is mounted by itself, belongs to
+/// somebody else whose it has to stay, or has further names (hard links), all of which show the new bytes. If that fails
+/// halfway, the old bytes are put back; only a process that ends halfway leaves neither.
+///
+/// What is there and no regular file, such as a device or a pipe, is written straight: there is nothing to be kept whole.
+/// So are the descriptors of the process (/dev/stdout, /dev/fd/N), whatever they lead to.
 ///
 /// One object belongs to one thread at a time; several objects, of several threads and processes too, may have one
-/// target: each commit() puts a whole file there. Memory that runs out is std::bad_alloc from the constructor, with no
-/// file left behind.
+/// target: each commit() that is not in place puts a whole file there. Memory that runs out is std::bad_alloc from the
+/// constructor, with no file left behind.
 class AP_API apAtomicFile
 {
 public:
@@ -37,6 +46,6 @@ public:
 
 private:
   std::FILE* file = nullptr;
-  apPath place;     // what is replaced
-  apPath temporary; // empty where the target is written straight
+  apPath place;     // what is replaced; empty where the target is written straight
+  apPath temporary; // the new file as long as it has a name of its own
 };

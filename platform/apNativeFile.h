@@ -26,8 +26,42 @@ bool may_be_written(utString const& name);
 // leads to itself.
 utString resolved(utString const& name);
 
-// Gives the file `to` the permissions and, where that is allowed, owner and group of the file `from`, if there is one.
-void keep_permissions(utString const& from, utString const& to);
+// The descriptor of this process that a name such as /dev/fd/1 is for, -1 if it is for none. A link to such a name is
+// resolved() to it.
+int descriptor(utString const& name);
+
+// A stream that writes to what the descriptor leads to; null when that cannot be.
+std::FILE* open_descriptor(int number);
+
+// The folder in which the name is, without the slash at its end.
+utString folder_of(utString const& name);
+
+// A new file without a name, in the folder of `name`, to be written and read. It may be read by everybody if `is_public`
+// and the process does not mask that, else by its owner only. Null where there are none.
+std::FILE* open_nameless(utString const& name, bool is_public);
+
+// The same with the name `name`, which nothing has. Null when that cannot be; `exists` tells whether something has it.
+std::FILE* open_new(utString const& name, bool is_public, bool& exists);
+
+enum class Made
+{
+  yes,
+  exists,
+  no
+};
+
+// Gives a name to a file that has none, if nothing has that name.
+Made give_name(std::FILE* file, utString const& name);
+
+// Whether the file has more than one name (hard links).
+bool has_further_names(utString const& name);
+
+// Gives the stream's file the owner, the group and the permissions of the file `from`. Whether it has them all; yes if
+// there is no such file.
+bool take_permissions(std::FILE* file, utString const& from);
+
+// Makes the stream's file end where the stream stands. False when that, or writing what it holds, fails.
+bool end_here(std::FILE* file);
 
 // Whether all that was written to the stream, and flushed, has reached the disk.
 bool sync(std::FILE* file);

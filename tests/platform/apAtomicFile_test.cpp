@@ -96,7 +96,8 @@ TEST(apAtomicFile, goes_without_commit)
   {
     apAtomicFile const file(folder.file("a.xml"));
     std::fputs("new", file.stream());
-    EXPECT_EQ(folder.entries(), 2);
+    // Some systems know files without a name.
+    EXPECT_LE(folder.entries(), 2);
   }
   EXPECT_EQ(read_file(folder.file("a.xml")), "old");
   EXPECT_EQ(folder.entries(), 1);
@@ -191,6 +192,145 @@ TEST(apAtomicFile, does_not_follow_a_link_to_itself_for_ever)
   ASSERT_EQ(symlink("link.xml", folder.file("link.xml").path().c_str()), 0);
   EXPECT_FALSE(put(folder.file("link.xml"), "new"));
   EXPECT_EQ(folder.entries(), 1);
+}
+
+TEST(apAtomicFile, takes_a_target_whose_name_is_as_long_as_names_may_be)
+{
+  Folder const folder;
+  std::string const longest(255, 'n');
+  write_file(folder.file(longest.c_str()), "old");
+  EXPECT_TRUE(put(folder.file(longest.c_str()), "new"));
+  EXPECT_EQ(read_file(folder.file(longest.c_str())), "new");
+  EXPECT_EQ(folder.entries(), 1);
+}
+
+TEST(apAtomicFile, is_read_by_its_owner_only_until_it_has_the_permissions_of_the_target)
+{
+  Folder const folder;
+  apPath const path = folder.file("a.xml");
+  write_file(path, "old");
+  ASSERT_EQ(chmod(path.path().c_str(), 0644), 0);
+  apAtomicFile file(path);
+  struct stat found;
+  ASSERT_EQ(fstat(fileno(file.stream()), &found), 0);
+  EXPECT_EQ(found.st_mode & 07777, 0600U);
+  EXPECT_TRUE(file.commit());
+  EXPECT_EQ(mode_of(path), 0644U);
+}
+
+TEST(apAtomicFile, a_new_file_has_the_permissions_that_the_process_gives_to_new_files)
+{
+  Folder const folder;
+  mode_t const before = umask(027);
+  EXPECT_TRUE(put(folder.file("a.xml"), "new"));
+  umask(before);
+  EXPECT_EQ(mode_of(folder.file("a.xml")), 0640U);
+}
+
+TEST(apAtomicFile, keeps_every_name_of_a_file)
+{
+  Folder const folder;
+  write_file(folder.file("a.xml"), "old and longer");
+  ASSERT_EQ(link(folder.file("a.xml").path().c_str(), folder.file("b.xml").path().c_str()), 0);
+  EXPECT_TRUE(put(folder.file("a.xml"), "new"));
+  EXPECT_EQ(read_file(folder.file("a.xml")), "new");
+  EXPECT_EQ(read_file(folder.file("b.xml")), "new");
+  EXPECT_TRUE(put(folder.file("b.xml"), "newer and longer still"));
+  EXPECT_EQ(read_file(folder.file("a.xml")), "newer and longer still");
+  EXPECT_EQ(folder.entries(), 2);
+}
+
+namespace
+{
+// What `work` gives in a process of a user who is nobody in particular; what it gives here if this user is no root.
+template <class Work>
+bool as_nobody(Work work)
+{
+  if (getuid() != 0)
+    return work();
+  pid_t const child = fork();
+  if (child == 0)
+    _exit(setgid(65534) == 0 && setuid(65534) == 0 && work() ? 0 : 1);
+  int status = 1;
+  waitpid(child, &status, 0);
+  return status == 0;
+}
+}
+
+TEST(apAtomicFile, writes_a_file_in_a_folder_in_which_nothing_new_may_be_made)
+{
+  Folder const folder;
+  apPath const path = folder.file("a.xml");
+  write_file(path, "old and longer");
+  ASSERT_EQ(chmod(path.path().c_str(), 0666), 0);
+  std::filesystem::path const at = std::filesystem::u8path(path.path().c_str()).parent_path();
+  std::filesystem::permissions(
+    at, std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec | std::filesystem::perms::others_exec);
+  bool const old_may_be_changed = as_nobody([&] { return put(path, "new"); });
+  bool const new_may_be_made = as_nobody([&] { return put(folder.file("b.xml"), "new"); });
+  std::filesystem::permissions(at, std::filesystem::perms::all);
+  EXPECT_TRUE(old_may_be_changed);
+  EXPECT_FALSE(new_may_be_made);
+  EXPECT_EQ(read_file(path), "new");
+  EXPECT_EQ(folder.entries(), 1);
+}
+
+TEST(apAtomicFile, a_file_that_everybody_may_write_stays_that_of_its_owner)
+{
+  Folder const folder;
+  apPath const path = folder.file("a.xml");
+  write_file(path, "old");
+  ASSERT_EQ(chmod(path.path().c_str(), 0666), 0);
+  EXPECT_TRUE(as_nobody([&] { return put(path, "new"); }));
+  struct stat found;
+  ASSERT_EQ(stat(path.path().c_str(), &found), 0);
+  EXPECT_EQ(found.st_uid, getuid());
+  EXPECT_EQ(read_file(path), "new");
+  EXPECT_EQ(mode_of(path), 0666U);
+}
+
+TEST(apAtomicFile, a_process_that_is_killed_leaves_the_old_file_alone)
+{
+  Folder const folder;
+  write_file(folder.file("a.xml"), "old");
+  int entries = 2;
+  {
+    apAtomicFile const file(folder.file("a.xml"));
+    entries = folder.entries();
+  }
+  pid_t const child = fork();
+  if (child == 0)
+  {
+    apAtomicFile const file(folder.file("a.xml"));
+    std::fputs("new", file.stream());
+    std::fflush(file.stream());
+    std::raise(SIGKILL);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  EXPECT_TRUE(WIFSIGNALED(status));
+  EXPECT_EQ(read_file(folder.file("a.xml")), "old");
+  // Where files have no name until they are whole, nothing else is there.
+  EXPECT_EQ(folder.entries(), entries);
+}
+
+TEST(apAtomicFile, writes_to_a_descriptor_of_the_process_whatever_it_leads_to)
+{
+  Folder const folder;
+  apPath const path = folder.file("a.xml");
+  std::FILE* const open = path.file_open("wb");
+  ASSERT_NE(open, nullptr);
+  std::fputs("before ", open);
+  std::fflush(open);
+  std::string const number = std::to_string(fileno(open));
+  for (std::string const& name : {"/dev/fd/" + number, "/proc/self/fd/" + number})
+    EXPECT_TRUE(put(apPath(name.c_str()), "new ")) << name;
+  ASSERT_EQ(symlink(("/dev/fd/" + number).c_str(), folder.file("link").path().c_str()), 0);
+  EXPECT_TRUE(put(folder.file("link"), "linked "));
+  std::fputs("after", open);
+  std::fclose(open);
+  EXPECT_EQ(read_file(path), "before new new linked after");
+  EXPECT_FALSE(put(apPath("/dev/fd/12345"), "new"));
 }
 
 TEST(apAtomicFile, writes_straight_to_what_is_no_regular_file)
