@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <thread>
 #include <vector>
@@ -39,6 +40,34 @@ TEST(utAssert, writes_to_standard_error_and_goes_on)
   testing::internal::CaptureStderr();
   ut_report_assertion("a < b", "file.cpp", 7);
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "file.cpp:7: assertion failed: a < b\n");
+}
+
+TEST(utAssert, writes_the_first_reports_of_a_place_and_then_their_number)
+{
+  testing::internal::CaptureStderr();
+  for (int report = 0; report < 100000; ++report)
+    ut_report_assertion("moved", "repeated.cpp", 1);
+  ut_report_assertion("moved", "repeated.cpp", 2);
+  ut_report_assertion("moved", "other.cpp", 1);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "repeated.cpp:1: assertion failed: moved\n"
+                                                    "repeated.cpp:1: assertion failed: moved\n"
+                                                    "repeated.cpp:1: assertion failed: moved\n"
+                                                    "repeated.cpp:1: assertion failed 10 times: moved\n"
+                                                    "repeated.cpp:1: assertion failed 100 times: moved\n"
+                                                    "repeated.cpp:1: assertion failed 1000 times: moved\n"
+                                                    "repeated.cpp:1: assertion failed 10000 times: moved\n"
+                                                    "repeated.cpp:1: assertion failed 100000 times: moved\n"
+                                                    "repeated.cpp:2: assertion failed: moved\n"
+                                                    "other.cpp:1: assertion failed: moved\n");
+}
+
+TEST(utAssert, writes_of_a_place_that_is_new_after_very_many_others)
+{
+  testing::internal::CaptureStderr();
+  for (int line = 0; line < 1000; ++line)
+    ut_report_assertion("here", "many.cpp", line);
+  std::string const written = testing::internal::GetCapturedStderr();
+  EXPECT_EQ(std::count(written.begin(), written.end(), '\n'), 1000);
 }
 
 TEST(utAssert, tells_the_listener_in_charge)
