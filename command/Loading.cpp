@@ -35,7 +35,7 @@ void complain_about(axmParseError const& error, std::string const& file, std::st
 
 void complain_in_one_line(axmParseError const& error, std::string const& file, std::string const& more)
 {
-  std::cerr << place_of(error, file);
+  std::cerr << shown(place_of(error, file));
   if (error.line_number() > 0)
     std::cerr << ':' << error.line_number() << ':' << std::max(error.column_number(), 1);
   std::cerr << ": " << shown(error.message().to_utf8().c_str()) << more << '\n';

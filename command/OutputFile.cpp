@@ -18,7 +18,7 @@ std::FILE* standard_output()
 
 OutputFile::OutputFile(std::string const& target)
 {
-  if (target.empty())
+  if (target.empty() || target == "-")
     stream = standard_output();
   else
     stream = file.emplace(apPath(target.c_str())).stream();
@@ -40,4 +40,9 @@ bool OutputFile::finish()
   if (file.has_value())
     return file->commit();
   return std::fflush(stream) == 0 && good();
+}
+
+std::string OutputFile::wrong_name(std::string const& target)
+{
+  return target.empty() ? "the file name is empty" : std::string();
 }

@@ -12,7 +12,7 @@
 class OutputFile
 {
 public:
-  /// To the file `target`, a path in UTF-8; to standard output if it is empty.
+  /// To the file `target`, a path in UTF-8; to standard output if it is empty or "-".
   explicit OutputFile(std::string const& target);
 
   /// Whether everything could be written so far.
@@ -22,6 +22,10 @@ public:
 
   /// Puts the file in its place. False if not everything could be written; what was there before is unchanged then.
   bool finish();
+
+  /// For the check of an option: what is wrong with the name of a file that was given; empty if nothing is. An empty one,
+  /// as an unset variable of a script leaves it, must not pass for one that was not given.
+  static std::string wrong_name(std::string const& target);
 
 private:
   std::optional<apAtomicFile> file; // none for standard output

@@ -1,6 +1,7 @@
 #include "BuiltInEngine.h"
 #include "Complaint.h"
 #include "Loading.h"
+#include "OutputFile.h"
 
 #include <axmElement.h>
 #include <axmNodeList.h>
@@ -70,14 +71,24 @@ int complain_of_nothing(axmElement& root, std::string const& xpath)
   return complain(xpath, "selects nothing", exit_bad_input);
 }
 
+bool write_to_standard_output(apByteArray const& bytes)
+{
+  OutputFile output{std::string()};
+  output.write({bytes.data(), bytes.size()});
+  return output.finish();
+}
+
 int save(axmDocumentFactory& factory, std::shared_ptr<axmDocument> const& document, std::string const& output)
 {
-  if (factory.saveDocument(document, apPath(output.c_str())))
+  bool const is_file = output != "-";
+  if (is_file && factory.saveDocument(document, apPath(output.c_str())))
     return exit_good;
   // Whether it is the document or the file shows where no file is needed.
   apByteArray bytes;
   bool const can_be_saved = factory.saveDocument(document, bytes);
-  return complain(output,
+  if (!is_file && can_be_saved && write_to_standard_output(bytes))
+    return exit_good;
+  return complain(is_file ? output : "standard output",
     can_be_saved
       ? "cannot be written"
       : "not saved: a name has a prefix that is not bound to a namespace, or a value has a character that XML "
@@ -116,7 +127,8 @@ void add_set(CLI::App& app, int& exit_code)
   verb->add_option("FILE", request->file, "The document")->required();
   verb->add_option("XPATH", request->xpath, "The elements")->required();
   verb->add_option("NAME=VALUE", request->settings, "The attributes to set")->required()->check(wrong_setting);
-  verb->add_option("--output", request->output, "The file to save to; FILE without it");
+  verb->add_option("--output", request->output, "The file to save to, - for standard output; FILE without it")
+    ->check(OutputFile::wrong_name);
   verb->footer(footer);
   verb->callback([request, &exit_code] { exit_code = set(*request); });
 }

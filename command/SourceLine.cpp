@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <memory>
+#include <system_error>
 
 namespace
 {
@@ -80,6 +82,10 @@ std::string shown(std::string const& text)
 
 std::string shown_place(apPath const& file, int number, int column)
 {
+  // What was read from a pipe is gone, and waiting for more of it could take for ever.
+  std::error_code ignored;
+  if (!std::filesystem::is_regular_file(std::filesystem::u8path(file.path().view()), ignored))
+    return std::string();
   std::string raw = read_line(file, number);
   if (number == 1 && raw.compare(0, byte_order_mark.size(), byte_order_mark) == 0)
     raw.erase(0, byte_order_mark.size()); // takes no column

@@ -119,7 +119,8 @@ void add_table(CLI::App& app, int& exit_code)
   verb->add_option("--more", request->files, "Further documents, whose rows follow in the same table");
   verb->add_option("--format", request->format, "csv (the default), tsv or jsonl")
     ->check(CLI::IsMember({"csv", "tsv", "jsonl"}));
-  verb->add_option("--output", request->output, "The file to write, whole or not at all; standard output without it");
+  verb->add_option("--output", request->output, "The file to write, whole or not at all; standard output without it")
+    ->check(OutputFile::wrong_name);
   verb->add_flag("--header", request->header, "Write the columns' names first (csv, tsv)");
   verb
     ->add_option("--repeat", request->repeat,

@@ -5,6 +5,7 @@
 #include <CLI/CLI.hpp>
 
 #include <csignal>
+#include <cstdio>
 #include <exception>
 #include <iostream>
 #include <string>
@@ -21,6 +22,12 @@ bool names_no_verb(CLI::App& app, Arguments const& arguments)
   std::string const first = arguments.values()[1];
   auto const named = [&](CLI::App const* verb) { return verb->check_name(first); };
   return first.substr(0, 1) != "-" && app.get_subcommands(named).empty();
+}
+
+// Whether all that was written to standard output has reached the system.
+bool is_written(std::ostream& stream, std::FILE* file)
+{
+  return stream.flush().good() && std::fflush(file) == 0 && std::ferror(file) == 0;
 }
 
 int run(Arguments const& arguments)
@@ -57,7 +64,11 @@ int main(int argc, char** argv)
 #endif
   try
   {
-    return run(Arguments(argc, argv));
+    int const exit_code = run(Arguments(argc, argv));
+    // A verb that has met it has said so.
+    if (exit_code == exit_good && !is_written(std::cout, stdout))
+      return complain("standard output", "cannot be written", exit_bad_input);
+    return exit_code;
   }
   catch (std::exception const& error)
   {

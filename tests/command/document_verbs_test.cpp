@@ -2,7 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <thread>
+
+#if !defined(_WIN32)
+#  include <sys/stat.h>
+#endif
 
 namespace
 {
@@ -257,5 +263,69 @@ TEST(axm_set, leaves_nothing_behind_when_files_may_not_become_so_large)
   EXPECT_EQ(contents_of(errors.name), "axm: set_large/x.xml: cannot be written\n");
   EXPECT_TRUE(std::filesystem::is_empty("set_large"));
   std::filesystem::remove_all("set_large");
+}
+#endif
+
+TEST(axm_set, an_output_without_a_name_is_wrong_usage)
+{
+  TemporaryFile const file("set_no_name.xml", books);
+  EXPECT_EQ(run_axm("set_no_name", {"set", file.name, "//item", "a=b", "--output", ""}).exit_code, 2);
+  EXPECT_EQ(run_axm("set_no_name", {"table", file.name, "list/item", "@id", "--output", ""}).exit_code, 2);
+  EXPECT_EQ(contents_of(file.name), books);
+}
+
+TEST(axm_set, writes_to_standard_output)
+{
+  TemporaryFile const file("set_out.xml", "<a/>");
+  std::string const saved = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a b=\"c\"/>\n";
+  EXPECT_EQ(run_axm("set_out", {"set", file.name, "/a", "b=c", "--output", "-"}).out, saved);
+#if !defined(_WIN32)
+  EXPECT_EQ(run_axm("set_out", {"set", file.name, "/a", "b=c", "--output", "/dev/stdout"}).out, saved);
+#endif
+  EXPECT_EQ(contents_of(file.name), "<a/>");
+}
+
+#if !defined(_WIN32)
+TEST(axm_check, reports_what_is_wrong_in_a_pipe_and_does_not_open_it_again)
+{
+  std::string const name = "check_pipe";
+  std::filesystem::remove(name);
+  ASSERT_EQ(mkfifo(name.c_str(), 0600), 0);
+  std::thread writer(
+    [&]
+    {
+      std::FILE* const pipe = std::fopen(name.c_str(), "wb");
+      std::fputs("<a>\n<b></a>", pipe);
+      std::fclose(pipe);
+    });
+  ProgramRun const run = run_axm("check_pipe_run", {"check", name});
+  writer.join();
+  std::filesystem::remove(name);
+  EXPECT_EQ(run.exit_code, 1);
+  EXPECT_EQ(run.err.substr(0, 14), "check_pipe:2:6") << run.err;
+}
+
+TEST(axm, shows_names_without_control_characters)
+{
+  std::string const name = "no\x1B[31m\nfile";
+  for (std::vector<std::string> const& arguments :
+    {std::vector<std::string>{"check", name}, {"select", name, "/a"}, {"table", name, "a/b", "@c"}, {name}})
+  {
+    ProgramRun const run = run_axm("axm_control", arguments);
+    EXPECT_NE(run.exit_code, 0);
+    EXPECT_EQ(run.err.find('\x1B'), std::string::npos) << run.err;
+    EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
+  }
+}
+
+TEST(axm, says_so_when_its_output_is_lost)
+{
+  for (std::string const arguments : {"--help", "--version", "table --help", "conform --help"})
+  {
+    std::string const command = std::string("\"") + AXM_PROGRAM + "\" " + arguments + " > /dev/full 2> axm_full.err";
+    EXPECT_EQ(WEXITSTATUS(std::system(command.c_str())), 1) << arguments;
+    TemporaryFile const errors("axm_full.err", contents_of("axm_full.err"));
+    EXPECT_EQ(contents_of(errors.name), "axm: standard output: cannot be written\n") << arguments;
+  }
 }
 #endif
