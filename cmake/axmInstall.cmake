@@ -4,11 +4,6 @@ include(CMakePackageConfigHelpers)
 
 set(axm_package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/axm)
 
-# A static engine leaves its parser to the program that it is linked to.
-set(axm_dependencies "")
-if(TARGET axs AND NOT BUILD_SHARED_LIBS)
-  set(axm_dependencies "include(CMakeFindDependencyMacro)\nfind_dependency(XercesC)\n")
-endif()
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/axmConfig.cmake.in ${PROJECT_BINARY_DIR}/axmConfig.cmake
   INSTALL_DESTINATION ${axm_package_folder})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/axmConfigVersion.cmake COMPATIBILITY SameMajorVersion)

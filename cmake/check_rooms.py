@@ -2,8 +2,7 @@
 """Checks how the rooms of the house include each other.
 
 check_rooms.py            exit code 1, with each fault, where a room includes what stands above it, rooms include each other
-                          in a circle, a header of the own library is not in quotes or another one's not in angles, or a
-                          file outside of the room that adapts it names the parser library that is linked
+                          in a circle, or a header of the own library is not in quotes or another one's not in angles
 check_rooms.py --graph    prints which room includes which, from the lowest room up
 
 The tables below are the plan of the house; a folder that is missing in them is a fault, too.
@@ -38,18 +37,16 @@ ROOMS = {
     "source/utest": ["source", "source/document", "source/factory"],
     "service/text": [],
     "service/parser": ["service/text"],
-    # Schema documents are read through the adapter as long as that stands.
-    "service/schema": ["service/text", "service/parser", "service/xerces"],
+    "service/schema": ["service/text", "service/parser"],
     "service/validation": ["service/text", "service/parser", "service/schema"],
     "service/tree": ["service/text"],
     "service/xpath": ["service/text", "service/tree"],
     "service/writing": ["service/text", "service/tree"],
     "service/dom": ["service/text", "service/tree", "service/xpath", "service/writing"],
     "service/reader": ["service/text", "service/parser", "service/validation"],
-    "service/xerces": ["service/text", "service/parser", "service/tree"],
     "service/engine": [
         "service/text", "service/parser", "service/schema", "service/validation", "service/tree", "service/xpath",
-        "service/writing", "service/dom", "service/reader", "service/xerces"],
+        "service/writing", "service/dom", "service/reader"],
     "command": [],
 }
 
@@ -63,9 +60,6 @@ ROOM_OF_FILE = {
 
 # The libraries whose includes are all written in one form.
 IN_ONE_FORM = ["service", "command"]
-
-ADAPTER = "service/xerces"
-PARSER_LIBRARY = re.compile(r"\bxercesc\s*(/|::)")
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 
@@ -140,8 +134,6 @@ class Check:
         self.graph.setdefault(room, set())
         for number, line in enumerate(lines, 1):
             place = f"{path}:{number}"
-            if room != ADAPTER and PARSER_LIBRARY.search(line):
-                self.faults.append(f"{place}: names the parser library, which {ADAPTER}/ is to hide")
             included = INCLUDE.match(line)
             if included:
                 self.check_include(place, path, room, included.group(1), included.group(2))

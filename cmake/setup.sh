@@ -29,8 +29,8 @@ build_preset() {
   fi
 }
 
-packages_to_build=(g++ cmake ninja-build libcli11-dev libxerces-c-dev zlib1g-dev liblzma-dev libzstd-dev)
+packages_to_build=(g++ cmake ninja-build libcli11-dev zlib1g-dev liblzma-dev libzstd-dev)
 packages_to_test=(libgtest-dev locales libxml2-dev abigail-tools clang clang-format-14 g++-mingw-w64-x86-64-posix python3)
 # Whoever has npm from elsewhere keeps it.
 command -v npm > /dev/null || packages_to_test+=(npm)
-packages_to_benchmark=(libpugixml-dev librapidxml-dev libexpat1-dev libxml2-dev)
+packages_to_benchmark=(libxerces-c-dev libpugixml-dev librapidxml-dev libexpat1-dev libxml2-dev)

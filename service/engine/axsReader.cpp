@@ -7,7 +7,6 @@
 #include "axsSource.h"
 #include "axsTreeBuilder.h"
 #include "axsValidityErrors.h"
-#include "axsXercesParser.h"
 
 namespace
 {
@@ -34,13 +33,5 @@ std::shared_ptr<axmDocument> axsReader::read(axsSource& source, axmLoadOptions c
     read_valid(source, options, builder);
   else
     axsParser(source, options, builder).run();
-  return document;
-}
-
-std::shared_ptr<axmDocument> axsReader::parse(axsSource& source, axmLoadOptions const& options, apString const& uri)
-{
-  std::shared_ptr<axmDocument> document = axsDomDocument::make(uri);
-  axsTreeBuilder builder(tree_of(*document));
-  axsXercesParser::parse(source, options, builder);
   return document;
 }

@@ -15,7 +15,4 @@ namespace axsReader
 /// axsReadError when it is not well-formed, not valid or cannot be read, or its schemas cannot be used; std::bad_alloc when
 /// memory runs out.
 std::shared_ptr<axmDocument> read(axsSource& source, axmLoadOptions const& options, apString const& uri);
-
-/// The same with the parser library that validates, to compare with.
-std::shared_ptr<axmDocument> parse(axsSource& source, axmLoadOptions const& options, apString const& uri);
 }

@@ -13,7 +13,7 @@ class axsNameCache;
 
 /// Follows the namespace declarations of a document and finds what is wrong with them and with the names that need them
 /// (Namespaces in XML 1.0). The names are those of one axsNameCache, in whose prefixes the scope keeps what they are
-/// bound to. Xerces-C could do it itself, but takes a time that grows with the square of the depth.
+/// bound to.
 class axsNamespaceScope : public axsPrefixScope
 {
 public:

@@ -117,18 +117,6 @@ TEST(axm_check, validates_against_schemas)
   EXPECT_EQ(run.err.find("check_invalid_plain.xml:1:12: element 'n': "), 0u) << run.err;
 }
 
-#if !defined(_WIN32)
-TEST(axm_check, heeds_no_environment_of_the_parser)
-{
-  TemporaryFile const good("check_doctype.xml", "<!DOCTYPE a [<!ENTITY e 'x'>]><a>&e;</a>");
-  setenv("XERCES_DISABLE_DTD", "1", 1);
-  ProgramRun const run = run_axm("check_doctype", {"check", good.name});
-  unsetenv("XERCES_DISABLE_DTD");
-  EXPECT_EQ(run.exit_code, 0);
-  EXPECT_EQ(run.out + run.err, "");
-}
-#endif
-
 TEST(axm_check, refuses_wrong_usage)
 {
   EXPECT_EQ(run_axm("check_usage", {"check"}).exit_code, 2);

@@ -58,14 +58,6 @@ class Rooms(unittest.TestCase):
         self.expect_fault({"service/attic/../cellar.h": "", "cupboard/x.h": "", "service/y.cpp": ""},
                           "service/y.cpp: its folder is no room of the house")
 
-    def test_the_parser_library_is_named_by_its_adapter_only(self):
-        code, _ = self.check({"service/xerces/axsA.cpp": "#include <xercesc/util/XMLString.hpp>\nxercesc::XMLString s;\n"})
-        self.assertEqual(code, 0)
-        self.expect_fault({"service/engine/axsA.cpp": "#include <xercesc/util/XMLString.hpp>\n"},
-                          "service/engine/axsA.cpp:1: names the parser library")
-        self.expect_fault({"service/parser/axsA.h": "class A { xercesc::XMLScanner* s; };\n"},
-                          "service/parser/axsA.h:1: names the parser library")
-
     def test_includes_of_the_engine_have_one_form(self):
         self.expect_fault({"service/text/axsA.h": "", "service/text/axsA.cpp": "#include <axsA.h>\n"},
                           "axsA.h stands in quotes, as a header of the own library")

@@ -1,114 +1,60 @@
 #include "BothRoads.h"
 
-#include "axsHandle.h"
-#include "axsName.h"
-#include "axsReadError.h"
-#include "axsReader.h"
-#include "axsSource.h"
-#include "axsWriter.h"
+#include "EventText.h"
+#include "Xml2Judge.h"
 
-#include <memory>
+#include <apByteArray.h>
+#include <axsParser.h>
+#include <axsSource.h>
+
+#include <sstream>
 
 namespace
 {
-std::string text_of(apString const& text)
-{
-  utString const utf8 = text.to_utf8();
-  return std::string(utf8.c_str(), static_cast<std::size_t>(utf8.length()));
-}
-
-std::string quoted(std::string_view text)
-{
-  return '"' + std::string(text.substr(0, 200)) + '"';
-}
-
-std::string compare(std::string_view what, std::string_view scanned, std::string_view parsed)
-{
-  return scanned == parsed ? std::string()
-                           : std::string(what) + " is " + quoted(scanned) + ", but " + quoted(parsed) + " to the judge";
-}
-
-std::string compare_attributes(axsNode const& scanned, axsNode const& parsed)
-{
-  axsNode const* left = scanned.first_attribute();
-  axsNode const* right = parsed.first_attribute();
-  for (; left != nullptr && right != nullptr; left = left->next_sibling(), right = right->next_sibling())
-  {
-    std::string found = compare("the name of an attribute", left->node_name(), right->node_name());
-    if (found.empty())
-      found = compare("the value of an attribute", left->value(), right->value());
-    if (!found.empty())
-      return found;
-  }
-  return left == right ? std::string() : "the number of attributes differs in " + quoted(scanned.node_name());
-}
-
-std::string compare_node(axsNode const& scanned, axsNode const& parsed)
-{
-  if (scanned.kind() != parsed.kind())
-    return "the kind of " + quoted(scanned.node_name()) + " differs from that of " + quoted(parsed.node_name());
-  std::string found = compare("a name", scanned.node_name(), parsed.node_name());
-  if (found.empty())
-    found = compare("a value", scanned.value(), parsed.value());
-  return found.empty() ? compare_attributes(scanned, parsed) : found;
-}
-
-std::string written(axsNode const& document)
-{
-  std::string xml;
-  return axsWriter::write(document, xml) ? xml : "not to be written";
-}
-
-std::string compare_trees(axsNode const& scanned, axsNode const& parsed)
-{
-  axsNode const* left = &scanned;
-  axsNode const* right = &parsed;
-  for (; left != nullptr && right != nullptr; left = left->next_in_tree(scanned), right = right->next_in_tree(parsed))
-  {
-    std::string found = compare_node(*left, *right);
-    // Two nodes have the same place when those before them have, and their next ones are as far up or down.
-    if (found.empty() && (left->first_child() == nullptr) != (right->first_child() == nullptr))
-      found = "the children of " + quoted(left->node_name()) + " differ";
-    if (found.empty() && (left->next_sibling() == nullptr) != (right->next_sibling() == nullptr))
-      found = "what is behind " + quoted(left->node_name()) + " differs";
-    if (!found.empty())
-      return found;
-  }
-  if (left != right)
-    return "the number of nodes differs";
-  return compare("what is written", written(scanned), written(parsed));
-}
-
-// Null where it is refused, be it by what reads its bytes.
-std::shared_ptr<axmDocument> scan(axsSource& source, axmLoadOptions const& options, apString const& uri)
+bool read(std::string_view document, axmLoadOptions const& options, std::string& events)
 try
 {
-  return axsReader::read(source, options, uri);
+  apByteArray const bytes(document.data(), document.size());
+  axsSource source(bytes);
+  EventTaker taker;
+  axsParser(source, options, taker).run();
+  events = taker.all();
+  return true;
 }
-catch (axsReadError const&)
+catch (axsReadError const& error)
 {
-  return nullptr;
+  events = error.message.to_utf8().c_str();
+  return false;
+}
+
+// The first line in which the two differ.
+std::string difference_of(std::string const& ours, std::string const& judged)
+{
+  std::istringstream left(ours);
+  std::istringstream right(judged);
+  std::string line;
+  std::string other;
+  while (true)
+  {
+    bool const has_line = static_cast<bool>(std::getline(left, line));
+    bool const has_other = static_cast<bool>(std::getline(right, other));
+    if (!has_line && !has_other)
+      return {};
+    if (!has_line || !has_other || line != other)
+      return '"' + (has_line ? line.substr(0, 200) : "") + "\", but to the judge \"" +
+             (has_other ? other.substr(0, 200) : "") + '"';
+  }
 }
 }
 
 BothRoads::BothRoads(std::string_view document, axmLoadOptions const& options)
 {
-  apByteArray const bytes(document.data(), document.size());
-  axsSource source(bytes);
-  apString const uri = APSTRING("uri");
-  std::shared_ptr<axmDocument> const scanned = scan(source, options, uri);
-  was_scanned = scanned != nullptr;
-  source.rewind();
-  try
-  {
-    std::shared_ptr<axmDocument> const parsed = axsReader::parse(source, options, uri);
-    was_parsed = true;
-    if (was_scanned)
-      found = compare_trees(*axsHandle::node_of(*scanned), *axsHandle::node_of(*parsed));
-  }
-  catch (axsReadError const& error)
-  {
-    if (was_scanned)
-      found = "only the parser takes it; the judge says: " + text_of(error.message);
-  }
+  std::string ours;
+  std::string judged;
+  was_scanned = read(document, options, ours);
+  was_parsed = Xml2Judge::read(document, judged);
+  if (was_scanned && was_parsed)
+    found = difference_of(ours, judged);
+  else if (was_scanned)
+    found = "only our parser takes it; the judge says: " + judged;
 }

@@ -116,7 +116,7 @@ TEST(axsDtdParser, declarations_of_attributes)
     list("a NOTATION () 'b'"), list("a NAME #IMPLIED"), list("a ENTIT #IMPLIED"), list("a NMTOKENZ #IMPLIED"),
     list("a IDREFX #IMPLIED"), list("a NUMBER #IMPLIED"), list("1 CDATA '1'"), list("a, CDATA '1'"),
     list("a CDATA '1' --b--"), with("<!ATTLIST 1 a CDATA '1'>"), with("<!ATTLIST r,s a CDATA '1'>")});
-  expect_refused_alone({list("a CDATA '1'b CDATA '2'"), list("a CDATA #IMPLIEDb CDATA '2'")});
+  expect_refused({list("a CDATA '1'b CDATA '2'"), list("a CDATA #IMPLIEDb CDATA '2'")});
   // The first one counts.
   expect_taken({list("a CDATA '1' a CDATA '2'"), with("<!ATTLIST r a CDATA '1'><!ATTLIST r a NMTOKEN '2'>")});
 }
@@ -196,7 +196,7 @@ TEST(axsDtdParser, comments_and_instructions)
   expect_refused({with("<!-- -- -->"), with("<!--->"), with("<!----->"), with("<!-- a --->"), with("<!--"),
     with("<!-- \x01 -->"), with("<!-- \xE4 -->"), with("<!- a -->"), with("<? p?>"), with("<?p"), with("<?p?"),
     with("<?p!?>"), with("<?xml?>"), with("<?XML a?>"), with("<?p \x01?>"), with("<?p \xE4?>"), with("<?1?>")});
-  expect_refused_alone({with("<?p:q?>")});
+  expect_refused({with("<?p:q?>")});
 }
 
 // 4.2, [71] GEDecl; 2.3, [9] EntityValue
@@ -257,8 +257,14 @@ TEST(axsDtdParser, entities_are_used)
   expect_taken({with("<!ENTITY e '<a/>'>", "<r>&e;</r>"), with("<!ENTITY e ''>", "<r>&e;</r>"),
     with("<!ENTITY e '&lt;'>", "<r>&e;</r>"), with("<!ENTITY e '&#38;lt;'>", "<r>&e;</r>"),
     with("<!ENTITY e 'x'><!ENTITY f '&e;'>", "<r>&f;</r>"), with("<!ENTITY e ']'>", "<r>&e;</r>"),
-    with("<!ENTITY e '>'>", "<r>&e;</r>"), with("<!ENTITY e '&#13;'>", "<r>&e;</r>"),
-    with("<!ENTITY e '<a/>'><!ENTITY e 'x'>", "<r>&e;</r>")});
+    with("<!ENTITY e '>'>", "<r>&e;</r>"), with("<!ENTITY e '<a/>'><!ENTITY e 'x'>", "<r>&e;</r>")});
+}
+
+// What stands for an entity has the line ends that it has (2.11), which the judge changes.
+TEST(axsDtdParser, references_to_carriage_returns_in_entities_stay)
+{
+  expect_taken_alone({with("<!ENTITY e '&#13;'>", "<r>&e;</r>")});
+  EXPECT_EQ(narrow(load_root(with("<!ENTITY e '&#13;<a/>'>", "<r>x&e;</r>"))->getFirstChild()->get_text()), "x\r");
 }
 
 TEST(axsDtdParser, uses_as_many_entities_as_the_options_allow)
@@ -274,7 +280,6 @@ TEST(axsDtdParser, uses_as_many_entities_as_the_options_allow)
     EXPECT_EQ(most.difference(), "");
     BothRoads const more(with("<!ENTITY e 'x'>", "<r a='" + some + "'>" + others + "<a>&e;</a></r>"), options);
     EXPECT_FALSE(more.scanned());
-    EXPECT_FALSE(more.parsed());
   }
 }
 

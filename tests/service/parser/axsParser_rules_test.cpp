@@ -73,7 +73,7 @@ TEST(axsParser_rules, document_types)
       "<!DOCTYPE r SYSTEM 'a[b]'><r/>"});
   expect_taken(
     {"<!DOCTYPE r SYSTEM 'a&b'><r/>", "<!DOCTYPE r SYSTEM '\xC3\xA4'><r/>", "<!DOCTYPE r PUBLIC 'a\nb' 's'><r/>"});
-  expect_refused_alone({"<!DOCTYPE r SYSTEM 's\x01'><r/>"});
+  expect_refused({"<!DOCTYPE r SYSTEM 's\x01'><r/>"});
   expect_refused({"<r/><!DOCTYPE r>", "<r><!DOCTYPE r></r>", "<!DOCTYPE r>", "<!ELEMENT r ANY><r/>", "<!DOCTYPE><r/>",
     "<!DOCTYPE ><r/>", "<!DOCTYPEr><r/>", "<!doctype r><r/>", "<!DOCTYPE r", "<!DOCTYPE r SYSTEM",
     "<!DOCTYPE r SYSTEM 's", "<!DOCTYPE r SYSTEM 's'", "<!DOCTYPE r SYSTEM><r/>", "<!DOCTYPE r SYSTEM s><r/>",
@@ -197,9 +197,8 @@ TEST(axsParser_rules, namespaces)
     "<r xmlns:p='u'><p:a p:b='1'/></r>", "<r xmlns:p='u'><p:a xmlns:p='v'/><p:a/></r>",
     "<r xml:lang='en' xml:space='preserve'/>", "<xml:r/>", "<r xmlns:xml='" + xml + "'/>", "<r p:a='1' xmlns:p='u'/>",
     "<r a='1' p:a='1' xmlns:p='u' xmlns='u'/>", "<r xmlns:p='u' xmlns:q='v' p:a='1' q:a='1'/>",
-    "<r xmlns:p='u' xmlns:q='u' p:a='1' q:b='1'/>", "<r xmlns:p='&#117;'><p:a/></r>", "<r xmlns:p=' '><p:a/></r>",
-    "<r xmlns:a='u' a:a='1' a='2'/>", "<r xmlns:p='u'><a xmlns:q='v' q:c='1'><p:b q:c='1'/></a></r>",
-    "<r xmlns:XML='u' XML:a='1'/>"});
+    "<r xmlns:p='u' xmlns:q='u' p:a='1' q:b='1'/>", "<r xmlns:p='&#117;'><p:a/></r>", "<r xmlns:a='u' a:a='1' a='2'/>",
+    "<r xmlns:p='u'><a xmlns:q='v' q:c='1'><p:b q:c='1'/></a></r>", "<r xmlns:XML='u' XML:a='1'/>"});
   expect_refused({"<p:r/>", "<r p:a='1'/>", "<r><a xmlns:p='u'/><p:b/></r>", "<r xmlns:p=''/>",
     "<r xmlns:p='u'><a xmlns:p=''/></r>", "<r xmlns:xml='u'/>", "<r xmlns:xmlns='u'/>", "<r xmlns:p='" + xml + "'/>",
     "<r xmlns:p='" + xmlns + "'/>", "<r xmlns='" + xml + "'/>", "<r xmlns='" + xmlns + "'/>", "<xmlns:r/>",
