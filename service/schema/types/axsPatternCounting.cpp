@@ -10,21 +10,21 @@ void axsPatternCounting::Begun::clear() noexcept
   begin = 0;
 }
 
-void axsPatternCounting::Begun::add(std::uint64_t place)
+void axsPatternCounting::Begun::add(std::uint64_t at)
 {
-  if (!empty() && runs.back().last + 1 >= place)
-    runs.back().last = place;
+  if (!empty() && runs.back().last + 1 >= at)
+    runs.back().last = at;
   else
-    runs.push_back({place, place});
+    runs.push_back({at, at});
 }
 
-void axsPatternCounting::Begun::drop_before(std::uint64_t place)
+void axsPatternCounting::Begun::drop_before(std::uint64_t at)
 {
-  while (!empty() && runs[begin].last < place)
+  while (!empty() && runs[begin].last < at)
     ++begin;
   if (empty())
     return clear();
-  runs[begin].first = std::max(runs[begin].first, place);
+  runs[begin].first = std::max(runs[begin].first, at);
   // What is over is given back once it is more than what is not.
   if (begin > 16 && begin * 2 > runs.size())
   {
@@ -72,7 +72,7 @@ void axsPatternCounting::step(Index of_class)
   for (Index const index : taking)
   {
     ++counter_steps;
-    if (program.has(program[index].set, of_class))
+    if (program.has(program[index].number, of_class))
       reach.add(program[index].next);
   }
   begin_counters();

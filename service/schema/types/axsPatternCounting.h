@@ -39,8 +39,8 @@ private:
 
     bool empty() const noexcept { return begin == runs.size(); }
     void clear() noexcept;
-    void add(std::uint64_t place);
-    void drop_before(std::uint64_t place);
+    void add(std::uint64_t at);
+    void drop_before(std::uint64_t at);
   };
 
   void step(Index of_class);

@@ -39,6 +39,6 @@ axsPatternProgram::Index axsPatternProgram::add_counter(axsPatternTree::Node con
   Instruction count;
   count.operation = Operation::count;
   count.next = next;
-  count.counter = static_cast<Index>(counting.size() - 1);
+  count.number = static_cast<Index>(counting.size() - 1);
   return add(count);
 }

@@ -19,8 +19,8 @@ public:
 
   enum class Operation : unsigned char
   {
-    take,  // a character of the set, then on at `next`
-    count, // by `counter`, then on at `next`
+    take,  // a character of the set `number`, then on at `next`
+    count, // by the counter `number`, then on at `next`
     split, // on at `next` and at `other`
     match
   };
@@ -28,10 +28,9 @@ public:
   struct Instruction
   {
     Operation operation = Operation::match;
-    Index set = 0;
+    Index number = 0;
     Index next = 0;
     Index other = 0;
-    Index counter = 0;
   };
 
   /// Takes characters of the set, as many as one likes from `min` to `max`.
@@ -44,7 +43,7 @@ public:
   };
 
   /// How many instructions an expression may need.
-  static constexpr std::uint64_t max_instructions = 200000;
+  static constexpr std::uint64_t max_instructions = 500000;
 
   /// Up to so many, everything is written out.
   static constexpr std::uint64_t max_written_out = 1000;

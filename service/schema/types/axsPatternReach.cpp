@@ -40,8 +40,8 @@ void axsPatternReach::visit(Index index)
     taking.push_back(index);
     break;
   case Operation::count:
-    counting.push_back(instruction.counter);
-    if (program.counters()[instruction.counter].min == 0)
+    counting.push_back(instruction.number);
+    if (program.counters()[instruction.number].min == 0)
       waiting.push_back(instruction.next);
     break;
   case Operation::split:

@@ -49,7 +49,7 @@ axsPatternStates::Index axsPatternStates::make_next(Index& state, Index of_class
   {
     Index index = 0;
     std::memcpy(&index, instructions.data() + at, sizeof index);
-    if (program.has(program[index].set, of_class))
+    if (program.has(program[index].number, of_class))
       reach.add(program[index].next);
   }
   bool const is_dead = reach.takes().empty() && !reach.matches();

@@ -18,10 +18,13 @@ std::uint64_t product(std::uint64_t left, std::uint64_t right) noexcept
   return left > largest / right ? largest : left * right;
 }
 
-// What a repeat takes that is written out.
+// The instructions of a repeat that is written out: copies of the part, and a split for each that may be left out or for the
+// loop.
 std::uint64_t written_out(std::uint64_t part, std::uint64_t min, std::uint64_t max) noexcept
 {
-  return product(sum(max == largest ? min : max, 1), sum(part, 1));
+  if (max == largest)
+    return sum(product(std::max<std::uint64_t>(min, 1), part), 1);
+  return sum(product(max, part), max - min);
 }
 
 // Whether the inner repeat, repeated itself, takes every number from the least to the largest product.

@@ -60,7 +60,7 @@ void axsPatternWriter::begin(Task& task)
   {
     axsPatternProgram::Instruction take;
     take.operation = Operation::take;
-    take.set = node.set;
+    take.number = node.set;
     take.next = task.after;
     return finish(program.add(take));
   }

@@ -40,7 +40,7 @@ def read_blocks(path):
     for line in open(path, encoding="utf-8"):
         version = version or re.search(r"Blocks-([\d.]+)\.txt", line).group(1)
         found = re.match(r"([0-9A-F]+)\.\.([0-9A-F]+); (.*)", line)
-        if found and "Surrogates" not in line:
+        if found:
             blocks.append((re.sub(r"[ _]", "", found.group(3)), int(found.group(1), 16), int(found.group(2), 16)))
     return sorted(blocks), version
 
