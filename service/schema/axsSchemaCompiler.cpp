@@ -29,3 +29,8 @@ std::vector<std::string> const& axsSchemaCompiler::files() const noexcept
 {
   return loader->files();
 }
+
+std::vector<axsFileStamp> const& axsSchemaCompiler::stamps() const noexcept
+{
+  return loader->stamps();
+}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "axsFileStamp.h"
 #include "axsSchemaErrors.h"
 
 #include <apPath.h>
@@ -38,6 +39,9 @@ public:
 
   /// The paths of the files, the first of which has the number 1 in places.
   std::vector<std::string> const& files() const noexcept;
+
+  /// The files that the schema depends on (axsSchemaCache).
+  std::vector<axsFileStamp> const& stamps() const noexcept;
 
 private:
   axsSchemaErrors found;

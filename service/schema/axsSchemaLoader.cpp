@@ -105,6 +105,7 @@ axsSchemaLoader::File& axsSchemaLoader::file(apPath const& path)
   made->path = path;
   paths.push_back(narrow(path));
   file_paths.push_back(path);
+  looked_at.push_back(axsFileStamp::of(path));
   made->number = static_cast<std::uint32_t>(paths.size());
   read(*made);
   return *made;
@@ -235,7 +236,10 @@ axsSchemaLoader::File* axsSchemaLoader::referred(axsSchemaElement const& referen
   bool const is_import = reference.role == axsSchemaRole::import;
   // An import says where a schema may be; what is not found of it is told of where it is referred to (4.2.3).
   if (!path.exists() && is_import)
+  {
+    looked_at.push_back(axsFileStamp::of(path));
     return nullptr;
+  }
   if (!path.exists())
   {
     errors.add(place, "There is no file " + narrow(path));

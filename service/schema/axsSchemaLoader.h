@@ -1,5 +1,6 @@
 #pragma once
 
+#include "axsFileStamp.h"
 #include "axsSchemaErrors.h"
 #include "axsSchemaUnit.h"
 
@@ -37,6 +38,9 @@ public:
   /// The paths of the files, the first of which has the number 1.
   std::vector<std::string> const& files() const noexcept { return paths; }
 
+  /// All files that the set depends on, as they were before they were read, those that imports name in vain among them.
+  std::vector<axsFileStamp> const& stamps() const noexcept { return looked_at; }
+
 private:
   struct File
   {
@@ -59,6 +63,7 @@ private:
   axsSchemaErrors& errors;
   std::vector<std::string> paths;
   std::vector<apPath> file_paths;
+  std::vector<axsFileStamp> looked_at;
   // By identity.
   std::unordered_map<std::string, std::unique_ptr<File>> known;
   std::deque<axsSchemaUnit> all;

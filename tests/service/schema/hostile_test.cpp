@@ -1,0 +1,155 @@
+// Schemas made to take long or much. Each is done in a time that is about linear; what is not would not end here.
+
+#include "SchemaFiles.h"
+
+#include <axsComplexType.h>
+#include <axsElementDecl.h>
+
+namespace
+{
+int const many = 10000;
+
+std::string number(int i)
+{
+  return std::to_string(i);
+}
+
+template <class Part>
+std::string repeated(int count, Part part)
+{
+  std::string text;
+  for (int i = 0; i < count; ++i)
+    text += part(i);
+  return text;
+}
+
+std::string nested(int levels, std::string const& open, std::string const& inner, std::string const& close)
+{
+  auto const same = [](std::string const& text) { return [&text](int) { return text; }; };
+  return repeated(levels, same(open)) + inner + repeated(levels, same(close));
+}
+
+std::string in_type(std::string const& content)
+{
+  return "<xs:complexType name='t'>" + content + "</xs:complexType>";
+}
+}
+
+TEST(hostile_schemas, types_are_derived_from_each_other_over_10000_levels)
+{
+  for (char const* const content :
+    {"", "<xs:attribute name='a%'/>", "<xs:sequence><xs:element name='a%'/></xs:sequence>"})
+  {
+    auto const type = [&](int i)
+    {
+      std::string own = content;
+      if (std::size_t const at = own.find('%'); at != std::string::npos)
+        own.replace(at, 1, number(i));
+      return "<xs:complexType name='t" + number(i) + "'><xs:complexContent><xs:extension base='t" + number(i + 1) +
+             "'>" + own + "</xs:extension></xs:complexContent></xs:complexType>\n";
+    };
+    EXPECT_EQ(error_of_schema(repeated(many, type) + "<xs:complexType name='t" + number(many) + "'/>"), "") << content;
+  }
+  auto const restricted = [](int i)
+  {
+    return "<xs:simpleType name='t" + number(i) + "'><xs:restriction base='" +
+           (i + 1 == many ? std::string("xs:string") : "t" + number(i + 1)) + "'><xs:maxLength value='" + number(i) +
+           "'/></xs:restriction></xs:simpleType>\n";
+  };
+  EXPECT_EQ(error_of_schema(repeated(many, restricted)), "");
+}
+
+TEST(hostile_schemas, circles_over_10000_definitions_are_found)
+{
+  std::pair<char const*, char const*> const parts[] = {
+    {"<xs:complexType name='t%'><xs:complexContent><xs:extension base='t",
+      "'/></xs:complexContent></xs:complexType>\n"},
+    {"<xs:simpleType name='t%'><xs:restriction base='t", "'/></xs:simpleType>\n"},
+    {"<xs:group name='t%'><xs:sequence><xs:group ref='t", "'/></xs:sequence></xs:group>\n"},
+    {"<xs:attributeGroup name='t%'><xs:attributeGroup ref='t", "'/></xs:attributeGroup>\n"},
+    {"<xs:element name='t%' substitutionGroup='t", "'/>\n"},
+  };
+  for (auto const& [open, close] : parts)
+  {
+    auto const definition = [&, open = open, close = close](int i)
+    {
+      std::string text = open;
+      text.replace(text.find('%'), 1, number(i));
+      return text + number((i + 1) % many) + close;
+    };
+    std::string const error = error_of_schema(repeated(many, definition));
+    bool const is_told = error.find("by itself") != std::string::npos || error.find("in its own") != std::string::npos;
+    EXPECT_TRUE(is_told) << open << ' ' << error;
+  }
+}
+
+TEST(hostile_schemas, groups_and_types_are_nested_as_deep_as_one_likes)
+{
+  EXPECT_EQ(error_of_schema(in_type(nested(20000, "<xs:sequence>", "<xs:element name='a'/>", "</xs:sequence>"))), "");
+  EXPECT_EQ(error_of_schema(in_type(nested(5000, "<xs:sequence><xs:element name='b'/><xs:choice>",
+              "<xs:element name='a'/>", "</xs:choice></xs:sequence>"))),
+    "");
+  EXPECT_EQ(error_of_schema("<xs:element name='r'>" +
+                            nested(5000, "<xs:complexType><xs:sequence><xs:element name='r'>", "",
+                              "</xs:element></xs:sequence></xs:complexType>") +
+                            "</xs:element>"),
+    "");
+  EXPECT_EQ(error_of_schema("<xs:simpleType name='s'>" +
+                            nested(5000, "<xs:restriction><xs:simpleType>", "<xs:restriction base='xs:int'/>",
+                              "</xs:simpleType></xs:restriction>") +
+                            "</xs:simpleType>"),
+    "");
+  auto const group = [](int i)
+  {
+    return "<xs:group name='g" + number(i) + "'><xs:sequence><xs:group ref='g" + number(i + 1) + "'/><xs:group ref='g" +
+           number(i + 1) + "'/></xs:sequence></xs:group>\n";
+  };
+  EXPECT_EQ(error_of_schema(repeated(60, group) +
+                            "<xs:group name='g60'><xs:sequence><xs:element name='a'/></xs:sequence></xs:group>" +
+                            in_type("<xs:group ref='g0'/>")),
+    "");
+}
+
+TEST(hostile_schemas, contents_are_wide)
+{
+  auto const element = [](int i) { return "<xs:element name='e" + number(i) + "' minOccurs='0'/>\n"; };
+  EXPECT_EQ(error_of_schema(in_type("<xs:choice>" + repeated(100000, element) + "</xs:choice>")), "");
+  EXPECT_EQ(error_of_schema(in_type("<xs:sequence>" + repeated(many, element) + "</xs:sequence>")), "");
+  EXPECT_EQ(error_of_schema(in_type("<xs:all>" + repeated(5000, element) + "</xs:all>")), "");
+  auto const attribute = [](int i) { return "<xs:attribute name='a" + number(i) + "'/>\n"; };
+  EXPECT_EQ(error_of_schema(in_type(repeated(50000, attribute))), "");
+}
+
+TEST(hostile_schemas, substitution_groups_are_wide_and_long)
+{
+  std::string const use = in_type("<xs:sequence><xs:element ref='e0' maxOccurs='unbounded'/></xs:sequence>");
+  auto const wide = [](int i) { return "<xs:element name='e" + number(i + 1) + "' substitutionGroup='e0'/>\n"; };
+  auto const longer = [](int i)
+  { return "<xs:element name='e" + number(i + 1) + "' substitutionGroup='e" + number(i) + "'/>\n"; };
+  EXPECT_EQ(error_of_schema("<xs:element name='e0'/>" + repeated(many, wide) + use), "");
+  EXPECT_EQ(error_of_schema("<xs:element name='e0'/>" + repeated(many, longer) + use), "");
+  EXPECT_EQ(error_of_schema("<xs:element name='e0'/>" + repeated(many, longer) + use, "blockDefault='extension'"), "");
+}
+
+TEST(hostile_schemas, numbers_of_occurrences_are_large)
+{
+  EXPECT_EQ(error_of_schema(in_type("<xs:sequence maxOccurs='4294967295'><xs:element name='a' "
+                                    "maxOccurs='99999999999999999999999999'/><xs:sequence minOccurs='3' "
+                                    "maxOccurs='50000'><xs:element name='b'/><xs:element name='c' minOccurs='10000' "
+                                    "maxOccurs='10001'/></xs:sequence></xs:sequence>")),
+    "");
+}
+
+TEST(hostile_schemas, keys_and_prefixes_are_many)
+{
+  auto const key = [](int i)
+  {
+    return "<xs:key name='k" + number(i) +
+           "'><xs:selector xpath='a|.//b'/><xs:field xpath='@c'/></xs:key>\n<xs:keyref name='r" + number(i) +
+           "' refer='k" + number(i) + "'><xs:selector xpath='d'/><xs:field xpath='@e'/></xs:keyref>\n";
+  };
+  EXPECT_EQ(error_of_schema("<xs:element name='r'>" + repeated(2000, key) + "</xs:element>"), "");
+  auto const prefix = [](int i) { return " xmlns:p" + number(i) + "='u" + number(i) + "'"; };
+  auto const element = [](int i) { return "<xs:element name='e" + number(i) + "' type='xs:int'/>"; };
+  EXPECT_EQ(error_of_schema(repeated(many, element), repeated(many, prefix)), "");
+}
