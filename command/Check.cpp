@@ -1,9 +1,13 @@
+#include "BuiltInCheck.h"
 #include "Loading.h"
+#include "Progress.h"
 #include "Verb.h"
 
 #include <CLI/CLI.hpp>
 
+#include <cstdint>
 #include <iostream>
+#include <limits>
 #include <memory>
 #include <string>
 #include <vector>
@@ -16,9 +20,15 @@ char const footer[] =
   R"(Examples:
   axm check books.xml
   axm check *.xml --schema urn:books=books.xsd --no-namespace-schema plain.xsd
+  xz -dc large.xml.xz | axm check - --no-namespace-schema plain.xsd
+  axm check --schemas-only books.xsd
 
-What is wrong is said as file:line:column: text, with the line. Without a schema, documents
-only have to be well-formed; so has one whose root is in a namespace without a schema.
+What is wrong is said as file:line:column: text, with the line; of each file up to 20 times,
+or with --all-errors as often as there is something wrong. Files of any size are read in
+one pass and little memory; the schemas are compiled once.
+
+Without a schema, documents only have to be well-formed. With schemas, a document fails, too,
+in which nothing is declared in them: then nothing was checked.
 
 The exit code is 0 if all are good, 1 if any is not, 2 for wrong usage.)";
 
@@ -27,7 +37,15 @@ struct Request
   std::vector<std::string> files;
   std::vector<std::string> schemas;
   std::string plain_schema;
+  bool all_errors = false;
+  bool schemas_only = false;
+
+  std::size_t max_errors() const { return all_errors ? std::numeric_limits<std::size_t>::max() : 20; }
+  bool validates() const { return !schemas.empty() || !plain_schema.empty(); }
 };
+
+// Each line is looked for from the beginning of its file.
+std::size_t const max_lines_shown = 20;
 
 std::size_t separator(std::string const& schema)
 {
@@ -49,8 +67,7 @@ std::string wrong_file(std::string const& file)
 
 axmLoadOptions make_options(Request const& request)
 {
-  bool const validates = !request.schemas.empty() || !request.plain_schema.empty();
-  axmLoadOptions options(validates ? axmValidateWithSchemas : axmValidateNone);
+  axmLoadOptions options(request.validates() ? axmValidateWithSchemas : axmValidateNone);
   for (std::string const& schema : request.schemas)
     options.add_external_schema(
       apString(schema.substr(0, separator(schema)).c_str()), apPath(schema.substr(separator(schema) + 1).c_str()));
@@ -58,15 +75,50 @@ axmLoadOptions make_options(Request const& request)
   return options;
 }
 
+bool complain_of_all(std::vector<axmParseError> const& errors, std::string const& file, bool has_lines = true)
+{
+  for (std::size_t i = 0; i < errors.size(); ++i)
+    if (has_lines && i < max_lines_shown)
+      complain_about(errors[i], file);
+    else
+      complain_in_one_line(errors[i], file, {});
+  return errors.empty();
+}
+
+bool check_schema(std::string const& file, Request const& request)
+{
+  return complain_of_all(built_in_schema_check(file, request.max_errors()), file);
+}
+
+bool check_document(BuiltInCheck const& engine, std::string const& file, Request const& request)
+{
+  std::string const name = file == "-" ? "standard input" : file;
+  BuiltInCheck::Result result;
+  {
+    Progress progress;
+    result = engine.run(
+      file, request.max_errors(), [&](std::uint64_t bytes) { progress.show_bytes(static_cast<long long>(bytes)); });
+  }
+  bool const is_good = complain_of_all(result.errors, name, result.has_lines);
+  if (!result.is_whole)
+    std::cerr << name << ": this is all that is shown of it; --all-errors shows the rest\n";
+  if (!is_good || !request.validates() || result.has_assessed)
+    return is_good;
+  std::cerr << name << ": nothing in it is declared in the schemas, so nothing was checked\n";
+  return false;
+}
+
 int check(Request const& request)
 {
-  std::shared_ptr<axmDocumentFactory> const factory = engine_or_complain();
-  if (factory == nullptr)
+  std::unique_ptr<BuiltInCheck> const engine =
+    built_in_check(request.schemas_only ? axmLoadOptions() : make_options(request));
+  if (engine == nullptr)
+    return engine_or_complain() == nullptr ? exit_bad_input : exit_good;
+  if (!complain_of_all(engine->schema_errors(), request.plain_schema))
     return exit_bad_input;
-  axmLoadOptions const options = make_options(request);
   int result = exit_good;
   for (std::string const& file : request.files)
-    if (load_or_complain(*factory, file, options) == nullptr)
+    if (!(request.schemas_only ? check_schema(file, request) : check_document(*engine, file, request)))
       result = exit_bad_input;
   return result;
 }
@@ -76,12 +128,15 @@ void add_check(CLI::App& app, int& exit_code)
 {
   CLI::App* const verb = app.add_subcommand("check", description);
   auto const request = std::make_shared<Request>();
-  verb->add_option("FILE", request->files, "The documents")->required();
+  verb->add_option("FILE", request->files, "The documents; - is standard input")->required();
   verb->add_option("--schema", request->schemas, "NS=XSD: a schema file for a namespace; may be given again")
     ->check(wrong_schema)
     ->allow_extra_args(false);
   verb->add_option("--no-namespace-schema", request->plain_schema, "The schema file for elements in no namespace")
     ->check(wrong_file);
+  verb->add_flag(
+    "--all-errors", request->all_errors, "Show everything that is wrong with a file, and not the first 20");
+  verb->add_flag("--schemas-only", request->schemas_only, "The files are schemas; say whether these are right");
   verb->footer(footer);
   verb->callback([request, &exit_code] { exit_code = check(*request); });
 }

@@ -30,18 +30,41 @@ Progress::~Progress()
 
 void Progress::show(long long rows)
 {
-  if (!terminal || rows % 64 != 0)
-    return;
+  std::chrono::milliseconds elapsed{};
+  if (terminal && rows % 64 == 0 && is_due(elapsed))
+    write(line(rows, elapsed));
+}
+
+void Progress::show_bytes(long long bytes)
+{
+  std::chrono::milliseconds elapsed{};
+  if (terminal && is_due(elapsed))
+    write(std::to_string(bytes / 1000000) + " MB" + since(elapsed));
+}
+
+bool Progress::is_due(std::chrono::milliseconds& elapsed)
+{
   Clock::time_point const now = Clock::now();
   if (now < next)
-    return;
+    return false;
   next = now + std::chrono::milliseconds(200);
+  elapsed = std::chrono::duration_cast<std::chrono::milliseconds>(now - start);
+  return true;
+}
+
+void Progress::write(std::string const& line)
+{
   shown = true;
-  std::fputs(("\r" + line(rows, std::chrono::duration_cast<std::chrono::milliseconds>(now - start))).c_str(), stderr);
+  std::fputs(("\r" + line).c_str(), stderr);
 }
 
 std::string Progress::line(long long rows, std::chrono::milliseconds elapsed)
 {
+  return std::to_string(rows) + " rows" + since(elapsed);
+}
+
+std::string Progress::since(std::chrono::milliseconds elapsed)
+{
   long long const tenths = elapsed.count() / 100;
-  return std::to_string(rows) + " rows, " + std::to_string(tenths / 10) + "." + std::to_string(tenths % 10) + " s";
+  return ", " + std::to_string(tenths / 10) + "." + std::to_string(tenths % 10) + " s";
 }

@@ -16,11 +16,18 @@ public:
   /// To be called for every row.
   void show(long long rows);
 
+  /// To be called now and then, with the bytes that have been read.
+  void show_bytes(long long bytes);
+
   /// The line for a work of that state.
   static std::string line(long long rows, std::chrono::milliseconds elapsed);
 
 private:
   using Clock = std::chrono::steady_clock;
+
+  static std::string since(std::chrono::milliseconds elapsed);
+  bool is_due(std::chrono::milliseconds& elapsed);
+  void write(std::string const& line);
 
   bool const terminal;
   Clock::time_point const start = Clock::now();

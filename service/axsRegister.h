@@ -16,18 +16,19 @@
 ///   options enable the resolution of entities and it is a local file; an entity that is declared nowhere in what is read is
 ///   an error. The expansions of parameter entities count as those of others. Besides the number of entity expansions, what
 ///   they and defaults of attributes make of a document is bounded: to 100 times the size of what is read once that is more
-///   than 8 MiB. A document may be nested as deep as memory lasts, one that is validated 20000 levels.
+///   than 8 MiB. A document may be nested as deep as memory lasts, validated or not.
 /// - Encodings: UTF-8, UTF-16, UTF-32, US-ASCII, ISO-8859-1 to -16, windows-1250 to -1258, KOI8-R and -U, and what else the
 ///   system has a converter for. A byte that has no meaning in the encoding of the document is an error; so is a
 ///   declaration of another encoding than that of the bytes.
 /// - External entities, where the options allow them, and schemas are regular files of this computer, named by a relative
 ///   or an absolute path or a "file:" URL. Nothing is ever fetched from a network; documents themselves may be pipes.
-/// - Schemas: read anew at every load, from local files only; a reference that leads to none is an error, but for the
-///   schema of the XML namespace, which is built in. What repeated groups come to, written out, may have up to 10000
-///   elements; elements of a schema may be nested up to 500 levels, parentheses of a pattern up to 100. A pattern in which
-///   a part repeats that may be empty and repeats in itself, as in (a*b*)*, is refused; so is a value that is too long for
-///   its pattern to be matched on the stack of the thread. How long the matching of a pattern takes is not bounded. A
-///   document whose root is in a namespace that no schema knows is not validated.
+/// - Schemas: XML Schema 1.0 (second edition), read from local files only; a reference that leads to none is an error, but
+///   for the schema of the XML namespace, which is built in, and for an import of which nothing is used. Validation is done
+///   in the pass that reads the document, in a time linear in its size, whatever its schema: numbers of occurrences,
+///   patterns and the length of values are not bounded. What in a document says where schemas lie is not heeded. A
+///   document whose root is in a namespace that no schema knows loads, but what is declared in it, at any depth, is
+///   validated. Where a content can be counted in more than 1000 ways at once, as after many a in (a{2,3}, b?){9,5000}, only
+///   that many are followed. Defaults of the schema are not added to the document.
 /// - Errors: the place is behind what is wrong, of an element behind its start tag. A character beyond U+FFFF counts as
 ///   two columns, a tab as one.
 /// - Save: to a file that takes the place of the target in one step, with its permissions; see apAtomicFile. What was

@@ -20,7 +20,8 @@ void read_valid(axsSource& source, axmLoadOptions const& options, axsTreeBuilder
 {
   std::shared_ptr<axsSchemaComponents const> const schema = axsSchemas::of(options);
   axsValidityErrors errors(1);
-  axsAssessment assessment(*schema, &builder, errors);
+  bool has_assessed = false;
+  axsAssessment assessment(*schema, &builder, errors, has_assessed);
   axsParser(source, options, assessment).run();
 }
 }

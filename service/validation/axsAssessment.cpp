@@ -32,8 +32,9 @@ std::string_view without_white(std::string_view text)
 }
 }
 
-axsAssessment::axsAssessment(axsSchemaComponents const& schema, axsParseHandler* taker, axsValidityErrors& errors)
-  : findings(schema, errors),
+axsAssessment::axsAssessment(
+  axsSchemaComponents const& schema, axsParseHandler* taker, axsValidityErrors& errors, bool& has_assessed)
+  : findings(schema, errors, has_assessed),
     attributes(findings),
     names(schema),
     next(taker)
@@ -381,7 +382,8 @@ void axsAssessment::tell_identity(Element const& element)
   if (!findings.identity.is_active())
     return;
   bool const is_known = element.content != Content::skipped && element.content != Content::unknown;
-  findings.identity.no_value(element.is_nil ? Without::is_nil : is_known ? Without::is_complex : Without::is_not_valid);
+  bool const is_simple = element.content == Content::simple;
+  findings.identity.no_value(is_simple ? Without::is_nil : is_known ? Without::is_complex : Without::is_not_valid);
 }
 
 // cvc-elt.5, cvc-type.3.1, cvc-complex-type.2.2

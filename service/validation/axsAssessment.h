@@ -24,17 +24,16 @@ struct axsElementDecl;
 class axsAssessment final : public axsParseHandler
 {
 public:
-  /// `next` is told what is read; null for nobody. All must live longer.
-  axsAssessment(axsSchemaComponents const& schema, axsParseHandler* next, axsValidityErrors& errors);
+  /// `next` is told what is read; null for nobody. `has_assessed` is set once anything in the document is held against a
+  /// declaration. All must live longer.
+  axsAssessment(
+    axsSchemaComponents const& schema, axsParseHandler* next, axsValidityErrors& errors, bool& has_assessed);
   axsAssessment(axsAssessment const&) = delete;
   axsAssessment& operator=(axsAssessment const&) = delete;
   ~axsAssessment() override;
 
   /// Tells `next` also of the attributes and texts that the schema gives as defaults. By default, not.
   void add_defaults() noexcept { adds_defaults = true; }
-
-  /// Whether anything in the document was held against a declaration.
-  bool has_assessed() const noexcept { return findings.has_assessed; }
 
   axsName const& name(std::string_view text) override;
   void start_document(axsLocator const& locator) override;

@@ -202,11 +202,22 @@ void axsAttributeAssessment::add_missing(axsComplexType const& type)
     else if (constraint.kind != Kind::none)
     {
       added.push_back(&use);
+      add_references(use, constraint.value);
       if (findings.identity.is_active() && findings.identity.wants_attributes())
         findings.identity.attribute(
           use.decl->name.name_space, use.decl->name.local, {constraint.value, constraint.bytes});
     }
   }
+}
+
+// A default may refer to IDs (cvc-id); it cannot be one.
+void axsAttributeAssessment::add_references(axsAttributeUse const& use, std::string const& value)
+{
+  if (use.decl->type == nullptr || !has_meaning(*use.decl->type))
+    return;
+  findings.value.clear();
+  if (use.decl->type->check(value, findings.context, &findings.value) && !findings.value.identifiers().empty())
+    findings.identifiers.add(findings.value, findings.locator->end());
 }
 
 std::string axsAttributeAssessment::subject(axsTagAttribute const& attribute) const

@@ -55,6 +55,7 @@ private:
   bool check_value(axsTagAttribute const& attribute, axsSimpleType const& type, std::string const* fixed,
     std::string const& shown_fixed);
   void add_missing(axsComplexType const& type);
+  void add_references(axsAttributeUse const& use, std::string const& value);
   void tell_identity(axsTagAttribute const& attribute);
   std::string subject(axsTagAttribute const& attribute) const;
   std::string element() const;

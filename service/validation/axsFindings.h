@@ -16,11 +16,12 @@
 /// far, and where errors go.
 struct axsFindings
 {
-  axsFindings(axsSchemaComponents const& given, axsValidityErrors& list)
+  axsFindings(axsSchemaComponents const& given, axsValidityErrors& list, bool& assessed)
     : schema(given),
       errors(list),
       context(given),
-      identity([this](std::string const& message, axsPlace place) { report(message, place); })
+      identity([this](std::string const& message, axsPlace place) { report(message, place); }),
+      has_assessed(assessed)
   {
   }
 
@@ -37,6 +38,6 @@ struct axsFindings
   axsIdentityChecks identity;
   axsIdentifiers identifiers;
   axsValue value; // the last one
-  /// Whether anything at all was held against a declaration.
-  bool has_assessed = false;
+  /// Set once anything is held against a declaration.
+  bool& has_assessed;
 };

@@ -14,9 +14,8 @@ std::string narrow(apString const& text)
   return {utf8.c_str(), static_cast<std::size_t>(utf8.length())};
 }
 
-axsReadError first_error(axsSchemaCompiler const& compiler)
+axsReadError error_of(axsSchemaErrors::Error const& error, axsSchemaCompiler const& compiler)
 {
-  axsSchemaErrors::Error const& error = compiler.errors().front();
   axsReadError made{apString::from_utf8(error.message), apString()};
   if (error.place.file != 0)
     made.url = apString::from_utf8(compiler.files()[error.place.file - 1]);
@@ -27,6 +26,24 @@ axsReadError first_error(axsSchemaCompiler const& compiler)
   }
   return made;
 }
+
+template <class Add>
+std::shared_ptr<axsSchemaComponents const> compile_with(
+  axsSchemaCompiler& compiler, std::vector<axsReadError>& errors, Add add)
+try
+{
+  add();
+  std::shared_ptr<axsSchemaComponents const> schema = compiler.compile();
+  if (schema == nullptr)
+    for (axsSchemaErrors::Error const& error : compiler.errors())
+      errors.push_back(error_of(error, compiler));
+  return schema;
+}
+catch (axsReadError const& error)
+{
+  errors.push_back(error);
+  return nullptr;
+}
 }
 
 bool axsSchemas::are_wanted(axmLoadOptions const& options)
@@ -35,15 +52,33 @@ bool axsSchemas::are_wanted(axmLoadOptions const& options)
          (options.num_external_schemas() > 0 || !options.no_namespace_schema().empty());
 }
 
-std::shared_ptr<axsSchemaComponents const> axsSchemas::of(axmLoadOptions const& options)
+std::shared_ptr<axsSchemaComponents const> axsSchemas::compile(
+  axmLoadOptions const& options, std::vector<axsReadError>& errors)
 {
   axsSchemaCompiler compiler;
-  for (int i = 0; i < options.num_external_schemas(); ++i)
-    compiler.add(narrow(options.external_namespace(i)), options.external_schema(i));
-  if (!options.no_namespace_schema().empty())
-    compiler.add(std::string_view(), options.no_namespace_schema());
-  std::shared_ptr<axsSchemaComponents const> schema = compiler.compile();
+  return compile_with(compiler, errors,
+    [&]
+    {
+      for (int i = 0; i < options.num_external_schemas(); ++i)
+        compiler.add(narrow(options.external_namespace(i)), options.external_schema(i));
+      if (!options.no_namespace_schema().empty())
+        compiler.add(std::string_view(), options.no_namespace_schema());
+    });
+}
+
+std::vector<axsReadError> axsSchemas::check(apPath const& file, std::size_t max_errors)
+{
+  std::vector<axsReadError> errors;
+  axsSchemaCompiler compiler(max_errors);
+  compile_with(compiler, errors, [&] { compiler.add(file); });
+  return errors;
+}
+
+std::shared_ptr<axsSchemaComponents const> axsSchemas::of(axmLoadOptions const& options)
+{
+  std::vector<axsReadError> errors;
+  std::shared_ptr<axsSchemaComponents const> schema = compile(options, errors);
   if (schema == nullptr)
-    throw first_error(compiler);
+    throw errors.front();
   return schema;
 }

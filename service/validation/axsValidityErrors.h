@@ -20,6 +20,9 @@ public:
       throw error;
   }
 
+  /// Keeps the error, whatever the bound.
+  void append(axsReadError const& error) { errors.push_back(error); }
+
   bool is_full() const noexcept { return errors.size() >= bound; }
   std::vector<axsReadError> const& all() const noexcept { return errors; }
 

@@ -117,6 +117,52 @@ TEST(axm_check, validates_against_schemas)
   EXPECT_EQ(run.err.find("check_invalid_plain.xml:1:12: element 'n': "), 0u) << run.err;
 }
 
+TEST(axm_check, says_all_that_is_wrong_up_to_a_bound)
+{
+  TemporaryFile const xsd("check_many.xsd",
+    "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'><xs:element name='a'><xs:complexType><xs:sequence>"
+    "<xs:element name='n' type='xs:int' "
+    "maxOccurs='unbounded'/></xs:sequence></xs:complexType></xs:element></xs:schema>");
+  std::string text = "<a>";
+  for (int i = 0; i < 30; ++i)
+    text += "\n<n>x</n>";
+  TemporaryFile const bad("check_many.xml", text + "</a>");
+  auto const count = [&](std::vector<std::string> const& more)
+  {
+    std::vector<std::string> arguments = {"check", bad.name, "--no-namespace-schema", xsd.name};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    std::string const err = run_axm("check_many", arguments).err;
+    int found = 0;
+    for (std::size_t at = err.find("is not of the type"); at != std::string::npos;
+         at = err.find("is not of the type", at + 1))
+      ++found;
+    return std::make_pair(found, err.find("--all-errors") != std::string::npos);
+  };
+  EXPECT_EQ(count({}), std::make_pair(20, true));
+  EXPECT_EQ(count({"--all-errors"}), std::make_pair(30, false));
+}
+
+TEST(axm_check, fails_where_nothing_is_declared)
+{
+  TemporaryFile const xsd("check_nothing.xsd", schema);
+  TemporaryFile const other("check_nothing.xml", "<n xmlns='urn:other'/>");
+  ProgramRun const run = run_axm("check_nothing", {"check", other.name, "--schema", "urn:n=" + xsd.name});
+  EXPECT_EQ(run.exit_code, 1);
+  EXPECT_EQ(run.err, "check_nothing.xml: nothing in it is declared in the schemas, so nothing was checked\n");
+  EXPECT_EQ(run_axm("check_nothing", {"check", other.name}).exit_code, 0);
+}
+
+TEST(axm_check, says_whether_schemas_are_right)
+{
+  TemporaryFile const good("check_schema_1.xsd", schema);
+  TemporaryFile const bad("check_schema_2.xsd",
+    "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>\n<xs:element name='a' type='none'/></xs:schema>");
+  EXPECT_EQ(run_axm("check_schema", {"check", "--schemas-only", good.name}).exit_code, 0);
+  ProgramRun const run = run_axm("check_schema", {"check", "--schemas-only", good.name, bad.name});
+  EXPECT_EQ(run.exit_code, 1);
+  EXPECT_EQ(run.err.find("check_schema_2.xsd:2:"), 0u) << run.err;
+}
+
 TEST(axm_check, refuses_wrong_usage)
 {
   EXPECT_EQ(run_axm("check_usage", {"check"}).exit_code, 2);

@@ -49,6 +49,9 @@ public:
   /// Reads on from where the last read() ended, at first from the start. 0 at the end.
   std::size_t read(char* to, std::size_t size);
 
+  /// How many bytes have been read.
+  std::uint64_t consumed() const noexcept { return position; }
+
   /// The next read() is so many bytes after the first one, which have been read before. Throws axsReadError where that
   /// cannot be: what came from a pipe or a stream is kept only after keep_what_is_read(), and only the last of it.
   void seek(std::uint64_t position);

@@ -1,0 +1,40 @@
+#include "BuiltInCheck.h"
+
+#include "InputStream.h"
+
+#include <axsValidation.h>
+
+#include <utility>
+
+namespace
+{
+class Check final : public BuiltInCheck
+{
+public:
+  explicit Check(axmLoadOptions const& options) : validation(options) {}
+
+  std::vector<axmParseError> const& schema_errors() const override { return validation.schema_errors(); }
+
+  Result run(std::string const& file, std::size_t max_errors,
+    std::function<void(std::uint64_t bytes)> const& progress) const override
+  {
+    InputStream input(file);
+    axsValidation::Result result = input.is_plain_file() ? validation.check(apPath(file.c_str()), max_errors, progress)
+                                                         : validation.check(input, max_errors, progress);
+    return {std::move(result.errors), result.is_whole, result.has_assessed, input.is_plain_file()};
+  }
+
+private:
+  axsValidation validation;
+};
+}
+
+std::vector<axmParseError> built_in_schema_check(std::string const& file, std::size_t max_errors)
+{
+  return axsValidation::check_schema(apPath(file.c_str()), max_errors);
+}
+
+std::unique_ptr<BuiltInCheck> built_in_check(axmLoadOptions const& options)
+{
+  return std::make_unique<Check>(options);
+}
