@@ -1,5 +1,7 @@
 #include "axsAttributeList.h"
 
+#include "axsBounds.h"
+
 bool axsAttributeList::add(axsReadName& name, axsAttributeType type)
 {
   has_tokens = has_tokens || type != axsAttributeType::cdata;
@@ -26,8 +28,7 @@ std::uint64_t axsAttributeList::add_missing(std::vector<axsReadAttribute>& attri
     if (missing.name->last_element != element)
     {
       attributes.push_back({missing.name, missing.value, nullptr, missing.type});
-      added += sizeof(void*) + missing.value.size();
+      added += axsBounds::node_size + missing.value.size();
     }
-  // Of the element itself something is kept, too.
-  return added == 0 ? 0 : added + sizeof(void*);
+  return added;
 }

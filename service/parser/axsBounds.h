@@ -11,6 +11,9 @@ public:
   static constexpr std::uint64_t growth_free = std::uint64_t{8} * 1024 * 1024;
   static constexpr std::uint64_t growth_limit = 100;
 
+  /// What a node counts besides its text.
+  static constexpr std::uint64_t node_size = 64;
+
   explicit axsBounds(std::size_t most_expansions) noexcept : limit(most_expansions) {}
 
   /// One expansion more. Whether it may be.

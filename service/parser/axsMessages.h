@@ -35,7 +35,7 @@ inline constexpr char const* entity_version = "the entity says that it is XML 1.
 // Elements
 inline constexpr char const* element_name = "the name of an element must follow '<'; in a text, '<' is written &lt;";
 inline constexpr char const* end_of_nothing = "this end tag closes no element";
-inline constexpr char const* exclamation = "a comment or a CDATA section must begin with '<!' here";
+inline constexpr char const* exclamation = "only a comment or a CDATA section may begin with '<!' here";
 inline constexpr char const* attribute_space = "white space is missing here, as it must stand between attributes";
 inline constexpr char const* attribute_equals =
   "the name of an attribute must be followed by '=' and a value in quotes";

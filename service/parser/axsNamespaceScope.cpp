@@ -5,6 +5,7 @@
 #include "axsPrefix.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace
 {
@@ -16,7 +17,7 @@ std::string quoted(std::string_view text)
 // Empty when it is not bound.
 std::string_view bound_to(axsPrefix const& prefix)
 {
-  return prefix.bound.empty() ? std::string_view() : std::string_view(prefix.bound.back());
+  return prefix.bound.empty() ? std::string_view() : prefix.bound.back();
 }
 
 // Whether its prefix stands for a namespace that the document says.
@@ -83,7 +84,7 @@ bool axsNamespaceScope::declare(axsReadAttribute const& attribute)
     return fail("the prefix " + quoted(prefix.text) + " cannot be bound to the namespace " + quoted(value));
   if (!prefix.text.empty() && value.empty() && !may_undeclare)
     return fail("the prefix " + quoted(prefix.text) + " cannot be bound to no namespace");
-  prefix.bound.emplace_back(value);
+  prefix.bound.push_back(*namespaces.emplace(value).first);
   declared.emplace_back(depth, &prefix);
   return true;
 }
@@ -109,16 +110,16 @@ bool axsNamespaceScope::check_repetition(Attributes const& attributes)
         { return !is_prefixed(attribute) || attribute.name->prefix == first->name->prefix; }))
     return true;
 
-  std::vector<std::pair<std::string_view, std::string_view>> qualified;
+  std::vector<std::pair<char const*, std::string_view>> qualified;
   for (axsReadAttribute const& attribute : attributes)
     if (is_prefixed(attribute))
-      qualified.emplace_back(bound_to(*attribute.name->prefix), attribute.name->name->local());
-  std::sort(qualified.begin(), qualified.end());
+      qualified.emplace_back(bound_to(*attribute.name->prefix).data(), attribute.name->name->local());
+  auto const is_before = [](auto const& left, auto const& right)
+  { return std::less<>()(left.first, right.first) || (left.first == right.first && left.second < right.second); };
+  std::sort(qualified.begin(), qualified.end(), is_before);
   auto const repeated = std::adjacent_find(qualified.begin(), qualified.end());
-  if (repeated == qualified.end())
-    return true;
-  return fail(
-    "the attribute " + quoted(repeated->second) + " of the namespace " + quoted(repeated->first) + " is given twice");
+  return repeated == qualified.end() || fail("the attribute " + quoted(repeated->second) + " of the namespace " +
+                                             quoted(repeated->first) + " is given twice");
 }
 
 bool axsNamespaceScope::fail(std::string const& text)

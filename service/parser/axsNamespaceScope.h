@@ -2,10 +2,12 @@
 
 #include "axsPrefixScope.h"
 #include "axsReadName.h"
+#include "axsTextHash.h"
 
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -51,6 +53,8 @@ private:
 
   axsNameCache const& names;
   std::string error;
+  // All that were bound: long names of namespaces are compared by where they lie.
+  std::unordered_set<std::string, axsTextHash> namespaces;
   bool may_undeclare = false;
   // The prefixes declared by the open elements, and at which depth.
   std::vector<std::pair<std::size_t, axsPrefix*>> declared;

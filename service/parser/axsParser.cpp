@@ -258,6 +258,8 @@ void axsParser::start_tag()
     fail_start_tag(p, name);
   if (!made.empty())
     place_made_values();
+  if (in.is_internal())
+    in.count_growth((1 + attributes.size()) * axsBounds::node_size, p);
   if (name.attributes != nullptr)
     in.count_growth(name.attributes->add_missing(attributes, elements), p);
   if (!namespaces.open(name, attributes))

@@ -27,7 +27,7 @@ bool is_encoding_name(std::string_view text)
 
 bool axsXmlDeclaration::begins(char const* p)
 {
-  return axsCharacters::begins(p, "<?xml") && is(p[5], space);
+  return axsCharacters::begins(p, "<?xml") && (is(p[5], space) || p[5] == '?');
 }
 
 axsXmlDeclaration::axsXmlDeclaration(axsInputStack& input, Kind kind) : in(input)

@@ -354,7 +354,7 @@ TEST(axsDtdParser, refuses_a_document_with_very_many_defaults)
   std::string attributes;
   for (std::size_t i = 0; i < max_attributes; ++i)
     attributes += " a" + std::to_string(i) + " CDATA ''";
-  std::size_t const of_one = (max_attributes + 1) * sizeof(void*);
+  std::size_t const of_one = max_attributes * axsBounds::node_size;
   auto const document = [&](std::size_t elements)
   { return list(attributes, "<r>" + repeated("<r/>", elements) + "</r>"); };
   expect_taken({document(axsBounds::growth_free / of_one / 2 - 100)});
