@@ -90,7 +90,9 @@ bool take_place(std::FILE*& file, apPath const& place, apPath& temporary)
 {
   if (apNativeFile::has_further_names(place.path()) || !apNativeFile::take_permissions(file, place.path()))
     return false;
-  // With a name, the file would stay if a signal ended the process.
+  if (temporary.empty() && apNativeFile::give_name(file, place.path()) == apNativeFile::Made::yes)
+    return true; // nothing was there
+  // With a name of its own, the file would stay if a signal ended the process.
   apHeldSignals const held;
   if (temporary.empty())
     temporary =
