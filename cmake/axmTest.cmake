@@ -1,14 +1,19 @@
-# axm_add_test(NAME SOURCES ... [LIBRARIES ...] [ENVIRONMENT ...] [FIXTURES ...])
+# axm_add_test(NAME SOURCES ... [LIBRARIES ...] [ENVIRONMENT ...] [FIXTURES ...] [LABELS ...])
 # One GoogleTest program for a room. Natively each of its tests is a test of the runner; across an emulator, where
-# starting a process is dear, the program is one test. It runs after the tests that set FIXTURES up.
+# starting a process is dear, the program is one test. It runs after the tests that set FIXTURES up. Each test works in a
+# folder of its own, which goes with it (tests/ScratchFolderMain.cpp). What has the label "slow" is left out by
+# ./test --quick.
 
 find_package(GTest REQUIRED)
 include(GoogleTest)
 
+add_library(axm_test_main STATIC ${PROJECT_SOURCE_DIR}/tests/ScratchFolderMain.cpp)
+target_link_libraries(axm_test_main PUBLIC GTest::gtest PRIVATE axm_options)
+
 function(axm_add_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES;ENVIRONMENT;FIXTURES")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES;ENVIRONMENT;FIXTURES;LABELS")
   add_executable(${name} ${arg_SOURCES})
-  target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} axm_options GTest::gtest_main)
+  target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} axm_options axm_test_main)
   target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
   set(properties TIMEOUT 600)
   # One without a value would take the next one's name for its value.
@@ -17,6 +22,9 @@ function(axm_add_test name)
   endif()
   if(arg_FIXTURES)
     list(APPEND properties FIXTURES_REQUIRED "${arg_FIXTURES}")
+  endif()
+  if(arg_LABELS)
+    list(APPEND properties LABELS "${arg_LABELS}")
   endif()
   if(CMAKE_CROSSCOMPILING)
     add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)

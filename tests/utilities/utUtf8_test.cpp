@@ -83,7 +83,8 @@ TEST(utUtf8_, decodes_what_the_table_of_well_formed_sequences_has_and_says_how_f
       {
         expect_as_in_the_table(two + static_cast<char>(c));
         for (unsigned char const d : edges)
-          expect_as_in_the_table(two + static_cast<char>(c) + static_cast<char>(d));
+          if (a >= 0xE0) // before them, at most two bytes are looked at
+            expect_as_in_the_table(two + static_cast<char>(c) + static_cast<char>(d));
       }
     }
   }
