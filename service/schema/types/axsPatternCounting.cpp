@@ -47,7 +47,7 @@ bool axsPatternCounting::matches(std::string_view value)
   active.clear();
   place = 0;
   reach.clear();
-  reach.add(program.start());
+  reach.add(program.start(), 0);
   begin_counters();
   for (std::size_t at = 0; at < value.size();)
   {
@@ -64,18 +64,29 @@ bool axsPatternCounting::matches(std::string_view value)
 void axsPatternCounting::step(Index of_class)
 {
   ++place;
-  taking = reach.takes();
+  keep_taking();
   reach.clear();
   step_counters(of_class);
   for (Index const next : full)
-    reach.add(next);
-  for (Index const index : taking)
+    reach.add(next, 0);
+  for (Taking const& each : taking)
   {
     ++counter_steps;
-    if (program.has(program[index].number, of_class))
-      reach.add(program[index].next);
+    if (program.has(program[each.index].number, of_class))
+      reach.add(program[each.index].next, each.round);
   }
   begin_counters();
+}
+
+// In ascending order of rounds, as reaching asks for.
+void axsPatternCounting::keep_taking()
+{
+  taking.clear();
+  for (Index const index : reach.takes())
+    taking.push_back({reach.round_of(index), index});
+  if (!program.loops().empty())
+    std::sort(
+      taking.begin(), taking.end(), [](Taking const& left, Taking const& right) { return left.round < right.round; });
 }
 
 // All counts are one larger, or over.

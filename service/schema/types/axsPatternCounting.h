@@ -24,6 +24,13 @@ public:
 private:
   using Index = axsPatternProgram::Index;
 
+  // An instruction that takes a character, in a round of its loop.
+  struct Taking
+  {
+    std::uint64_t round;
+    Index index;
+  };
+
   // Places from `first` to `last` at which a count began.
   struct Run
   {
@@ -44,6 +51,7 @@ private:
   };
 
   void step(Index of_class);
+  void keep_taking();
   void step_counters(Index of_class);
   bool goes_on(Index counter, Index of_class);
   void begin_counters();
@@ -51,7 +59,7 @@ private:
   axsPatternProgram const& program;
   axsPatternReach reach;
   std::uint64_t place = 0; // the number of characters taken
-  std::vector<Index> taking;
+  std::vector<Taking> taking;
   std::vector<Begun> begun;  // by counter
   std::vector<Index> active; // the counters that have begun
   std::vector<Index> full;   // those that have counted enough, by what follows

@@ -7,10 +7,10 @@ struct axsPatternPool::Automaton
 {
   explicit Automaton(axsPatternProgram const& program)
   {
-    if (program.counters().empty())
-      states = std::make_unique<axsPatternStates>(program);
-    else
+    if (program.counts())
       counting = std::make_unique<axsPatternCounting>(program);
+    else
+      states = std::make_unique<axsPatternStates>(program);
   }
 
   bool matches(std::string_view value) { return states != nullptr ? states->matches(value) : counting->matches(value); }

@@ -42,3 +42,9 @@ axsPatternProgram::Index axsPatternProgram::add_counter(axsPatternTree::Node con
   count.number = static_cast<Index>(counting.size() - 1);
   return add(count);
 }
+
+axsPatternProgram::Index axsPatternProgram::add_loop(std::uint64_t max_rounds)
+{
+  rounds.push_back(max_rounds);
+  return static_cast<Index>(rounds.size() - 1);
+}

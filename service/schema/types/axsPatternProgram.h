@@ -10,8 +10,8 @@
 #include <memory>
 #include <vector>
 
-/// A regular expression as a nondeterministic automaton. Repeats are written out, unless that is long; then those of one
-/// character are counted. Immutable, shared between threads.
+/// A regular expression as a nondeterministic automaton. Repeats are written out, unless that is long; then those are counted
+/// that do not lie in others. Immutable, shared between threads.
 class axsPatternProgram
 {
 public:
@@ -22,6 +22,8 @@ public:
     take,  // a character of the set `number`, then on at `next`
     count, // by the counter `number`, then on at `next`
     split, // on at `next` and at `other`
+    enter, // a loop, to its first round at `next`; or past it, at `other`
+    again, // if the loop `number` has rounds left, to the next one at `next`; or past it, at `other`
     match
   };
 
@@ -55,6 +57,11 @@ public:
   Instruction const& operator[](Index index) const noexcept { return instructions[index]; }
   std::size_t size() const noexcept { return instructions.size(); }
   std::vector<Counter> const& counters() const noexcept { return counting; }
+
+  /// The rounds that a loop has at most, by its number.
+  std::vector<std::uint64_t> const& loops() const noexcept { return rounds; }
+
+  bool counts() const noexcept { return !counting.empty() || !rounds.empty(); }
   axsPatternClasses const& classes() const noexcept { return alike; }
 
   /// Whether a set has the characters of a class.
@@ -64,12 +71,14 @@ private:
   explicit axsPatternProgram(std::vector<axsCharacterSet>&& of);
 
   Index add(Instruction const& instruction);
+  Index add_loop(std::uint64_t max_rounds);
   Index add_counter(axsPatternTree::Node const& repeat, Index set, Index next);
 
   std::vector<axsCharacterSet> sets;
   axsPatternClasses alike;
   std::vector<Instruction> instructions;
   std::vector<Counter> counting;
+  std::vector<std::uint64_t> rounds;
   Index first = 0;
 
   friend class axsPatternWriter;

@@ -32,7 +32,7 @@ axsPatternStates::Index axsPatternStates::start()
   if (first == unknown)
   {
     reach.clear();
-    reach.add(program.start());
+    reach.add(program.start(), 0);
     first = number_of_reached();
   }
   return first;
@@ -50,7 +50,7 @@ axsPatternStates::Index axsPatternStates::make_next(Index& state, Index of_class
     Index index = 0;
     std::memcpy(&index, instructions.data() + at, sizeof index);
     if (program.has(program[index].number, of_class))
-      reach.add(program[index].next);
+      reach.add(program[index].next, 0);
   }
   bool const is_dead = reach.takes().empty() && !reach.matches();
   Index const next = is_dead ? dead : number_of_reached();

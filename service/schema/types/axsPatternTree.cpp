@@ -85,12 +85,6 @@ axsPatternTree::Index axsPatternTree::add_choice(Index first)
   return add_group(Kind::choice, first);
 }
 
-bool axsPatternTree::is_counted(Node const& repeat, Node const& part) noexcept
-{
-  bool const is_long = repeat.min >= least_counted || (repeat.max != unbounded && repeat.max >= least_counted);
-  return part.kind == Kind::set && is_long;
-}
-
 axsPatternTree::Index axsPatternTree::add_repeat(Index part, std::uint64_t min, std::uint64_t max)
 {
   if (max == 0 || nodes[part].kind == Kind::empty)
@@ -113,7 +107,21 @@ axsPatternTree::Index axsPatternTree::add_repeat(Index part, std::uint64_t min, 
     node.min = 0;
   node.first = part;
   node.may_be_empty = node.min == 0;
-  node.cost = written_out(repeated.cost, node.min, node.max);
-  node.counted_cost = is_counted(node, repeated) ? 1 : written_out(repeated.counted_cost, node.min, node.max);
+  set_costs(node, repeated);
   return add(node);
+}
+
+// A repeated set is one instruction that counts. Of another part, the copies that must be there are written out, and the
+// others are one copy in a loop, in which nothing else counts.
+void axsPatternTree::set_costs(Node& repeat, Node const& part) noexcept
+{
+  std::uint64_t const counted_part = part.counted_cost;
+  repeat.cost = written_out(part.cost, repeat.min, repeat.max);
+  repeat.counted_cost = written_out(counted_part, repeat.min, repeat.max);
+  bool const is_set = part.kind == Kind::set;
+  if (!is_set && repeat.max == unbounded)
+    return;
+  std::uint64_t const counting = is_set ? 1 : sum(product(repeat.min, counted_part), sum(part.cost, 2));
+  repeat.is_counted = counting < repeat.counted_cost;
+  repeat.counted_cost = std::min(counting, repeat.counted_cost);
 }

@@ -34,8 +34,9 @@ public:
     Index next = none;     // the next part of what this one is part of
     std::uint64_t min = 0; // of a repeat
     std::uint64_t max = 0;
+    bool is_counted = false;        // of a repeat: whether counting takes fewer instructions
     std::uint64_t cost = 1;         // the instructions, all repeats written out
-    std::uint64_t counted_cost = 1; // the same with repeated sets counted
+    std::uint64_t counted_cost = 1; // the same with repeats counted
   };
 
   Index add_empty();
@@ -56,13 +57,10 @@ public:
   std::vector<axsCharacterSet> sets;
   Index root = none;
 
-  /// Repeats of a set that go at least so far are counted, where not everything is written out.
-  static constexpr std::uint64_t least_counted = 8;
-  static bool is_counted(Node const& repeat, Node const& part) noexcept;
-
 private:
   Index add(Node const& node);
   Index add_group(Kind kind, Index first);
+  static void set_costs(Node& repeat, Node const& part) noexcept;
 
   std::vector<Node> nodes;
 };

@@ -8,17 +8,18 @@ using Operation = axsPatternProgram::Operation;
 void axsPatternWriter::write()
 {
   Index const match = program.add(axsPatternProgram::Instruction());
-  push(tree.root, match);
+  push(tree.root, match, counts);
   while (!tasks.empty())
     step();
   program.first = result;
 }
 
-void axsPatternWriter::push(Index node, Index after)
+void axsPatternWriter::push(Index node, Index after, bool may_count)
 {
   Task task;
   task.node = node;
   task.after = after;
+  task.counts = may_count;
   tasks.push_back(std::move(task));
 }
 
@@ -57,31 +58,37 @@ void axsPatternWriter::begin(Task& task)
   if (node.kind == Kind::empty)
     return finish(task.after);
   if (node.kind == Kind::set)
-  {
-    axsPatternProgram::Instruction take;
-    take.operation = Operation::take;
-    take.number = node.set;
-    take.next = task.after;
-    return finish(program.add(take));
-  }
+    return finish(add(Operation::take, node.set, task.after, 0));
   if (node.kind == Kind::repeat)
-  {
-    Node const& part = tree[node.first];
-    if (counts && axsPatternTree::is_counted(node, part))
-      return finish(program.add_counter(node, part.set, task.after));
-    task.left = node.max;
-    if (node.max != axsPatternTree::unbounded)
-      return push(node.first, task.after);
-    // What repeats without end leads back to a split, from which it is left.
-    task.loop = add_split(task.after, task.after);
-    return push(node.first, task.loop);
-  }
-  for (Index part = node.first; part != axsPatternTree::none; part = tree[part].next)
+    return begin_repeat(task);
+  begin_group(task);
+}
+
+void axsPatternWriter::begin_group(Task& task)
+{
+  for (Index part = tree[task.node].first; part != axsPatternTree::none; part = tree[part].next)
     task.parts.push_back(part);
-  result = task.after;
   Index const last = task.parts.back();
   task.parts.pop_back();
-  push(last, task.after);
+  push(last, task.after, task.counts);
+}
+
+void axsPatternWriter::begin_repeat(Task& task)
+{
+  Node const& node = tree[task.node];
+  Node const& part = tree[node.first];
+  bool const is_counted = task.counts && node.is_counted;
+  if (is_counted && part.kind == Kind::set)
+    return finish(program.add_counter(node, part.set, task.after));
+  task.left = is_counted ? axsPatternTree::unbounded : node.max;
+  if (is_counted)
+    task.loop = add(Operation::again, program.add_loop(node.max - node.min), task.after, task.after);
+  else if (node.max == axsPatternTree::unbounded)
+    // What repeats without end leads back to a split, from which it is left.
+    task.loop = add(Operation::split, 0, task.after, task.after);
+  else
+    return push(node.first, task.after, task.counts);
+  push(node.first, task.loop, task.counts && !is_counted);
 }
 
 void axsPatternWriter::go_on_with_sequence(Task& task)
@@ -90,23 +97,25 @@ void axsPatternWriter::go_on_with_sequence(Task& task)
     return finish(result);
   Index const part = task.parts.back();
   task.parts.pop_back();
-  push(part, result);
+  push(part, result, task.counts);
 }
 
 void axsPatternWriter::go_on_with_choice(Task& task)
 {
-  task.split = task.split == axsPatternTree::none ? result : add_split(result, task.split);
+  task.split = task.split == axsPatternTree::none ? result : add(Operation::split, 0, result, task.split);
   if (task.parts.empty())
     return finish(task.split);
   Index const part = task.parts.back();
   task.parts.pop_back();
-  push(part, task.after);
+  push(part, task.after, task.counts);
 }
 
 // A copy has been written, the last of those that are run being the first.
 void axsPatternWriter::go_on_with_repeat(Task& task)
 {
   Node const& node = tree[task.node];
+  if (task.counts && node.is_counted)
+    return go_on_with_loop(task);
   Index start = result;
   if (task.left == axsPatternTree::unbounded)
   {
@@ -119,18 +128,37 @@ void axsPatternWriter::go_on_with_repeat(Task& task)
   {
     --task.left;
     bool const is_optional = node.max != axsPatternTree::unbounded && task.left >= node.min;
-    start = is_optional ? add_split(result, task.after) : result;
+    start = is_optional ? add(Operation::split, 0, result, task.after) : result;
   }
   if (task.left == 0)
     return finish(start);
-  push(node.first, start);
+  push(node.first, start, task.counts);
 }
 
-axsPatternWriter::Index axsPatternWriter::add_split(Index next, Index other)
+// The loop has been written, or one of the copies before it.
+void axsPatternWriter::go_on_with_loop(Task& task)
 {
-  axsPatternProgram::Instruction split;
-  split.operation = Operation::split;
-  split.next = next;
-  split.other = other;
-  return program.add(split);
+  Node const& node = tree[task.node];
+  Index start = result;
+  if (task.left == axsPatternTree::unbounded)
+  {
+    program.instructions[task.loop].next = result;
+    start = add(Operation::enter, 0, result, task.after);
+    task.left = node.min;
+  }
+  else
+    --task.left;
+  if (task.left == 0)
+    return finish(start);
+  push(node.first, start, task.counts);
+}
+
+axsPatternWriter::Index axsPatternWriter::add(Operation operation, Index number, Index next, Index other)
+{
+  axsPatternProgram::Instruction instruction;
+  instruction.operation = operation;
+  instruction.number = number;
+  instruction.next = next;
+  instruction.other = other;
+  return program.add(instruction);
 }

@@ -30,20 +30,24 @@ private:
     Index node;
     Index after;            // what follows the part
     std::uint64_t left = 0; // of a repeat: the copies not written yet; unbounded before the first one that loops
-    Index loop = 0;         // of a repeat without end: its split
+    Index loop = 0;         // of a repeat without end: its split; of a loop: what leads back
     bool is_begun = false;
+    bool counts = false;                // whether repeats in it may be counted
     std::vector<Index> parts;           // of a sequence or choice: those to be written yet
     Index split = axsPatternTree::none; // of a choice: what leads to the parts written
   };
 
-  void push(Index node, Index after);
+  void push(Index node, Index after, bool counts);
   void step();
   void begin(Task& task);
   void go_on_with_sequence(Task& task);
   void go_on_with_choice(Task& task);
+  void begin_repeat(Task& task);
+  void begin_group(Task& task);
   void go_on_with_repeat(Task& task);
+  void go_on_with_loop(Task& task);
   void finish(Index start);
-  Index add_split(Index next, Index other);
+  Index add(axsPatternProgram::Operation operation, Index number, Index next, Index other);
 
   axsPatternProgram& program;
   axsPatternTree const& tree;
