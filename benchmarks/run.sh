@@ -22,5 +22,6 @@ build/benchmark/bin/bench_reader ${folder:+"$folder"} --output "$results/reader"
 documents=()
 [ -z "$folder" ] || documents=("$folder"/*.xml)
 build/benchmark/bin/document_benchmark --output "$results/document" "${documents[@]}" || status=1
+build/benchmark/bin/validation_benchmark | tee "$results/validation.txt" || status=1
 echo "The tables and plots are in $results/."
 exit $status

@@ -1,6 +1,7 @@
 #include "axsSchemas.h"
 
 #include "axsReadError.h"
+#include "axsSchemaCache.h"
 #include "axsSchemaCompiler.h"
 #include "axsSchemaComponents.h"
 
@@ -27,13 +28,23 @@ axsReadError error_of(axsSchemaErrors::Error const& error, axsSchemaCompiler con
   return made;
 }
 
-template <class Add>
+std::vector<axsSchemaCache::Wanted> wanted_by(axmLoadOptions const& options)
+{
+  std::vector<axsSchemaCache::Wanted> wanted;
+  for (int i = 0; i < options.num_external_schemas(); ++i)
+    wanted.push_back({narrow(options.external_namespace(i)), options.external_schema(i)});
+  if (!options.no_namespace_schema().empty())
+    wanted.push_back({std::string(), options.no_namespace_schema()});
+  return wanted;
+}
+
+// Calls `compile`, and takes down what is wrong with the schemas.
+template <class Compile>
 std::shared_ptr<axsSchemaComponents const> compile_with(
-  axsSchemaCompiler& compiler, std::vector<axsReadError>& errors, Add add)
+  axsSchemaCompiler& compiler, std::vector<axsReadError>& errors, Compile compile)
 try
 {
-  add();
-  std::shared_ptr<axsSchemaComponents const> schema = compiler.compile();
+  std::shared_ptr<axsSchemaComponents const> schema = compile();
   if (schema == nullptr)
     for (axsSchemaErrors::Error const& error : compiler.errors())
       errors.push_back(error_of(error, compiler));
@@ -56,21 +67,19 @@ std::shared_ptr<axsSchemaComponents const> axsSchemas::compile(
   axmLoadOptions const& options, std::vector<axsReadError>& errors)
 {
   axsSchemaCompiler compiler;
-  return compile_with(compiler, errors,
-    [&]
-    {
-      for (int i = 0; i < options.num_external_schemas(); ++i)
-        compiler.add(narrow(options.external_namespace(i)), options.external_schema(i));
-      if (!options.no_namespace_schema().empty())
-        compiler.add(std::string_view(), options.no_namespace_schema());
-    });
+  return compile_with(compiler, errors, [&] { return axsSchemaCache::shared().get(wanted_by(options), compiler); });
 }
 
 std::vector<axsReadError> axsSchemas::check(apPath const& file, std::size_t max_errors)
 {
   std::vector<axsReadError> errors;
   axsSchemaCompiler compiler(max_errors);
-  compile_with(compiler, errors, [&] { compiler.add(file); });
+  compile_with(compiler, errors,
+    [&]
+    {
+      compiler.add(file);
+      return compiler.compile();
+    });
   return errors;
 }
 

@@ -1,11 +1,13 @@
 #include "axsContentModels.h"
 
+#include "axsComplexType.h"
 #include "axsContentAutomaton.h"
 #include "axsElementDecl.h"
 #include "axsSubstitution.h"
 #include "axsWildcard.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace
 {
@@ -41,7 +43,17 @@ bool allows_global(axsElementDecl const& head, axsElementDecl const& member) noe
 }
 }
 
-axsContentModels::axsContentModels(std::vector<axsElementDecl const*> const& globals) : names(globals) {}
+axsContentModels::axsContentModels(std::vector<axsElementDecl const*> const& globals) : names(globals)
+{
+  std::unordered_set<axsComplexType const*> seen;
+  for (axsElementDecl const* const decl : globals)
+  {
+    is_guarded = is_guarded || decl->block != 0;
+    for (axsComplexType const* type = decl->type.complex; type != nullptr && seen.insert(type).second;
+         type = type->base.complex)
+      is_guarded = is_guarded || type->block != 0;
+  }
+}
 
 axsContentModels::~axsContentModels() = default;
 
@@ -147,7 +159,7 @@ axsContentNames const& axsContentModels::names_of(axsElementDecl const& decl)
   made.symbol = names.add(decl.name);
   bool const is_head = names.global(made.symbol) == &decl;
   std::uint32_t const last = is_head ? names.last_of_group(made.symbol) : made.symbol;
-  if (!axsSubstitution::is_guarded(decl))
+  if (!is_guarded)
     made.spans.push_back({made.symbol, last});
   else
     for (std::uint32_t symbol = made.symbol; symbol <= last; ++symbol)

@@ -49,6 +49,7 @@ private:
   axsContentWildcard const& wildcard_of(axsWildcard const& wildcard);
 
   axsSymbols names;
+  bool is_guarded = false; // whether any declaration or type blocks what could stand in its place
   std::unordered_map<axsElementDecl const*, axsContentNames> names_of_decls;
   std::unordered_map<axsWildcard const*, axsContentWildcard> wildcards;
   std::unordered_map<axsModelGroup const*, std::unique_ptr<axsContentGroup>> groups;

@@ -27,11 +27,6 @@ axsTypeDefinition base_of(axsTypeDefinition const& type, axsDerivationSet& metho
 }
 }
 
-bool axsSubstitution::is_guarded(axsElementDecl const& head) noexcept
-{
-  return head.block != 0 || head.type.complex != nullptr;
-}
-
 bool axsSubstitution::is_allowed(axsElementDecl const& member, axsElementDecl const& head) noexcept
 {
   if ((head.block & axsDerivationSubstitution) != 0)

@@ -6,8 +6,5 @@ struct axsElementDecl;
 /// blocks it (Part 1, 3.3.6 cos-equiv-derived-ok-rec).
 namespace axsSubstitution
 {
-/// Whether `head` could block any member at all.
-bool is_guarded(axsElementDecl const& head) noexcept;
-
 bool is_allowed(axsElementDecl const& member, axsElementDecl const& head) noexcept;
 }

@@ -1,0 +1,215 @@
+#include "Schema.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+std::string const xsi = " xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance'";
+
+std::string with_type(std::string const& element, std::string const& content)
+{
+  return "<xs:element name='" + element + "'><xs:complexType>" + content + "</xs:complexType></xs:element>";
+}
+
+std::string sequence(std::string const& content)
+{
+  return "<xs:sequence>" + content + "</xs:sequence>";
+}
+
+// cvc-elt.4.3, cvc-type
+std::string const types =
+  "<xs:complexType name='base'><xs:sequence><xs:element name='a' minOccurs='0'/></xs:sequence>"
+  "</xs:complexType><xs:complexType name='more'><xs:complexContent><xs:extension base='base'>"
+  "<xs:sequence><xs:element name='b'/></xs:sequence></xs:extension></xs:complexContent>"
+  "</xs:complexType><xs:complexType name='less'><xs:complexContent><xs:restriction base='base'/>"
+  "</xs:complexContent></xs:complexType><xs:complexType name='abstract' abstract='true'/>";
+}
+
+TEST(axsAssessment, all_errors_are_told_in_the_order_of_the_document)
+{
+  Schema const schema(with_type(
+    "r", sequence("<xs:element name='n' type='xs:int' maxOccurs='9'/>") + "<xs:attribute name='a' type='xs:int'/>"));
+  EXPECT_EQ(schema.wrong("<r a='x'>\n<n>1</n><n>y</n>\n<m/><n>z</n></r>"),
+    "1: attribute 'a' of element 'r': \"x\" is not of the type xs:int\n"
+    "2: element 'n': \"y\" is not of the type xs:int\n"
+    "3: element 'm' may not stand here in 'r'; expected is 'n' or the end of the element\n");
+  EXPECT_EQ(schema.wrong("<r><n>x</n><n>y</n></r>", 1), "1: element 'n': \"x\" is not of the type xs:int\n");
+  EXPECT_EQ(schema.wrong("<r><n>x</n>\n<n></r>"),
+    "1: element 'n': \"x\" is not of the type xs:int\n"
+    "2: the element 'n', open since line 2, must be closed first, by </n>\n");
+}
+
+TEST(axsAssessment, an_error_that_reaches_the_bound_may_not_be_the_last)
+{
+  Schema const schema("<xs:element name='r'><xs:complexType><xs:attribute name='a' type='xs:int'/>"
+                      "<xs:attribute name='b' type='xs:int'/></xs:complexType></xs:element>");
+  EXPECT_FALSE(schema.validation().check(bytes("<r a='x' b='y'/>"), 2).is_whole);
+  EXPECT_TRUE(schema.validation().check(bytes("<r a='x' b='y'/>"), 3).is_whole);
+  EXPECT_TRUE(schema.validation().check(bytes("<r/>"), 1).is_whole);
+}
+
+// cvc-elt.2, cvc-type.2
+TEST(axsAssessment, what_is_abstract_may_not_stand_in_a_document)
+{
+  Schema const schema("<xs:element name='h' abstract='true' type='xs:int'/><xs:element name='m' substitutionGroup='h'/>"
+                      "<xs:element name='t' type='abstract'/>" +
+                      types + with_type("r", sequence("<xs:element ref='h'/>")));
+  EXPECT_EQ(schema.wrong("<r><m>1</m></r>"), "");
+  EXPECT_EQ(schema.wrong("<r><m>x</m></r>"), "1: element 'm': \"x\" is not of the type xs:int\n");
+  EXPECT_EQ(schema.wrong("<r><h>1</h></r>"),
+    "1: element 'h' is abstract: an element that can stand in its place is expected\n");
+  EXPECT_EQ(schema.wrong("<t/>"),
+    "1: element 't': its type 'abstract' is abstract; xsi:type must name one that is derived from it\n");
+}
+
+// cvc-elt.3
+TEST(axsAssessment, a_nil_element_is_empty_and_nillable)
+{
+  Schema const schema("<xs:element name='n' nillable='true' type='xs:int'/><xs:element name='p' type='xs:int'/>"
+                      "<xs:element name='f' nillable='true' type='xs:int' fixed='1'/>");
+  EXPECT_EQ(schema.wrong("<n" + xsi + " xsi:nil='true'/>"), "");
+  EXPECT_EQ(schema.wrong("<n" + xsi + " xsi:nil=' 1 '/>"), "");
+  EXPECT_EQ(schema.wrong("<n" + xsi + " xsi:nil='false'>5</n>"), "");
+  EXPECT_EQ(schema.wrong("<n" + xsi + " xsi:nil='true'>5</n>"), "1: element 'n': it must be empty\n");
+  EXPECT_NE(schema.wrong("<n" + xsi + " xsi:nil='yes'>5</n>"), "");
+  EXPECT_EQ(schema.wrong("<p" + xsi + " xsi:nil='true'/>"),
+    "1: attribute 'xsi:nil' of element 'p': the element is not nillable\n"
+    "1: element 'p': \"\" is not of the type xs:int\n");
+  EXPECT_EQ(schema.wrong("<f" + xsi + " xsi:nil='true'/>"),
+    "1: attribute 'xsi:nil' of element 'f': the element has the fixed value \"1\" and may not be nil\n");
+}
+
+// cvc-elt.4
+TEST(axsAssessment, a_document_may_name_a_type_that_is_derived)
+{
+  Schema const schema(types + "<xs:element name='r' type='base'/><xs:element name='s' type='base' block='extension'/>"
+                              "<xs:element name='i' type='xs:decimal'/>");
+  EXPECT_EQ(schema.wrong("<r" + xsi + " xsi:type='more'><a/><b/></r>"), "");
+  EXPECT_EQ(schema.wrong("<r" + xsi + " xsi:type='less'/>"), "");
+  EXPECT_EQ(schema.wrong("<r" + xsi + " xsi:type='less'><a/></r>"),
+    "1: element 'a' may not stand here in 'r', which must be empty\n");
+  EXPECT_EQ(schema.wrong("<s" + xsi + " xsi:type='less'/>"), "");
+  EXPECT_NE(schema.wrong("<s" + xsi + " xsi:type='more'><b/></s>").find("may not take the place"), std::string::npos);
+  EXPECT_NE(schema.wrong("<r" + xsi + " xsi:type='none'/>").find("there is no type 'none'"), std::string::npos);
+  EXPECT_NE(schema.wrong("<r" + xsi + " xsi:type='p:none'/>"), "");
+  EXPECT_EQ(schema.wrong("<i" + xsi + " xmlns:x='http://www.w3.org/2001/XMLSchema' xsi:type='x:int'>5</i>"), "");
+  EXPECT_NE(schema.wrong("<i" + xsi + " xmlns:x='http://www.w3.org/2001/XMLSchema' xsi:type='x:string'>5</i>"), "");
+}
+
+// cvc-elt.5, cvc-au
+TEST(axsAssessment, fixed_values_are_compared_as_values)
+{
+  Schema const schema("<xs:element name='f' type='xs:decimal' fixed='1.0'/>"
+                      "<xs:element name='m' fixed='x y'><xs:complexType mixed='true'><xs:sequence><xs:element name='a' "
+                      "minOccurs='0'/></xs:sequence></xs:complexType></xs:element>" +
+                      with_type("a", "<xs:attribute name='f' type='xs:int' fixed='7'/>"));
+  EXPECT_EQ(schema.wrong("<f>01</f>"), "");
+  EXPECT_EQ(schema.wrong("<f/>"), "");
+  EXPECT_EQ(schema.wrong("<f>2</f>"), "1: element 'f': \"2\" is not allowed: it must be \"1.0\"\n");
+  EXPECT_EQ(schema.wrong("<m>x y</m>"), "");
+  EXPECT_EQ(schema.wrong("<m/>"), "");
+  EXPECT_NE(schema.wrong("<m>x <a/>y</m>"), "");
+  EXPECT_NE(schema.wrong("<m>xy</m>"), "");
+  EXPECT_EQ(schema.wrong("<a f='07'/>"), "");
+  EXPECT_EQ(schema.wrong("<a f='8'/>"), "1: attribute 'f' of element 'a': \"8\" is not allowed: it must be \"7\"\n");
+}
+
+// cvc-complex-type.2.1, .2.2, .2.3
+TEST(axsAssessment, a_content_is_empty_simple_elements_or_mixed_as_declared)
+{
+  Schema const schema(with_type("empty", "") + with_type("elements", sequence("<xs:element name='a'/>")) +
+                      "<xs:element name='simple' type='xs:string'/>");
+  EXPECT_EQ(schema.wrong("<empty><!--c--><?p?></empty>"), "");
+  EXPECT_EQ(schema.wrong("<empty> </empty>"), "1: element 'empty': it must be empty\n");
+  EXPECT_EQ(schema.wrong("<empty><a/></empty>"), "1: element 'a' may not stand here in 'empty', which must be empty\n");
+  EXPECT_EQ(schema.wrong("<elements> <a/>&#32;</elements>"), "");
+  EXPECT_EQ(schema.wrong("<elements>x<a/>y</elements>"), "1: element 'elements': text is not allowed here\n");
+  EXPECT_EQ(schema.wrong("<simple>a<![CDATA[b]]><!--c-->d</simple>"), "");
+  EXPECT_EQ(
+    schema.wrong("<simple><a/></simple>"), "1: element 'a' may not stand here in 'simple', which has a text only\n");
+}
+
+// cvc-wildcard, cvc-assess-elt
+TEST(axsAssessment, wildcards_are_strict_lax_or_skipped)
+{
+  auto const any = [](std::string const& process)
+  {
+    return with_type(process, sequence("<xs:any processContents='" + process + "' namespace='##any'/>") +
+                                "<xs:anyAttribute processContents='" + process + "'/>");
+  };
+  Schema const schema(any("strict") + any("lax") + any("skip") +
+                      "<xs:element name='n' type='xs:int'/>"
+                      "<xs:attribute name='i' type='xs:int'/>");
+  EXPECT_EQ(schema.wrong("<strict i='1'><n>1</n></strict>"), "");
+  EXPECT_NE(schema.wrong("<strict i='x'><n>1</n></strict>"), "");
+  EXPECT_EQ(schema.wrong("<strict><u/></strict>"), "1: no declaration found for element 'u'\n");
+  EXPECT_EQ(schema.wrong("<strict u='1'><n>1</n></strict>"),
+    "1: attribute 'u' of element 'strict' must be declared in the schema, and is not\n");
+  EXPECT_EQ(schema.wrong("<lax u='1'><u><v><n>1</n></v></u></lax>"), "");
+  EXPECT_EQ(schema.wrong("<lax><u><v><n>x</n></v></u></lax>"), "1: element 'n': \"x\" is not of the type xs:int\n");
+  EXPECT_EQ(schema.wrong("<skip i='x'><n>x</n></skip>"), "");
+}
+
+TEST(axsAssessment, below_an_unknown_root_what_is_known_is_checked)
+{
+  Schema const schema("<xs:element name='n' type='xs:int'/>");
+  EXPECT_EQ(schema.wrong("<e:e xmlns:e='urn:e'><e:b><n>5</n></e:b></e:e>"), "");
+  EXPECT_EQ(schema.wrong("<e:e xmlns:e='urn:e'><e:b><n>x</n></e:b></e:e>"),
+    "1: element 'n': \"x\" is not of the type xs:int\n");
+  EXPECT_FALSE(schema.validation().check(bytes("<e xmlns='urn:e'/>")).has_assessed);
+  EXPECT_TRUE(schema.validation().check(bytes("<e:e xmlns:e='urn:e'><n>5</n></e:e>")).has_assessed);
+}
+
+// cvc-id
+TEST(axsAssessment, ids_are_unique_and_references_find_one)
+{
+  Schema const schema(with_type(
+    "r", sequence("<xs:element name='e' maxOccurs='unbounded'><xs:complexType><xs:attribute name='id' type='xs:ID'/>"
+                  "<xs:attribute name='refs' type='xs:IDREFS'/></xs:complexType></xs:element>")));
+  EXPECT_EQ(schema.wrong("<r><e refs='b a'/><e id='a'/><e id='b'/></r>"), "");
+  EXPECT_EQ(schema.wrong("<r>\n<e id='a'/>\n<e id='a'/></r>"),
+    "3: attribute 'id' of element 'e': ID value 'a' is not unique; first at line 2\n");
+  EXPECT_EQ(schema.wrong("<r>\n<e refs='a b'/>\n<e id='a'/></r>"), "2: there is no ID 'b', to which an IDREF refers\n");
+}
+
+TEST(axsAssessment, names_in_values_are_resolved_where_they_stand)
+{
+  Schema const schema("<xs:element name='q' type='xs:QName'/><xs:element name='r'><xs:complexType><xs:sequence>"
+                      "<xs:element ref='q' maxOccurs='9'/></xs:sequence></xs:complexType><xs:unique name='u'>"
+                      "<xs:selector xpath='q'/><xs:field xpath='.'/></xs:unique></xs:element>");
+  EXPECT_EQ(schema.wrong("<r xmlns:p='urn:p'><q>p:a</q><q xmlns:p='urn:q'>p:<!--c-->a</q></r>"), "");
+  EXPECT_EQ(schema.wrong("<r xmlns:p='urn:p'><q>p:a</q><q xmlns:o='urn:p'>o:a</q></r>"),
+    "1: element 'q': what must be unique in the element 'r' is not: \"o:a\"; first at line 1\n");
+  EXPECT_NE(schema.wrong("<r><q>p:a</q></r>"), "");
+}
+
+TEST(axsAssessment, types_with_many_attributes_are_assessed)
+{
+  std::string declared;
+  std::string given;
+  for (int i = 0; i < 300; ++i)
+  {
+    declared += "<xs:attribute name='a" + std::to_string(i) + "' type='xs:int' use='required'/>";
+    given += " a" + std::to_string(i) + "='1'";
+  }
+  Schema const schema(with_type("r", declared));
+  EXPECT_EQ(schema.wrong("<r" + given + "/>"), "");
+  EXPECT_EQ(schema.wrong("<r b='1'" + given + "/>"), "1: attribute 'b' is not declared for element 'r'\n");
+  EXPECT_EQ(schema.wrong("<r" + given.substr(7) + "/>"), "1: element 'r': missing required attribute 'a0'\n");
+}
+
+// cvc-complex-type.5
+TEST(axsAssessment, one_id_at_most_comes_in_by_a_wildcard)
+{
+  Schema const schema("<xs:attribute name='i' type='xs:ID'/><xs:attribute name='j' type='xs:ID'/>" +
+                      with_type("r", "<xs:anyAttribute processContents='lax'/>"));
+  EXPECT_EQ(schema.wrong("<r i='x'/>"), "");
+  EXPECT_EQ(schema.wrong("<r i='x' j='y'/>"), "1: attribute 'j' of element 'r' is an ID beside another one\n");
+}
+
+TEST(axsAssessment, a_wrong_schema_is_told_by_each_check)
+{
+  Schema const schema("<xs:element name='r' type='none'/>");
+  EXPECT_EQ(schema.fault(), "there is no declaration of 'none' in no namespace\n");
+  EXPECT_NE(schema.wrong("<r/>").find("there is no declaration of 'none'"), std::string::npos);
+}

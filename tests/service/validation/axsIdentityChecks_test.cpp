@@ -1,0 +1,144 @@
+#include "Schema.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+// An element r that may hold anything declared, and has the constraints.
+std::string root(std::string const& constraints, std::string const& name = "r")
+{
+  return "<xs:element name='" + name +
+         "'><xs:complexType><xs:sequence><xs:any minOccurs='0' maxOccurs='unbounded'/>"
+         "</xs:sequence></xs:complexType>" +
+         constraints + "</xs:element>";
+}
+
+std::string constraint(std::string const& kind, std::string const& name, std::string const& selector,
+  std::vector<std::string> const& fields, std::string const& refer = {})
+{
+  std::string text = "<xs:" + kind + " name='" + name + "'" + (refer.empty() ? "" : " refer='" + refer + "'") +
+                     "><xs:selector xpath='" + selector + "'/>";
+  for (std::string const& field : fields)
+    text += "<xs:field xpath='" + field + "'/>";
+  return text + "</xs:" + kind + ">";
+}
+
+// <i k='' l=''><v>decimal</v></i>, <f to=''/>, and a group g of such.
+std::string const items =
+  "<xs:element name='i'><xs:complexType><xs:sequence><xs:element name='v' type='xs:decimal' minOccurs='0' "
+  "maxOccurs='3'/>"
+  "</xs:sequence><xs:attribute name='k' type='xs:decimal'/><xs:attribute name='l' type='xs:string'/></xs:complexType>"
+  "</xs:element><xs:element name='f'><xs:complexType><xs:attribute name='to' type='xs:decimal'/></xs:complexType>"
+  "</xs:element>";
+}
+
+TEST(axsIdentityChecks, values_are_compared_and_not_texts)
+{
+  Schema const schema(items + root(constraint("unique", "u", "i", {"@k"})));
+  EXPECT_EQ(schema.wrong("<r><i k='1'/><i k='2'/><i/><i/></r>"), "");
+  EXPECT_EQ(schema.wrong("<r>\n<i k='1'/>\n<i k='1.0'/></r>"),
+    "3: element 'i': what must be unique in the element 'r' is not: \"1.0\"; first at line 2\n");
+}
+
+TEST(axsIdentityChecks, a_key_has_all_its_fields)
+{
+  Schema const schema(items + root(constraint("key", "k", "i", {"@k", "@l"})));
+  EXPECT_EQ(schema.wrong("<r><i k='1' l='a'/><i k='1' l='b'/><i k='11' l=''/><i k='1' l='1'/></r>"), "");
+  EXPECT_EQ(schema.wrong("<r><i k='1' l='a'/>\n<i k='1.0' l='a'/></r>"),
+    "2: element 'i': its key \"1.0\", \"a\" is not unique in the element 'r'; first at line 1\n");
+  EXPECT_EQ(schema.wrong("<r><i/></r>"), "1: element 'i': a key of the element 'r' has no value\n");
+  EXPECT_EQ(
+    schema.wrong("<r><i k='1'/></r>"), "1: element 'i': a part of the key 'k' of the element 'r' has no value\n");
+}
+
+TEST(axsIdentityChecks, a_field_has_one_value)
+{
+  Schema const schema(items + root(constraint("unique", "u", "i", {"v"})));
+  EXPECT_EQ(schema.wrong("<r><i><v>1</v></i><i/><i/></r>"), "");
+  EXPECT_EQ(
+    schema.wrong("<r><i><v>1</v><v>2</v></i></r>"), "1: element 'i': a field of a key has several values here\n");
+  Schema const complex(items + root(constraint("unique", "u", ".", {"i"})));
+  EXPECT_EQ(complex.wrong("<r><i/></r>"), "1: element 'i' is a field of a key, and must have a simple type\n");
+}
+
+TEST(axsIdentityChecks, references_find_keys_in_their_element)
+{
+  Schema const schema(items + root(constraint("key", "k", "i", {"@k"}) + constraint("keyref", "f", "f", {"@to"}, "k")));
+  EXPECT_EQ(schema.wrong("<r><f to='1.0'/><f/><i k='1'/></r>"), "");
+  EXPECT_EQ(schema.wrong("<r><f to='1'/>\n<f to='2'/><i k='1'/></r>"),
+    "2: the key reference \"2\" in the element 'r' has no key that it refers to\n");
+}
+
+// cvc-identity-constraint.4.3: keys of elements within count, too; of two that are equal, neither does.
+TEST(axsIdentityChecks, keys_are_handed_up_to_the_elements_around)
+{
+  std::string const group = root(constraint("key", "k", "i", {"@k"}), "g");
+  Schema const schema(items + group + root(constraint("keyref", "f", ".//f", {"@to"}, "k")));
+  EXPECT_EQ(schema.fault(), "");
+  EXPECT_EQ(schema.wrong("<r><g><i k='1'/></g><g><i k='2'/></g><f to='1'/><f to='2'/></r>"), "");
+  EXPECT_NE(schema.wrong("<r><g><i k='1'/></g><g><i k='1'/></g><f to='1'/></r>"), "");
+  EXPECT_NE(schema.wrong("<r><i k='1'/><f to='1'/></r>"), "");
+}
+
+TEST(axsIdentityChecks, each_element_has_its_own_keys)
+{
+  Schema const schema(items + root(constraint("key", "k", "i", {"@k"}), "g") + root(""));
+  EXPECT_EQ(schema.wrong("<r><g><i k='1'/></g><g><i k='1'/></g></r>"), "");
+  EXPECT_NE(schema.wrong("<r><g><i k='1'/><i k='1'/></g></r>"), "");
+}
+
+TEST(axsIdentityChecks, paths_select_as_written)
+{
+  Schema const deep(items + root("", "g") + root(constraint("unique", "u", ".//g/i|i", {"@k"})));
+  EXPECT_EQ(deep.fault(), "");
+  EXPECT_EQ(deep.wrong("<r><i k='1'/><g><i k='2'/></g></r>"), "");
+  EXPECT_NE(deep.wrong("<r><i k='1'/><g><g><i k='1'/></g></g></r>"), "");
+  Schema const any(items + root("", "g") + root(constraint("unique", "u", "*/i", {"@*"})));
+  EXPECT_EQ(any.wrong("<r><i k='1'/><i k='1'/><g><i l='1'/></g></r>"), "");
+  EXPECT_NE(any.wrong("<r><g><i l='1'/><i l='1'/></g></r>"), "");
+  EXPECT_NE(any.wrong("<r><g><i l='1' k='1'/></g></r>"), "");
+}
+
+// cvc-identity-constraint.4.2.3
+TEST(axsIdentityChecks, no_part_of_a_key_may_be_nillable)
+{
+  Schema const schema(
+    "<xs:element name='n' type='xs:int' nillable='true'/>" + root(constraint("key", "k", "n", {"."})));
+  EXPECT_EQ(schema.wrong("<r><n>1</n></r>"), "1: element 'n' is a part of a key, and may not be nillable\n");
+}
+
+TEST(axsIdentityChecks, many_values_and_many_levels_are_held)
+{
+  Schema const schema(
+    items + root(constraint("key", "k", ".//i", {"@k"}) + constraint("keyref", "f", ".//f", {"@to"}, "k")));
+  std::string text = "<r>";
+  for (int i = 0; i < 20000; ++i)
+    text += "<f to='" + std::to_string(19999 - i) + "'/><i k='" + std::to_string(i) + "'/>";
+  EXPECT_EQ(schema.wrong(text + "</r>"), "");
+  EXPECT_NE(schema.wrong(text + "<f to='20000'/></r>"), "");
+
+  // The same constraint at each of many levels.
+  Schema const nested(items + root(constraint("unique", "u", ".//i", {"@k"})));
+  std::string open;
+  std::string close;
+  for (int i = 0; i < 20000; ++i)
+  {
+    open += "<r><i k='" + std::to_string(i) + "'/>";
+    close += "</r>";
+  }
+  EXPECT_EQ(nested.wrong(open + close), "");
+  EXPECT_NE(nested.wrong(open + "<i k='0'/>" + close), "");
+}
+
+TEST(axsIdentityChecks, two_thousand_keys_at_once_are_checked)
+{
+  std::string constraints;
+  for (int i = 0; i < 2000; ++i)
+    constraints += constraint("key", "k" + std::to_string(i), "i", {"@k"});
+  Schema const schema(items + root(constraints));
+  std::string text = "<r>";
+  for (int i = 0; i < 50; ++i)
+    text += "<i k='" + std::to_string(i) + "'/>";
+  EXPECT_EQ(schema.wrong(text + "</r>"), "");
+  EXPECT_NE(schema.wrong(text + "<i k='7'/></r>"), "");
+}
