@@ -29,7 +29,7 @@
 ///   document whose root is in a namespace that no schema knows loads, but what is declared in it, at any depth, is
 ///   validated. Where a content can be counted in more than 1000 ways at once, as after many a in (a{2,3}, b?){9,5000}, only
 ///   that many are followed. Defaults of the schema are not added to the document.
-/// - Errors: the place is behind what is wrong, of an element behind its start tag. A character beyond U+FFFF counts as
+/// - Errors: the place is the end of what is wrong, of an element that of its start tag. A character beyond U+FFFF counts as
 ///   two columns, a tab as one.
 /// - Save: to a file that takes the place of the target in one step, with its permissions; see apAtomicFile. What was
 ///   loaded as XML 1.1 is saved as that. Text that XML cannot hold makes it fail, and get_xml() of such a node is

@@ -4,18 +4,18 @@
 #include <new>
 #include <utility>
 
-/// The memory of what the shared pointers to the nodes of one document need besides the nodes: small blocks, taken and
-/// given back often.
+/// The memory for the control blocks of the shared pointers to one document's nodes, and for its lists and maps: small
+/// blocks, allocated and released often, each in a constant time.
 ///
-/// It outlives the document as long as a block is out, since a `std::weak_ptr` keeps one after the nodes have gone; the
-/// last block that comes back then takes the pool with it. As the document, it belongs to one thread at a time.
+/// It outlives its document as long as a block is in use, since a `std::weak_ptr` keeps one after the nodes have gone; it
+/// is deleted with the last block. Like the document, it belongs to one thread at a time.
 class axsHandlePool
 {
 public:
-  /// A pool that its document gives up with abandon().
+  /// A pool for a document, which calls abandon() at its end. Throws std::bad_alloc when memory runs out.
   static axsHandlePool* make();
 
-  /// The document goes.
+  /// The document is destroyed; the pool deletes itself as soon as no block is in use.
   void abandon() noexcept;
 
   /// A block for `size` bytes. Throws std::bad_alloc when memory runs out.
@@ -31,13 +31,13 @@ public:
     return block;
   }
 
-  /// Whether there is a free block for what a shared pointer to a node needs.
+  /// Whether a control block can be allocated without a call that may fail.
   bool is_ready() const noexcept { return free_blocks[ready_units] != nullptr; }
 
-  /// Sees to that. Throws std::bad_alloc when memory runs out.
+  /// Makes it so. Throws std::bad_alloc when memory runs out.
   void make_ready() { release(allocate(ready_units * granule), ready_units * granule); }
 
-  /// A block for `size` bytes, which is a part of what a shared pointer to a node needs, from a pool that is ready.
+  /// The same as allocate() for a control block, from a pool that is ready.
   void* allocate_ready(std::size_t size)
   {
     if (units_of(size) != ready_units)
@@ -46,6 +46,7 @@ public:
     return std::exchange(free_ones, free_ones->next);
   }
 
+  /// Takes back a block that was allocated for `size` bytes.
   void release(void* block, std::size_t size) noexcept
   {
     if (size > limit)
@@ -68,8 +69,8 @@ private:
 
   static constexpr std::size_t granule = 16;
   static constexpr std::size_t limit = 192;
-  // What a shared pointer with a deleter and an allocator takes in the standard libraries known. Where it takes something
-  // else, that is allocated like everything else.
+  // The size of a control block with a deleter and an allocator in libstdc++ and libc++. One of another size is allocated
+  // like any other block.
   static constexpr std::size_t ready_units = 2;
 
   static constexpr std::size_t units_of(std::size_t size) noexcept { return (size + granule - 1) / granule; }
@@ -86,14 +87,13 @@ private:
   Slab* slabs = nullptr;
   char* room = nullptr;
   char* room_end = nullptr;
-  // The blocks there are. Before the pool is abandoned those of them that are free count, too: to count only those that
-  // are out would take time at every one that goes or comes.
+  // The number of blocks. Free ones count as well until the pool is abandoned, for counting those in use would cost time at
+  // every allocation.
   std::size_t blocks = 0;
   bool is_abandoned = false;
 };
 
-/// Lets the standard library take its blocks from a pool; if `ready`, those of a shared pointer to a node from one that is
-/// ready for it.
+/// An allocator over a pool for the standard library; with `ready`, for control blocks from a pool that is ready.
 template <class T, bool ready = false>
 class axsHandleAllocator
 {

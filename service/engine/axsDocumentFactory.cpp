@@ -1,8 +1,8 @@
 #include "axsDocumentFactory.h"
 
 #include "axsHandle.h"
+#include "axsLoader.h"
 #include "axsReadError.h"
-#include "axsReader.h"
 #include "axsSaver.h"
 #include "axsSource.h"
 
@@ -31,7 +31,7 @@ axsDomDocument* own_document(std::shared_ptr<axmDocument> const& document)
 std::shared_ptr<axmDocument> read(axsSource& source, axmLoadOptions const& options)
 {
   apString const url = source.url();
-  return axsReader::read(source, options, url.empty() ? new_uri() : url);
+  return axsLoader::load(source, options, url.empty() ? new_uri() : url);
 }
 
 template <class Open>

@@ -5,7 +5,7 @@
 class axsDomDocument;
 class axsParent;
 
-/// Builds the tree of a document from what a parser tells. The document is held by its caller.
+/// Builds the tree of a document from the events of a parser. The caller holds the document.
 ///
 /// A text that is white space only is dropped, except where it is exactly one space.
 class axsTreeBuilder final : public axsParseHandler

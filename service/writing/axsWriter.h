@@ -10,19 +10,20 @@ class axsElement;
 
 /// Writes nodes as XML in UTF-8, into a text or straight to a file.
 ///
-/// What reading would change is written as a reference; what XML cannot hold at all (control characters, a comment with
-/// "--" in it, a document without a root element) is not written: the operations are false then. It does not recurse.
+/// Characters that a parser would change are written as references. What XML cannot hold at all (control characters, a
+/// comment with "--" in it, a document without a root element) makes the operations fail. Linear in the size of the node;
+/// does not recurse. Threads: those of the document.
 ///
-/// A document that was read as XML 1.1 is written as such, with references to the control characters that may be there
-/// (XML 1.1, 2.2 and 2.11). Any other node by itself is XML 1.0.
+/// A document that was read as XML 1.1 is written as XML 1.1, with references to the control characters that it may hold
+/// (XML 1.1, 2.2 and 2.11). A node by itself is written as XML 1.0.
 class axsWriter
 {
 public:
-  /// Adds the node as XML to `xml`, of the document all of it with the declaration. False when XML cannot hold it, with
-  /// the beginning of it in `xml`. Throws std::bad_alloc when memory runs out.
+  /// Appends the node as XML to `xml`; a document with its XML declaration. False when XML cannot hold it, with a part of
+  /// it in `xml`. Throws std::bad_alloc when memory runs out.
   static bool write(axsNode const& node, std::string& xml);
 
-  /// Writes it to `file`, piece by piece. False also when the file does not take it.
+  /// Writes it to `file` in pieces. False as well when the file does not take it.
   static bool write(axsNode const& node, std::FILE* file);
 
 private:

@@ -10,8 +10,8 @@
 
 class axsXPathExpression;
 
-/// The expressions that a document was asked last, compiled: asking the same again and again is what programs do, and
-/// compiling costs more than many an answer. Belongs to its document and, as that, to one thread at a time.
+/// The compiled forms of the last few expressions: programs evaluate the same ones again and again, and compiling often
+/// takes longer than evaluating. Belongs to one document and, like that, to one thread at a time.
 class axsXPathCache
 {
 public:
@@ -27,9 +27,9 @@ private:
   };
 
   static constexpr std::size_t max_entries = 16;
-  /// A longer expression is not kept.
+  /// Longer expressions are not cached.
   static constexpr std::size_t max_text = 512;
 
-  // The one asked for last is the last one.
+  // The most recent one is the last.
   std::vector<Entry> entries;
 };

@@ -6,17 +6,17 @@
 #include <cstddef>
 #include <vector>
 
-/// Puts nodes of one tree into document order (XPath 1.0, section 5): an element stands before its namespaces, these
+/// Sorts nodes of one tree into document order (XPath 1.0, section 5): an element comes before its namespace nodes, these
 /// before its attributes, and these before its children.
 ///
-/// A few nodes are compared by their way up; for many, or for ways that are long, the tree is walked once and the nodes
-/// numbered, so that sorting n nodes costs O(n log n) and the walk. Good for as long as the tree does not change.
+/// A few nodes are compared by way of their ancestors. For many, or in a deep tree, one walk over the tree numbers the
+/// nodes first: sorting n nodes costs that walk and O(n log n). Valid as long as the tree does not change.
 class axsXPathDocumentOrder
 {
 public:
   explicit axsXPathDocumentOrder(axsXPathModel const& tree) noexcept;
 
-  /// Sorts and leaves each node once. Throws std::bad_alloc when memory runs out.
+  /// Sorts and removes duplicates. Throws std::bad_alloc when memory runs out.
   void sort(std::vector<axsXPathNode>& nodes);
 
 private:

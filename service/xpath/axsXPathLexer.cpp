@@ -68,8 +68,8 @@ axsXPathToken axsXPathLexer::read() noexcept
   if (c == '$')
     return read_variable();
 
-  std::size_t behind = at;
-  if (axsXPathText::is_name_start(axsXPathText::next_character(text, behind)))
+  std::size_t next = at;
+  if (axsXPathText::is_name_start(axsXPathText::next_character(text, next)))
     return operator_expected ? read_operator_name() : read_name();
   return read_symbol();
 }
@@ -113,13 +113,13 @@ axsXPathToken axsXPathLexer::read_variable() noexcept
   axsXPathToken token = made(axsXPathToken::variable, 1);
   token.local = take_name();
   if (token.local.empty())
-    return wrong(token.position, "a name is missing behind '$'");
+    return wrong(token.position, "a name is missing after '$'");
   if (!starts_with(":"))
     return token;
   ++at;
   token.prefix = token.local;
   token.local = take_name();
-  return token.local.empty() ? wrong(at, "a name is missing behind the prefix") : token;
+  return token.local.empty() ? wrong(at, "a name is missing after the prefix") : token;
 }
 
 axsXPathToken axsXPathLexer::read_name() noexcept
@@ -132,10 +132,10 @@ axsXPathToken axsXPathLexer::read_name() noexcept
     token.prefix = token.local;
     token.local = starts_with("*") ? text.substr(at++, 1) : take_name();
     if (token.local.empty())
-      return wrong(at, "a name or '*' is missing behind the prefix");
+      return wrong(at, "a name or '*' is missing after the prefix");
   }
 
-  std::size_t const behind = at;
+  std::size_t const end_of_name = at;
   skip_space();
   if (token.prefix.empty() && starts_with("::"))
   {
@@ -146,7 +146,7 @@ axsXPathToken axsXPathLexer::read_name() noexcept
   if (starts_with("(") && token.local != "*")
     token.kind =
       token.prefix.empty() && is_node_type(token.local) ? axsXPathToken::node_type : axsXPathToken::function_name;
-  at = behind;
+  at = end_of_name;
   return token;
 }
 
@@ -167,9 +167,9 @@ axsXPathToken axsXPathLexer::read_operator_name() noexcept
 std::string_view axsXPathLexer::take_name() noexcept
 {
   std::size_t const begin = at;
-  for (std::size_t behind = at; behind < text.size(); at = behind)
+  for (std::size_t next = at; next < text.size(); at = next)
   {
-    char32_t const c = axsXPathText::next_character(text, behind);
+    char32_t const c = axsXPathText::next_character(text, next);
     if (at == begin ? !axsXPathText::is_name_start(c) : !axsXPathText::is_name_character(c))
       break;
   }

@@ -12,8 +12,8 @@ public:
   /// Starts at the beginning of `expression`, UTF-8.
   explicit axsXPathLexer(std::string_view expression) noexcept;
 
-  /// The next token; at the end of the expression one of the kind `end`, and behind what is no token one of the kind
-  /// `wrong`, again and again.
+  /// The next token. At the end of the expression it is of the kind `end`, where no token begins of the kind `wrong`; it
+  /// stays so at further calls.
   axsXPathToken next() noexcept;
 
 private:

@@ -379,7 +379,7 @@ bool axsXPathModel::walk_following(axsXPathNode from, axsXPathNodeTest const& te
   if (from == tree_root)
     return false;
   axsNode* at = &anchor(from);
-  // What comes behind an attribute or namespace begins with the content of its element.
+  // What follows an attribute or namespace node begins with the content of its element.
   bool const is_inside = from.is_virtual() || at->is_attribute();
   if (at->is_attribute())
     at = at->parent();

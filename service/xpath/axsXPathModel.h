@@ -16,16 +16,16 @@
 #include <string_view>
 #include <unordered_map>
 
-/// The tree as the data model of XPath 1.0 (section 5) has it:
+/// The tree as the data model of XPath 1.0 (section 5):
 ///
-/// - Texts that stand beside each other, CDATA sections among them, are one text node: the first of them stands for all.
-///   A text node has at least one character.
-/// - The document type declaration is no node; attributes that declare namespaces are no attributes.
-/// - Each element has a namespace node for every prefix in scope, made when asked for.
-/// - A tree that is detached from its document has a root of its own above its topmost node, so that an absolute path
+/// - Adjacent texts, CDATA sections included, are one text node, which the first of them represents. A text node has at
+///   least one character.
+/// - The document type declaration is no node, and attributes that declare namespaces are no attributes.
+/// - Each element has a namespace node for every prefix in scope, made when a path asks for it.
+/// - A tree that is detached from its document has a root node of its own above its topmost node, so that an absolute path
 ///   finds the same there as it will once the tree is the content of a document.
 ///
-/// Good for as long as the document does not change; belongs to one evaluation. Nothing recurses.
+/// Belongs to one evaluation; valid as long as the document does not change. Nothing recurses.
 class axsXPathModel
 {
 public:
@@ -45,7 +45,8 @@ public:
   axsXPathModel(axsXPathModel const&) = delete;
   axsXPathModel& operator=(axsXPathModel const&) = delete;
 
-  /// What stands for `node` in the data model; none for a document type declaration and for texts without a character.
+  /// The node of the data model that represents `node`; none for a document type declaration and for texts without a
+  /// character.
   axsXPathNode wrapped(axsNode& node) const noexcept;
 
   axsXPathNode root() const noexcept { return tree_root; }
@@ -56,13 +57,13 @@ public:
   Kind kind(axsXPathNode node) const noexcept;
   axsXPathNode parent(axsXPathNode node) const noexcept;
 
-  /// The node of the tree that the node is or, of a namespace, that has it; of a detached root the topmost node.
+  /// The node of the tree: of a namespace node its element, of the root above a detached tree the topmost node.
   static axsNode& anchor(axsXPathNode node) noexcept
   {
     return node.is_virtual() ? *node.virtual_node().base : *node.node();
   }
 
-  /// The string-value (section 5), put together in `scratch` where it does not stand in one piece in the tree.
+  /// The string-value (section 5); a view into the tree or, where it consists of several texts, into `scratch`.
   std::string_view string_value(axsXPathNode node, std::string& scratch) const;
 
   /// The parts of the expanded-name, and the name as written; empty where there is none.
@@ -70,8 +71,8 @@ public:
   std::string_view namespace_uri(axsXPathNode node);
   std::string_view name(axsXPathNode node) const noexcept;
 
-  /// Shows the nodes on an axis that pass a test, in the order of the axis, until `visit` says to stop. Returns whether
-  /// it did. From no node, no axis leads anywhere.
+  /// Passes the nodes on an axis that pass the node test to `visit`, in the order of the axis, until that returns true.
+  /// Returns whether it did. `from` may be none.
   bool walk(axsXPathAxis axis, axsXPathNode from, axsXPathNodeTest const& test, axsXPathVisitor visit);
 
   /// Whether a node of the tree that is no attribute is a node of the data model that passes the test.
@@ -89,8 +90,8 @@ public:
     }
   }
 
-  /// The same for any node. The root, attributes and namespaces are nothing that an axis of elements could ask for but
-  /// node().
+  /// The same for any node, on an axis whose principal node type is element: there the root, attributes and namespaces
+  /// pass node() only.
   bool passes_any(axsXPathNode node, axsXPathNodeTest const& test);
 
   /// The first node below, be it one of the data model or not; null if there is none.
@@ -132,7 +133,7 @@ private:
   axsXPathVirtualNode detached_root;
   axsXPathNode tree_root;
   axsXPathScopes namespaces;
-  // The namespace nodes in use, and where those of each element stand that was asked for them.
+  // The namespace nodes made so far, and which of them belong to which element.
   std::deque<axsXPathVirtualNode> namespace_nodes;
   std::unordered_map<axsElement const*, Range> scope_ranges;
 };

@@ -5,8 +5,8 @@
 
 class axsNode;
 
-/// What XPath counts as a node without the tree having one for it: a namespace in scope of an element, or the root above
-/// the topmost node of a detached tree. Kept by the evaluation, once each.
+/// A node of the data model for which the tree has no record: a namespace in scope of an element, or the root above a
+/// detached tree. The evaluation owns one object for each.
 struct axsXPathVirtualNode
 {
   /// Whose namespace it is; of a root the topmost node.
@@ -19,7 +19,7 @@ struct axsXPathVirtualNode
   bool is_root() const noexcept { return index < 0; }
 };
 
-/// A node as XPath sees it: one of the tree, one besides it, or none. A plain value of the size of a pointer; two are
+/// A node of the data model: a node of the tree, a virtual one, or none. A plain value of the size of a pointer; two are
 /// equal exactly if they are the same node.
 class axsXPathNode
 {
@@ -53,7 +53,7 @@ public:
   };
 
 private:
-  // What is aligned for pointers has even addresses; one more tells the other kind.
+  // Both kinds have even addresses; an odd one marks a virtual node.
   static constexpr std::size_t virtual_mark = 1;
 
   char const* address = nullptr;

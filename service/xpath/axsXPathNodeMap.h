@@ -18,14 +18,14 @@ struct axsXPathPlace
   }
 };
 
-/// Nodes with a place each, found by the node. Throws std::bad_alloc when memory runs out.
+/// A hash map from nodes to places in document order. Throws std::bad_alloc when memory runs out.
 class axsXPathNodeMap
 {
 public:
-  /// Adds the node with an unknown place, 0; false if it was there.
+  /// Adds the node with the place 0; false if it is there already.
   bool insert(axsXPathNode node);
 
-  /// The place of the node, null if it was not added; good until the next node is.
+  /// The place of the node, null if it was not added; valid until the next insert().
   axsXPathPlace* find(axsXPathNode node) noexcept;
 
 private:
@@ -35,7 +35,7 @@ private:
     axsXPathPlace place;
   };
 
-  /// The entry of the node or the free one where it belongs.
+  /// The entry of the node or, if there is none, the free one for it.
   Entry& entry_of(axsXPathNode node) noexcept;
   void grow();
 

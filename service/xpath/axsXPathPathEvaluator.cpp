@@ -64,7 +64,7 @@ bool is_own_axis(Axis axis) noexcept
   return is_axis_without_nesting(axis) && axis != Axis::following_sibling && axis != Axis::preceding_sibling;
 }
 
-/// Whether the axes of nodes in document order, one behind the other, are in document order, too.
+/// Whether the nodes on the axes of several nodes, which are in document order, are in document order as well.
 bool keeps_order(Axis axis, bool no_nesting) noexcept
 {
   switch (axis)
@@ -86,8 +86,7 @@ bool is_in_content(axsXPathNode node) noexcept
   return node.is_virtual() ? node.virtual_node().is_root() : !node.node()->is_attribute();
 }
 
-/// The node behind `at` in document order, below `base`; null at the end. Where that leads out of `inside`, this becomes
-/// null.
+/// The node after `at` in document order, below `base`; null at the end. `inside` becomes null where the walk leaves it.
 axsNode* next_below(axsNode& at, axsNode const& base, axsNode const*& inside) noexcept
 {
   if (axsNode* const child = at.first_child())
@@ -227,7 +226,7 @@ bool axsXPathPathEvaluator::walk_counting(Step const& step, axsXPathNode from, a
     {
       Predicate const& predicate = expression.predicate(step.first_predicate + i);
       std::size_t const position = ++positions[base + static_cast<std::size_t>(i)];
-      // Behind the position that is asked for, no node can pass.
+      // After the position that is asked for, no node can pass.
       is_exhausted |= predicate.is_constant && static_cast<double>(position) >= expression.term(predicate.term).number;
       if (!passes(predicate, {node, position, 0}))
         return is_exhausted;

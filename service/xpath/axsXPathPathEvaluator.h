@@ -12,18 +12,18 @@
 
 class axsXPathEvaluator;
 
-/// Finds the nodes that paths lead to, for one evaluation.
+/// Evaluates location paths and filter expressions (XPath 1.0, sections 2 and 3.3), for one evaluation.
 ///
-/// A step is taken for all its context nodes together where its predicates do not count positions, so that no node is
-/// looked at twice; otherwise for one after the other. Every node-set is in document order and holds each node once, and
-/// is only sorted where the axis does not lead there by itself.
+/// A step whose predicates do not count positions is taken for all its context nodes together, so that no node is visited
+/// twice; otherwise for each of them in turn. Every node-set is in document order and holds each node once; it is sorted
+/// only where the axis does not keep that order.
 class axsXPathPathEvaluator
 {
 public:
   using Nodes = std::vector<axsXPathNode>;
 
-  /// What of a node-set is wanted: all of it, at least those nodes that have something below them, at least the first
-  /// node, or any node if there is one.
+  /// What of a node-set is wanted: all of it, at least those of its nodes that have children, at least its first node, or
+  /// any one node.
   enum Want
   {
     all,
@@ -39,13 +39,13 @@ public:
   /// Puts what is wanted of the nodes of a path into `found`, which is empty.
   void select(axsXPathExpression::Path const& path, axsXPathContext const& context, Want want, Nodes& found);
 
-  /// Shows the nodes of a path in any order, perhaps some of them repeatedly, until `visit` says to stop. Returns whether
-  /// it did.
+  /// Passes the nodes of a path to `visit`, in any order and perhaps some repeatedly, until that returns true. Returns
+  /// whether it did.
   bool visit(axsXPathExpression::Path const& path, axsXPathContext const& context, axsXPathVisitor visit);
 
   void sort(Nodes& nodes) { order.sort(nodes); }
 
-  /// An empty vector with room from earlier use, and its way back.
+  /// Lends an empty vector with capacity from earlier use, and takes it back; see axsXPathScratchNodes.
   Nodes borrow();
   void give_back(Nodes&& nodes) noexcept;
 
@@ -66,8 +66,8 @@ private:
   void filter(int first_predicate, int count, Nodes& nodes);
   void filter(Predicate const& predicate, Nodes& nodes);
 
-  // One step, from nodes in document order to such. `no_nesting` says whether it is known that none of the nodes lies in
-  // another, before and after it.
+  // One step, from nodes in document order to nodes in document order. `no_nesting` says whether it is known that none of
+  // the nodes is an ancestor of another: of `from` before the call, of `to` after it.
   void take_step(Step const& step, Nodes const& from, Want want, Nodes& to, bool& no_nesting);
   void step_from_one(Step const& step, axsXPathNode from, Want want, Nodes& to);
   void step_from_each(Step const& step, Nodes const& from, Nodes& to, bool no_nesting);
@@ -87,6 +87,6 @@ private:
   // Vectors that are not in use, with room for those that are.
   std::vector<Nodes> store;
   std::size_t lent = 0;
-  // The positions that predicates are counting, those of inner ones behind those of outer ones.
+  // The positions that predicates have counted to, a stack: those of inner steps on top.
   std::vector<std::size_t> positions;
 };

@@ -12,10 +12,11 @@ class axsElement;
 class axsName;
 class axsTree;
 
-/// What elements of one document have from those above them: the namespaces that prefixes stand for, and the values of
-/// attributes that hold for all below.
+/// What is in scope at the elements of one document: the namespaces that prefixes are bound to, and the values of inherited
+/// attributes such as xml:lang.
 ///
-/// Remembers what it found, so it is good for as long as the document does not change; belongs to one evaluation.
+/// Caches what it found, so that asking for every element of a deep tree takes linear time. Belongs to one evaluation;
+/// valid as long as the document does not change.
 class axsXPathScopes
 {
 public:
@@ -23,12 +24,11 @@ public:
 
   explicit axsXPathScopes(axsTree& tree) noexcept;
 
-  /// The namespace that `prefix` stands for at `element`, that of elements without a prefix if it is empty. Empty where
-  /// there is none: an undeclared prefix, or no default namespace.
+  /// The namespace that `prefix` is bound to at `element`; with an empty prefix the default namespace. Empty where there
+  /// is none.
   std::string_view uri(axsElement const& element, std::string_view prefix);
 
-  /// The same for the prefix of a name, of an element or attribute alike; only an element without a prefix is in the
-  /// default namespace.
+  /// The namespace of an element, and of an attribute; the default namespace is for elements only.
   std::string_view uri_of_element(axsElement const& element);
   std::string_view uri_of_attribute(axsElement const& owner, axsName const& name);
 
@@ -38,10 +38,11 @@ public:
     return default_declaration == nullptr || nearest_value(element, *default_declaration).empty();
   }
 
-  /// The value of the nearest attribute `name`, at the element or above it; a view of nothing (null) if there is none.
+  /// The value of the attribute `name` of the element or, if it has none, of its nearest ancestor that has one; a null view
+  /// if there is none.
   std::string_view nearest_value(axsElement const& element, axsName const& name);
 
-  /// Whether an attribute of that name declares a namespace, which makes it none of the data model.
+  /// Whether an attribute of that name declares a namespace.
   static bool is_declaration(axsName const& name) noexcept;
 
 private:

@@ -5,11 +5,11 @@
 #include <utility>
 #include <vector>
 
-/// Borrows a vector of nodes from a selector as long as it lives.
+/// An empty vector of nodes for the time of a scope, borrowed so that evaluations of predicates need not allocate one each.
 class axsXPathScratchNodes
 {
 public:
-  explicit axsXPathScratchNodes(axsXPathPathEvaluator& selector) : lender(selector), lent(selector.borrow()) {}
+  explicit axsXPathScratchNodes(axsXPathPathEvaluator& paths) : lender(paths), lent(paths.borrow()) {}
   axsXPathScratchNodes(axsXPathScratchNodes const&) = delete;
   axsXPathScratchNodes& operator=(axsXPathScratchNodes const&) = delete;
   ~axsXPathScratchNodes() { lender.give_back(std::move(lent)); }

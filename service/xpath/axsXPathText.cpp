@@ -12,15 +12,15 @@
 
 namespace
 {
-// The characters at the positions first <= p < behind; none where one of the two is NaN.
-std::string_view between(std::string_view text, double first, double behind) noexcept
+// The characters at the positions first <= p < past; none where one of the two is NaN.
+std::string_view between(std::string_view text, double first, double past) noexcept
 {
   double position = 1;
   std::size_t begin = 0;
   for (; begin < text.size() && !(position >= first); ++position)
     begin += utUtf8::length_from_first(text[begin]);
   std::size_t end = begin;
-  for (; end < text.size() && position < behind; ++position)
+  for (; end < text.size() && position < past; ++position)
     end += utUtf8::length_from_first(text[end]);
   return text.substr(begin, end - begin);
 }

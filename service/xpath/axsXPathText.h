@@ -8,27 +8,26 @@
 ///
 /// All texts are valid UTF-8 without exception: the tree holds no other, and expressions are checked before.
 /// Stateless; safe from several threads.
-class axsXPathText
+namespace axsXPathText
 {
-public:
-  /// The character at `at`, which moves to its end; where the bytes are not UTF-8, no code point (utCodePoint).
-  static char32_t next_character(std::string_view text, std::size_t& at) noexcept;
+/// The character at `at`, which moves to its end; where the bytes are not UTF-8, no code point (utCodePoint).
+char32_t next_character(std::string_view text, std::size_t& at) noexcept;
 
-  static std::string_view trim(std::string_view text) noexcept;
+std::string_view trim(std::string_view text) noexcept;
 
-  /// White space at both ends taken away, inside each run of it replaced by one space (XPath 1.0, normalize-space).
-  static std::string normalize_space(std::string_view text);
+/// White space at both ends taken away, inside each run of it replaced by one space (XPath 1.0, normalize-space).
+std::string normalize_space(std::string_view text);
 
-  /// The characters whose position, counted from 1, is at least round(start) and, with a length, less than round(start) +
-  /// round(length) (XPath 1.0, substring, whose results for NaN and infinities follow from this arithmetic).
-  static std::string_view substring(std::string_view text, double start) noexcept;
-  static std::string_view substring(std::string_view text, double start, double length) noexcept;
+/// The characters whose position, counted from 1, is at least round(start) and, with a length, less than round(start) +
+/// round(length) (XPath 1.0, substring, whose results for NaN and infinities follow from this arithmetic).
+std::string_view substring(std::string_view text, double start) noexcept;
+std::string_view substring(std::string_view text, double start, double length) noexcept;
 
-  /// Each character of `text` that occurs in `from` replaced by the one at the same place in `to`, or taken away where
-  /// `to` is shorter; the first occurrence in `from` counts (XPath 1.0, translate).
-  static std::string translate(std::string_view text, std::string_view from, std::string_view to);
+/// Each character of `text` that occurs in `from` replaced by the one at the same place in `to`, or taken away where
+/// `to` is shorter; the first occurrence in `from` counts (XPath 1.0, translate).
+std::string translate(std::string_view text, std::string_view from, std::string_view to);
 
-  /// Whether a name without a colon may start or go on with `c` (XML 1.0, productions 4 and 4a, without the colon).
-  static bool is_name_start(char32_t c) noexcept;
-  static bool is_name_character(char32_t c) noexcept;
-};
+/// Whether a name without a colon may start or go on with `c` (XML 1.0, productions 4 and 4a, without the colon).
+bool is_name_start(char32_t c) noexcept;
+bool is_name_character(char32_t c) noexcept;
+}

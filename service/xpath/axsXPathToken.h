@@ -34,12 +34,12 @@ struct axsXPathToken
     operator_mod,
     operator_div,
     operator_multiply,
-    /// A name test: `local` is a name or "*", behind a prefix or without one.
+    /// A name test: `local` is a name or "*", with a prefix or without one.
     name_test,
     /// A name that an opening parenthesis follows.
     function_name,
     node_type,
-    /// The name of an axis; the two colons behind it belong to the token.
+    /// The name of an axis; the two colons after it belong to the token.
     axis_name,
     variable,
     /// `local` holds the text without its quotes.

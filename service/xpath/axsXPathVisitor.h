@@ -4,8 +4,8 @@
 
 #include <type_traits>
 
-/// What is done with each node that is found: a callable of the caller's that says whether to stop. Refers to it and must
-/// not outlive it, so it is made from a named object only.
+/// A reference to a callable that is passed each node that is found and returns whether to stop. Must not outlive the
+/// callable, and is therefore made from a named object only.
 class axsXPathVisitor
 {
 public:

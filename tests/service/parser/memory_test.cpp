@@ -1,7 +1,7 @@
 // Reading a document with each allocation failing in turn.
 
 #include "../../FailingMemory.h"
-#include "axsReader.h"
+#include "axsLoader.h"
 #include "axsSource.h"
 
 #include <apByteArray.h>
@@ -25,7 +25,7 @@ TEST(reading_memory, the_parser_fails_cleanly)
     [&]
     {
       source.rewind();
-      if (axsReader::read(source, axmLoadOptions(axmValidateNone), uri) == nullptr)
+      if (axsLoader::load(source, axmLoadOptions(axmValidateNone), uri) == nullptr)
         ADD_FAILURE();
     });
   EXPECT_GT(allocations, 100);

@@ -1,4 +1,4 @@
-#include "axsReader.h"
+#include "axsLoader.h"
 
 #include "axsAssessment.h"
 #include "axsHandle.h"
@@ -26,7 +26,7 @@ void read_valid(axsSource& source, axmLoadOptions const& options, axsTreeBuilder
 }
 }
 
-std::shared_ptr<axmDocument> axsReader::read(axsSource& source, axmLoadOptions const& options, apString const& uri)
+std::shared_ptr<axmDocument> axsLoader::load(axsSource& source, axmLoadOptions const& options, apString const& uri)
 {
   std::shared_ptr<axmDocument> document = axsDomDocument::make(uri);
   axsTreeBuilder builder(tree_of(*document));
