@@ -15,10 +15,7 @@ axsAttributeMap::~axsAttributeMap()
 
 int axsAttributeMap::getLength()
 {
-  int count = 0;
-  for (axsAttribute const* at = owner.first_attribute(); at != nullptr; at = at->next_attribute())
-    ++count;
-  return count;
+  return owner.count_attributes();
 }
 
 std::shared_ptr<axmNode> axsAttributeMap::item(int index)
@@ -26,14 +23,12 @@ std::shared_ptr<axmNode> axsAttributeMap::item(int index)
   if (index < 0)
     return nullptr;
   std::uint64_t const changes = axsArena::tree_of(&owner).attribute_changes();
-  if (place == nullptr || changes != seen_changes || index < place_index)
-  {
-    place = owner.first_attribute();
-    place_index = 0;
-    seen_changes = changes;
-  }
-  for (; place != nullptr && place_index < index; ++place_index)
+  if (place != nullptr && changes == seen_changes && index == place_index + 1)
     place = place->next_attribute();
+  else
+    place = owner.attribute_at(index);
+  place_index = index;
+  seen_changes = changes;
   return axsHandle::of(place);
 }
 

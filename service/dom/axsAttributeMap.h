@@ -14,11 +14,9 @@ public:
   explicit axsAttributeMap(axsElement& element) noexcept;
   ~axsAttributeMap() override;
 
-  /// Costs a step for each attribute.
+  // Costs: a step for each attribute passed or, where there are many, O(log n) and the making of an index once. A walk by
+  // index costs a step for each attribute.
   int getLength() override;
-
-  /// The attribute with that index, null beyond the ends. Costs the steps to it from the last one handed out or the first;
-  /// after an attribute of the document has come or gone, from the first.
   std::shared_ptr<axmNode> item(int index) override;
   std::shared_ptr<axmNode> getNamedItem(apString const& name) override;
   std::shared_ptr<axmNode> removeNamedItem(apString const& name) override;

@@ -1,6 +1,5 @@
 #include "axsDomDocument.h"
 
-#include "axsChildList.h"
 #include "axsDomAttribute.h"
 #include "axsDomComment.h"
 #include "axsDomDoctype.h"
@@ -12,7 +11,9 @@
 #include <utility>
 #include <vector>
 
-axsDomDocument::axsDomDocument(apString const& uri) : address(uri), handles(axsHandlePool::make()) {}
+axsDomDocument::axsDomDocument(apString const& uri) : address(uri), handles(axsHandlePool::make()), positions(*handles)
+{
+}
 
 std::shared_ptr<axmDocument> axsDomDocument::make(apString const& uri)
 {
@@ -92,17 +93,6 @@ axsDomDoctype* axsDomDocument::make_doctype(std::string_view declaration)
   return make_leaf<axsDomDoctype>(declaration);
 }
 
-void axsDomDocument::add(axsChildList& list) noexcept
-{
-  static_cast<axsParent&>(list.node()).set_watched(true);
-  list.enter(lists_of(list.node()));
-}
-
-void axsDomDocument::remove(axsChildList& list) noexcept
-{
-  list.leave(lists_of(list.node()));
-}
-
 void axsDomDocument::add(axsStaticNodeList& list) noexcept
 {
   list.enter(static_lists);
@@ -119,31 +109,4 @@ void axsDomDocument::nodes_leaving() noexcept
 {
   while (static_lists != nullptr)
     static_lists->hold_each();
-}
-
-axsChildList*& axsDomDocument::lists_of(axsNode const& parent) noexcept
-{
-  return child_lists[reinterpret_cast<std::uintptr_t>(&parent) / sizeof(axsDomElement) % list_buckets];
-}
-
-void axsDomDocument::child_linked(axsParent& parent, axsNode const& child) noexcept
-{
-  parent.set_watched(false);
-  for (axsChildList* list = lists_of(parent); list != nullptr; list = list->next_in_chain())
-    if (&list->node() == &parent)
-    {
-      parent.set_watched(true);
-      list->child_linked(child);
-    }
-}
-
-void axsDomDocument::child_unlinking(axsParent& parent, axsNode const& child) noexcept
-{
-  parent.set_watched(false);
-  for (axsChildList* list = lists_of(parent); list != nullptr; list = list->next_in_chain())
-    if (&list->node() == &parent)
-    {
-      parent.set_watched(true);
-      list->child_unlinking(child);
-    }
 }

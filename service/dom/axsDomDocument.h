@@ -1,5 +1,6 @@
 #pragma once
 
+#include "axsChildPositionTable.h"
 #include "axsDomNode.h"
 #include "axsHandlePool.h"
 #include "axsTree.h"
@@ -10,7 +11,6 @@
 #include <memory>
 #include <string_view>
 
-class axsChildList;
 class axsDomAttribute;
 class axsDomComment;
 class axsDomDoctype;
@@ -47,14 +47,11 @@ public:
   axsDomDoctype* make_doctype(std::string_view declaration);
 
   axsHandlePool& handle_pool() noexcept { return *handles; }
+  axsChildPositionTable& child_positions() noexcept { return positions; }
   axsXPathCache& xpath_cache() noexcept { return expressions; }
 
   /// The name of texts other than CDATA sections, made once (DOM Core, nodeName).
   apString const& name_of_texts() const noexcept { return text_name; }
-
-  // Child lists are told of changes to the children of their node, which is a parent, while they are added.
-  void add(axsChildList& list) noexcept;
-  void remove(axsChildList& list) noexcept;
 
   // Lists that hold the root of their nodes only are told before nodes leave the tree, while they are added.
   void add(axsStaticNodeList& list) noexcept;
@@ -71,18 +68,17 @@ private:
 
   void destroy() noexcept override { delete this; }
   void nodes_leaving() noexcept override;
-  void child_linked(axsParent& parent, axsNode const& child) noexcept override;
-  void child_unlinking(axsParent& parent, axsNode const& child) noexcept override;
-
-  axsChildList*& lists_of(axsNode const& parent) noexcept;
-
-  static constexpr std::size_t list_buckets = 16;
+  void child_linked(axsParent& parent, axsNode& child) noexcept override { positions.child_linked(parent, child); }
+  void child_unlinking(axsParent& parent, axsNode& child) noexcept override
+  {
+    positions.child_unlinking(parent, child);
+  }
+  void parent_freeing(axsParent& parent) noexcept override { positions.forget(parent); }
 
   apString const address;
   apString const text_name = APSTRING("#text");
   std::unique_ptr<axsHandlePool, PoolAbandoner> handles;
   axsXPathCache expressions;
-  // The child lists, in chains by the address of their node.
-  axsChildList* child_lists[list_buckets] = {};
+  axsChildPositionTable positions;
   axsStaticNodeList* static_lists = nullptr;
 };

@@ -41,16 +41,11 @@ apString axsDomElement::getAttribute(apString const& name) const
 void axsDomElement::setAttribute(apString const& name, apString const& value)
 {
   utString const text = value.to_utf8();
-  axsAttribute* last = nullptr;
-  for (axsAttribute* at = first_attribute(); at != nullptr; at = at->next_attribute())
-  {
-    if (at->full_name().wide_view() == name.view())
-      return at->set_text(text.view());
-    last = at;
-  }
+  if (axsAttribute* const present = find_attribute(name.view()))
+    return present->set_text(text.view());
   axsDomDocument& document = axsDomDocument::of(*this);
   if (axsName const* const known = document.names().intern_checked(name))
-    append_new_attribute(*document.make_attribute(*known, text.view()), last);
+    append_new_attribute(*document.make_attribute(*known, text.view()), last_attribute());
 }
 
 void axsDomElement::removeAttribute(apString const& name)

@@ -23,6 +23,8 @@ axsStaticNodeList::axsStaticNodeList(axsNode& context, std::vector<axsXPathNode>
 
 axsStaticNodeList::~axsStaticNodeList()
 {
+  if (last != nullptr)
+    last->release();
   if (root != nullptr)
   {
     axsDomDocument::of(*root).remove(*this);
@@ -37,7 +39,12 @@ std::shared_ptr<axmElement> axsStaticNodeList::at(int index)
 {
   if (index < 0 || index >= length())
     return nullptr;
-  return axsHandle::of_item(*nodes[static_cast<std::size_t>(index)].node());
+  axsNode& node = *nodes[static_cast<std::size_t>(index)].node();
+  node.acquire();
+  if (last != nullptr)
+    last->release();
+  last = &node;
+  return axsHandle::of_item(node);
 }
 
 int axsStaticNodeList::length() const

@@ -21,6 +21,8 @@ public:
   axsStaticNodeList(axsNode& context, std::vector<axsXPathNode> found) noexcept;
   ~axsStaticNodeList() override;
 
+  /// Costs a step for each level between the node and the nearest one that is held, as the last one that was asked for is:
+  /// walking along the list costs a step for each node.
   std::shared_ptr<axmElement> at(int index) override;
   int length() const override;
 
@@ -31,4 +33,6 @@ private:
   std::vector<axsXPathNode> nodes;
   // Held for all of them; null while each is held by itself.
   axsNode* root;
+  // The node that was asked for last, held, so that the way up from the next one is short.
+  axsNode* last = nullptr;
 };

@@ -6,6 +6,8 @@
 
 #include <string_view>
 
+class axsAttributeIndex;
+
 /// An element: a name, attributes in the order in which they came, children.
 ///
 /// Most names have a number, which the record holds; the address of another name follows the record.
@@ -26,10 +28,17 @@ public:
 
   axsAttribute* first_attribute() const noexcept { return attributes; }
 
-  /// The attribute of that name, null if there is none. Costs a step for each attribute.
+  /// The attribute of that name, null if there is none. Costs a step for each attribute or, where there are many, the
+  /// making of an index once.
   axsAttribute* find_attribute(std::wstring_view name) const noexcept;
   axsAttribute* find_attribute(std::string_view name) const noexcept;
   axsAttribute* find_attribute(axsName const& name) const noexcept;
+
+  /// The last attribute, null if there is none, how many there are, and the one at a position, null beyond the last. Cost:
+  /// as find_attribute().
+  axsAttribute* last_attribute() noexcept { return attribute_before(nullptr); }
+  int count_attributes() noexcept;
+  axsAttribute* attribute_at(int position) noexcept;
 
   /// Links a detached attribute of a new name, which nobody holds, after `last`, which is the last attribute or, if there
   /// is none, null.
@@ -48,6 +57,8 @@ protected:
   ~axsElement() = default;
 
 private:
+  friend class axsTree;
+
   static std::size_t size_for(std::uint16_t number) noexcept
   {
     return sizeof(axsElement) + (number == axsName::no_number ? sizeof(axsName const*) : 0);
@@ -55,6 +66,10 @@ private:
 
   axsName const* following_name() const noexcept { return *reinterpret_cast<axsName const* const*>(this + 1); }
   axsAttribute* attribute_before(axsAttribute const* attribute) const noexcept;
+  void link_attribute(axsAttribute& attribute, axsAttribute* previous, axsAttribute* next) noexcept;
+  void unlink_attribute(axsAttribute& attribute, axsAttribute* previous) noexcept;
+  void index_if_many(int attributes_passed) const noexcept;
+  axsAttributeIndex* index() const noexcept;
 
   axsAttribute* attributes = nullptr;
 };

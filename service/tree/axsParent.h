@@ -16,16 +16,24 @@ public:
   /// Takes a child out, which then is the root of a tree of its own; it is freed, with all below it, if nobody holds it.
   void remove(axsNode& child) noexcept;
 
-  /// Whether the tree is told of each child that comes or goes (axsTree::child_linked() and child_unlinking()). It costs
-  /// nothing where nobody watches.
+  /// Whether the tree is told of each child that comes or goes, and when the node is freed (axsTree::child_linked() and
+  /// the like). It costs nothing where nobody watches.
   bool is_watched() const noexcept { return watched; }
   void set_watched(bool is_watched) noexcept { watched = is_watched; }
 
 protected:
-  axsParent(axsKind kind, std::uint16_t number) noexcept : axsNode(kind), element_name_number(number) {}
+  axsParent(axsKind kind, std::uint16_t number) noexcept
+    : axsNode(kind),
+      watched(false),
+      indexed(false),
+      element_name_number(number)
+  {
+  }
   ~axsParent() = default;
 
   std::uint16_t name_number() const noexcept { return element_name_number; }
+  bool is_indexed() const noexcept { return indexed; }
+  void set_indexed(bool is_so) noexcept { indexed = is_so; }
 
 private:
   friend class axsNode;
@@ -33,7 +41,9 @@ private:
   void link(axsNode& child, axsNode* before) noexcept;
   void unlink(axsNode& child) noexcept;
 
-  bool watched = false;
+  bool watched : 1;
+  // Of an element: whether its attributes have an index.
+  bool indexed : 1;
   // Of an element the number of its name; here, where alignment leaves room for it.
   std::uint16_t element_name_number;
   axsNode* first = nullptr;

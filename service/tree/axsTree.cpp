@@ -1,5 +1,8 @@
 #include "axsTree.h"
 
+#include <algorithm>
+#include <new>
+
 axsElement* axsTree::root_element() const noexcept
 {
   axsNode* child = first_child();
@@ -44,6 +47,10 @@ void axsTree::free_node(axsNode& node) noexcept
   if (!node.is_element())
     return free_leaf(static_cast<axsLeaf&>(node));
   auto& element = static_cast<axsElement&>(node);
+  if (element.is_watched())
+    parent_freeing(element);
+  if (element.is_indexed())
+    drop_attribute_index(element);
   for (axsAttribute* at = element.first_attribute(); at != nullptr;)
     free_leaf(*std::exchange(at, at->next_attribute()));
   memory.release(reinterpret_cast<char*>(&element) - lead, lead + element.size());
@@ -53,4 +60,36 @@ void axsTree::free_leaf(axsLeaf& leaf) noexcept
 {
   leaf.free_text();
   memory.release(reinterpret_cast<char*>(&leaf) - lead, lead + leaf.size());
+}
+
+void axsTree::index_attributes(axsElement& element) noexcept
+try
+{
+  attribute_indexes.try_emplace(&element, element.first_attribute());
+  element.set_indexed(true);
+  if (axsElement* const oldest = indexed_elements[next_indexed])
+    drop_attribute_index(*oldest);
+  indexed_elements[next_indexed] = &element;
+  next_indexed = (next_indexed + 1) % indexed_elements.size();
+}
+catch (std::bad_alloc const&)
+{
+  // Walks along the attributes go on.
+}
+
+void axsTree::attribute_linked(axsElement& element, axsAttribute& attribute, axsAttribute* previous) noexcept
+try
+{
+  attribute_index(element).insert(attribute, previous);
+}
+catch (std::bad_alloc const&)
+{
+  drop_attribute_index(element);
+}
+
+void axsTree::drop_attribute_index(axsElement& element) noexcept
+{
+  attribute_indexes.erase(&element);
+  element.set_indexed(false);
+  std::replace(indexed_elements.begin(), indexed_elements.end(), &element, static_cast<axsElement*>(nullptr));
 }

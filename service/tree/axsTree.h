@@ -1,14 +1,18 @@
 #pragma once
 
 #include "axsArena.h"
+#include "axsAttributeIndex.h"
 #include "axsElement.h"
 #include "axsIdAttributes.h"
 #include "axsLeaf.h"
 #include "axsNameTable.h"
 #include "axsParent.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 
 /// A document: the node at the top, and what belongs to all its nodes, attached to it or not: their memory, their names,
@@ -65,15 +69,26 @@ protected:
   void watch_leaving(bool is_wanted) noexcept { has_leave_watch = is_wanted; }
 
 private:
+  friend class axsElement;
   friend class axsNode;
   friend class axsParent;
 
   // What those above are told. The first is that nobody holds the document any more, which is to be deleted.
   virtual void destroy() noexcept = 0;
   virtual void nodes_leaving() noexcept = 0;
-  // Of children of a watched parent: one has come, and one is about to go.
-  virtual void child_linked(axsParent& parent, axsNode const& child) noexcept = 0;
-  virtual void child_unlinking(axsParent& parent, axsNode const& child) noexcept = 0;
+  // Of a watched parent: a child has come, one is about to go, and the parent itself is about to be freed.
+  virtual void child_linked(axsParent& parent, axsNode& child) noexcept = 0;
+  virtual void child_unlinking(axsParent& parent, axsNode& child) noexcept = 0;
+  virtual void parent_freeing(axsParent& parent) noexcept = 0;
+
+  // The indexes of elements with many attributes. Without memory for one there is none.
+  void index_attributes(axsElement& element) noexcept;
+  axsAttributeIndex& attribute_index(axsElement const& element) noexcept
+  {
+    return attribute_indexes.find(&element)->second;
+  }
+  void attribute_linked(axsElement& element, axsAttribute& attribute, axsAttribute* previous) noexcept;
+  void drop_attribute_index(axsElement& element) noexcept;
 
   void free_node(axsNode& node) noexcept;
   void free_leaf(axsLeaf& leaf) noexcept;
@@ -81,6 +96,10 @@ private:
   axsArena memory;
   axsNameTable name_table;
   axsIdAttributes declared_ids;
+  std::unordered_map<axsElement const*, axsAttributeIndex> attribute_indexes;
+  // The elements with an index, a ring: for each further one, that of the oldest goes.
+  std::array<axsElement*, 64> indexed_elements = {};
+  std::size_t next_indexed = 0;
   std::uint64_t attribute_change_count = 0;
   bool xml_1_1 = false;
   bool has_leave_watch = false;

@@ -67,13 +67,18 @@ public:
 private:
   void destroy() noexcept override { ++told.destroyed; }
   void nodes_leaving() noexcept override { ++told.leaving; }
-  void child_linked(axsParent&, axsNode const& child) noexcept override
+  void child_linked(axsParent&, axsNode& child) noexcept override
   {
     told.changes.push_back("+" + std::string(child.node_name()));
   }
-  void child_unlinking(axsParent&, axsNode const& child) noexcept override
+  void child_unlinking(axsParent&, axsNode& child) noexcept override
   {
     told.changes.push_back("-" + std::string(child.node_name()));
+  }
+
+  void parent_freeing(axsParent& parent) noexcept override
+  {
+    told.changes.push_back("!" + std::string(parent.node_name()));
   }
 
   Told& told;
