@@ -1,11 +1,11 @@
 #pragma once
 
+#include "axsExport.h"
 #include <apByteArray.h>
 #include <apPath.h>
 #include <apString.h>
 #include <axmLoadOptions.h>
 #include <axmParseError.h>
-#include <axsExport.h>
 
 #include <cstddef>
 #include <cstdint>
