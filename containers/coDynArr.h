@@ -75,7 +75,7 @@ public:
     return true;
   }
 
-  /// Adds `value` behind the last one. False when memory runs out or the count cannot grow.
+  /// Adds `value` after the last one. False when memory runs out or the count cannot grow.
   bool append(T value) noexcept
   {
     if (used == INT_MAX || !set_count(used + 1))
@@ -84,7 +84,7 @@ public:
     return true;
   }
 
-  /// Lowers the count to `wanted` if it is higher; with `free_block` non-zero, also gives back the room behind it.
+  /// Lowers the count to `wanted` if it is higher; with `free_block` non-zero, also gives back the room after it.
   void shrink(int wanted, int free_block) noexcept
   {
     if (wanted < 0)

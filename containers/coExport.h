@@ -1,6 +1,6 @@
 #pragma once
 
-// How a symbol leaves a library of the house and how it enters a program. Each library has a macro of its own, which is
+// How a symbol leaves a library of axm and how it enters a program. Each library has a macro of its own, which is
 // the first of these while the library itself is built (its build defines NAME_BUILDING) and the second everywhere else.
 // AXM_STATIC stands for a static build of all of them.
 //

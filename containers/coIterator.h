@@ -19,7 +19,7 @@ public:
     return do_next();
   }
 
-  /// Goes to the next element; false, and stands behind the last one, if there is none.
+  /// Goes to the next element; false, and stands after the last one, if there is none.
   bool do_next() noexcept
   {
     if (position < array->count())

@@ -23,7 +23,7 @@ public:
   coText() noexcept { forget(); }
 
   /// A text of `length` characters (0 or more) that `write` puts at the place it is given. There is room for
-  /// most_inside + 1 at least, and those behind `length` may be written as well.
+  /// most_inside + 1 at least, and those after `length` may be written as well.
   template <class Write>
   coText(int length, Write const& write)
   {

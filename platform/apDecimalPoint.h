@@ -13,7 +13,7 @@
 class apDecimalPoint
 {
 public:
-  /// The character that stands behind the 1 where the C library writes 1.2; '.' where it cannot be told.
+  /// The character that stands after the 1 where the C library writes 1.2; '.' where it cannot be told.
   static wchar_t of_locale() noexcept
   {
 #if defined(RADIXCHAR)

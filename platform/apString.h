@@ -66,7 +66,7 @@ public:
   /// The text as UTF-8; what is not Unicode (an unpaired surrogate, a number beyond U+10FFFF) becomes U+FFFD.
   utString to_utf8() const;
 
-  /// The characters, with a NUL behind the last one; never null. They live as long as this object and stay where they are
+  /// The characters, with a NUL after the last one; never null. They live as long as this object and stay where they are
   /// until it takes another value.
   AP_KEPT wchar_t const* c_str() const noexcept { return text.data(); }
 
@@ -81,7 +81,7 @@ public:
   bool operator!=(apString const& other) const noexcept;
   bool operator<(apString const& other) const noexcept;
 
-  /// The position of the first occurrence of `wanted` at or behind `from`, -1 if there is none. An empty `wanted` is
+  /// The position of the first occurrence of `wanted` at or after `from`, -1 if there is none. An empty `wanted` is
   /// found at `from` as long as that is within the text. A negative `from` counts as 0.
   int find(apString const& wanted, int from = 0) const noexcept;
 

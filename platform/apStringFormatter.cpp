@@ -79,7 +79,7 @@ int read_number(wchar_t const*& at, Arguments& arguments)
   return number;
 }
 
-// Reads the directive behind a percent sign and moves `at` behind it.
+// Reads the directive after a percent sign and moves `at` to its end.
 Directive read_directive(wchar_t const*& at, Arguments& arguments)
 {
   Directive directive;

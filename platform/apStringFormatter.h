@@ -15,7 +15,7 @@ public:
   /// character; widths and precisions of texts are counted in `wchar_t`. Known are the directives
   /// d i u x X o c s p e E f F g G %, the flags - + space # 0, width and precision as numbers or *, and of the lengths
   /// hh h l ll j z t those that make sense. %p is written as each system does. A directive that is not known stands in
-  /// the result as it does in the pattern, and so does everything behind it, for its arguments cannot be told.
+  /// the result as it does in the pattern, and so does everything after it, for its arguments cannot be told.
   /// Throws std::bad_alloc when memory runs out.
   static apString format(wchar_t const* format, ...);
 };

@@ -23,7 +23,7 @@ Result read_simple(wchar_t const* begin)
 {
   static constexpr double powers_of_ten[] = {
     1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-  static constexpr std::ptrdiff_t most_digits = 15;
+  static constexpr std::ptrdiff_t max_digits = 15;
   static constexpr Result other{false, 0, 0.0};
 
   wchar_t const* at = begin;
@@ -33,20 +33,20 @@ Result read_simple(wchar_t const* begin)
 
   std::int64_t digits = 0;
   wchar_t const* const whole = at;
-  for (; is_digit(*at) && at - whole < most_digits; ++at)
+  for (; is_digit(*at) && at - whole < max_digits; ++at)
     digits = digits * 10 + (*at - L'0');
   std::ptrdiff_t count = at - whole;
   if (count == 0 || is_digit(*at))
     return other;
 
-  std::ptrdiff_t behind_point = 0;
+  std::ptrdiff_t digits_after_point = 0;
   if (*at != L'\0' && *at == apDecimalPoint::of_locale())
   {
     wchar_t const* const fraction = ++at;
-    for (; is_digit(*at) && count < most_digits; ++at, ++count)
+    for (; is_digit(*at) && count < max_digits; ++at, ++count)
       digits = digits * 10 + (*at - L'0');
-    behind_point = at - fraction;
-    if (behind_point == 0 || is_digit(*at))
+    digits_after_point = at - fraction;
+    if (digits_after_point == 0 || is_digit(*at))
       return other;
   }
   // What may be an exponent, a hexadecimal number, or the decimal point in another form.
@@ -55,7 +55,7 @@ Result read_simple(wchar_t const* begin)
 
   // The sign comes first, for rounding may depend on it, and 0 has one.
   double const exact = negative ? -static_cast<double>(digits) : static_cast<double>(digits);
-  return {true, static_cast<int>(at - begin), exact / powers_of_ten[behind_point]};
+  return {true, static_cast<int>(at - begin), exact / powers_of_ten[digits_after_point]};
 }
 }
 

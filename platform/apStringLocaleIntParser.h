@@ -14,7 +14,7 @@ public:
   {
     /// Whether a number was read; if not, position and value are 0.
     bool success;
-    /// Where parsing stopped, counted in characters from 0: behind the last digit.
+    /// Where parsing stopped, counted in characters from 0: after the last digit.
     int position;
     int value;
   };

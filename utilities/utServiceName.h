@@ -21,7 +21,7 @@ public:
   /// Whether there is no name (left).
   bool invalid() const noexcept;
 
-  /// Takes the leftmost qualifier away with the "::" behind it. A name without a qualifier becomes invalid, and an
+  /// Takes the leftmost qualifier away with the "::" after it. A name without a qualifier becomes invalid, and an
   /// invalid one stays so. Throws std::bad_alloc when memory runs out, and leaves the name as it was.
   void dequalify();
 

@@ -33,7 +33,7 @@ public:
   utString(char const* bytes, int length);
 
   /// A text of `length` bytes (0 or more) that `write` puts at the place it is given. There is room for most_inside + 1
-  /// at least, and those behind `length` may be written as well.
+  /// at least, and those after `length` may be written as well.
   template <class Write>
   static utString written(int length, Write const& write)
   {
@@ -59,14 +59,14 @@ public:
 
   ~utString() {}
 
-  /// The bytes, with a NUL behind the last one; never null. They live as long as this object and stay where they are
+  /// The bytes, with a NUL after the last one; never null. They live as long as this object and stay where they are
   /// until it takes another value. However short the text is, most_inside + 1 bytes can be read there.
   char const* c_str() const noexcept { return text.data(); }
 
   /// The number of bytes; 0 without storage.
   int length() const noexcept { return text.length(); }
 
-  /// All bytes, without the NUL behind them; they live as those of c_str().
+  /// All bytes, without the NUL after them; they live as those of c_str().
   std::string_view view() const noexcept { return {c_str(), static_cast<std::size_t>(length())}; }
 
   /// Whether there is storage, be it of an empty text.
@@ -78,7 +78,7 @@ public:
   bool operator!=(utString const& other) const noexcept;
 
   /// Compares up to the first NUL, the 26 ASCII letters without regard to case: negative, 0 or positive as this text
-  /// stands before, at or behind `other`. A text without storage counts as an empty one.
+  /// stands before, at or after `other`. A text without storage counts as an empty one.
   int case_compare(utString const& other) const noexcept;
 
 private:

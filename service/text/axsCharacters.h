@@ -9,7 +9,7 @@
 #include <cstring>
 #include <string_view>
 
-/// The characters of XML 1.0 in UTF-8, for who reads them out of memory in which a zero byte stands behind the last one
+/// The characters of XML 1.0 in UTF-8, for who reads them out of memory in which a zero byte stands after the last one
 /// and `apByteBlock::size` bytes more may be read.
 namespace axsCharacters
 {
@@ -57,7 +57,7 @@ inline bool begins(char const* at, std::string_view with)
   return std::strncmp(at, with.data(), with.size()) == 0;
 }
 
-/// Moves behind `expected`, if that stands at `at`. Whether it does.
+/// Moves past `expected`, if that stands at `at`. Whether it does.
 inline bool skip(char const*& at, std::string_view expected)
 {
   bool const found = begins(at, expected);
@@ -65,7 +65,7 @@ inline bool skip(char const*& at, std::string_view expected)
   return found;
 }
 
-/// Moves behind white space. Whether there is some.
+/// Moves past white space. Whether there is some.
 inline bool skip_spaces(char const*& at)
 {
   char const* const before = at;
@@ -73,7 +73,7 @@ inline bool skip_spaces(char const*& at)
   return at != before;
 }
 
-/// Moves behind the character `expected`, one of ASCII, if that stands at `at`. Whether it does.
+/// Moves past the character `expected`, one of ASCII, if that stands at `at`. Whether it does.
 inline bool skip_character(char const*& at, char expected)
 {
   bool const found = *at == expected;
@@ -81,7 +81,7 @@ inline bool skip_character(char const*& at, char expected)
   return found;
 }
 
-/// Moves behind the tab or line end at `at` (2.11).
+/// Moves past the tab or line end at `at` (2.11).
 inline void skip_line_end(char const*& at)
 {
   at += begins(at, "\r\n") ? 2 : 1;
@@ -104,7 +104,7 @@ Character character(char const* at);
 bool is_name_start(char32_t character) noexcept;
 bool is_name_part(char32_t character) noexcept;
 
-/// Moves behind characters beyond ASCII. Whether there was one, and nothing wrong among them.
+/// Moves past characters beyond ASCII. Whether there was one, and nothing wrong among them.
 bool skip_multibyte(char const*& at);
 
 /// Behind the name at `at` (2.3, [5] Name); `at` itself if there is none.
@@ -113,7 +113,7 @@ char const* behind_name(char const* at);
 /// Behind the rest of a name, of which the character before `at` is a part.
 char const* behind_rest_of_name(char const* at);
 
-/// Moves behind the name at `at`. Whether there is one.
+/// Moves past the name at `at`. Whether there is one.
 inline bool skip_name(char const*& at)
 {
   char const* const before = at;
@@ -121,7 +121,7 @@ inline bool skip_name(char const*& at)
   return at != before;
 }
 
-/// The first byte at or behind `at` that is one of `stops`, not ASCII or a control character other than tab and line
+/// The first byte at or after `at` that is one of `stops`, not ASCII or a control character other than tab and line
 /// feed.
 template <class Block, char... stops>
 char const* behind_text(char const* at)
@@ -137,7 +137,7 @@ char const* behind_text(char const* at)
   }
 }
 
-/// The first byte at or behind `at` that is `quote`, '<', '&', not ASCII or a control character.
+/// The first byte at or after `at` that is `quote`, '<', '&', not ASCII or a control character.
 template <class Block = apByteBlock>
 char const* behind_value(char const* at, char quote)
 {
@@ -151,7 +151,7 @@ char const* behind_value(char const* at, char quote)
   }
 }
 
-/// Reads a text in quotes and moves behind it. Whether there was one, without '<', '&', control characters and characters
+/// Reads a text in quotes and moves to its end. Whether there was one, without '<', '&', control characters and characters
 /// beyond ASCII; `at` is otherwise where that shows.
 inline bool read_literal(char const*& at, std::string_view& text)
 {

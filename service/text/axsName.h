@@ -36,7 +36,7 @@ public:
     return colon == std::string::npos ? std::string_view() : utf8().substr(0, colon);
   }
 
-  /// What stands behind the first colon; the whole name without one.
+  /// What stands after the first colon; the whole name without one.
   std::string_view local() const noexcept { return colon == std::string::npos ? utf8() : utf8().substr(colon + 1); }
 
 private:

@@ -46,7 +46,7 @@ public:
   virtual std::shared_ptr<axmNode> getFirstChild() = 0;
   virtual std::shared_ptr<axmNode> getLastChild() = 0;
 
-  /// The neighbour among the children of the parent; empty before the first and behind the last one.
+  /// The neighbour among the children of the parent; empty before the first and after the last one.
   virtual std::shared_ptr<axmNode> getPreviousSibling() = 0;
   virtual std::shared_ptr<axmNode> getNextSibling() = 0;
 

@@ -15,7 +15,7 @@
 /// The contract of an engine: it creates, loads and saves documents.
 ///
 /// Interface. An engine registers its factory under "XMLService" with utService; programs find it there and never name
-/// the class behind it:
+/// the class that implements it:
 ///
 ///     utServiceName resolved;
 ///     auto factory = utService::locate_service<axmDocumentFactory>(utServiceName(ut_lit("XMLService")), resolved);

@@ -22,7 +22,7 @@ public:
   /// The name of the document's encoding; "Unknown" where a reader does not tell.
   virtual utString encoding();
 
-  /// Leaves the current element: its parent becomes the current one, and the next down_to() goes on behind the element
+  /// Leaves the current element: its parent becomes the current one, and the next down_to() goes on after the element
   /// just left.
   virtual void up() = 0;
 

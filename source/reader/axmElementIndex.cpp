@@ -325,7 +325,7 @@ void axmElementIndex::scan()
 {
   if (size - scan_begin >= axmStructuralScan::bytes)
     return axmStructuralScan::find(text + scan_begin, masks);
-  // Nothing behind the text may be read. What stands for it is NUL.
+  // Nothing after the text may be read. What stands for it is NUL.
   char rest[axmStructuralScan::bytes] = {};
   std::memcpy(rest, text + scan_begin, size - scan_begin);
   axmStructuralScan::find(rest, masks);

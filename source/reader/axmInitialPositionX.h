@@ -19,15 +19,15 @@ public:
   /// The version as it is written.
   utString version();
 
-  /// The name of the encoding as it is written; "utf-8" if there is none or it is empty. The cursor stays behind it, in
+  /// The name of the encoding as it is written; "utf-8" if there is none or it is empty. The cursor stays at its end, in
   /// the declaration: a search for child elements from there finds the root element.
   utString encoding();
 
   /// What is written for standalone; "no" if there is nothing.
   utString standalone();
 
-  /// Where the document goes on behind its first tag and the white space and comments that follow: without a
-  /// declaration, that is behind the opening tag of the root element.
+  /// Where the document goes on after its first tag and the white space and comments that follow: without a
+  /// declaration, that is after the opening tag of the root element.
   char* end_point();
 
 private:

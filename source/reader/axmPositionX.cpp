@@ -372,7 +372,7 @@ void axmPositionX::close_object(axmOpenTags& open)
   open.pop();
 }
 
-// From the closing tag of the element back to behind its opening tag.
+// From the closing tag of the element back to the end of its opening tag.
 void axmPositionX::return_to_start()
 {
   axmTagName const name = tag_name();

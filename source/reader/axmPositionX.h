@@ -34,27 +34,27 @@ public:
   ///
   /// The first attribute of that very name counts; the quote is whatever character follows the `=`; white space before
   /// the `=` belongs to the name. Only `>` ends the search: in a self-closing tag, a search for an attribute that is not
-  /// there goes on behind the tag, and may find one that belongs to a later element.
+  /// there goes on after the tag, and may find one that belongs to a later element.
   utString attribute(utString const& name, utString const& default_value) const;
 
-  /// Passes the children of the element that are left. The cursor stands behind the opening tag of the element then, as
-  /// it does whenever it has come to the end of its element.
+  /// Passes the children of the element that are left. The cursor stands at the end of the opening tag of the element
+  /// then, as it does whenever it has come to the end of its element.
   /// A child whose name begins with "Invalid" is found and never passed: with one, this operation does not return.
   void end_object();
 
   /// A new cursor on the next child element whose name begins with `name`, set up to read its content, with this cursor
   /// left in front of that child; the caller owns it. Null if there is no such child from here on: this cursor then
-  /// stands behind the opening tag of its element, so that the next search begins with the first child.
+  /// stands at the end of the opening tag of its element, so that the next search begins with the first child.
   /// The first argument says that ownership passes to the caller, whatever its value.
   axmPositionX* go_to_sub_tag(utPtrRelease release, utString const& name);
 
-  /// The name of the second tag from the beginning of the element on, where the first is an opening tag: behind an XML
+  /// The name of the second tag from the beginning of the element on, where the first is an opening tag: after an XML
   /// declaration, that of the root element. The cursor does not move.
   utString initial_tag() const;
 
   /// Passes comments, the opening tag and white space, so that the cursor stands in the content of the element; the
-  /// element then begins behind those comments. A self-closing tag is passed in the same way, and the cursor stands
-  /// behind the element then.
+  /// element then begins after those comments. A self-closing tag is passed in the same way, and the cursor stands
+  /// at the end of the element then.
   void object_setup();
 
   /// The text up to the next tag, whatever tag that is, with comments left out. A CDATA section adds its content, and
@@ -65,7 +65,8 @@ public:
   void skip_object();
 
   /// The first text of the element from here on, with the white space before it, up to the next tag; child elements and
-  /// comments before it are passed. If there is none, the result is empty and the cursor stands behind the opening tag.
+  /// comments before it are passed. If there is none, the result is empty and the cursor stands at the end of the opening
+  /// tag.
   utString text_node();
 
 protected:
@@ -112,7 +113,8 @@ protected:
   /// As attribute(), from the `<` on which the cursor stands; the cursor moves.
   utString find_attribute(utString const& name, utString const& default_value);
 
-  /// Moves to the next child element whose name begins with `name`; false, and behind the opening tag, if there is none.
+  /// Moves to the next child element whose name begins with `name`; false, and at the end of the opening tag, if there is
+  /// none.
   bool find_sub_tag(utString const& name);
 
   /// The text from `from` up to here.
