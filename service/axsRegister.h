@@ -11,7 +11,7 @@
 ///   lists and maps belongs to one thread at a time.
 /// - Nodes, lists and maps hold what they need: a node stays valid as long as it is held, even if its tree and its
 ///   document have been let go. A `std::weak_ptr` holds no node, only some bytes of bookkeeping.
-/// - Load: white-space-only text is dropped in CDATA sections, too, and whatever xml:space says. Prefixes must be bound
+/// - Load: white-space-only text is dropped in CDATA sections, too, but kept where xml:space="preserve" holds. Prefixes must be bound
 ///   (Namespaces in XML 1.0; in a document of XML 1.1, by version 1.1 of them). The external DTD subset is read where the
 ///   options enable the resolution of entities and it is a local file; an entity that is declared nowhere in what is read is
 ///   an error. The expansions of parameter entities count as those of others. Besides the number of entity expansions, what

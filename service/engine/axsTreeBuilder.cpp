@@ -45,17 +45,22 @@ void axsTreeBuilder::start_element(axsStartTag const& tag)
     axsDomAttribute* const made = built.make_attribute(*attribute.name, attribute.value);
     element->append_new_attribute(*made, last);
     last = made;
+    if (attribute.name->utf8() == "xml:space")
+      spaces.push_back({element, attribute.value == "preserve"});
   }
 }
 
 void axsTreeBuilder::end_element()
 {
+  if (!spaces.empty() && spaces.back().element == open)
+    spaces.pop_back();
   open = static_cast<axsParent*>(open->parent());
 }
 
 void axsTreeBuilder::text(std::string_view text, bool is_cdata)
 {
-  if (!is_dropped(text) && !open->is_document())
+  bool const is_preserved = !spaces.empty() && spaces.back().is_preserved;
+  if ((is_preserved || !is_dropped(text)) && !open->is_document())
     open->append_new(*built.make_text(text, is_cdata));
 }
 

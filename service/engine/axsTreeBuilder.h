@@ -2,12 +2,15 @@
 
 #include "axsParseHandler.h"
 
+#include <vector>
+
 class axsDomDocument;
 class axsParent;
 
 /// Builds the tree of a document from the events of a parser. The caller holds the document.
 ///
-/// A text that is white space only is dropped, except where it is exactly one space.
+/// A text that is white space only is dropped, except where it is exactly one space or the author asked with xml:space for
+/// it to be preserved (XML 1.0, 2.10).
 class axsTreeBuilder final : public axsParseHandler
 {
 public:
@@ -23,6 +26,14 @@ public:
   void doctype(std::shared_ptr<axsDtd const> const& type) override;
 
 private:
+  struct Space
+  {
+    axsParent const* element;
+    bool is_preserved;
+  };
+
   axsDomDocument& built;
   axsParent* open;
+  // What the open elements say with xml:space, the innermost last.
+  std::vector<Space> spaces;
 };

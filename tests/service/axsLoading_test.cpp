@@ -31,7 +31,21 @@ TEST(axsLoading, drops_text_of_white_space_only_except_one_space)
   EXPECT_EQ(children("<root> x <a/>&#32;</root>"), "[ x ][][ ]");
   EXPECT_EQ(children("<root>&#9;</root>"), "");
   EXPECT_EQ(children("<root>\xC2\xA0</root>"), "[\xC2\xA0]");
-  EXPECT_EQ(children("<root xml:space='preserve'>  </root>"), "");
+  EXPECT_EQ(children("<root><![CDATA[  ]]></root>"), "");
+}
+
+TEST(axsLoading, keeps_white_space_where_the_author_asks_for_that)
+{
+  EXPECT_EQ(children("<r xml:space='preserve'>  </r>"), "[  ]");
+  EXPECT_EQ(children("<r xml:space='preserve'>\n<a>\t</a>\n</r>"), "[\n][\t][\n]");
+  EXPECT_EQ(children("<r xml:space='preserve'><![CDATA[\n]]></r>"), "[\n]");
+  EXPECT_EQ(children("<r xml:space='default'>  </r>"), "");
+  EXPECT_EQ(children("<r xml:space='other'>  </r>"), "");
+  // It holds for what the element contains, as far as nothing inside says otherwise (XML 1.0, 2.10).
+  EXPECT_EQ(children("<r><a xml:space='preserve'>  </a>  <b>  </b></r>"), "[  ][]");
+  EXPECT_EQ(children("<r xml:space='preserve'>  <a xml:space='default'>  <b xml:space='preserve'>\t</b>  </a>  </r>"),
+    "[  ][\t][  ]");
+  EXPECT_EQ(children("<!DOCTYPE r [<!ATTLIST a xml:space CDATA 'preserve'>]><r>  <a>  </a>  </r>"), "[  ]");
 }
 
 TEST(axsLoading, a_text_is_one_node_from_markup_to_markup)
