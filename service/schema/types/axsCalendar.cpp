@@ -85,7 +85,7 @@ axsCalendar axsCalendar::from_bytes(std::string_view bytes)
   made.year = std::move(number.digits);
   int* const parts[] = {&made.month, &made.day, &made.hour, &made.minute, &made.second};
   for (std::size_t i = 0; i < std::size(parts); ++i)
-    *parts[i] = bytes[i];
+    *parts[i] = static_cast<unsigned char>(bytes[i]);
   made.fraction = bytes.substr(std::size(parts));
   return made;
 }

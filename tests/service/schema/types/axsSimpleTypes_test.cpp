@@ -327,6 +327,21 @@ TEST(axsSimpleTypes, unions_take_patterns_and_enumerations_of_values)
   EXPECT_TRUE(is_valid(matched, "1x"));
 }
 
+// Part 1, 3.14.2, {member type definitions}: a union among the members is replaced by its own members, whatever it asks for
+// beyond them.
+TEST(axsSimpleTypes, the_members_of_a_union_within_a_union_stand_in_its_place)
+{
+  Making making;
+  axsSimpleType const& inner = making.union_of({&built_in("int"), &built_in("date")});
+  axsSimpleType const& few = making.restrict(inner, {facet(Kind::enumeration, "1")});
+  axsSimpleType const& outer = making.union_of({&few, &built_in("boolean")});
+  EXPECT_FALSE(is_valid(few, "2"));
+  EXPECT_TRUE(is_valid(outer, "2"));
+  EXPECT_TRUE(is_valid(outer, "2024-01-01"));
+  EXPECT_TRUE(is_valid(outer, "true"));
+  EXPECT_FALSE(is_valid(outer, "x"));
+}
+
 TEST(axsSimpleTypes, an_id_counts_only_in_the_member_that_takes_the_text)
 {
   Making making;
