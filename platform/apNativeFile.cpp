@@ -1,5 +1,6 @@
 #include "apNativeFile.h"
 
+#include <cerrno>
 #include <cstddef>
 #include <cstring>
 
@@ -10,14 +11,11 @@
 #  include <io.h>
 #  include <sys/stat.h>
 #  include <windows.h>
-
-#  include <cerrno>
 #else
 #  include <fcntl.h>
 #  include <sys/stat.h>
 #  include <unistd.h>
 
-#  include <cerrno>
 #  include <climits>
 #  include <cstdlib>
 #  include <string>
@@ -30,6 +28,18 @@ bool is_whole(utString const& name) noexcept
 {
   return std::strlen(name.c_str()) == static_cast<std::size_t>(name.length());
 }
+}
+
+std::size_t apNativeFile::read(std::FILE* file, void* bytes, std::size_t size)
+{
+  std::size_t done = 0;
+  for (;;)
+  {
+    done += std::fread(static_cast<char*>(bytes) + done, 1, size - done, file);
+    if (done == size || std::ferror(file) == 0 || errno != EINTR)
+      return done;
+    std::clearerr(file);
+  }
 }
 
 utString apNativeFile::folder_of(utString const& name)

@@ -2,6 +2,7 @@
 
 #include <utString.h>
 
+#include <cstddef>
 #include <cstdio>
 
 // The file system by names in UTF-8: as bytes where it takes bytes, wide where it takes wide text. Not installed.
@@ -9,6 +10,9 @@ namespace apNativeFile
 {
 // A stream on the file, null when it cannot be opened; `mode` as for fopen, in ASCII.
 std::FILE* open(utString const& name, char const* mode);
+
+// Reads `size` bytes, or those that are left; a signal that comes in between stops nothing. How many there were.
+std::size_t read(std::FILE* file, void* bytes, std::size_t size);
 
 // Whether there is a file, folder or anything else of that name.
 bool exists(utString const& name);

@@ -2,6 +2,7 @@
 
 #include "apNativeFile.h"
 
+#include <algorithm>
 #include <climits>
 
 apTarnFileStdio::apTarnFileStdio(utString const& name, apTarnMode mode)
@@ -45,5 +46,8 @@ int apTarnFileStdio::read(void* buffer, int size, int count)
 {
   if (stream == nullptr || size <= 0 || count <= 0)
     return 0;
-  return static_cast<int>(std::fread(buffer, static_cast<std::size_t>(size), static_cast<std::size_t>(count), stream));
+  std::size_t const item = static_cast<std::size_t>(size);
+  std::size_t const whole = std::min(static_cast<std::size_t>(count), static_cast<std::size_t>(-1) / item);
+  std::size_t const bytes = apNativeFile::read(stream, buffer, item * whole);
+  return static_cast<int>(bytes / item);
 }

@@ -7,6 +7,14 @@
 #include <memory>
 #include <string>
 
+#if !defined(_WIN32)
+#  include <sys/stat.h>
+#  include <unistd.h>
+
+#  include <csignal>
+#  include <thread>
+#endif
+
 namespace
 {
 int const from_start = 0;
@@ -173,5 +181,38 @@ TEST(apTarnFileStdio, position_that_does_not_fit_an_int_cannot_be_told)
     EXPECT_LT(file.tell(), 0);
   }
   path.delete_file();
+}
+#endif
+
+#if !defined(_WIN32)
+TEST(apTarnFileStdio, a_signal_does_not_end_a_read)
+{
+  struct sigaction interrupting = {};
+  struct sigaction before = {};
+  interrupting.sa_handler = [](int) {};
+  ASSERT_EQ(sigaction(SIGUSR1, &interrupting, &before), 0);
+  ASSERT_EQ(mkfifo("pipe", 0600), 0);
+  pthread_t const reader = pthread_self();
+  std::thread writer(
+    [reader]
+    {
+      std::FILE* const pipe = std::fopen("pipe", "wb");
+      std::fputs("01234", pipe);
+      std::fflush(pipe);
+      // The other thread waits for more by then, or will do at one of these.
+      for (int i = 0; i < 50; ++i)
+      {
+        pthread_kill(reader, SIGUSR1);
+        usleep(1000);
+      }
+      std::fputs("56789", pipe);
+      std::fclose(pipe);
+    });
+  char bytes[10] = {};
+  apTarnFileStdio file("pipe", apTarnModeRead);
+  EXPECT_EQ(file.read(bytes, 1, 10), 10);
+  writer.join();
+  EXPECT_EQ(std::string(bytes, 10), "0123456789");
+  sigaction(SIGUSR1, &before, nullptr);
 }
 #endif
