@@ -12,7 +12,8 @@ struct SchemaTest
   std::string set;
   std::string name;
   bool valid = false;
-  std::string schema;
+  /// The schema documents, one or several.
+  std::vector<std::string> schemas;
 
   /// Empty when the test is about the schema.
   std::string instance;
@@ -23,6 +24,8 @@ struct SchemaTest
 ///
 ///     schema SET NAME valid|invalid SCHEMA
 ///     instance SET NAME valid|invalid SCHEMA INSTANCE
+///
+/// Several schema documents of one test stand in one field, parted by '|'. A test of a schema may have an empty field more.
 ///
 /// Throws std::runtime_error, with the line, when it cannot be read.
 std::vector<SchemaTest> read_schema_suite(std::string const& folder);

@@ -68,7 +68,7 @@ TEST(SchemaSuite, runs_the_tests_and_lists_those_that_come_out_otherwise)
 TEST(SchemaSuite, refusals_name_the_place)
 {
   SchemaTest test;
-  test.schema = std::string(AXM_OWN_SCHEMAS) + "/note.xsd";
+  test.schemas = {std::string(AXM_OWN_SCHEMAS) + "/note.xsd"};
   EXPECT_EQ(refusal(test), "");
   test.instance = std::string(AXM_OWN_SCHEMAS) + "/note_bad.xml";
   EXPECT_NE(refusal(test).find("note_bad.xml:1:"), std::string::npos) << refusal(test);
@@ -78,6 +78,7 @@ TEST(SchemaSuite, lists_that_are_none_are_refused)
 {
   EXPECT_EQ(read("# comment\n\nschema\ts\tn\tvalid\ta.xsd\r\n").size(), 1U);
   EXPECT_THROW(read_schema_suite("no_such_folder"), std::runtime_error);
+  EXPECT_EQ(read("schema\ts\tn\tvalid\ta.xsd|b.xsd\t\n").front().schemas.size(), 2U);
   EXPECT_THROW(read("schema\ts\tn\tvalid\n"), std::runtime_error);
   EXPECT_THROW(read("schema\ts\tn\tvalid\ta.xsd\ta.xml\n"), std::runtime_error);
   EXPECT_THROW(read("instance\ts\tn\tvalid\ta.xsd\n"), std::runtime_error);
