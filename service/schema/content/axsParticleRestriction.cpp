@@ -280,12 +280,31 @@ axsParticleRestriction::Rule axsParticleRestriction::rule_for(Kind base) noexcep
   return base == Kind::choice ? Rule::recurse_lax : Rule::recurse;
 }
 
+// Whether the base is a choice that takes the element less often than it may occur.
+bool axsParticleRestriction::is_repeated_by_group(View const& restricted, View const& base)
+{
+  if (base.kind != Kind::choice)
+    return false;
+  std::vector<View> const parts = parts_of(base);
+  return std::any_of(parts.begin(), parts.end(),
+    [&](View const& part) {
+      return part.kind == Kind::element && part.element->name == restricted.element->name && part.max < restricted.max;
+    });
+}
+
 // rcase-RecurseAsIfGroup, rcase-Recurse, rcase-RecurseLax, rcase-RecurseUnordered, rcase-MapAndSum
 axsParticleRestriction::Answer axsParticleRestriction::begin_groups(View const& restricted, View const& base)
 {
   Range const base_range{base.min, base.max};
   if (restricted.kind == Kind::element)
+  {
+    // An element that occurs several times is a group of itself that does so, where the base repeats the group.
+    View once = restricted;
+    once.min = once.max = 1;
+    if (is_range({restricted.min, restricted.max}, base_range) && is_repeated_by_group(restricted, base))
+      return open_task(once, base, rule_for(base.kind));
     return is_range({1, 1}, base_range) ? open_task(restricted, base, rule_for(base.kind)) : Answer::no;
+  }
   if (restricted.kind == Kind::sequence && base.kind == Kind::choice)
   {
     std::uint64_t const count = parts_of(restricted).size();

@@ -102,6 +102,7 @@ private:
   Answer begin(View const& restricted, View const& base);
   Answer begin_in_wildcard(View const& restricted, View const& base);
   Answer begin_groups(View const& restricted, View const& base);
+  bool is_repeated_by_group(View const& restricted, View const& base);
   Answer open_task(View const& restricted, View const& base, Rule rule);
   Answer next_pair(Task& task, View& restricted, View& base);
   Answer end_of(Task const& task);

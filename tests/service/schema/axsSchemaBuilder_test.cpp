@@ -283,6 +283,19 @@ TEST(axsSchemaBuilder, restrictions_keep_to_the_content_of_their_bases)
     "s.xsd:3: the content is no restriction of that of 'b'"); // 5.4.1
 }
 
+TEST(axsSchemaBuilder, an_element_may_occur_as_often_as_the_choice_that_it_restricts)
+{
+  auto const of_choice = [](std::string const& occurrence, std::string const& own)
+  {
+    return error_of_schema(restriction(
+      "<xs:choice " + occurrence + ">" + element("a") + element("b") + "</xs:choice>", sequence(element("a", own))));
+  };
+  EXPECT_EQ(of_choice("minOccurs='0' maxOccurs='unbounded'", "minOccurs='0' maxOccurs='unbounded'"), "");
+  EXPECT_EQ(of_choice("maxOccurs='5'", "minOccurs='2' maxOccurs='5'"), "");
+  EXPECT_NE(of_choice("maxOccurs='5'", "maxOccurs='6'"), "");
+  EXPECT_NE(of_choice("", "maxOccurs='2'"), "");
+}
+
 TEST(axsSchemaBuilder, all_groups_are_the_whole_content)
 {
   std::string const all = "<xs:group name='g'><xs:all><xs:element name='a'/></xs:all></xs:group>\n";
