@@ -19,6 +19,11 @@ void axsSchemaCompiler::add(apPath const& path)
   loader->add(path);
 }
 
+void axsSchemaCompiler::add_text(std::string_view name, std::string_view text)
+{
+  loader->add_text(name, text);
+}
+
 std::shared_ptr<axsSchemaComponents const> axsSchemaCompiler::compile()
 {
   loader->read_all();

@@ -31,6 +31,9 @@ public:
   /// Adds a schema document for the namespace that it says itself.
   void add(apPath const& path);
 
+  /// Adds one in memory, with `name` in the place of a path.
+  void add_text(std::string_view name, std::string_view text);
+
   /// The schema; null if anything is wrong. Throws std::bad_alloc when memory runs out.
   std::shared_ptr<axsSchemaComponents const> compile();
 

@@ -96,27 +96,51 @@ void axsSchemaLoader::read_all()
   add_built_in(axsSchemaVocabulary::instance_namespace, instance_schema);
 }
 
-axsSchemaLoader::File& axsSchemaLoader::file(apPath const& path)
+void axsSchemaLoader::add_text(std::string_view name, std::string_view text)
 {
-  std::unique_ptr<File>& made = known[axsLocalFile::identity(path)];
-  if (made != nullptr)
-    return *made;
-  made = std::make_unique<File>();
-  made->path = path;
-  paths.push_back(narrow(path));
-  file_paths.push_back(path);
-  looked_at.push_back(axsFileStamp::of(path));
-  made->number = static_cast<std::uint32_t>(paths.size());
-  read(*made);
-  return *made;
+  std::string const path(name);
+  File& added = number(path, apPath(path.c_str()));
+  apByteArray const bytes(text.data(), text.size());
+  axsSource source(bytes);
+  read(added, source);
+  if (added.document != nullptr)
+    unit(added, added.document->root().value(Field::target_namespace));
 }
 
-void axsSchemaLoader::read(File& made)
+axsSchemaLoader::File& axsSchemaLoader::file(apPath const& path)
+{
+  std::string const identity = axsLocalFile::identity(path);
+  if (auto const found = known.find(identity); found != known.end())
+    return *found->second;
+  File& made = number(identity, path);
+  looked_at.push_back(axsFileStamp::of(path));
+  try
+  {
+    std::unique_ptr<axsSource> const source = axsLocalFile::open(path);
+    read(made, *source);
+  }
+  catch (axsReadError const& failure)
+  {
+    errors.add({made.number, 0, 0}, narrow(failure.message));
+  }
+  return made;
+}
+
+axsSchemaLoader::File& axsSchemaLoader::number(std::string const& key, apPath const& path)
+{
+  File& made = *known.insert_or_assign(key, std::make_unique<File>()).first->second;
+  made.path = path;
+  paths.push_back(narrow(path));
+  file_paths.push_back(path);
+  made.number = static_cast<std::uint32_t>(paths.size());
+  return made;
+}
+
+void axsSchemaLoader::read(File& made, axsSource& source)
 {
   try
   {
-    std::unique_ptr<axsSource> const source = axsLocalFile::open(made.path);
-    made.document = std::make_unique<axsSchemaDocument>(*source, made.number);
+    made.document = std::make_unique<axsSchemaDocument>(source, made.number);
   }
   catch (axsReadError const& failure)
   {

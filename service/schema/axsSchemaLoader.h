@@ -13,6 +13,8 @@
 #include <unordered_map>
 #include <vector>
 
+class axsSource;
+
 /// Reads the schema documents of a set with all that they include, import and redefine (Part 1, 4.2), each file once, by
 /// whatever path it is named. What documents refer to is looked for in local files only.
 class axsSchemaLoader
@@ -28,6 +30,9 @@ public:
 
   /// Adds one for the namespace that it says itself.
   void add(apPath const& path);
+
+  /// Adds one in memory, with `name` in the place of a path; what it refers to is looked for beside that.
+  void add_text(std::string_view name, std::string_view text);
 
   /// Reads on until nothing is left to read.
   void read_all();
@@ -50,7 +55,8 @@ private:
   };
 
   File& file(apPath const& path);
-  void read(File& made);
+  File& number(std::string const& key, apPath const& path);
+  void read(File& made, axsSource& source);
   axsSchemaUnit& unit(File const& of, std::string_view target);
   void read_references(axsSchemaUnit& from);
   void include(axsSchemaUnit& from, axsSchemaElement const& reference);

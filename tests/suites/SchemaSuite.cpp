@@ -34,14 +34,17 @@ SchemaTest read_test(std::vector<std::string> const& fields, std::string const& 
   return test;
 }
 
-/// The target namespace that the schema states; empty when it states none or is no document.
+/// The target namespace that the schema states, without white space around it; empty when it states none or is no document.
 apString target_namespace(apPath const& schema)
 {
   apString name_space;
   axmParseError error;
   if (auto const document = engine()->loadDocument(schema, axmLoadOptions(axmValidateNone), error))
     document->getDocumentElement()->get_attribute(APSTRING("targetNamespace"), name_space);
-  return name_space;
+  std::string const text = name_space.to_utf8().c_str();
+  std::size_t const begin = std::min(text.find_first_not_of(" \t\n\r"), text.size());
+  std::size_t const end = text.find_last_not_of(" \t\n\r");
+  return end == std::string::npos ? apString() : apString::from_utf8(text.substr(begin, end + 1 - begin));
 }
 
 axmLoadOptions options_for(std::vector<std::string> const& schemas)
