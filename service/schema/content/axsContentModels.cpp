@@ -170,6 +170,8 @@ axsContentNames const& axsContentModels::names_of(axsElementDecl const& decl)
         made.spans.push_back({symbol, symbol});
       made.spans.back().last = symbol;
     }
+  made.lowest = made.spans.front().first;
+  made.highest = made.spans.back().last;
   for (axsContentNames::Span const& span : made.spans)
     for (std::uint32_t symbol = span.first; symbol <= span.last; ++symbol)
       made.spaces.push_back(names.space_of(symbol));

@@ -23,12 +23,17 @@ struct axsContentNames
   std::uint32_t symbol = 0; // of the declaration itself
   std::vector<Span> spans;  // sorted, apart from each other
   std::vector<std::uint32_t> spaces;
+  // The ends of all spans together.
+  std::uint32_t lowest = 0;
+  std::uint32_t highest = 0;
 
   bool is_single() const noexcept { return spans.size() == 1 && spans.front().first == spans.front().last; }
 
   bool has(std::uint32_t wanted) const noexcept
   {
-    if (wanted == symbol)
+    if (wanted < lowest || wanted > highest)
+      return false;
+    if (wanted == symbol || spans.size() == 1)
       return true;
     auto const after = std::upper_bound(
       spans.begin(), spans.end(), wanted, [](std::uint32_t number, Span const& span) { return number < span.first; });
