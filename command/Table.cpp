@@ -68,6 +68,8 @@ std::string complaint_of(TableRequest const& request, std::string const& reader)
   if (is_exact(reader))
     return "this program was built without an engine; only --reader simple is there";
 #endif
+  if (!request.index.empty())
+    return "--index and --part go with --reader exact only";
   if (request.repeat != "first" || !request.namespaces.empty())
     return "--repeat and --ns go with --reader exact only";
   return SimpleTable::complaint(request);
@@ -131,6 +133,8 @@ void add_table(CLI::App& app, int& exit_code)
   verb->add_option("--ns", *spaces, "P=URI: a prefix in PATH and columns; may be given again")
     ->check(wrong_namespace)
     ->allow_extra_args(false);
+  verb->add_option("--index", request->index, "The index that axm split wrote: take the rows of one part of FILE only");
+  verb->add_option("--part", request->part, "Which part, counted from 0")->check(CLI::NonNegativeNumber);
   verb->add_option("--reader", *reader, "exact (the default) or simple")->check(CLI::IsMember({"exact", "simple"}));
   verb->footer(footer);
   verb->callback(

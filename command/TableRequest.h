@@ -16,4 +16,6 @@ struct TableRequest
   std::string missing; // what stands for a value that a record does not have
   std::string output;
   bool header = false;
+  std::string index; // the file that axm split wrote
+  int part = -1;     // one of its parts
 };

@@ -19,4 +19,5 @@ void add_conform(CLI::App& app, int& exit_code);
 void add_conform_worker(CLI::App& app, int& exit_code);
 void add_select(CLI::App& app, int& exit_code);
 void add_set(CLI::App& app, int& exit_code);
+void add_split(CLI::App& app, int& exit_code);
 void add_table(CLI::App& app, int& exit_code);

@@ -13,7 +13,11 @@
 namespace
 {
 // In the order in which the help lists them; the last one is for the program itself.
-Verb const verbs[] = {add_check, add_select, add_set, add_table, add_conform, add_conform_worker};
+Verb const verbs[] = {add_check, add_select, add_set,
+#if defined(AXM_HAS_ENGINE)
+  add_split,
+#endif
+  add_table, add_conform, add_conform_worker};
 
 bool names_no_verb(CLI::App& app, Arguments const& arguments)
 {

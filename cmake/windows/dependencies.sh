@@ -36,6 +36,8 @@ echo "Building what axm depends on for Windows, once, in $prefix ..." >&2
 mkdir -p "$prefix/include" "$prefix/share/cmake"
 cp -r /usr/include/CLI "$prefix/include/"
 cp -r /usr/share/cmake/CLI11 "$prefix/share/cmake/"
+cp -r /usr/include/nlohmann "$prefix/include/"
+cp -r /usr/share/cmake/nlohmann_json "$prefix/share/cmake/"
 
 build /usr/src/googletest -DBUILD_GMOCK=OFF
 

@@ -51,6 +51,13 @@ public:
   /// may have every character.
   bool is_internal() const noexcept { return internal; }
 
+  /// How many bytes of the document stand before `p`, in UTF-8 with its byte-order mark. Only outside of entities.
+  std::uint64_t position(char const* p) const noexcept
+  {
+    axsInputBuffer const& buffer = *inputs.front().buffer;
+    return buffer.position(p) + buffer.encoding().mark_size;
+  }
+
   /// The encoding of the document.
   std::string const& encoding() const noexcept { return inputs.front().buffer->encoding().name; }
 

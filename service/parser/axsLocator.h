@@ -6,6 +6,8 @@
 #include <apString.h>
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 
 /// Tells where in the files of a document a parser is. To be asked during an event; what is not asked for costs nothing.
 ///
@@ -21,6 +23,9 @@ public:
 
   /// The first character of the markup or text of which the event tells.
   virtual axsPlace begin() const = 0;
+
+  /// How many bytes of the document stand before that; none where it comes out of an entity.
+  virtual std::optional<std::uint64_t> begin_position() const { return std::nullopt; }
 
   /// The name of the attribute at `index` of the start tag of which the event tells; of one that is not specified there,
   /// begin(). Asked in their order, all of them cost one pass over the tag.

@@ -159,6 +159,13 @@ axsPlace axsParser::begin() const
   return early_begin ? *early_begin : in.place(event_begin);
 }
 
+std::optional<std::uint64_t> axsParser::begin_position() const
+{
+  if (early_begin || in.depth() > 0)
+    return std::nullopt;
+  return in.position(event_begin);
+}
+
 axsPlace axsParser::attribute(std::size_t index) const
 {
   char const* const at = index < attributes.size() ? attributes[index].at : nullptr;

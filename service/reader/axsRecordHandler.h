@@ -31,6 +31,9 @@ public:
   void comment(std::string_view) override {}
   void processing_instruction(std::string_view, std::string_view) override {}
 
+  /// Whether a record is open.
+  bool is_in_record() const noexcept { return !open.empty(); }
+
   /// Where the parser is; null before it has begun.
   axsLocator const* place() const noexcept { return locator; }
 

@@ -114,6 +114,11 @@ std::string_view axsSource::whole()
   return present;
 }
 
+std::uint64_t axsSource::size() const
+{
+  return is_whole() ? present.size() : stream == nullptr ? 0 : kept.size() + rest_of(stream);
+}
+
 std::size_t axsSource::read(char* to, std::size_t size)
 {
   std::size_t const count = read_next(to, size);

@@ -43,6 +43,9 @@ public:
   /// Whether head() is everything.
   bool is_whole() const noexcept { return !is_open(); }
 
+  /// How many bytes there are; 0 where that cannot be told, as of a pipe.
+  std::uint64_t size() const;
+
   /// All bytes, in memory from now on.
   std::string_view whole();
 

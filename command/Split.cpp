@@ -1,0 +1,80 @@
+#include "Complaint.h"
+#include "Loading.h"
+#include "Namespaces.h"
+#include "OutputFile.h"
+#include "SplitIndex.h"
+#include "Verb.h"
+
+#include <axsRecordReader.h>
+
+#include <CLI/CLI.hpp>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace
+{
+char const description[] = "Find where a document can be cut, so that its records can be read in parts.";
+
+char const footer[] =
+  R"(The document is read once, and an index of its parts is written (JSON). Then
+
+  axm table FILE PATH COLUMN... --index INDEX --part K
+
+reads one part alone, from the first, 0, to the last: in another process, or on another
+machine that has the document. The rows of all parts after one another are the rows of the
+whole. There are fewer parts than asked for where there are few records. The document must
+be a file in UTF-8 that is not compressed, and stay as it is.
+
+Examples:
+  axm split map.osm osm/node --parts 8 --output map.json
+  axm table map.osm osm/node @id @lat --index map.json --part 0)";
+
+struct Request
+{
+  std::string file;
+  std::string path;
+  std::size_t count = 2;
+  std::vector<std::string> spaces;
+  std::string output;
+};
+
+int split(Request const& request)
+{
+  SplitIndex index{request.file, request.path, namespaces_of(request.spaces), {}};
+  axsRecordReader::Request pattern;
+  pattern.path = index.path;
+  pattern.namespaces = index.namespaces;
+  if (std::string const complaint = axsRecordReader::complaint(pattern); !complaint.empty())
+    return complain("split", complaint, exit_usage);
+
+  axmParseError error;
+  if (!axsRecordSplitter::split(apPath(request.file.c_str()), index.path, index.namespaces, request.count,
+        axmLoadOptions(), error, index.parts))
+  {
+    complain_about(error, request.file);
+    return exit_bad_input;
+  }
+  OutputFile output(request.output);
+  output.write(index.to_json());
+  if (!output.finish())
+    return complain(request.output.empty() ? "standard output" : request.output, "cannot be written", exit_bad_input);
+  return exit_good;
+}
+}
+
+void add_split(CLI::App& app, int& exit_code)
+{
+  CLI::App* const verb = app.add_subcommand("split", description);
+  auto const request = std::make_shared<Request>();
+  verb->add_option("FILE", request->file, "The document")->required();
+  verb->add_option("PATH", request->path, "The names from the root to the record, as in osm/node")->required();
+  verb->add_option("--parts", request->count, "How many parts (2 without it)")->check(CLI::Range(1, 1000000));
+  verb->add_option("--ns", request->spaces, "P=URI: a prefix in PATH; may be given again")
+    ->check(wrong_namespace)
+    ->allow_extra_args(false);
+  verb->add_option("--output", request->output, "The index, written whole or not at all; standard output without it");
+  verb->footer(footer);
+  verb->callback([request, &exit_code] { exit_code = split(*request); });
+}
