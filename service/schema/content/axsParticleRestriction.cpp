@@ -33,21 +33,6 @@ bool is_once(axsParticle const& particle) noexcept
   return particle.min_occurs == 1 && particle.max_occurs == 1;
 }
 
-// The only particle of a group that has but one.
-axsParticle const* only_of(axsModelGroup const& group) noexcept
-{
-  axsParticle const* only = nullptr;
-  for (axsParticle const& particle : group.particles)
-  {
-    if (particle.max_occurs == 0)
-      continue;
-    if (only != nullptr)
-      return nullptr;
-    only = &particle;
-  }
-  return only;
-}
-
 bool has_none(axsModelGroup const& group) noexcept
 {
   return std::all_of(group.particles.begin(), group.particles.end(),
@@ -59,6 +44,21 @@ bool is_pointless_empty(axsParticle const& particle) noexcept
 {
   return particle.max_occurs == 0 || (particle.group != nullptr && has_none(*particle.group) &&
                                        (particle.group->compositor != Compositor::choice || particle.min_occurs == 0));
+}
+
+// The only particle of a group that has but one, pointless ones left out.
+axsParticle const* only_of(axsModelGroup const& group) noexcept
+{
+  axsParticle const* only = nullptr;
+  for (axsParticle const& particle : group.particles)
+  {
+    if (is_pointless_empty(particle))
+      continue;
+    if (only != nullptr)
+      return nullptr;
+    only = &particle;
+  }
+  return only;
 }
 
 // Passes over pointless groups of one member.
