@@ -138,7 +138,8 @@ private:
   std::string_view fraction;
 };
 
-std::size_t const most_digits = 15;
+// So many that the seconds of all of them are far from the largest number.
+std::size_t const most_digits = 12;
 
 // A span that can be computed with: its months, whole seconds (rounded down) and what it has beyond them.
 struct Span
@@ -192,7 +193,7 @@ std::int64_t const origins[] = {1696 * 12 + 8, 1697 * 12 + 1, 1903 * 12 + 2, 190
 
 Order compare_from(std::int64_t origin, Span const& left, Span const& right)
 {
-  std::int64_t const day_seconds = 24 * 60 * 60;
+  std::int64_t const day_seconds = 86400;
   std::int64_t const days = days_to(origin + left.months) - days_to(origin + right.months);
   std::int64_t const difference = days * day_seconds + left.seconds - right.seconds;
   int const compared = difference != 0 ? (difference < 0 ? -1 : 1) : left.fraction.compare(right.fraction);

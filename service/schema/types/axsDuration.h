@@ -13,7 +13,7 @@ namespace axsDuration
 bool append(std::string_view text, std::string& bytes);
 
 /// The order of two spans appended (3.2.6.2): that of the four points of time that they lead to, where those agree. Of two
-/// spans of which one has more months and the other more seconds, one or both beyond 15 digits, none where they differ by
+/// spans of which one has more months and the other more seconds, one or both beyond 12 digits, none where they differ by
 /// less than a millionth.
 axsValue::Order compare(std::string_view left, std::string_view right);
 }

@@ -130,7 +130,7 @@ TEST(axsValue, totally_ordered_values_stand_in_order)
     {"gMonthDay", {"--01-31", "--02-01", "--02-29", "--12-31"}},
     {"time", {"00:00:00+14:00", "00:00:00Z", "23:59:59Z", "23:59:59-14:00"}},
     {"duration", {"-P1Y", "-P1M", "-PT1.5S", "-PT1.4S", "-PT1S", "PT0S", "PT0.5S", "PT0.51S", "PT1S", "P1D", "P27D",
-                   "P1M", "P32D", "P11M", "P1Y", "P367D", "P2Y", "P99999999999999999Y"}},
+                   "P1M", "P32D", "P11M", "P1Y", "P367D", "P2Y", "P83333333332Y", "P99999999999999999Y"}},
   };
   for (auto const& [type, texts] : ascending)
     for (std::size_t i = 0; i < texts.size(); ++i)
