@@ -5,11 +5,14 @@
 #include <axmDocumentFactoryUtest.h>
 #include <axmDocumentUtest.h>
 #include <axmElementUtest.h>
+#include <axmLoadUtest.h>
 #include <axmModelUtest.h>
 #include <axmNamedNodeMapUtest.h>
 #include <axmNodeListUtest.h>
 #include <axmNodeUtest.h>
+#include <axmSearchUtest.h>
 #include <axmTextNodeUtest.h>
+#include <axmTypedUtest.h>
 #include <axmValidationUtest.h>
 
 #include <algorithm>
@@ -53,7 +56,10 @@ CheckClass const check_classes[] = {
   {"axmTextNodeUtest", run_with_reference<axmTextNodeUtest>},
   {"axmCommentNodeUtest", run_with_reference<axmCommentNodeUtest>},
   {"axmContractUtest", run_with_owner<axmContractUtest>},
+  {"axmLoadUtest", run_with_owner<axmLoadUtest>},
   {"axmModelUtest", run_with_draws<axmModelUtest>},
+  {"axmSearchUtest", run_with_draws<axmSearchUtest>},
+  {"axmTypedUtest", run_with_draws<axmTypedUtest>},
 };
 }
 

@@ -52,8 +52,9 @@ std::shared_ptr<axmDocument> parsed(
     return nullptr;
   }
   xmlParserCtxt* const context = xmlNewParserCtxt();
-  xmlDoc* document = xmlCtxtReadMemory(context, data.data(), static_cast<int>(data.size()), url.to_utf8().c_str(),
-    nullptr, XML_PARSE_NOENT | XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_NOERROR | XML_PARSE_NOWARNING);
+  xmlDoc* document =
+    xmlCtxtReadMemory(context, data.data(), static_cast<int>(data.size()), url.to_utf8().c_str(), nullptr,
+      XML_PARSE_NOENT | XML_PARSE_DTDATTR | XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_NOERROR | XML_PARSE_NOWARNING);
   if (document == nullptr)
     error = parser_error(*context, url);
   xmlFreeParserCtxt(context);

@@ -273,7 +273,7 @@ TEST(conform, an_engine_of_another_make_gets_an_honest_list)
   GoneAtTheEnd const report("conform second report.xml");
   ProgramRun const run = conform({"--service", AXM_SECOND_ENGINE, "--junit", report.name});
   EXPECT_EQ(run.exit_code, 1) << run.err;
-  EXPECT_EQ(last_line(run.out), "820 passed, 30 failed") << run.out;
+  EXPECT_EQ(last_line(run.out), "1113 passed, 108 failed") << run.out;
   std::vector<std::string> failed;
   auto const cases = loaded(report.name)->getDocumentElement()->selectNodes(APSTRING("//failure/.."));
   for (auto one = cases->next_node(); one != nullptr; one = cases->next_node())
@@ -282,11 +282,14 @@ TEST(conform, an_engine_of_another_make_gets_an_honest_list)
     if (std::find(failed.begin(), failed.end(), group) == failed.end())
       failed.push_back(group);
   }
-  // It does not validate, has no limit of entity expansions, reads nothing external, and takes a zero byte for the end.
+  // It does not validate, has no limit of entity expansions, reads nothing external, takes a zero byte for the end,
+  // and its library does not find the root by its position.
   EXPECT_EQ(failed,
     (std::vector<std::string>{"axmDocumentFactoryUtest::test_from_memory", "axmValidationUtest::run_schema_test",
       "axmValidationUtest::run_nons_schema_test", "axmValidationUtest::test_multiple_schemas",
-      "axmContractUtest::test_load_failure", "axmContractUtest::test_entities", "axmContractUtest::test_validation"}));
+      "axmContractUtest::test_load_failure", "axmContractUtest::test_entities", "axmContractUtest::test_validation",
+      "axmLoadUtest::test_entity_limits", "axmLoadUtest::test_external_things", "axmLoadUtest::test_schemas",
+      "axmLoadUtest::test_schema_sets", "axmSearchUtest::test_paths"}));
 }
 
 TEST(conform, a_failure_is_shown_with_what_was_expected_and_what_came)

@@ -8,11 +8,14 @@
 #include <axmDocumentFactoryUtest.h>
 #include <axmDocumentUtest.h>
 #include <axmElementUtest.h>
+#include <axmLoadUtest.h>
 #include <axmModelUtest.h>
 #include <axmNamedNodeMapUtest.h>
 #include <axmNodeListUtest.h>
 #include <axmNodeUtest.h>
+#include <axmSearchUtest.h>
 #include <axmTextNodeUtest.h>
+#include <axmTypedUtest.h>
 #include <axmUtestGroupListener.h>
 #include <axmValidationUtest.h>
 #include <axsRegister.h>
@@ -177,6 +180,9 @@ void run_fixed(utUnitTest& tester, Factory const& factory)
 
 void run_generated(utUnitTest& tester, Factory const& factory, int rounds)
 {
+  axmLoadUtest(&tester).run_tests(factory);
+  axmTypedUtest(&tester, axmModelUtest::default_seed, rounds).run_tests(factory);
+  axmSearchUtest(&tester, axmModelUtest::default_seed, rounds).run_tests(factory);
   axmModelUtest(&tester, axmModelUtest::default_seed, rounds).run_tests(factory);
 }
 

@@ -114,6 +114,7 @@ private:
   bool check_child_list(Place const& place, Node const& handle, std::vector<Node> const& children);
   bool check_attributes(Place const& place, Node const& handle, int number);
   bool check_attribute(Place const& place, axmElement& element, axmNamedNodeMap& map, int attribute);
+  bool check_absent(Place const& place, axmElement& element, axmNamedNodeMap& map, apString const& name);
   bool check_map_items(Place const& place, axmNamedNodeMap& map, int number);
   bool check_no_attributes(Place const& place, Node const& handle, bool is_item);
   bool check_identity(int slot);

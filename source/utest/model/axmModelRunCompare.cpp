@@ -269,14 +269,20 @@ bool axmModelRun::check_attributes(Place const& place, Node const& handle, int n
   for (int const attribute : attributes)
     if (!check_attribute(place, *element, *map, attribute))
       return false;
-  apString const absent = APSTRING("absent");
+  for (wchar_t const* const name : {L"absent", L"k", L"K", L"Id", L"ke"})
+    if (model.find_attribute(number, name) == axmModel::none && !check_absent(place, *element, *map, apString(name)))
+      return false;
+  return check_map_items(place, *map, number);
+}
+
+bool axmModelRun::check_absent(Place const& place, axmElement& element, axmNamedNodeMap& map, apString const& name)
+{
   apString value = APSTRING("before");
-  return same(place, "->hasAttribute(\"absent\")", false, element->hasAttribute(absent)) &&
-         same(place, "->getAttribute(\"absent\")", L"", element->getAttribute(absent)) &&
-         same(place, "->get_attribute(\"absent\", text)", false, handle->get_attribute(absent, value)) &&
-         same(place, "->get_attribute(\"absent\", text), the text", L"before", value) &&
-         none(place, "->getAttributes()->getNamedItem(\"absent\")", map->getNamedItem(absent)) &&
-         check_map_items(place, *map, number);
+  return same(place, "->hasAttribute() of an absent name", false, element.hasAttribute(name)) &&
+         same(place, "->getAttribute() of an absent name", L"", element.getAttribute(name)) &&
+         same(place, "->get_attribute(name, text) of an absent name", false, element.get_attribute(name, value)) &&
+         same(place, "->get_attribute(name, text) of an absent name, the text", L"before", value) &&
+         none(place, "->getAttributes()->getNamedItem() of an absent name", map.getNamedItem(name));
 }
 
 bool axmModelRun::check_attribute(Place const& place, axmElement& element, axmNamedNodeMap& map, int attribute)

@@ -13,7 +13,7 @@ namespace
 {
 using Kind = axmModelKind;
 
-wchar_t const* const names[] = {L"a", L"b", L"c", L"A", L"long-name_1.x", L"\u00E4", L"\u0444", L"b"};
+wchar_t const* const names[] = {L"a", L"b", L"c", L"A", L"long-name_1.x", L"\u00E4", L"\u0444", L"b", L"a", L"a", L"b"};
 wchar_t const* const attribute_names[] = {L"k", L"K", L"id", L"a", L"\u0444"};
 wchar_t const* const values[] = {L"", L" ", L"v", L"&<>\"'", L"a\tb\nc\rd", L"\u0444\u20AC", L"\U00010437", L"  x  ",
   L"0", L"]]>", L"'", L"\"", L"\u00A0"};

@@ -1,0 +1,612 @@
+#include <axmLoadUtest.h>
+
+#include "axmUtestAccess.h"
+#include "axmUtestFile.h"
+#include "axmUtestGroup.h"
+
+#include <axmCommentNode.h>
+#include <axmTextNode.h>
+#include <axmUtestUtils.h>
+
+#include <string>
+
+using namespace axmUtestAccess;
+
+namespace
+{
+using Factory = std::shared_ptr<axmDocumentFactory>;
+using Document = std::shared_ptr<axmDocument>;
+
+char const file[] = "source/utest/axmLoadUtest";
+
+apPath unique(apString const& name, apString const& extension)
+{
+  return axmUtestUtils::uniquify_filename(APSTRING("./load_") + name, extension);
+}
+
+apByteArray bytes_in(std::string const& text)
+{
+  return apByteArray(text.data(), text.size());
+}
+
+// What came of a load: the document, and an error if and only if there is none.
+struct Load
+{
+  Document document;
+  axmParseError error;
+  bool is_consistent;
+};
+
+Load load_of(Factory const& factory, std::string const& text, axmLoadOptions const& options = axmLoadOptions())
+{
+  Load result = {nullptr, axmParseError(), false};
+  result.document = factory->loadDocument(bytes_in(text), options, result.error);
+  result.is_consistent = (result.document != nullptr) == result.error.invalid();
+  return result;
+}
+
+Load load_of_file(Factory const& factory, std::string const& text, axmLoadOptions const& options = axmLoadOptions())
+{
+  apPath const path = unique(APSTRING("file"), APSTRING("xml"));
+  axmUtestFile const removed_at_the_end(path);
+  axmUtestUtils::write_data(path, text.c_str());
+  Load result = {nullptr, axmParseError(), false};
+  result.document = factory->loadDocument(path, options, result.error);
+  result.is_consistent = (result.document != nullptr) == result.error.invalid();
+  return result;
+}
+
+bool loads(Load const& load)
+{
+  return load.is_consistent && load.document != nullptr;
+}
+
+bool fails(Load const& load)
+{
+  return load.is_consistent && load.document == nullptr;
+}
+
+axmLoadOptions with_limit(int limit)
+{
+  axmLoadOptions options;
+  options.set_entity_expansion_limit(limit);
+  return options;
+}
+
+std::string many(int count, std::string const& text)
+{
+  std::string result;
+  for (int number = 0; number < count; ++number)
+    result += text;
+  return result;
+}
+
+// Nodes as a text: elements in brackets with what is in them, texts beside each other as one.
+apString shape(Node const& top)
+{
+  apString result;
+  int steps = 0;
+  Node node = top;
+  while (node != nullptr && ++steps < 1000)
+  {
+    if (std::dynamic_pointer_cast<axmTextNode>(node) != nullptr)
+      result += node->getNodeValue();
+    else if (std::dynamic_pointer_cast<axmCommentNode>(node) != nullptr)
+      result += APSTRING("{") + node->getNodeValue() + APSTRING("}");
+    else
+      result += APSTRING("<") + node->getNodeName() + APSTRING(">");
+    if (node->getFirstChild() != nullptr)
+    {
+      node = node->getFirstChild();
+      continue;
+    }
+    while (node != nullptr && !(*node == *top) && node->getNextSibling() == nullptr)
+      node = node->getParentNode();
+    node = node == nullptr || *node == *top ? nullptr : node->getNextSibling();
+  }
+  return result;
+}
+}
+
+axmLoadUtest::axmLoadUtest(utUnitTest* given_tester) : tester(given_tester) {}
+axmLoadUtest::~axmLoadUtest() = default;
+
+void axmLoadUtest::run_tests(Factory const& factory) const
+{
+  using Utest = axmLoadUtest;
+  axmUtestEntry<Utest, Factory const&> const groups[] = {
+    {&Utest::test_entity_limits, "axmLoadUtest::test_entity_limits"},
+    {&Utest::test_external_things, "axmLoadUtest::test_external_things"},
+    {&Utest::test_encodings, "axmLoadUtest::test_encodings"},
+    {&Utest::test_markup, "axmLoadUtest::test_markup"},
+    {&Utest::test_places, "axmLoadUtest::test_places"},
+    {&Utest::test_schemas, "axmLoadUtest::test_schemas"},
+    {&Utest::test_schema_sets, "axmLoadUtest::test_schema_sets"},
+    {&Utest::test_saved_sizes, "axmLoadUtest::test_saved_sizes"},
+    {&Utest::test_second_saves, "axmLoadUtest::test_second_saves"},
+    {&Utest::test_refused_saves, "axmLoadUtest::test_refused_saves"},
+  };
+  axm_run_groups(*this, factory, groups, tester, file);
+}
+
+void axmLoadUtest::test_entity_limits(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmLoadUtest::test_entity_limits");
+  std::string const dtd = "<!DOCTYPE r [<!ENTITY a 'x'><!ENTITY b '&a;&a;'><!ENTITY c '&b;&b;'><!ENTITY m '<i/>'>]>";
+  struct Case
+  {
+    std::string content;
+    int expansions;
+    char const* description;
+  };
+  Case const cases[] = {
+    {"<r/>", 0, "entities that nothing refers to"},
+    {"<r>&lt;&#65;&amp;</r>", 0, "references that are no entities of the document"},
+    {"<r>&a;</r>", 1, "one reference"},
+    {"<r>" + many(100, "&a;") + "</r>", 100, "a hundred references"},
+    {"<r>" + many(50, "<e>&a;</e>") + "</r>", 50, "one reference in each of several elements"},
+    {"<r>&b;</r>", 3, "references in an entity"},
+    {"<r>&c;</r>", 7, "references in an entity in an entity"},
+    {"<r>&c;&b;&a;</r>", 11, "one after the other"},
+    {"<r k='&a;'/>", 1, "a reference in an attribute"},
+    {"<r k='&c;' l='&b;'/>", 10, "nested ones in attributes"},
+    {"<r k='&a;'>&a;</r>", 2, "in an attribute and a text"},
+    {"<r>&m;&m;</r>", 2, "entities that hold elements"},
+  };
+  for (auto const& [content, expansions, description] : cases)
+  {
+    std::string const text = dtd + content;
+    group.check(loads(load_of(factory, text, with_limit(expansions))), "loads with the limit of its expansions",
+      __LINE__, description);
+    group.check(loads(load_of_file(factory, text, with_limit(expansions))), "loads with the limit of its expansions",
+      __LINE__, description);
+    if (expansions == 0)
+      continue;
+    for (int const limit : {0, expansions - 1})
+    {
+      group.check(
+        fails(load_of(factory, text, with_limit(limit))), "fails with a smaller limit", __LINE__, description);
+      group.check(
+        fails(load_of_file(factory, text, with_limit(limit))), "fails with a smaller limit", __LINE__, description);
+    }
+  }
+  group.check(text_of(root_of(load_of(factory, dtd + "<r>&c;</r>").document)), APSTRING("xxxx"), "root->get_text()",
+    __LINE__, "what nested entities come to");
+  group.check(fails(load_of(factory, "<!DOCTYPE r [<!ENTITY a '&b;'><!ENTITY b '&a;'>]><r>&a;</r>")), "fails", __LINE__,
+    "entities that hold each other");
+}
+
+void axmLoadUtest::test_external_things(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmLoadUtest::test_external_things");
+  apPath const entity = unique(APSTRING("entity"), APSTRING("ent"));
+  apPath const subset = unique(APSTRING("subset"), APSTRING("dtd"));
+  axmUtestFile const entity_removed_at_the_end(entity);
+  axmUtestFile const subset_removed_at_the_end(subset);
+  axmUtestUtils::write_data(entity, "outside");
+  axmUtestUtils::write_data(subset, "<!ENTITY e 'outside'><!ATTLIST r k CDATA 'outside'>");
+  std::string const entity_name = entity.path().c_str();
+  std::string const subset_name = subset.path().c_str();
+  struct Case
+  {
+    std::string text;
+    bool needs_it;
+    char const* description;
+  };
+  Case const cases[] = {
+    {"<!DOCTYPE r [<!ENTITY e SYSTEM '" + entity_name + "'>]><r>&e;</r>", true, "an external entity"},
+    {"<!DOCTYPE r [<!ENTITY e SYSTEM '" + entity_name + "'><!ENTITY i '&e;'>]><r>&i;</r>", true,
+      "an external entity in an internal one"},
+    {"<!DOCTYPE r [<!ENTITY e SYSTEM '" + entity_name + "'>]><r/>", false, "an external entity that is not used"},
+    {"<!DOCTYPE r SYSTEM '" + subset_name + "'><r/>", false, "an external subset"},
+    {"<!DOCTYPE r PUBLIC 'p' '" + subset_name + "'><r/>", false, "an external subset with a public identifier"},
+    {"<!DOCTYPE r SYSTEM '" + subset_name + "' [<!ATTLIST r l CDATA 'inside'>]><r/>", false, "beside an internal one"},
+    {"<!DOCTYPE r [<!ENTITY % p SYSTEM '" + subset_name + "'>%p;]><r/>", false, "an external parameter entity"},
+  };
+  for (auto const& [text, needs_it, description] : cases)
+    for (Load const& load : {load_of(factory, text), load_of_file(factory, text)})
+    {
+      group.check(
+        load.is_consistent && (!needs_it || load.document == nullptr), "!document.get()", __LINE__, description);
+      apString const xml = xml_of(root_of(load.document));
+      group.check(xml.find(APSTRING("outside")) < 0, "nothing from outside is in the document", __LINE__, description);
+    }
+  axmLoadOptions resolving;
+  resolving.set_disable_entity_resolution(false);
+  group.check(text_of(root_of(load_of_file(factory, cases[1].text, resolving).document)), APSTRING("outside"),
+    "root->get_text()", __LINE__, "an external entity in an internal one, where that is allowed");
+  std::string const missing = "<!DOCTYPE r [<!ENTITY e SYSTEM './load_no_such_file.ent'>]><r>&e;</r>";
+  group.check(
+    fails(load_of_file(factory, missing, resolving)), "fails", __LINE__, "an external entity that is missing");
+}
+
+namespace
+{
+std::string utf16(std::wstring const& text, bool big)
+{
+  std::string result;
+  for (wchar_t const character : L"\uFEFF" + text)
+  {
+    auto const code = static_cast<unsigned>(character);
+    char const high = static_cast<char>(code >> 8U & 0xFFU);
+    char const low = static_cast<char>(code & 0xFFU);
+    result += big ? high : low;
+    result += big ? low : high;
+  }
+  return result;
+}
+}
+
+void axmLoadUtest::test_encodings(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmLoadUtest::test_encodings");
+  apString const promised = APSTRING("\u00E4\u0444\u20AC");
+  std::string const utf8 = "\xC3\xA4\xD1\x84\xE2\x82\xAC";
+  std::wstring const content = L"\u00E4\u0444\u20AC";
+  struct Case
+  {
+    std::string text;
+    char const* description;
+  };
+  Case const cases[] = {
+    {"<r>" + utf8 + "</r>", "UTF-8 without a declaration"},
+    {"<?xml version='1.0' encoding='UTF-8'?><r>" + utf8 + "</r>", "UTF-8 that is declared"},
+    {"<?xml version='1.0' encoding='utf-8'?><r>" + utf8 + "</r>", "in small letters"},
+    {"\xEF\xBB\xBF<r>" + utf8 + "</r>", "UTF-8 with a mark"},
+    {"\xEF\xBB\xBF<?xml version=\"1.0\" encoding=\"UTF-8\"?><r>" + utf8 + "</r>", "with a mark and a declaration"},
+    {utf16(L"<r>" + content + L"</r>", false), "UTF-16, the low byte first"},
+    {utf16(L"<r>" + content + L"</r>", true), "UTF-16, the high byte first"},
+    {utf16(L"<?xml version='1.0' encoding='UTF-16'?><r>" + content + L"</r>", false), "UTF-16 that is declared"},
+  };
+  for (auto const& [text, description] : cases)
+  {
+    Load const load = load_of(factory, text);
+    group.check(text_of(root_of(load.document)), promised, "root->get_text()", __LINE__, description);
+    apByteArray output;
+    bool const saved = load.document != nullptr && factory->saveDocument(load.document, output);
+    axmParseError error;
+    auto const copy = saved ? factory->loadDocument(output, axmLoadOptions(), error) : nullptr;
+    group.check(text_of(root_of(copy)), promised, "root->get_text(), saved and loaded", __LINE__, description);
+  }
+  // Other encodings an engine may refuse, but not mistake.
+  Load const latin = load_of(factory, "<?xml version='1.0' encoding='ISO-8859-1'?><r>\xE4</r>");
+  group.check(fails(latin) || text_of(root_of(latin.document)) == APSTRING("\u00E4"), "root->get_text()", __LINE__,
+    "ISO-8859-1 is read as that or not at all");
+  for (std::string const& text :
+    {std::string("<r>\xC3</r>"), std::string("<r>\xE4\xB8</r>"), std::string("<r>\xC0\x80</r>"),
+      std::string("<r>\xED\xA0\x80</r>"), std::string("<r>\xF5\x80\x80\x80</r>"), std::string("<r k='\xFF'/>")})
+    group.check(fails(load_of(factory, text)), "fails", __LINE__, "bytes that are not UTF-8");
+}
+
+void axmLoadUtest::test_markup(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmLoadUtest::test_markup");
+  struct Case
+  {
+    char const* text;
+    wchar_t const* shape;
+    char const* description;
+  };
+  Case const cases[] = {
+    {"<r><![CDATA[x<y>&z]]></r>", L"<r>x<y>&z", "a CDATA section"},
+    {"<r>a<![CDATA[b]]>c</r>", L"<r>abc", "a CDATA section among texts"},
+    {"<r><![CDATA[]]]]><![CDATA[>]]></r>", L"<r>]]>", "the end of a CDATA section in two"},
+    {"<r>a\r\nb\rc\nd</r>", L"<r>a\nb\nc\nd", "line ends are one character"},
+    {"<r>a&#13;b</r>", L"<r>a\rb", "but not those that are references"},
+    {"<r>a<!--b-->c<?d e?>f</r>", L"<r>a{b}c<d>f", "a comment and an instruction among texts"},
+    {"<r><a>1</a><a/><a></a></r>", L"<r><a>1<a><a>", "elements with content and without"},
+    {"<r>\xF0\x90\x90\xB7&#x10437;</r>", L"<r>\U00010437\U00010437", "characters beyond the first plane"},
+    {"<r>&#x9;x&#xA;</r>", L"<r>\tx\n", "references to white space beside a text"},
+    {"<r>\xC2\xA0</r>", L"<r>\u00A0", "a blank that is not white space of XML"},
+    {"<r>\xE2\x80\x83</r>", L"<r>\u2003", "another one"},
+    {"<r>]]&gt;</r>", L"<r>]]>", "what looks like an end"},
+    {"<r>&lt;a/&gt;</r>", L"<r><a/>", "what looks like an element"},
+    {"<!DOCTYPE r [<!ENTITY e 'x<b>y</b>z'>]><r>&e;</r>", L"<r>x<b>yz", "an entity that holds an element"},
+    {"<!DOCTYPE r [<!ENTITY e '&#38;lt;'>]><r>&e;</r>", L"<r><", "an entity that holds an escaped reference"},
+  };
+  for (auto const& [text, promised, description] : cases)
+    group.check(
+      shape(root_of(load_of(factory, text).document)), apString(promised), "shape(root)", __LINE__, description);
+  struct Value
+  {
+    char const* text;
+    wchar_t const* value;
+    char const* description;
+  };
+  Value const values[] = {
+    {"<r k='a\tb\nc'/>", L"a b c", "white space in an attribute is blanks"},
+    {"<r k='a\r\nb'/>", L"a b", "a line end in an attribute is one blank"},
+    {"<r k='&#9;&#10;&#13;'/>", L"\t\n\r", "but not what are references"},
+    {"<r k='  a  '/>", L"  a  ", "blanks at the ends of an attribute are kept"},
+    {"<r k='&lt;&gt;&amp;&quot;&apos;'/>", L"<>&\"'", "references in an attribute"},
+    {"<r k='>\"'/>", L">\"", "characters that need no reference there"},
+    {"<r k=\"'\"/>", L"'", "the other quote"},
+    {"<r k=''/>", L"", "an empty attribute"},
+    {"<!DOCTYPE r [<!ENTITY e 'x&#32;y'>]><r k='&e;'/>", L"x y", "an entity in an attribute"},
+    {"<!DOCTYPE r [<!ATTLIST r k CDATA 'given'>]><r/>", L"given", "a default that the document declares"},
+  };
+  for (auto const& [text, promised, description] : values)
+    group.check(attribute_of(root_of(load_of(factory, text).document), APSTRING("k")), apString(promised),
+      "root->getAttribute(\"k\")", __LINE__, description);
+  Document const outside = load_of(factory, "<?p q?><!--a--><r/><!--b--><?s?>").document;
+  group.check(shape(outside), APSTRING("<#document><p>{a}<r>{b}<s>"), "shape(document)", __LINE__,
+    "comments and instructions outside the root");
+  group.check(value_of(first_of(outside)), APSTRING("q"), "document->getFirstChild()->getNodeValue()", __LINE__,
+    "the content of an instruction");
+}
+
+void axmLoadUtest::test_places(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmLoadUtest::test_places");
+  struct Case
+  {
+    char const* text;
+    int line;
+    // The first and the last column that may be told.
+    int first;
+    int last;
+    char const* description;
+  };
+  Case const cases[] = {
+    {"<r></s>", 1, 1, 8, "in the first line"},
+    {"<r>\n</s>", 2, 1, 5, "a wrong end tag"},
+    {"<r>\r\n<a>\r\n</b>", 3, 1, 5, "line ends of two characters"},
+    {"<r>\n\n\n  <a b=1/>", 4, 3, 11, "a value without quotes"},
+    {"<r>\n<a b='1' b='2'/></r>", 2, 1, 17, "an attribute twice"},
+    {"<r>\n  &x;\n</r>", 2, 3, 7, "an entity that is not declared"},
+    {"<r>\n\t\t<a\n<b/></r>", 3, 1, 4, "a tag that does not end"},
+    {"<?xml version='1.0'?>\n<!-- one\ntwo -->\n<r>\n</s>", 5, 1, 5, "after a comment of two lines"},
+    {"<r>\n<![CDATA[\n\n]]>\n</s>", 5, 1, 5, "after a CDATA section"},
+    {"<!DOCTYPE r [\n<!ENTITY e 'x'>\n]>\n<r></s>", 4, 1, 8, "after a document type"},
+    {"<r k='\n\n'>\n</s>", 4, 1, 5, "after an attribute of three lines"},
+    {"<r>\xC3\xA4\xC3\xA4</s>", 1, 4, 10, "columns are characters, not bytes"},
+  };
+  for (auto const& [text, line, first, last, description] : cases)
+    for (Load const& load : {load_of(factory, text), load_of_file(factory, text)})
+    {
+      group.check(fails(load), "fails", __LINE__, description);
+      int const told = load.error.line_number();
+      group.check(told == -1 ? line : told, line, "error.line_number()", __LINE__, description);
+      int const column = load.error.column_number();
+      group.check(column == -1 || (first <= column && column <= last), "error.column_number()", __LINE__, description);
+    }
+  Load const in_memory = load_of(factory, "<r>");
+  group.check(
+    in_memory.error.url().find(APSTRING("load_file")) < 0, "error.url()", __LINE__, "what is in memory is in no file");
+  group.check(
+    fails(in_memory) && !in_memory.error.message().empty(), "!error.message().empty()", __LINE__, "and has a message");
+}
+
+namespace
+{
+std::string schema(std::string const& target, std::string const& content)
+{
+  std::string const space = target.empty() ? "" : " xmlns='" + target + "' targetNamespace='" + target + "'";
+  return "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'" + space + " elementFormDefault='qualified'>" +
+         content + "</xs:schema>";
+}
+
+char const order[] =
+  "<xs:element name='order'><xs:complexType><xs:sequence>"
+  "<xs:element name='item' maxOccurs='3'><xs:complexType><xs:simpleContent><xs:extension base='xs:token'>"
+  "<xs:attribute name='n' type='xs:positiveInteger' use='required'/><xs:attribute name='unit' type='unit'/>"
+  "</xs:extension></xs:simpleContent></xs:complexType></xs:element>"
+  "<xs:element name='sum' type='xs:decimal'/><xs:element name='note' type='xs:string' minOccurs='0'/>"
+  "</xs:sequence></xs:complexType></xs:element><xs:simpleType name='unit'><xs:restriction base='xs:string'>"
+  "<xs:enumeration value='kg'/><xs:enumeration value='m'/></xs:restriction></xs:simpleType>";
+}
+
+void axmLoadUtest::test_schemas(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmLoadUtest::test_schemas");
+  struct Case
+  {
+    char const* content;
+    bool is_valid;
+    char const* description;
+  };
+  Case const cases[] = {
+    {"<item n='1'>x</item><sum>1.5</sum>", true, "what the schema asks for"},
+    {"<item n='1'/><item n='2'/><item n='3'/><sum>0</sum><note>y</note>", true, "all that it allows"},
+    {"<item n='1' unit='kg'/><sum>-1</sum>", true, "an attribute that may be there"},
+    {" <item n=' 1 '> x  y </item>\n<sum> 1 </sum>\n", true, "blanks around values"},
+    {"<sum>1</sum>", false, "an element that is missing at the beginning"},
+    {"<item n='1'/>", false, "an element that is missing at the end"},
+    {"<item n='1'/><item n='2'/><item n='3'/><item n='4'/><sum>1</sum>", false, "one element too many"},
+    {"<item n='1'/><sum>1</sum><sum>1</sum>", false, "an element twice"},
+    {"<sum>1</sum><item n='1'/>", false, "the other order"},
+    {"<item n='1'/><sum>1</sum><other/>", false, "an element that it does not know"},
+    {"<item n='1'/><sum>1</sum>text", false, "a text where none may be"},
+    {"<item/><sum>1</sum>", false, "a required attribute that is missing"},
+    {"<item n='0'/><sum>1</sum>", false, "a value out of range"},
+    {"<item n='1' unit='g'/><sum>1</sum>", false, "a value that is not in the list"},
+    {"<item n='1' unit=''/><sum>1</sum>", false, "an empty value that is not in the list"},
+    {"<item n='1' more='x'/><sum>1</sum>", false, "an attribute that it does not know"},
+    {"<item n='1'><b/></item><sum>1</sum>", false, "an element in a simple value"},
+    {"<item n='1'/><sum>1,5</sum>", false, "a value of another form"},
+    {"<item n='1'/><sum/>", false, "a value that is empty"},
+  };
+  for (bool const has_namespace : {false, true})
+  {
+    apPath const path = unique(APSTRING("order"), APSTRING("xsd"));
+    axmUtestFile const removed_at_the_end(path);
+    axmUtestUtils::write_data(path, schema(has_namespace ? "urn:order" : "", order).c_str());
+    axmLoadOptions options(axmValidateWithSchemas);
+    if (has_namespace)
+      options.add_external_schema(APSTRING("urn:order"), path);
+    else
+      options.set_no_namespace_schema(path);
+    std::string const begin = has_namespace ? "<order xmlns='urn:order'>" : "<order>";
+    for (auto const& [content, is_valid, description] : cases)
+    {
+      std::string const text = begin + content + "</order>";
+      for (Load const& load : {load_of(factory, text, options), load_of_file(factory, text, options)})
+        group.check(is_valid ? loads(load) : fails(load), is_valid ? "loads" : "fails", __LINE__, description);
+    }
+    std::string const other = has_namespace ? "<other xmlns='urn:order'/>" : "<other/>";
+    group.check(fails(load_of(factory, other, options)), "fails", __LINE__, "a root that the schema does not declare");
+    Load const spaced = load_of(factory, begin + "<item n=' 1 '> x  y </item><sum> 1 </sum></order>", options);
+    auto const item = child_of(root_of(spaced.document), 0);
+    group.check(text_of(item), APSTRING(" x  y "), "item->get_text()", __LINE__, "validation changes no text");
+    group.check(
+      attribute_of(item, APSTRING("n")), APSTRING(" 1 "), "item->getAttribute(\"n\")", __LINE__, "and no attribute");
+  }
+}
+
+void axmLoadUtest::test_schema_sets(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmLoadUtest::test_schema_sets");
+  apPath const plain = unique(APSTRING("plain"), APSTRING("xsd"));
+  apPath const one = unique(APSTRING("one"), APSTRING("xsd"));
+  apPath const two = unique(APSTRING("two"), APSTRING("xsd"));
+  axmUtestFile const plain_removed_at_the_end(plain);
+  axmUtestFile const one_removed_at_the_end(one);
+  axmUtestFile const two_removed_at_the_end(two);
+  std::string const holder = "<xs:element name='h'><xs:complexType><xs:sequence><xs:any namespace='##any' "
+                             "processContents='strict' minOccurs='0' maxOccurs='unbounded'/></xs:sequence>"
+                             "</xs:complexType></xs:element><xs:element name='v' type='xs:int'/>";
+  axmUtestUtils::write_data(plain, schema("", holder).c_str());
+  axmUtestUtils::write_data(one, schema("urn:one", holder).c_str());
+  axmUtestUtils::write_data(two, schema("urn:two", "<xs:element name='v' type='xs:boolean'/>").c_str());
+  axmLoadOptions options(axmValidateWithSchemas);
+  options.set_no_namespace_schema(plain);
+  options.add_external_schema(APSTRING("urn:one"), one);
+  options.add_external_schema(APSTRING("urn:two"), two);
+  struct Case
+  {
+    char const* text;
+    bool is_valid;
+    char const* description;
+  };
+  Case const cases[] = {
+    {"<h><v>1</v></h>", true, "the schema for no namespace"},
+    {"<h><v>x</v></h>", false, "the schema for no namespace counts"},
+    {"<h xmlns='urn:one'><v>1</v></h>", true, "the first namespace"},
+    {"<h xmlns='urn:one'><v>true</v></h>", false, "the first namespace counts"},
+    {"<h xmlns='urn:one' xmlns:t='urn:two'><t:v>true</t:v><v>1</v></h>", true, "two namespaces in one document"},
+    {"<h xmlns='urn:one' xmlns:t='urn:two'><t:v>12</t:v><v>1</v></h>", false, "the second one counts"},
+    {"<h xmlns='urn:one' xmlns:t='urn:two'><t:v>true</t:v><v>x</v></h>", false, "and the first one beside it"},
+    {"<o:h xmlns:o='urn:one'><v>1</v><o:v>1</o:v></o:h>", true, "a namespace and none in one document"},
+    {"<o:h xmlns:o='urn:one'><v>x</v><o:v>1</o:v></o:h>", false, "what is in none counts"},
+    {"<h><h><h><h><h><v>1</v></h></h></h></h></h>", true, "far down"},
+    {"<h><h><h><h><h><v>x</v></h></h></h></h></h>", false, "what is far down counts"},
+    {"<h><v>1</v><w/></h>", false, "an element that nothing declares"},
+  };
+  for (auto const& [text, is_valid, description] : cases)
+    for (Load const& load : {load_of(factory, text, options), load_of_file(factory, text, options)})
+      group.check(is_valid ? loads(load) : fails(load), is_valid ? "loads" : "fails", __LINE__, description);
+  axmUtestUtils::write_data(plain, schema("", "<xs:element name='v' type='xs:boolean'/>").c_str());
+  group.check(
+    loads(load_of(factory, "<v>true</v>", options)), "loads", __LINE__, "a schema is read anew at every load");
+  group.check(fails(load_of(factory, "<v>12</v>", options)), "fails", __LINE__, "and the old one is forgotten");
+}
+
+void axmLoadUtest::test_saved_sizes(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmLoadUtest::test_saved_sizes");
+  apPath const path = unique(APSTRING("sizes"), APSTRING("xml"));
+  axmUtestFile const removed_at_the_end(path);
+  auto const document = factory->createDocument(APSTRING("r"));
+  auto const root = root_of(document);
+  if (!group.prerequisite(root != nullptr, "root.get()", __LINE__, "Prerequisite: create document"))
+    return;
+  int number = 0;
+  int right = 0;
+  for (int const border : {512, 1024, 4096, 8192, 16384, 65536})
+    for (int distance = -70; distance <= 2; ++distance, ++number)
+    {
+      std::wstring text(static_cast<std::size_t>(border + distance), L'x');
+      wchar_t const* const ends[] = {L"\u20AC", L"&", L"\u00E4<", L"\U00010437"};
+      text += ends[number % 4];
+      root->set_text(apString(std::wstring_view(text)));
+      apByteArray output;
+      axmParseError error;
+      // To a file now and then: it may take long until one is on the disk.
+      bool const to_file = number % 16 == 0;
+      bool const saved = to_file ? factory->saveDocument(document, path) : factory->saveDocument(document, output);
+      auto const copy = to_file ? factory->loadDocument(path, axmLoadOptions(), error)
+                                : factory->loadDocument(output, axmLoadOptions(), error);
+      right += saved && text_of(root_of(copy)).view() == text ? 1 : 0;
+    }
+  group.check(right, number, "documents that come back", __LINE__, "saved documents of every size around buffers");
+}
+
+void axmLoadUtest::test_second_saves(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmLoadUtest::test_second_saves");
+  apPath const path = unique(APSTRING("second"), APSTRING("xml"));
+  axmUtestFile const removed_at_the_end(path);
+  auto const document = load_of(factory, "<r><a>1</a><b k='v'>2</b></r>").document;
+  auto const root = root_of(document);
+  if (!group.prerequisite(root != nullptr, "root.get()", __LINE__, "Prerequisite: load document"))
+    return;
+  auto const saved_shape = [&]
+  {
+    axmParseError error;
+    bool const saved = factory->saveDocument(document, path);
+    return saved ? shape(root_of(factory->loadDocument(path, axmLoadOptions(), error))) : APSTRING("(not saved)");
+  };
+  group.check(saved_shape(), APSTRING("<r><a>1<b>2"), "shape(loaded)", __LINE__, "the first save");
+  root->set_text(APSTRING("short"));
+  group.check(saved_shape(), APSTRING("<r>short"), "shape(loaded)", __LINE__, "a second one of less");
+  append(root, created(document, APSTRING("added")));
+  group.check(saved_shape(), APSTRING("<r>short<added>"), "shape(loaded)", __LINE__, "a third one of more");
+  auto const other = factory->createDocument(APSTRING("other"));
+  group.check(other != nullptr && factory->saveDocument(other, path), "factory->saveDocument(other, path)", __LINE__,
+    "another document to the same file");
+  group.check(saved_shape(), APSTRING("<r>short<added>"), "shape(loaded)", __LINE__, "and the first one again");
+  apString const xml = xml_of(document);
+  apByteArray one;
+  apByteArray another;
+  group.check(factory->saveDocument(document, one) && factory->saveDocument(document, another) && one == another,
+    "one == another", __LINE__, "two saves of one document are equal");
+  group.check(xml_of(document), xml, "document->get_xml()", __LINE__, "and change nothing");
+  group.check(xml.find(APSTRING("<?xml ")), 0, "document->get_xml()", __LINE__,
+    "the XML of a document begins with its declaration");
+}
+
+void axmLoadUtest::test_refused_saves(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmLoadUtest::test_refused_saves");
+  apPath const path = unique(APSTRING("refused"), APSTRING("xml"));
+  axmUtestFile const removed_at_the_end(path);
+  auto const refuses = [&](Document const& document)
+  {
+    axmUtestUtils::write_data(path, "<before/>");
+    apByteArray output = bytes_of("before");
+    axmParseError error;
+    return document != nullptr && !factory->saveDocument(document, path) && !factory->saveDocument(document, output) &&
+           output == bytes_of("before") &&
+           name_of(root_of(factory->loadDocument(path, axmLoadOptions(), error))) == APSTRING("before");
+  };
+  for (wchar_t const* const text : {L"\x01", L"a\x08", L"\x0B", L"\x0C", L"\x1F", L"\uFFFE", L"\uFFFF"})
+  {
+    auto const in_text = factory->createDocument(APSTRING("r"));
+    append(root_of(in_text), in_text != nullptr ? in_text->createTextNode(text) : nullptr);
+    group.check(refuses(in_text), "refuses(document)", __LINE__, "a text that no document holds");
+    auto const in_attribute = load_of(factory, "<r><a><b/></a></r>").document;
+    auto const inner = std::dynamic_pointer_cast<axmElement>(first_of(first_of(root_of(in_attribute))));
+    if (inner != nullptr)
+      inner->setAttribute(APSTRING("k"), text);
+    group.check(refuses(in_attribute), "refuses(document)", __LINE__, "an attribute that no document holds");
+  }
+  for (wchar_t const* const text : {L"--", L"a--b", L"a-", L"-", L"\x01"})
+  {
+    auto const document = factory->createDocument(APSTRING("r"));
+    append(root_of(document), document != nullptr ? document->createComment(text) : nullptr);
+    group.check(refuses(document), "refuses(document)", __LINE__, "a comment that no document holds");
+  }
+  auto const rootless = factory->createDocument(APSTRING("r"));
+  remove(rootless, root_of(rootless));
+  group.check(refuses(rootless), "refuses(document)", __LINE__, "a document without a root");
+  apByteArray output = bytes_of("before");
+  group.check(!factory->saveDocument(nullptr, output) && output == bytes_of("before"),
+    "!factory->saveDocument(nullptr, output)", __LINE__, "no document");
+  group.check(!factory->saveDocument(nullptr, path), "!factory->saveDocument(nullptr, path)", __LINE__, "no document");
+  auto const document = factory->createDocument(APSTRING("r"));
+  group.check(!factory->saveDocument(document, apPath()), "!factory->saveDocument(document, apPath())", __LINE__,
+    "a path that names nothing");
+  apPath const full("/dev/full");
+  group.check(!full.exists() || !factory->saveDocument(document, full), "!factory->saveDocument(document, full)",
+    __LINE__, "a device that takes nothing, where the system has one");
+}
