@@ -328,7 +328,7 @@ axsParticleRestriction::Answer axsParticleRestriction::open_task(View const& res
   bool const is_whole = restricted.element == nullptr && base.element == nullptr;
   if (is_whole && found != known.end())
     return answer(found->second);
-  Task task{restricted, base, rule, parts_of(restricted), {}, {}};
+  Task task{restricted, base, rule, parts_of(restricted), {}, {}, 0, 0, false, {}, false};
   if (rule == Rule::each_in_wildcard)
     for (View& part : task.parts)
       part.is_counted = false;
@@ -336,6 +336,10 @@ axsParticleRestriction::Answer axsParticleRestriction::open_task(View const& res
   {
     task.base_parts = parts_of(base);
     task.is_used.assign(task.base_parts.size(), 0);
+    if (rule == Rule::map_and_sum || rule == Rule::recurse_unordered)
+      for (std::size_t i = 0; i < task.base_parts.size(); ++i)
+        if (View const& part = task.base_parts[i]; part.kind == Kind::element)
+          task.names.emplace(axsSchemaNameView{part.element->name.name_space, part.element->name.local}, i);
   }
   tasks.push_back(std::move(task));
   return Answer::open;
@@ -352,13 +356,35 @@ axsParticleRestriction::Answer axsParticleRestriction::next_pair(Task& task, Vie
   base = task.base;
   if (task.rule == Rule::each_in_wildcard)
     return Answer::open;
-  while (
-    task.rule == Rule::recurse_unordered && task.base_at < task.base_parts.size() && task.is_used[task.base_at] != 0)
+  bool const is_by_name = restricted.kind == Kind::element && !task.names.empty();
+  if (is_by_name && !task.has_looked_by_name && find_by_name(task, restricted))
+  {
+    base = task.base_parts[task.base_at];
+    return Answer::open;
+  }
+  auto const is_passed_over = [&](std::size_t part)
+  {
+    return (is_by_name && task.base_parts[part].kind == Kind::element) ||
+           (task.rule == Rule::recurse_unordered && task.is_used[part] != 0);
+  };
+  while (task.base_at < task.base_parts.size() && is_passed_over(task.base_at))
     ++task.base_at;
   if (task.base_at == task.base_parts.size())
     return Answer::no;
   base = task.base_parts[task.base_at];
   return Answer::open;
+}
+
+// Elements of other names need no look. Whether there is one of its name that is free; it is the next one to look at.
+bool axsParticleRestriction::find_by_name(Task& task, View const& restricted)
+{
+  task.has_looked_by_name = true;
+  axsSchemaName const& name = restricted.element->name;
+  auto const found = task.names.find({name.name_space, name.local});
+  bool const is_free =
+    found != task.names.end() && (task.rule == Rule::map_and_sum || task.is_used[found->second] == 0);
+  task.base_at = is_free ? found->second : 0;
+  return is_free;
 }
 
 // What is left over of the base must be emptiable (cos-group-emptiable), but for a choice.
@@ -381,11 +407,14 @@ void axsParticleRestriction::take(Task& task, bool fits)
     ++task.at;
     bool const is_in_order = task.rule == Rule::recurse || task.rule == Rule::recurse_lax;
     task.base_at = is_in_order ? task.base_at + 1 : 0;
+    task.has_looked_by_name = false;
     return;
   }
   task.has_failed = task.rule == Rule::each_in_wildcard ||
                     (task.rule == Rule::recurse && total_range(task.base_parts[task.base_at]).min != 0);
-  ++task.base_at;
+  bool const was_by_name = !task.names.empty() && task.parts[task.at].kind == Kind::element &&
+                           task.base_parts[task.base_at].kind == Kind::element;
+  task.base_at = was_by_name ? 0 : task.base_at + 1;
 }
 
 // rcase-NameAndTypeOK, but for the numbers of occurrences

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "axsParticle.h"
+#include "axsSchemaNameTable.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -72,6 +73,9 @@ private:
     std::size_t at = 0;
     std::size_t base_at = 0;
     bool has_failed = false;
+    // By rules that do not go by the order: where the base has elements of a name, and whether that was looked at.
+    axsSchemaNameTable<std::size_t> names;
+    bool has_looked_by_name = false;
   };
 
   enum class Answer : unsigned char
@@ -106,6 +110,7 @@ private:
   Answer open_task(View const& restricted, View const& base, Rule rule);
   Answer next_pair(Task& task, View& restricted, View& base);
   Answer end_of(Task const& task);
+  static bool find_by_name(Task& task, View const& restricted);
   void take(Task& task, bool fits);
   bool is_element_right(View const& restricted, View const& base) const;
 

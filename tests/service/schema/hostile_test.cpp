@@ -120,6 +120,21 @@ TEST(hostile_schemas, contents_are_wide)
   EXPECT_EQ(error_of_schema(in_type(repeated(50000, attribute))), "");
 }
 
+TEST(hostile_schemas, a_wide_sequence_restricts_a_wide_choice)
+{
+  auto const element = [](int i) { return "<xs:element name='e" + number(i) + "'/>\n"; };
+  auto const turned = [&](int i) { return element(2 * many - 1 - i); };
+  auto const types = [&](std::string const& more)
+  {
+    return "<xs:complexType name='b'><xs:choice maxOccurs='unbounded'>" + repeated(2 * many, element) +
+           "</xs:choice></xs:complexType><xs:complexType name='d'><xs:complexContent><xs:restriction base='b'>"
+           "<xs:sequence>" +
+           repeated(2 * many, turned) + more + "</xs:sequence></xs:restriction></xs:complexContent></xs:complexType>";
+  };
+  EXPECT_EQ(error_of_schema(types("")), "");
+  EXPECT_NE(error_of_schema(types("<xs:element name='other'/>")), "");
+}
+
 TEST(hostile_schemas, substitution_groups_are_wide_and_long)
 {
   std::string const use = in_type("<xs:sequence><xs:element ref='e0' maxOccurs='unbounded'/></xs:sequence>");
