@@ -92,7 +92,7 @@ bool axsPatternParser::parse(axsPatternTree& into)
       return false;
   if (groups.size() > 1)
     return fail(groups.back().place, "there is no ')' for this '('");
-  tree->root = end_expression();
+  tree->set_root(end_expression());
   return true;
 }
 
@@ -457,9 +457,9 @@ bool axsPatternParser::find_set_escape(char32_t letter, axsCharacterSet& set)
 
 axsPatternParser::Index axsPatternParser::number_of(axsCharacterSet const& set)
 {
-  auto const [place, is_new] = numbers.emplace(set, static_cast<Index>(tree->sets.size()));
+  auto const [place, is_new] = numbers.emplace(set, Tree::none);
   if (is_new)
-    tree->sets.push_back(set);
+    place->second = tree->add_characters(set);
   return place->second;
 }
 

@@ -7,7 +7,7 @@
 
 std::unique_ptr<axsPatternProgram const> axsPatternProgram::build(axsPatternTree&& tree, axsPattern::Fault& fault)
 {
-  axsPatternTree::Node const& root = tree[tree.root];
+  axsPatternTree::Node const& root = tree[tree.root()];
   bool const counts = root.cost > max_written_out;
   if (counts && root.counted_cost > max_instructions)
   {
@@ -15,7 +15,7 @@ std::unique_ptr<axsPatternProgram const> axsPatternProgram::build(axsPatternTree
     fault.text = "its quantifiers multiply to more than " + std::to_string(max_instructions) + " parts";
     return nullptr;
   }
-  std::unique_ptr<axsPatternProgram> program(new axsPatternProgram(std::move(tree.sets)));
+  std::unique_ptr<axsPatternProgram> program(new axsPatternProgram(tree.take_characters()));
   axsPatternWriter(*program, tree, counts).write();
   return program;
 }

@@ -26,7 +26,7 @@ public:
   std::size_t memory_taken() const noexcept { return memory; }
 
   /// What states may take together, in bytes, apart from the newest one.
-  static constexpr std::size_t max_memory = 512 * 1024;
+  static constexpr std::size_t max_memory = 524288;
 
 private:
   using Index = axsPatternProgram::Index;

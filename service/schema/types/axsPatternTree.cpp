@@ -43,6 +43,12 @@ axsPatternTree::Index axsPatternTree::add(Node const& node)
   return static_cast<Index>(nodes.size() - 1);
 }
 
+axsPatternTree::Index axsPatternTree::add_characters(axsCharacterSet const& set)
+{
+  sets.push_back(set);
+  return static_cast<Index>(sets.size() - 1);
+}
+
 axsPatternTree::Index axsPatternTree::add_empty()
 {
   return add(Node());

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <utility>
 #include <vector>
 
 /// A regular expression as its parts, which lie in one array and refer to each other by number, parts before what is made of
@@ -54,8 +55,15 @@ public:
 
   Node const& operator[](Index index) const noexcept { return nodes[index]; }
 
-  std::vector<axsCharacterSet> sets;
-  Index root = none;
+  /// Adds a set of characters, and returns its number.
+  Index add_characters(axsCharacterSet const& set);
+
+  /// The sets by their numbers, which are moved out.
+  std::vector<axsCharacterSet> take_characters() noexcept { return std::move(sets); }
+
+  /// The part that is the whole expression.
+  Index root() const noexcept { return whole; }
+  void set_root(Index node) noexcept { whole = node; }
 
 private:
   Index add(Node const& node);
@@ -63,4 +71,6 @@ private:
   static void set_costs(Node& repeat, Node const& part) noexcept;
 
   std::vector<Node> nodes;
+  std::vector<axsCharacterSet> sets;
+  Index whole = none;
 };

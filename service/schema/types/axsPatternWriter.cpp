@@ -8,7 +8,7 @@ using Operation = axsPatternProgram::Operation;
 void axsPatternWriter::write()
 {
   Index const match = program.add(axsPatternProgram::Instruction());
-  push(tree.root, match, counts);
+  push(tree.root(), match, counts);
   while (!tasks.empty())
     step();
   program.first = result;
