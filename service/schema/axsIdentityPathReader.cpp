@@ -20,10 +20,8 @@ bool is_name_byte(char c)
 }
 }
 
-axsIdentityPathReader::axsIdentityPathReader(
-  axsSchemaContext& shared, axsSchemaUnit const& of, axsSchemaElement const& read)
+axsIdentityPathReader::axsIdentityPathReader(axsSchemaContext& shared, axsSchemaElement const& read)
   : context(shared),
-    unit(of),
     element(read),
     is_field(read.tag == axsSchemaTag::field),
     text(read.value(axsSchemaField::xpath))

@@ -9,7 +9,7 @@
 class axsIdentityPathReader
 {
 public:
-  axsIdentityPathReader(axsSchemaContext& shared, axsSchemaUnit const& of, axsSchemaElement const& element);
+  axsIdentityPathReader(axsSchemaContext& shared, axsSchemaElement const& element);
 
   /// The path of the attribute `xpath`; what is wrong is told of.
   axsIdentityPath read();
@@ -25,7 +25,6 @@ private:
   void skip_space();
 
   axsSchemaContext& context;
-  axsSchemaUnit const& unit;
   axsSchemaElement const& element;
   bool is_field;
   std::string_view text;

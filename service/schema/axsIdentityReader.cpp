@@ -26,9 +26,9 @@ axsIdentityConstraint const* axsIdentityReader::make(axsSchemaUnit const& unit, 
                                                : Category::unique;
   for (axsSchemaElement const* child = element.first_child; child != nullptr; child = child->next)
     if (child->tag == Tag::selector)
-      made.selector = axsIdentityPathReader(context, unit, *child).read();
+      made.selector = axsIdentityPathReader(context, *child).read();
     else if (child->tag == Tag::field)
-      made.fields.push_back(axsIdentityPathReader(context, unit, *child).read());
+      made.fields.push_back(axsIdentityPathReader(context, *child).read());
   if (made.category == Category::keyref)
     references.push_back({&made, &unit, &element});
   return &made;
