@@ -68,6 +68,9 @@ public:
   /// Those that are less than a space or no ASCII.
   Found is_control_or_non_ascii() const noexcept { return Found((~((bytes & low) + each * 0x60) | bytes) & high); }
 
+  /// Those that are zero or no ASCII.
+  Found is_zero_or_non_ascii() const noexcept { return Found((~((bytes & low) + low) | bytes) & high); }
+
 private:
   static constexpr std::uint64_t each = 0x0101010101010101;
   static constexpr std::uint64_t low = each * 0x7F;
@@ -118,6 +121,7 @@ public:
 
   // Compared as signed numbers, what is no ASCII is less than 0.
   Found is_control_or_non_ascii() const noexcept { return Found(_mm_cmplt_epi8(bytes, _mm_set1_epi8(0x20))); }
+  Found is_zero_or_non_ascii() const noexcept { return Found(_mm_cmplt_epi8(bytes, _mm_set1_epi8(1))); }
 
 private:
   __m128i bytes;

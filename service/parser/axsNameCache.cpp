@@ -19,6 +19,16 @@ axsNameCache::axsNameCache(axsNames& all) : asked(all), empty(&prefix({})), entr
 
 axsReadName& axsNameCache::find(std::string_view text)
 {
+  axsReadName& found = look_up(text);
+  if (last != nullptr)
+    last->following = &found;
+  last = &found;
+  next = found.following;
+  return found;
+}
+
+axsReadName& axsNameCache::look_up(std::string_view text)
+{
   std::uint64_t const hash = hash_of(text);
   std::size_t const mask = entries.size() - 1;
   for (std::size_t at = hash & mask;; at = (at + 1) & mask)
@@ -40,7 +50,7 @@ axsPrefix const* axsNameCache::find_prefix(std::string_view text) const
 axsReadName& axsNameCache::add(Entry& entry, std::uint64_t hash, std::string_view text)
 {
   axsName const& name = asked.name(text);
-  axsReadName made{&name, nullptr, nullptr, true};
+  axsReadName made(name, name.utf8());
   if (name.local().size() != name.utf8().size())
   {
     made.prefix = &prefix(name.prefix());

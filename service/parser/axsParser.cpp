@@ -243,12 +243,11 @@ void axsParser::content()
 // 3.1, [40] STag, [44] EmptyElemTag
 void axsParser::start_tag()
 {
-  char const* const begin = in.at + 1;
-  char const* p = begin;
-  if (!skip_name(p))
+  char const* p = in.at + 1;
+  axsReadName const* const read = read_name(p);
+  if (read == nullptr)
     in.unexpected(p, axsMessages::element_name);
-  in.need(p);
-  axsReadName const& name = names.find(between(begin, p));
+  axsReadName const& name = *read;
   ++elements;
   attributes.clear();
   made.clear();
@@ -261,8 +260,9 @@ void axsParser::start_tag()
       read_attribute(p, name);
   }
   bool const is_empty = *p == '/';
-  if (!skip(p, is_empty ? "/>" : ">"))
+  if (is_empty && p[1] != '>')
     fail_start_tag(p, name);
+  p += is_empty ? 2 : 1;
   if (!made.empty())
     place_made_values();
   if (in.is_internal())
@@ -281,6 +281,18 @@ void axsParser::start_tag()
   in.at = p;
 }
 
+// Null where there is none.
+axsReadName* axsParser::read_name(char const*& p)
+{
+  if (axsReadName* const expected = names.expected(p))
+    return expected;
+  char const* const begin = p;
+  if (!skip_name(p))
+    return nullptr;
+  in.need(p);
+  return &names.find(between(begin, p));
+}
+
 void axsParser::fail_start_tag(char const* p, axsReadName const& name) const
 {
   bool const is_attribute = !attributes.empty() && behind_name(p) != p;
@@ -293,11 +305,11 @@ void axsParser::fail_start_tag(char const* p, axsReadName const& name) const
 void axsParser::read_attribute(char const*& p, axsReadName const& element)
 {
   char const* const begin = p;
-  if (!skip_name(p))
+  axsReadName* const read = read_name(p);
+  if (read == nullptr)
     in.unexpected(p, "the start tag of " + axsMessages::quoted(element.name->utf8()) +
                        " is not ended: '>', '/>' or an attribute is expected");
-  in.need(p);
-  axsReadName& name = names.find(between(begin, p));
+  axsReadName& name = *read;
   in.skip_spaces(p);
   if (!skip_character(p, '='))
     in.unexpected(p, axsMessages::attribute_equals);
@@ -307,7 +319,7 @@ void axsParser::read_attribute(char const*& p, axsReadName const& element)
                  axsMessages::quoted(element.name->utf8()));
   name.last_element = elements;
   in.skip_spaces(p);
-  std::string_view value = values.read(p, name.name->utf8());
+  std::string_view value = values.read(p, name.text);
   axsAttributeType type = axsAttributeType::cdata;
   if (element.attributes != nullptr)
   {
@@ -343,9 +355,11 @@ void axsParser::tell_start(axsReadName const& name)
 void axsParser::end_tag()
 {
   OpenElement const& element = open.back();
-  std::string_view const name = element.name->name->utf8();
+  std::string_view const name = element.name->text;
   char const* p = in.at + 2;
-  if (static_cast<std::size_t>(in.end() - p) < name.size() || std::memcmp(p, name.data(), name.size()) != 0)
+  bool const is_right = element.name->stands_at(p) || (static_cast<std::size_t>(in.end() - p) >= name.size() &&
+                                                        std::memcmp(p, name.data(), name.size()) == 0);
+  if (!is_right)
     fail_end_tag(p);
   p += name.size();
   if (*p != '>')

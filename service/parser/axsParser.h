@@ -107,6 +107,7 @@ private:
   void document_type();
   void content();
   void start_tag();
+  axsReadName* read_name(char const*& p);
   void read_attribute(char const*& p, axsReadName const& element);
   void place_made_values();
   void tell_start(axsReadName const& name);

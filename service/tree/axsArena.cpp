@@ -6,18 +6,6 @@
 #include <cstdlib>
 #include <utility>
 
-#if defined(__has_feature)
-#  if __has_feature(address_sanitizer)
-#    define AXS_ADDRESS_SANITIZER
-#  endif
-#endif
-#if defined(__SANITIZE_ADDRESS__) || defined(AXS_ADDRESS_SANITIZER)
-#  include <sanitizer/asan_interface.h>
-#else
-#  define ASAN_POISON_MEMORY_REGION(address, size) static_cast<void>(0)
-#  define ASAN_UNPOISON_MEMORY_REGION(address, size) static_cast<void>(0)
-#endif
-
 namespace
 {
 std::size_t const max_pages = 256;
@@ -56,41 +44,32 @@ axsArena::~axsArena()
   {
     Page* const page = newest;
     newest = page->older;
-    ASAN_UNPOISON_MEMORY_REGION(page, page->pages * page_size);
+    axsPoison::remove(page, page->pages * page_size);
     ::operator delete(page, alignment_of(page->pages * page_size));
   }
   while (large != nullptr)
     std::free(std::exchange(large, large->next));
 }
 
-void* axsArena::allocate(std::size_t size)
+void* axsArena::allocate_elsewhere(std::size_t size)
 {
   if (size > small_limit)
     return allocate_large(size);
 
-  std::size_t const units = std::max<std::size_t>((size + granule - 1) / granule, 1);
+  std::size_t const units = units_for(size);
+  std::size_t const bytes = units * granule;
   if (FreeBlock* const block = free_blocks[units])
   {
-    ASAN_UNPOISON_MEMORY_REGION(block, units * granule);
+    axsPoison::remove(block, bytes);
     free_blocks[units] = block->next;
     return block;
   }
-  std::size_t const bytes = units * granule;
   if (rest.left() >= bytes)
     return rest.take(bytes);
-  if (room.left() < bytes)
-  {
-    if (untouched == untouched_end)
-      add_pages();
-    next_page();
-  }
+  if (untouched == untouched_end)
+    add_pages();
+  next_page();
   return room.take(bytes);
-}
-
-void* axsArena::Room::take(std::size_t size) noexcept
-{
-  ASAN_UNPOISON_MEMORY_REGION(begin, size);
-  return std::exchange(begin, begin + size);
 }
 
 void axsArena::release(void* block, std::size_t size) noexcept
@@ -98,9 +77,9 @@ void axsArena::release(void* block, std::size_t size) noexcept
   if (size > small_limit)
     return release_large(block);
 
-  std::size_t const units = std::max<std::size_t>((size + granule - 1) / granule, 1);
+  std::size_t const units = units_for(size);
   free_blocks[units] = new (block) FreeBlock{free_blocks[units]};
-  ASAN_POISON_MEMORY_REGION(block, units * granule);
+  axsPoison::add(block, units * granule);
 }
 
 void* axsArena::allocate_large(std::size_t size)
@@ -148,5 +127,5 @@ void axsArena::next_page() noexcept
     new (untouched) Page{tree, nullptr, 0};
   room = {untouched + rounded(sizeof(Page), granule), untouched + page_size};
   untouched = room.end;
-  ASAN_POISON_MEMORY_REGION(room.begin, room.left());
+  axsPoison::add(room.begin, room.left());
 }

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "axsPoison.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <new>
+#include <utility>
 
 class axsTree;
 
@@ -23,7 +26,13 @@ public:
   ~axsArena();
 
   /// A block for `size` bytes, aligned for pointers. Throws std::bad_alloc when memory runs out.
-  void* allocate(std::size_t size);
+  void* allocate(std::size_t size)
+  {
+    // Most blocks of a document that is read come one after the other.
+    std::size_t const bytes = units_for(size) * granule;
+    bool const is_next = size <= small_limit && free_blocks[bytes / granule] == nullptr && rest.left() < bytes;
+    return is_next && room.left() >= bytes ? room.take(bytes) : allocate_elsewhere(size);
+  }
 
   /// Takes back the block at `block`, which was allocated for `size` bytes.
   void release(void* block, std::size_t size) noexcept;
@@ -53,7 +62,12 @@ private:
   struct Room
   {
     std::size_t left() const noexcept { return static_cast<std::size_t>(end - begin); }
-    void* take(std::size_t size) noexcept;
+
+    void* take(std::size_t size) noexcept
+    {
+      axsPoison::remove(begin, size);
+      return std::exchange(begin, begin + size);
+    }
 
     char* begin = nullptr;
     char* end = nullptr;
@@ -64,7 +78,9 @@ private:
   // Pages lie at multiples of their size, so that a node finds its document without a pointer of its own.
   static constexpr std::size_t page_size = 16 * 1024;
 
+  static std::size_t units_for(std::size_t size) noexcept { return size == 0 ? 1 : (size + granule - 1) / granule; }
   static std::align_val_t alignment_of(std::size_t size) noexcept;
+  void* allocate_elsewhere(std::size_t size);
   void* allocate_large(std::size_t size);
   void release_large(void* block) noexcept;
   void add_pages();

@@ -124,7 +124,7 @@ Leaf* axsTree::make_leaf(std::string_view text, Arguments&&... arguments)
   auto* const leaf = new (block) Leaf(static_cast<std::uint8_t>(units), std::forward<Arguments>(arguments)...);
   try
   {
-    static_cast<axsLeaf*>(leaf)->set_text(text);
+    static_cast<axsLeaf*>(leaf)->set_first_text(text);
   }
   catch (...)
   {

@@ -63,6 +63,12 @@ TYPED_TEST(apByteBlock_, finds_controls_and_what_is_no_ascii)
     [](TypeParam const& block) { return block.is_control_or_non_ascii(); }, is_control_or_non_ascii);
 }
 
+TYPED_TEST(apByteBlock_, finds_zeros_and_what_is_no_ascii)
+{
+  expect_everywhere<TypeParam>([](TypeParam const& block) { return block.is_zero_or_non_ascii(); },
+    [](char c) { return c == '\0' || static_cast<unsigned char>(c) >= 0x80; });
+}
+
 TYPED_TEST(apByteBlock_, finds_some_without_others)
 {
   expect_everywhere<TypeParam>([](TypeParam const& block)

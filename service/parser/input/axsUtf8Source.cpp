@@ -3,16 +3,17 @@
 #include "axsDecoder.h"
 #include "axsSource.h"
 
+#include <apByteBlock.h>
 #include <apStringFormatter.h>
 #include <utUtf8.h>
 
 #include <algorithm>
-#include <cstring>
 #include <string_view>
 
 namespace
 {
 std::size_t const usual_piece = 32768;
+wchar_t const* const zero_byte = L"A zero byte stands in the document";
 
 std::unique_ptr<axsDecoder> make_decoder(std::string const& name)
 {
@@ -20,12 +21,32 @@ std::unique_ptr<axsDecoder> make_decoder(std::string const& name)
   return is_utf8 ? nullptr : axsDecoder::make(name);
 }
 
-// How many bytes at the beginning are whole characters.
-std::size_t size_of_valid(std::string_view text, bool is_ascii)
+// The first byte from `at` on that is zero or no ASCII.
+char const* end_of_ascii(char const* at, char const* end)
 {
-  if (is_ascii)
-    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), utUtf8::is_ascii) - text.begin());
-  return std::min(utUtf8::find_ill_formed(text), text.size());
+  auto const size = static_cast<std::ptrdiff_t>(apByteBlock::size);
+  for (; end - at >= size; at += size)
+    if (auto const found = apByteBlock(at).is_zero_or_non_ascii(); found.any())
+      return at + found.first();
+  return std::find_if_not(at, end, [](char c) { return c != '\0' && utUtf8::is_ascii(c); });
+}
+
+// How many bytes at the beginning are whole characters, and no zero bytes.
+std::size_t size_of_text(std::string_view bytes, bool is_ascii)
+{
+  char const* const begin = bytes.data();
+  char const* const end = begin + bytes.size();
+  char const* at = end_of_ascii(begin, end);
+  while (at != end && *at != '\0' && !is_ascii)
+  {
+    utCodePoint const character = utUtf8::decode(at, end);
+    if (!character.is_valid())
+      break;
+    at += character.length;
+    if (at != end && utUtf8::is_ascii(*at))
+      at = end_of_ascii(at, end);
+  }
+  return static_cast<std::size_t>(at - begin);
 }
 
 bool may_go_on(std::string_view part)
@@ -67,12 +88,13 @@ std::size_t axsUtf8Source::read_utf8(char* to, std::size_t room)
     std::size_t const count = source.read(to + before, room - before);
     at_end = count == 0;
     std::string_view const text(to, before + count);
-    std::size_t const valid = size_of_valid(text, found.name == "US-ASCII");
-    std::string_view const part = text.substr(valid);
+    std::size_t const size = size_of_text(text, found.name == "US-ASCII");
+    std::string_view const part = text.substr(size);
     bool const goes_on = !part.empty() && !at_end && may_go_on(part);
     rest.assign(part.begin(), goes_on ? part.end() : part.begin());
-    std::size_t const size = up_to_zero(to, valid);
-    if (wrong.empty() && !part.empty() && !goes_on)
+    if (!part.empty() && part[0] == '\0')
+      wrong = apString(zero_byte);
+    else if (!part.empty() && !goes_on)
       stop_at(part[0]);
     if (size > 0 || !wrong.empty())
       return size;
@@ -92,8 +114,10 @@ std::size_t axsUtf8Source::read_decoded(char* to, std::size_t room)
     now.made += made.made;
     // No converter may keep us waiting at the end.
     bool const is_stuck = made.taken + made.made == 0 && at_end && !bytes.empty();
-    std::size_t const size = up_to_zero(to, made.made);
-    if (wrong.empty() && (made.is_illegal || is_stuck))
+    std::size_t const size = std::min(std::string_view(to, made.made).find('\0'), made.made);
+    if (size < made.made)
+      wrong = apString(zero_byte);
+    else if (made.is_illegal || is_stuck)
       stop_at(bytes[made.taken]);
     if (size > 0 || !wrong.empty() || (at_end && made.taken == bytes.size()))
       return size;
@@ -151,16 +175,6 @@ void axsUtf8Source::fill()
   std::size_t const count = source.read(rest.data() + before, usual_piece);
   rest.resize(before + count);
   at_end = count == 0;
-}
-
-// What comes before the first zero byte.
-std::size_t axsUtf8Source::up_to_zero(char const* text, std::size_t size)
-{
-  void const* const zero = size == 0 ? nullptr : std::memchr(text, '\0', size);
-  if (zero == nullptr)
-    return size;
-  wrong = APSTRING("A zero byte stands in the document");
-  return static_cast<std::size_t>(static_cast<char const*>(zero) - text);
 }
 
 void axsUtf8Source::stop_at(char byte)

@@ -43,7 +43,6 @@ public:
 private:
   std::size_t read_utf8(char* to, std::size_t room);
   std::size_t read_decoded(char* to, std::size_t room);
-  std::size_t up_to_zero(char const* text, std::size_t size);
   void fill();
   void note_place();
   void skip(std::uint64_t bytes);

@@ -4,6 +4,8 @@
 #include "axsNameTable.h"
 #include "axsNames.h"
 
+#include <apByteBlock.h>
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -83,4 +85,70 @@ TEST(axsNameCache, knows_what_namespaces_make_of_a_name)
   EXPECT_TRUE(cache.find("xmlns:a").prefix->bound.empty());
   for (char const* const text : {":a", "a:", "a:b:c", ":", "a::b", "a:1", "a:-"})
     EXPECT_FALSE(cache.find(text).is_qualified) << text;
+}
+
+namespace
+{
+// What a document has from a name on, with what may be read after its end.
+std::string padded(std::string const& text)
+{
+  return text + std::string(1 + apByteBlock::size, '\0');
+}
+
+// How many bytes of `text` the expected name takes, after "first" and then `name` have been read twice; -1 if none.
+int expected_in(std::string const& name, std::string const& text)
+{
+  Names names;
+  axsNameCache cache(names);
+  cache.find("first");
+  axsReadName const& following = cache.find(name);
+  cache.find("first");
+  std::string const bytes = padded(text);
+  char const* p = bytes.data();
+  axsReadName const* const found = cache.expected(p);
+  EXPECT_EQ(found == nullptr, p == bytes.data());
+  EXPECT_TRUE(found == nullptr || found == &following);
+  return found == nullptr ? -1 : static_cast<int>(p - bytes.data());
+}
+}
+
+TEST(axsNameCache, expects_the_name_that_followed_before)
+{
+  std::string const long_name = "a:name-of_more.than_16_bytes";
+  for (std::size_t length = 3; length <= long_name.size(); ++length)
+  {
+    std::string const name = long_name.substr(0, length);
+    for (char const* const after : {" ", "=", ">", "/>", "\n", "?", "<"})
+      EXPECT_EQ(expected_in(name, name + after), static_cast<int>(length)) << name << after;
+    // A longer name, the end of what is in memory, a letter beyond ASCII.
+    for (char const* const after : {"x=", ":=", "-=", "", "\xC3\xA4="})
+      EXPECT_EQ(expected_in(name, name + after), -1) << name << after;
+    for (std::size_t place = 0; place < length; ++place)
+    {
+      std::string other = name + "=";
+      other[place] = 'X';
+      EXPECT_EQ(expected_in(name, other), -1) << other;
+      EXPECT_EQ(expected_in(name, name.substr(0, place)), -1);
+    }
+  }
+  EXPECT_EQ(expected_in("n\xC3\xA4me", "n\xC3\xA4me="), 5);
+}
+
+TEST(axsNameCache, expects_nothing_at_first_and_learns_another_order)
+{
+  Names names;
+  axsNameCache cache(names);
+  std::string const bytes = padded("a=");
+  char const* p = bytes.data();
+  EXPECT_EQ(cache.expected(p), nullptr);
+  axsReadName const& a = cache.find("a");
+  cache.find("b");
+  EXPECT_EQ(cache.expected(p), nullptr);
+  cache.find("a");
+  EXPECT_EQ(cache.expected(p), nullptr);
+  cache.find("b");
+  EXPECT_EQ(cache.expected(p), &a);
+  p = bytes.data();
+  // Now b follows a, and a follows b.
+  EXPECT_EQ(cache.expected(p), nullptr);
 }
