@@ -329,7 +329,12 @@ void axsParser::read_attribute(char const*& p, axsReadName const& element)
   }
   if (values.is_made(value))
     made.emplace_back(attributes.size(), static_cast<std::size_t>(value.data() - values.made().data()));
-  attributes.push_back({&name, value, begin, type});
+  // Put together in its place: what is written in parts and read as a whole at once keeps the processor waiting.
+  axsReadAttribute& attribute = attributes.emplace_back();
+  attribute.name = &name;
+  attribute.value = value;
+  attribute.at = begin;
+  attribute.type = type;
 }
 
 // What was made has moved while more of it was.
@@ -346,8 +351,15 @@ void axsParser::tell_start(axsReadName const& name)
 {
   tag_attributes.clear();
   for (axsReadAttribute const& attribute : attributes)
-    tag_attributes.push_back({attribute.name->name, namespaces.of_attribute(*attribute.name), attribute.value,
-      attribute.type, attribute.at != nullptr, attribute.name->declared != nullptr});
+  {
+    axsTagAttribute& told = tag_attributes.emplace_back();
+    told.name = attribute.name->name;
+    told.name_space = namespaces.of_attribute(*attribute.name);
+    told.value = attribute.value;
+    told.type = attribute.type;
+    told.is_specified = attribute.at != nullptr;
+    told.is_declaration = attribute.name->declared != nullptr;
+  }
   events.start_element({name.name, namespaces.of_element(name), &tag_attributes, &namespaces});
 }
 

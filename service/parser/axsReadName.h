@@ -67,7 +67,7 @@ private:
 /// An attribute of the element that is being read.
 struct axsReadAttribute
 {
-  axsReadName const* name;
+  axsReadName const* name = nullptr;
   std::string_view value;
 
   /// Where its name stands; null of a default.

@@ -12,7 +12,7 @@ class axsPrefixScope;
 /// An attribute as a parser tells of it.
 struct axsTagAttribute
 {
-  axsName const* name;
+  axsName const* name = nullptr;
 
   /// Empty for none; of "xmlns" and "xmlns:p" that of the declarations of namespaces.
   std::string_view name_space;

@@ -221,6 +221,16 @@ TEST_F(axsTree_, a_text_of_any_length_takes_the_place_of_any_other)
   EXPECT_EQ(text.text(), "yyyy");
 }
 
+TEST_F(axsTree_, a_node_is_made_with_a_text_of_any_length)
+{
+  std::string text;
+  for (int i = 0; i < 1100; ++i)
+  {
+    EXPECT_EQ(tree.text(text).text(), text);
+    text += static_cast<char>('a' + i % 26);
+  }
+}
+
 TEST_F(axsTree_, an_attribute_takes_the_place_of_the_one_it_replaces)
 {
   Element& element = tree.element("e");
