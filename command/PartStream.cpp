@@ -28,7 +28,9 @@ std::uint64_t size_of(std::FILE* file)
 PartStream::PartStream(std::string const& name, SplitIndex const& given, std::size_t number)
   : index(given),
     part(given.parts.parts[number]),
-    file(apPath(name.c_str()).file_open(apPath::read_mode()))
+    file(apPath(name.c_str()).file_open(apPath::read_mode())),
+    is_on_prolog_line(part.line <= index.parts.prolog_lines),
+    open_tags(part.open_tags)
 {
   if (file == nullptr)
     wrong = "cannot be opened";
@@ -36,8 +38,8 @@ PartStream::PartStream(std::string const& name, SplitIndex const& given, std::si
     wrong = "has another size than when it was split";
   else if (!move_to(file, 0))
     wrong = "cannot be read in parts";
-  // The line ends make places easy to count.
-  tags = '\n' + part.open_tags + '\n';
+  if (!is_on_prolog_line)
+    open_tags += '\n' + std::string(static_cast<std::size_t>(part.column) - 1, ' ');
 }
 
 PartStream::~PartStream()
@@ -50,32 +52,45 @@ std::size_t PartStream::read(char* to, std::size_t size)
 {
   while (wrong.empty() && piece != Piece::end)
   {
-    std::size_t count = 0;
-    if (piece == Piece::prolog)
-      count = read_range(to, size, index.parts.prolog_end);
-    else if (piece == Piece::part)
-      count = read_range(to, size, part.end);
-    else
-    {
-      count = tags.copy(to, size, static_cast<std::size_t>(position));
-      position += count;
-    }
+    std::size_t const count = read_piece(to, size);
+    position += count;
     if (count > 0)
       return count;
-    piece = static_cast<Piece>(static_cast<int>(piece) + 1);
-    position = 0;
-    if (piece == Piece::part)
-      begin_part();
-    else
-      tags = piece == Piece::close_tags ? part.close_tags : tags;
+    next_piece();
   }
   return 0;
 }
 
-void PartStream::begin_part()
+std::size_t PartStream::read_piece(char* to, std::size_t size)
 {
-  position = part.begin;
-  if (!move_to(file, position))
+  switch (piece)
+  {
+  case Piece::prolog:
+    return read_range(to, size, index.parts.prolog_end);
+  case Piece::line_ends:
+  {
+    std::uint64_t const before = is_on_prolog_line ? 0 : part.line - index.parts.prolog_lines - 1;
+    std::size_t const count = static_cast<std::size_t>(std::min<std::uint64_t>(size, before - position));
+    std::fill(to, to + count, '\n');
+    return count;
+  }
+  case Piece::open_tags:
+    return read_tags(to, size, open_tags);
+  case Piece::part:
+    return read_range(to, size, part.end);
+  case Piece::close_tags:
+    return read_tags(to, size, part.close_tags);
+  case Piece::end:
+    return 0;
+  }
+  return 0;
+}
+
+void PartStream::next_piece()
+{
+  piece = static_cast<Piece>(static_cast<int>(piece) + 1);
+  position = piece == Piece::part ? part.begin : 0;
+  if (piece == Piece::part && wrong.empty() && !move_to(file, position))
     wrong = "cannot be read in parts";
 }
 
@@ -85,18 +100,19 @@ std::size_t PartStream::read_range(char* to, std::size_t size, std::uint64_t end
   std::size_t const count = std::fread(to, 1, wanted, file);
   if (count < wanted)
     wrong = "cannot be read to the end of the part";
-  position += count;
   return count;
+}
+
+std::size_t PartStream::read_tags(char* to, std::size_t size, std::string const& tags)
+{
+  return tags.copy(to, size, static_cast<std::size_t>(position));
 }
 
 axmParseError PartStream::in_whole(axmParseError const& error) const
 {
   axmParseError moved = error;
-  int const before = static_cast<int>(index.parts.prolog_lines) + 2;
-  if (error.line_number() < before)
-    return moved;
-  if (error.line_number() == before)
-    moved.set_column_number(error.column_number() + static_cast<int>(part.column) - 1);
-  moved.set_line_number(error.line_number() - before + static_cast<int>(part.line));
+  int const begin = static_cast<int>(index.parts.prolog_column + part.open_tags.size());
+  if (is_on_prolog_line && error.line_number() == static_cast<int>(part.line) && error.column_number() >= begin)
+    moved.set_column_number(error.column_number() - begin + static_cast<int>(part.column));
   return moved;
 }

@@ -49,7 +49,7 @@ std::string SplitIndex::to_json() const
 {
   Json json = {{"axm_split", version}, {"file", file}, {"path", path}, {"namespaces", namespaces}, {"size", parts.size},
     {"records", parts.records}, {"prolog_end", parts.prolog_end}, {"prolog_lines", parts.prolog_lines},
-    {"parts", Json::array()}};
+    {"prolog_column", parts.prolog_column}, {"parts", Json::array()}};
   for (axsRecordSplitter::Part const& part : parts.parts)
     json["parts"].push_back(to_json_of(part));
   return json.dump(1) + '\n';
@@ -71,6 +71,7 @@ try
   index.parts.records = json.at("records");
   index.parts.prolog_end = json.at("prolog_end");
   index.parts.prolog_lines = json.at("prolog_lines");
+  index.parts.prolog_column = json.at("prolog_column");
   for (Json const& part : json.at("parts"))
   {
     index.parts.parts.push_back(part_of(part));

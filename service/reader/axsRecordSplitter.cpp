@@ -99,6 +99,7 @@ private:
   {
     parts.prolog_end = position();
     parts.prolog_lines = locator->begin().line;
+    parts.prolog_column = locator->begin().column;
   }
 
   void begin_record()

@@ -33,9 +33,10 @@ struct AXS_API axsRecordSplitter
 
   struct Parts
   {
-    std::uint64_t size = 0;       // of the document, in bytes
-    std::uint64_t prolog_end = 0; // where its root element begins
-    std::uint64_t prolog_lines = 0;
+    std::uint64_t size = 0;         // of the document, in bytes
+    std::uint64_t prolog_end = 0;   // where its root element begins
+    std::uint64_t prolog_lines = 0; // and its line and column
+    std::uint64_t prolog_column = 0;
     std::uint64_t records = 0;
     std::vector<Part> parts;
   };
