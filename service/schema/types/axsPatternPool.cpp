@@ -13,7 +13,10 @@ struct axsPatternPool::Automaton
       states = std::make_unique<axsPatternStates>(program);
   }
 
-  bool matches(std::string_view value) { return states != nullptr ? states->matches(value) : counting->matches(value); }
+  bool matches(std::string_view value) const
+  {
+    return states != nullptr ? states->matches(value) : counting->matches(value);
+  }
 
   std::unique_ptr<axsPatternStates> states;
   std::unique_ptr<axsPatternCounting> counting;

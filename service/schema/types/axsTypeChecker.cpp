@@ -141,7 +141,7 @@ Verdict axsTypeChecker::read(
   {
   case axsPrimitive::string:
   case axsPrimitive::any_uri:
-    if (type.set_facets & axsSimpleType::length_facets)
+    if ((type.set_facets & axsSimpleType::length_facets) != 0)
       counts.length = utUtf8::count(literal);
     if (bytes != nullptr)
       out += literal;
