@@ -34,6 +34,7 @@ public:
   virtual void reserved_document_5() = 0;
 
   /// Every element of the document with the name `name`, the root included, in document order. Never an empty pointer.
+  /// Whether the list follows later changes is the engine's business.
   virtual std::shared_ptr<axmNodeList> getElementsByTagName(apString const& name) = 0;
 
   /// Reserved: keeps its place in the order; never called.

@@ -32,7 +32,8 @@ public:
   virtual std::shared_ptr<axmNode> removeNamedItem(apString const& name) = 0;
 
   /// Puts the attribute node `node` in, under its own name, and returns the one it replaces, which still has its value;
-  /// an empty pointer if there was none, or if `node` cannot be put in.
+  /// an empty pointer if there was none, or if `node` cannot be put in. One that is in another element, or of another
+  /// document, may be taken from there or refused.
   virtual std::shared_ptr<axmNode> setNamedItem(std::shared_ptr<axmNode> node) = 0;
 
   virtual ~axmNamedNodeMap();

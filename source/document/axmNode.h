@@ -19,6 +19,10 @@ class axmNodeList;
 /// Ownership: every node is handed out in a `std::shared_ptr` and stays valid as long as the caller holds it, also after
 /// it was taken out of its tree. An empty pointer means that there is no such node. Arguments are never kept by the
 /// pointer that was passed in.
+/// What stands where: an element holds elements, texts, comments and instructions; a document one element, comments and
+/// instructions; other nodes hold nothing, and no node goes below itself. A child of another document may be taken over or
+/// refused. A new child that has a parent is moved: it is taken out there first, which is reported as an assertion
+/// (utAssert.h).
 /// Misuse is an empty result or false, with the tree unchanged; no operation throws for a wrong argument.
 /// Threads: nothing here locks; whether one tree may be used from several threads is the engine's business.
 /// The order of the virtual operations is a promise to engines that were built separately.
@@ -123,10 +127,11 @@ public:
   virtual bool set_attribute_locale(apString const& name, double value);
 
   /// The texts of the node and all its descendants in document order, with nothing between them; of a text or comment
-  /// its data.
+  /// its data. What comments and instructions below the node hold is left out.
   virtual apString get_text() const = 0;
 
-  /// Replaces the content by one text child that holds `text`.
+  /// Replaces the content by one text child that holds `text`, which may be empty; what was there is out then, and whole.
+  /// Of an attribute, text, comment or instruction it is the value that is replaced.
   virtual void set_text(apString const& text) = 0;
 
   /// The node as XML text; of the document, the whole document with its declaration.

@@ -46,8 +46,11 @@ public:
     virtual std::shared_ptr<axmDocument> loadDocument(
       apByteArray const& data, axmLoadOptions const& options, axmParseError& error) const = 0);
 
-  /// Writes the whole document to `output`, in the place of what it held, or to the file at `path`. True on success;
-  /// false when it cannot be written, with what was there before unchanged.
+  /// Writes the whole document in UTF-8 to `output`, in the place of what it held, or to the file at `path`. True on
+  /// success; false when it cannot be written, with what was there before unchanged. Loaded again, it is the document that
+  /// was saved, texts beside each other joined and white space dropped as for any load. What could not be loaded so is not
+  /// saved: a document without a root, characters that XML does not have (XML 1.0, 2.2), a comment that holds two hyphens
+  /// or ends with one (2.5).
   AXM_OVERLOADS_2(virtual bool saveDocument(std::shared_ptr<axmDocument> document, apByteArray& output) = 0,
     virtual bool saveDocument(std::shared_ptr<axmDocument> document, apPath const& path) = 0);
 };

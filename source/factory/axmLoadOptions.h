@@ -44,7 +44,8 @@ public:
   apPath no_namespace_schema() const;
   void set_no_namespace_schema(apPath const& schema);
 
-  /// How many entity expansions a load may take; one more fails it. Default: 50000.
+  /// How many entity expansions a load may take; one more fails it. Every reference to an entity that the document declares
+  /// counts, also in an attribute and in the text of another entity. Default: 50000.
   int entity_expansion_limit() const;
   void set_entity_expansion_limit(int limit);
 
