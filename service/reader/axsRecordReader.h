@@ -16,6 +16,8 @@
 #include <string_view>
 #include <vector>
 
+class axsRecordReading;
+
 /// Takes the records of a document out as rows: elements that lie at one path, with columns from their attributes and
 /// texts, in one pass and without a tree.
 ///
@@ -85,6 +87,5 @@ public:
   std::uint64_t rows() const noexcept;
 
 private:
-  class Reading;
-  std::unique_ptr<Reading> reading;
+  std::unique_ptr<axsRecordReading> reading;
 };

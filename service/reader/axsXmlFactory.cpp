@@ -1,6 +1,7 @@
 #include "axsXmlFactory.h"
 
 #include "axsTarnStream.h"
+#include "axsXmlReader.h"
 #include "axsXmlWalk.h"
 
 axsXmlFactory::axsXmlFactory() = default;
@@ -11,7 +12,7 @@ std::unique_ptr<axmAbstractXmlReader> axsXmlFactory::create_xml_reader_path(utPt
 {
   auto open = [path] { return std::make_unique<axsSource>(path); };
   return std::unique_ptr<axmAbstractXmlReader>(
-    new axsXmlReader(std::make_unique<axsXmlReader::Walk>(std::move(open), options)));
+    new axsXmlReader(std::make_unique<axsXmlWalk>(std::move(open), options)));
 }
 
 std::unique_ptr<axmAbstractXmlReader> axsXmlFactory::create_xml_reader_file(
@@ -24,5 +25,5 @@ std::unique_ptr<axmAbstractXmlReader> axsXmlFactory::create_xml_reader_file(
     return std::make_unique<axsSource>(*stream, apPath());
   };
   return std::unique_ptr<axmAbstractXmlReader>(
-    new axsXmlReader(std::make_unique<axsXmlReader::Walk>(std::move(open), options)));
+    new axsXmlReader(std::make_unique<axsXmlWalk>(std::move(open), options)));
 }

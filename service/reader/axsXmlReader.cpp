@@ -17,7 +17,7 @@ utString to_text(std::string_view text)
 }
 }
 
-axsXmlReader::axsXmlReader(std::unique_ptr<Walk> given) : walk(std::move(given)) {}
+axsXmlReader::axsXmlReader(std::unique_ptr<axsXmlWalk> given) : walk(std::move(given)) {}
 axsXmlReader::~axsXmlReader() = default;
 
 bool axsXmlReader::read_file()

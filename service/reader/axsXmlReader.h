@@ -7,6 +7,8 @@
 #include <memory>
 #include <vector>
 
+class axsXmlWalk;
+
 /// Walks an XML document as axmSimpleXmlReader does, by all of XML's rules, from files of any size.
 ///
 /// Made by axsXmlFactory. What it adds to the interface's promises:
@@ -48,9 +50,8 @@ public:
 
 private:
   friend class axsXmlFactory;
-  class Walk;
 
-  explicit axsXmlReader(std::unique_ptr<Walk> walk);
+  explicit axsXmlReader(std::unique_ptr<axsXmlWalk> walk);
 
-  std::unique_ptr<Walk> walk;
+  std::unique_ptr<axsXmlWalk> walk;
 };

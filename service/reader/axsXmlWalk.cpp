@@ -4,9 +4,9 @@
 
 #include <utility>
 
-axsXmlReader::Walk::Walk(Open open, axmLoadOptions const& given) : open_source(std::move(open)), options(given) {}
+axsXmlWalk::axsXmlWalk(Open open, axmLoadOptions const& given) : open_source(std::move(open)), options(given) {}
 
-bool axsXmlReader::Walk::begin()
+bool axsXmlWalk::begin()
 try
 {
   source = nullptr;
@@ -20,7 +20,7 @@ catch (axsReadError const& error)
 }
 
 // From the beginning of the document up to its root element.
-void axsXmlReader::Walk::start()
+void axsXmlWalk::start()
 {
   parser = nullptr;
   depth = 0;
@@ -38,7 +38,7 @@ void axsXmlReader::Walk::start()
   read_to_root();
 }
 
-void axsXmlReader::Walk::read_to_root()
+void axsXmlWalk::read_to_root()
 {
   Level& root = level_at(0);
   handler->look_for(nullptr, root.attributes);
@@ -50,7 +50,7 @@ void axsXmlReader::Walk::read_to_root()
     root.content = parser->mark();
 }
 
-bool axsXmlReader::Walk::down_to(std::string_view name)
+bool axsXmlWalk::down_to(std::string_view name)
 try
 {
   if (!errors.empty())
@@ -67,7 +67,7 @@ catch (axsReadError const& error)
 }
 
 // Once the root has been left, there is nothing more; then the walk is at the beginning again.
-bool axsXmlReader::Walk::enter_root(std::string_view name)
+bool axsXmlWalk::enter_root(std::string_view name)
 {
   if (is_over)
   {
@@ -80,7 +80,7 @@ bool axsXmlReader::Walk::enter_root(std::string_view name)
   return true;
 }
 
-bool axsXmlReader::Walk::enter_child(std::string_view name)
+bool axsXmlWalk::enter_child(std::string_view name)
 {
   Level const& current = level_at(depth - 1);
   if (current.is_empty)
@@ -114,13 +114,13 @@ bool axsXmlReader::Walk::enter_child(std::string_view name)
     }
 }
 
-void axsXmlReader::Walk::pass_to(std::uint64_t open)
+void axsXmlWalk::pass_to(std::uint64_t open)
 {
   while (handler->depth() > open)
     parser->step();
 }
 
-void axsXmlReader::Walk::up()
+void axsXmlWalk::up()
 try
 {
   if (!errors.empty())
@@ -141,7 +141,7 @@ catch (axsReadError const& error)
   fail(error);
 }
 
-std::string_view const* axsXmlReader::Walk::attribute(std::string_view name)
+std::string_view const* axsXmlWalk::attribute(std::string_view name)
 {
   if (!errors.empty())
     return nullptr;
@@ -151,7 +151,7 @@ std::string_view const* axsXmlReader::Walk::attribute(std::string_view name)
   return nullptr;
 }
 
-std::string_view axsXmlReader::Walk::text()
+std::string_view axsXmlWalk::text()
 try
 {
   if (!errors.empty())
@@ -176,19 +176,19 @@ catch (axsReadError const& error)
   return {};
 }
 
-std::string axsXmlReader::Walk::encoding() const
+std::string axsXmlWalk::encoding() const
 {
   if (parser == nullptr)
     return {};
   return handler->declared_encoding().empty() ? parser->encoding() : handler->declared_encoding();
 }
 
-void axsXmlReader::Walk::fail(axsReadError const& error)
+void axsXmlWalk::fail(axsReadError const& error)
 {
   errors.push_back(error.record());
 }
 
-void axsXmlReader::Walk::fail(char const* message)
+void axsXmlWalk::fail(char const* message)
 {
   axmParseError error{apString(message)};
   if (source != nullptr)
@@ -196,7 +196,7 @@ void axsXmlReader::Walk::fail(char const* message)
   errors.push_back(error);
 }
 
-axsXmlReader::Walk::Level& axsXmlReader::Walk::level_at(std::size_t number)
+axsXmlWalk::Level& axsXmlWalk::level_at(std::size_t number)
 {
   if (number == levels.size())
     levels.push_back(std::make_unique<Level>());

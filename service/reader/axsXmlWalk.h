@@ -3,9 +3,9 @@
 #include "axsParser.h"
 #include "axsSource.h"
 #include "axsWalkHandler.h"
-#include "axsXmlReader.h"
 
 #include <axmLoadOptions.h>
+#include <axmParseError.h>
 
 #include <cstddef>
 #include <functional>
@@ -16,13 +16,13 @@
 #include <vector>
 
 /// The walk of a reader: its parser, the elements that are entered, and the errors.
-class axsXmlReader::Walk
+class axsXmlWalk
 {
 public:
   /// Opens the document from its beginning; throws axsReadError as axsSource does.
   using Open = std::function<std::unique_ptr<axsSource>()>;
 
-  Walk(Open open, axmLoadOptions const& options);
+  axsXmlWalk(Open open, axmLoadOptions const& options);
 
   bool begin();
   bool down_to(std::string_view name);
