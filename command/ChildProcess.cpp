@@ -41,9 +41,10 @@ namespace
 // As the C library of the other side takes the line apart.
 std::wstring quoted(std::string const& argument)
 {
+  apString const text(argument.c_str());
   std::wstring result = L"\"";
   std::size_t slashes = 0;
-  for (wchar_t const character : apString(argument.c_str()).view())
+  for (wchar_t const character : text.view())
   {
     if (character == L'"')
       result.append(slashes + 1, L'\\');
