@@ -78,7 +78,9 @@ bool apNativeFile::is_special(utString const& name)
 
 bool apNativeFile::may_be_written(utString const& name)
 {
-  DWORD const attributes = is_whole(name) ? GetFileAttributesW(apString(name).c_str()) : INVALID_FILE_ATTRIBUTES;
+  if (!is_whole(name))
+    return false;
+  DWORD const attributes = GetFileAttributesW(apString(name).c_str());
   return attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_READONLY) == 0;
 }
 
