@@ -8,7 +8,6 @@
 #include <cstddef>
 #include <iterator>
 #include <memory>
-#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -90,7 +89,10 @@ public:
     using reference = value_type const&;
 
     iterator() = default;
-    iterator(child_range::iterator first, std::optional<apString> wanted) : child(first), name(std::move(wanted))
+    iterator(child_range::iterator first, apString wanted, bool any)
+      : child(first),
+        name(std::move(wanted)),
+        is_any(any)
     {
       find();
     }
@@ -114,28 +116,32 @@ public:
       for (current = nullptr; child != child_range::iterator(); ++child)
       {
         current = as_element(*child);
-        if (current != nullptr && (!name || current->getNodeName() == *name))
+        if (current != nullptr && (is_any || current->getNodeName() == name))
           return;
       }
     }
 
     child_range::iterator child;
-    std::optional<apString> name;
+    apString name;
+    bool is_any = true;
     std::shared_ptr<axmElement> current;
   };
 
-  element_range(std::shared_ptr<axmNode> node, std::optional<apString> wanted)
+  explicit element_range(std::shared_ptr<axmNode> node) : children(std::move(node)) {}
+  element_range(std::shared_ptr<axmNode> node, apString wanted)
     : children(std::move(node)),
-      name(std::move(wanted))
+      name(std::move(wanted)),
+      is_any(false)
   {
   }
 
-  iterator begin() const { return {children.begin(), name}; }
+  iterator begin() const { return {children.begin(), name, is_any}; }
   iterator end() const { return {}; }
 
 private:
   child_range children;
-  std::optional<apString> name;
+  apString name;
+  bool is_any = true;
 };
 
 /// The items of a list or a map of attributes, by index; a list is followed as it stands.
@@ -199,7 +205,7 @@ inline child_range children(std::shared_ptr<axmNode> node)
 /// Its children that are elements.
 inline element_range elements(std::shared_ptr<axmNode> node)
 {
-  return {std::move(node), std::nullopt};
+  return element_range(std::move(node));
 }
 
 /// Its children that are elements of that name, as it is written in the document.
