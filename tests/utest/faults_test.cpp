@@ -1,6 +1,7 @@
 // The suite against engines of which each breaks one promise. What sees which of them stands in faults.txt; the program
 // fault_table writes that file anew.
 
+#include "ExpectSeen.h"
 #include "Faults.h"
 #include "Lines.h"
 #include "SuiteRun.h"
@@ -29,18 +30,6 @@ std::vector<std::string> names_of_faults()
     names.push_back(std::string(fault.operation) + ": " + fault.name);
   return names;
 }
-
-// Runs the suite on an engine with each of the faults and holds what failed to the table.
-void expect_seen(std::vector<Fault> const& faults, std::vector<Check> (*run)(Factory const& factory))
-{
-  std::vector<std::string> const table = lines_of_file("faults.txt");
-  for (Fault const& fault : faults)
-  {
-    std::string const row = run_with(fault, run);
-    EXPECT_NE(row.back(), '|') << row;
-    EXPECT_EQ(std::count(table.begin(), table.end(), row), 1) << row;
-  }
-}
 }
 
 TEST(faults, those_of_nodes_are_seen)
@@ -61,21 +50,6 @@ TEST(faults, those_of_lists_and_maps_are_seen)
 TEST(faults, those_of_factories_are_seen)
 {
   expect_seen(factory_faults(), run_fixed_classes);
-}
-
-TEST(faults, subtle_ones_of_trees_are_seen)
-{
-  expect_seen(subtle_tree_faults(), run_generated_classes);
-}
-
-TEST(faults, subtle_ones_of_contents_are_seen)
-{
-  expect_seen(subtle_content_faults(), run_generated_classes);
-}
-
-TEST(faults, subtle_ones_of_factories_are_seen)
-{
-  expect_seen(subtle_factory_faults(), run_generated_classes);
 }
 
 TEST(faults, every_one_has_its_line_in_the_table)

@@ -1,0 +1,19 @@
+// The drawn and generated checks against engines of which each breaks one promise in a way that few cases show. A minute of
+// work that is the same on every system and in which a sanitizer would find what it finds in the other runs of the suite.
+
+#include "ExpectSeen.h"
+
+TEST(faults, subtle_ones_of_trees_are_seen)
+{
+  expect_seen(subtle_tree_faults(), run_generated_classes);
+}
+
+TEST(faults, subtle_ones_of_contents_are_seen)
+{
+  expect_seen(subtle_content_faults(), run_generated_classes);
+}
+
+TEST(faults, subtle_ones_of_factories_are_seen)
+{
+  expect_seen(subtle_factory_faults(), run_generated_classes);
+}
