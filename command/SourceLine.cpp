@@ -17,8 +17,9 @@ std::string const byte_order_mark = "\xEF\xBB\xBF";
 
 char const* const stand_in = "\xEF\xBF\xBD";
 
-// Lines end with LF, CR LF or CR (XML 1.0, 2.11).
-std::string read_line(apPath const& file, int number)
+// No more of the line than `longest` bytes and a byte-order mark: a document may be all one line. Lines end with LF, CR LF
+// or CR (XML 1.0, 2.11).
+std::string read_line(apPath const& file, int number, std::size_t longest)
 {
   std::unique_ptr<std::FILE, int (*)(std::FILE*)> const stream(file.file_open(apPath::read_mode()), &std::fclose);
   std::string line;
@@ -26,7 +27,8 @@ std::string read_line(apPath const& file, int number)
     return line;
   int at = 1;
   int before = 0;
-  for (int c = std::getc(stream.get()); c != EOF && at <= number; c = std::getc(stream.get()))
+  for (int c = std::getc(stream.get()); c != EOF && at <= number && line.size() < longest + byte_order_mark.size();
+       c = std::getc(stream.get()))
   {
     if (c == '\r' || (c == '\n' && before != '\r'))
       ++at;
@@ -86,7 +88,9 @@ std::string shown_place(apPath const& file, int number, int column)
   std::error_code ignored;
   if (!std::filesystem::is_regular_file(std::filesystem::u8path(file.path().view()), ignored))
     return std::string();
-  std::string raw = read_line(file, number);
+  // No column takes more than three bytes.
+  std::size_t const longest = 3 * (static_cast<std::size_t>(std::max(column, 1)) + widest);
+  std::string raw = read_line(file, number, longest);
   if (number == 1 && raw.compare(0, byte_order_mark.size(), byte_order_mark) == 0)
     raw.erase(0, byte_order_mark.size()); // takes no column
   if (raw.empty() || raw.find('\0') != std::string::npos)
