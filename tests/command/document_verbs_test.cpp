@@ -53,6 +53,17 @@ TEST(axm_check, shows_the_part_of_a_long_line_around_the_column)
   EXPECT_LT(run.err.size(), 350u);
 }
 
+TEST(axm_check, finds_a_column_far_along_a_line_of_wide_characters)
+{
+  std::string text = "<a>";
+  for (int i = 0; i < 1000; ++i)
+    text += "\xE2\x82\xAC";
+  TemporaryFile const bad("check_far.xml", text + "</b>" + std::string(10000, ' '));
+  std::string const shown = run_axm("check_far", {"check", bad.name}).err;
+  EXPECT_EQ(shown.find("check_far.xml:1:1006: "), 0u) << shown;
+  EXPECT_NE(shown.find("\xE2\x82\xAC</b>"), std::string::npos) << shown;
+}
+
 TEST(axm_check, finds_the_line_whatever_ends_lines)
 {
   for (char const* const end : {"\n", "\r\n", "\r"})
