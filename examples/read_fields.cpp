@@ -1,6 +1,6 @@
 // Takes fields out of an XML file with the streaming reader: read_fields books.xml
 
-#include <axmSimpleXmlFactory.h>
+#include <axm.h>
 
 #include <iostream>
 
@@ -12,18 +12,11 @@ int main(int argc, char** argv)
     return 2;
   }
 
-  auto const reader = axmSimpleXmlFactory().create_xml_reader_path(utPtrReleaseToCaller, apPath(argv[1]));
-  if (reader->read_file() && reader->down_to("catalog"))
-    for (; reader->down_to("book"); reader->up())
-    {
-      utString const id = reader->attribute("id", "?");
-      if (reader->down_to("title"))
-      {
-        std::cout << id << ": " << reader->text_node() << '\n';
-        reader->up();
-      }
-    }
-  else if (!reader->has_error_occurred())
+  auto const reader = axmSimpleXmlFactory().create_xml_reader_path(utPtrReleaseToCaller, axm::path(argv[1]));
+  if (auto const catalog = axm::read_root(*reader, "catalog"))
+    for (auto& book : catalog.children("book"))
+      std::cout << book.attribute("id", "?") << ": " << book.child_text("title").value_or("?") << '\n';
+  else if (catalog.good())
     std::cerr << argv[1] << ": cannot be read or is no catalogue\n";
 
   reader->dump_error(std::cerr);

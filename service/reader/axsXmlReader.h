@@ -16,16 +16,16 @@ class axsXmlWalk;
 /// - References to characters and entities are resolved, defaults of attributes are there, CDATA is text. All texts are
 ///   UTF-8, whatever the document is encoded in.
 /// - down_to() takes the next child of exactly that name. If there is none, the walk goes back to the beginning of the
-///   current element's content. A file is read again from there; of a pipe, the last 32 MiB are kept for that, and going
-///   back further is an error.
+///   current element's content. A file is read again from there, once something more of the content is asked for; of a
+///   pipe, the last 32 MiB are kept for that, and going back further is an error.
 /// - text_node() of an element without child elements is its whole text, which comments, CDATA sections and instructions
 ///   do not part; of one with children the text up to the first one, and after up() what follows the child just left.
 ///   Asked again at the same place, it answers the same.
 /// - Whatever is not well-formed where the walk passes it is an error; leaving the root checks the rest of the document.
 ///   So are attribute() and text_node() before an element is entered.
 /// - encoding() is what the document declares, or the encoding that was found out if it does not.
-/// Memory: that of the open elements' attributes and the longest text. Time: linear in what is read; a search that fails
-/// reads the content of the current element once more.
+/// Memory: that of the open elements' attributes and the longest text. Time: linear in what is read; what
+/// is asked for after a search that failed is read once more.
 /// Running out of memory is std::bad_alloc. One thread at a time uses a reader.
 class AXS_API axsXmlReader final : public axmAbstractXmlReader
 {

@@ -25,6 +25,7 @@ void axsXmlWalk::start()
   parser = nullptr;
   depth = 0;
   is_over = false;
+  has_missed = false;
   text_here.reset();
   if (source == nullptr)
   {
@@ -58,6 +59,7 @@ try
   if (parser == nullptr)
     return fail("no document has been read"), false;
   text_here.reset();
+  go_back();
   return depth == 0 ? enter_root(name) : enter_child(name);
 }
 catch (axsReadError const& error)
@@ -66,12 +68,24 @@ catch (axsReadError const& error)
   return false;
 }
 
+// Only when it is needed: most often the element is left then, and a pipe could not go back far.
+void axsXmlWalk::go_back()
+{
+  if (!has_missed)
+    return;
+  has_missed = false;
+  if (depth == 0)
+    start();
+  else
+    parser->return_to(level_at(depth - 1).content);
+}
+
 // Once the root has been left, there is nothing more; then the walk is at the beginning again.
 bool axsXmlWalk::enter_root(std::string_view name)
 {
   if (is_over)
   {
-    start();
+    has_missed = true;
     return false;
   }
   if (handler->first_name() != name)
@@ -107,7 +121,7 @@ bool axsXmlWalk::enter_child(std::string_view name)
       break;
     }
     case axsParser::Next::end_tag:
-      parser->return_to(level_at(depth - 1).content);
+      has_missed = true;
       return false;
     default:
       parser->advance();
@@ -128,6 +142,7 @@ try
   if (depth == 0)
     return fail("Incorrect xml nesting");
   text_here.reset();
+  has_missed = false;
   --depth;
   if (!level_at(depth).is_empty)
     pass_to(depth);
@@ -160,6 +175,7 @@ try
     return fail("Incorrect xml nesting"), std::string_view();
   if (text_here)
     return *text_here;
+  go_back();
   text_here.emplace();
   if (level_at(depth - 1).is_empty)
     return *text_here;

@@ -46,6 +46,7 @@ private:
   void read_to_root();
   bool enter_root(std::string_view name);
   bool enter_child(std::string_view name);
+  void go_back();
   void pass_to(std::uint64_t depth);
   void fail(axsReadError const& error);
   void fail(char const* message);
@@ -60,6 +61,9 @@ private:
   std::vector<std::unique_ptr<Level>> levels;
   std::size_t depth = 0;
   bool is_over = false;
+  // Whether the last search found nothing: then reading stands before the end of the content or of the document, and has
+  // to go back to its beginning once something there is asked for.
+  bool has_missed = false;
   // The text at this place, if it was asked for.
   std::optional<std::string> text_here;
 };

@@ -12,6 +12,7 @@
 #include "axmSaving.h"
 #include "axmSearching.h"
 #include "axmUtf8.h"
+#include "axmWalk.h"
 
 #include <axmCommentNode.h>
 #include <axmDocument.h>

@@ -87,8 +87,26 @@ TEST(axsXmlReader, going_back_further_than_a_pipe_is_kept_is_an_error)
   ASSERT_TRUE(reader->read_file());
   ASSERT_TRUE(down(reader, "r"));
   EXPECT_FALSE(down(reader, "absent"));
+  EXPECT_FALSE(down(reader, "a"));
   EXPECT_TRUE(reader->has_error_occurred());
   EXPECT_NE(std::string::npos, errors_of(*reader).find("32 MiB")) << errors_of(*reader);
+}
+
+TEST(axsXmlReader, a_pipe_of_any_length_is_walked_to_its_end)
+{
+  std::string document = "<r>";
+  int count = 0;
+  for (; document.size() < std::size_t{70} * 1024 * 1024; ++count)
+    document += "<b>" + std::string(100000, 'x') + "</b>";
+  Reader const reader = reader_of(axsXmlFactory(), document + "</r>", document.size(), true);
+  ASSERT_TRUE(reader->read_file());
+  ASSERT_TRUE(down(reader, "r"));
+  for (; down(reader, "b"); reader->up())
+    --count;
+  reader->up();
+  EXPECT_FALSE(down(reader, "r"));
+  EXPECT_EQ(0, count);
+  EXPECT_FALSE(reader->has_error_occurred()) << errors_of(*reader);
 }
 
 TEST(axsXmlReader, goes_back_in_every_encoding)
