@@ -1,6 +1,7 @@
 #include "BuiltInEngine.h"
 
 #include <axsRegister.h>
+#include <axsSaving.h>
 #include <axsXPath.h>
 
 std::shared_ptr<axmDocumentFactory> built_in_engine()
@@ -8,6 +9,11 @@ std::shared_ptr<axmDocumentFactory> built_in_engine()
   axs_register();
   utServiceName resolved;
   return utService::locate_service<axmDocumentFactory>(utServiceName(ut_lit("XMLService")), resolved);
+}
+
+std::string built_in_obstacle(axmDocument const& document)
+{
+  return axsSaving::obstacle(document).to_utf8().c_str();
 }
 
 XPathAnswer built_in_answer(axmNode& context, std::string const& xpath)

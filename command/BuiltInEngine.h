@@ -1,5 +1,6 @@
 #pragma once
 
+#include <axmDocument.h>
 #include <axmDocumentFactory.h>
 #include <axmNode.h>
 
@@ -9,6 +10,9 @@
 
 /// The factory of the engine that the program was built with, registered under "XMLService"; empty if it has none.
 std::shared_ptr<axmDocumentFactory> built_in_engine();
+
+/// Why that engine does not save the document, which is its own; empty where nothing but the file keeps it from that.
+std::string built_in_obstacle(axmDocument const& document);
 
 /// What there is to say of an XPath expression that selects no nodes.
 struct XPathAnswer

@@ -89,11 +89,7 @@ int save(axmDocumentFactory& factory, std::shared_ptr<axmDocument> const& docume
   if (!is_file && can_be_saved && write_to_standard_output(bytes))
     return exit_good;
   return complain(is_file ? output : "standard output",
-    can_be_saved
-      ? "cannot be written"
-      : "not saved: a name has a prefix that is not bound to a namespace, or a value has a character that XML "
-        "cannot hold",
-    exit_bad_input);
+    can_be_saved ? "cannot be written" : "not saved: " + built_in_obstacle(*document), exit_bad_input);
 }
 
 int set(Request const& request)

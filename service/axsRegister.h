@@ -34,5 +34,10 @@
 ///   two columns, a tab as one.
 /// - Save: to a file that takes the place of the target in one step, with its permissions; see apAtomicFile. What was
 ///   loaded as XML 1.1 is saved as that. Text that XML cannot hold makes it fail, and get_xml() of such a node is
-///   empty. A prefix that is not declared where it is used makes it fail as well, though not get_xml().
+///   empty. So do, though not get_xml(), a prefix that is not declared where it is used, a missing attribute of which the document
+///   type declares a default, and spaces that a reader takes out of a value that consists of tokens by its declaration:
+///   whatever is saved is read again as it was. axsSaving tells the reason. What is not Unicode (a surrogate without
+///   its other half) does not enter a document: createTextNode() and createComment() give an empty pointer, what sets a
+///   value changes nothing and reports an assertion (utAssert.h). The standalone declaration is kept.
+/// - New elements have the attributes of which the document type declares defaults (DOM Core, createElement).
 AXS_API void axs_register();

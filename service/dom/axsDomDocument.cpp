@@ -6,6 +6,7 @@
 #include "axsDomInstruction.h"
 #include "axsHandle.h"
 #include "axsStaticNodeList.h"
+#include "axsWideText.h"
 
 #include <string>
 #include <utility>
@@ -23,17 +24,40 @@ std::shared_ptr<axmDocument> axsDomDocument::make(apString const& uri)
 std::shared_ptr<axmElement> axsDomDocument::createElement(apString const& name)
 {
   axsName const* const known = names().intern_checked(name);
-  return known == nullptr ? nullptr : axsHandle::make<axmElement>(*make_element(*known));
+  if (known == nullptr)
+    return nullptr;
+  axsDomElement* const made = make_element(*known);
+  std::shared_ptr<axmElement> handle = axsHandle::make<axmElement>(*made);
+  if (!declared_attributes().empty())
+    add_defaults(*made);
+  return handle;
+}
+
+// Those that a reader would add, too (DOM Core, createElement).
+void axsDomDocument::add_defaults(axsElement& element)
+{
+  axsDeclaredAttributes::Element const* const found = declared_attributes().of(element.element_name());
+  if (found == nullptr || doctype() == nullptr)
+    return;
+  axsAttribute* last = nullptr;
+  for (axsDeclaredAttributes::Default const& added : found->defaults)
+  {
+    axsAttribute* const made = make_attribute(*added.name, added.value);
+    element.append_new_attribute(*made, last);
+    last = made;
+  }
 }
 
 std::shared_ptr<axmTextNode> axsDomDocument::createTextNode(apString const& data)
 {
-  return axsHandle::make<axmTextNode>(*make_text(data.to_utf8().view(), false));
+  utString text;
+  return axsWideText::to_utf8(data, text) ? axsHandle::make<axmTextNode>(*make_text(text.view(), false)) : nullptr;
 }
 
 std::shared_ptr<axmCommentNode> axsDomDocument::createComment(apString const& data)
 {
-  return axsHandle::make<axmCommentNode>(*make_comment(data.to_utf8().view()));
+  utString text;
+  return axsWideText::to_utf8(data, text) ? axsHandle::make<axmCommentNode>(*make_comment(text.view())) : nullptr;
 }
 
 std::shared_ptr<axmElement> axsDomDocument::getDocumentElement()

@@ -63,6 +63,8 @@ private:
     void operator()(axsHandlePool* pool) const noexcept { pool->abandon(); }
   };
 
+  void add_defaults(axsElement& element);
+
   explicit axsDomDocument(apString const& uri);
   ~axsDomDocument() = default;
 

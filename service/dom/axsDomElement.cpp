@@ -40,7 +40,9 @@ apString axsDomElement::getAttribute(apString const& name) const
 
 void axsDomElement::setAttribute(apString const& name, apString const& value)
 {
-  utString const text = value.to_utf8();
+  utString text;
+  if (!axsDomOperations::to_utf8(value, text))
+    return;
   if (axsAttribute* const present = find_attribute(name.view()))
     return present->set_text(text.view());
   axsDomDocument& document = axsDomDocument::of(*this);

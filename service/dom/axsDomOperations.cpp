@@ -3,6 +3,7 @@
 #include "axsChildList.h"
 #include "axsHandle.h"
 #include "axsStaticNodeList.h"
+#include "axsWideText.h"
 #include "axsWriter.h"
 #include "axsXPathQuery.h"
 
@@ -183,9 +184,19 @@ apString axsDomOperations::text(axsNode const& node)
   return apString::from_utf8(text);
 }
 
+bool axsDomOperations::to_utf8(apString const& text, utString& utf8)
+{
+  if (axsWideText::to_utf8(text, utf8))
+    return true;
+  ut_report_assertion("a surrogate has its other half", "service/dom/axsDomOperations.cpp", __LINE__);
+  return false;
+}
+
 void axsDomOperations::set_text(axsNode& node, apString const& text)
 {
-  utString const data = text.to_utf8();
+  utString data;
+  if (!to_utf8(text, data))
+    return;
   switch (node.kind())
   {
   case axsKind::document:

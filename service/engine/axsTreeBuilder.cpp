@@ -7,7 +7,6 @@
 #include "axsDomElement.h"
 #include "axsDomInstruction.h"
 #include "axsDomText.h"
-#include "axsDtd.h"
 #include "axsStartTag.h"
 
 #include <utXmlCharacter.h>
@@ -24,9 +23,10 @@ bool is_dropped(std::string_view text)
 
 axsTreeBuilder::axsTreeBuilder(axsDomDocument& document) noexcept : built(document), open(&document) {}
 
-void axsTreeBuilder::declaration(std::string_view version, std::string_view, std::string_view)
+void axsTreeBuilder::declaration(std::string_view version, std::string_view, std::string_view standalone)
 {
   built.set_xml_1_1(version == "1.1");
+  built.set_standalone(standalone);
 }
 
 axsName const& axsTreeBuilder::name(std::string_view text)
@@ -79,6 +79,20 @@ void axsTreeBuilder::doctype(std::shared_ptr<axsDtd const> const& type)
   open->append_new(*built.make_doctype(type->text));
   for (axsDtd::Element const& element : type->elements)
     for (axsDtd::Attribute const& attribute : element.attributes)
-      if (attribute.type == axsAttributeType::id)
-        built.id_attributes().declare(name(element.name), name(attribute.name));
+      declare(name(element.name), attribute);
+}
+
+void axsTreeBuilder::declare(axsName const& element, axsDtd::Attribute const& attribute)
+{
+  bool const has_default = attribute.kind == axsDtd::Default::value || attribute.kind == axsDtd::Default::fixed;
+  bool const has_tokens = attribute.type != axsAttributeType::cdata;
+  if (!has_default && !has_tokens)
+    return;
+  axsName const& declared = name(attribute.name);
+  if (attribute.type == axsAttributeType::id)
+    built.id_attributes().declare(element, declared);
+  if (has_tokens)
+    built.declared_attributes().declare_tokens(element, declared);
+  if (has_default)
+    built.declared_attributes().declare_default(element, declared, attribute.value);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "axsDtd.h"
 #include "axsParseHandler.h"
 
 #include <vector>
@@ -31,6 +32,8 @@ private:
     axsParent const* element;
     bool is_preserved;
   };
+
+  void declare(axsName const& element, axsDtd::Attribute const& attribute);
 
   axsDomDocument& built;
   axsParent* open;

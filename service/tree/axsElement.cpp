@@ -29,7 +29,9 @@ axsAttribute* axsElement::find_attribute(std::wstring_view name) const noexcept
   if (is_indexed())
     try
     {
-      return find_attribute(apString(name).to_utf8().view());
+      axsAttribute* const found = find_attribute(apString(name).to_utf8().view());
+      // What is not Unicode has become another name.
+      return found != nullptr && found->full_name().wide_view() == name ? found : nullptr;
     }
     catch (std::bad_alloc const&)
     {

@@ -2,6 +2,7 @@
 
 #include "axsArena.h"
 #include "axsAttributeIndex.h"
+#include "axsDeclaredAttributes.h"
 #include "axsElement.h"
 #include "axsIdAttributes.h"
 #include "axsLeaf.h"
@@ -11,6 +12,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <unordered_map>
 #include <utility>
@@ -30,6 +32,10 @@ public:
   /// Which attributes the document type declares to be IDs. Filled by what reads the document.
   axsIdAttributes& id_attributes() noexcept { return declared_ids; }
 
+  /// What else it declares of attributes; heeded as long as the document has a document type.
+  axsDeclaredAttributes& declared_attributes() noexcept { return declared; }
+  axsDeclaredAttributes const& declared_attributes() const noexcept { return declared; }
+
   axsElement* root_element() const noexcept;
 
   /// Null if there is none, or no longer.
@@ -38,6 +44,10 @@ public:
   /// Whether it was read as XML 1.1, which can hold more characters than 1.0.
   bool is_xml_1_1() const noexcept { return xml_1_1; }
   void set_xml_1_1(bool is_so) noexcept { xml_1_1 = is_so; }
+
+  /// What the XML declaration says of it; empty where it says nothing.
+  std::string_view standalone() const noexcept { return standalone_word; }
+  void set_standalone(std::string_view word) { standalone_word = word; }
 
   /// How often an attribute has come or gone, anywhere in the document.
   std::uint64_t attribute_changes() const noexcept { return attribute_change_count; }
@@ -96,6 +106,8 @@ private:
   axsArena memory;
   axsNameTable name_table;
   axsIdAttributes declared_ids;
+  axsDeclaredAttributes declared;
+  std::string standalone_word;
   std::unordered_map<axsElement const*, axsAttributeIndex> attribute_indexes;
   // The elements with an index, a ring: for each further one, that of the oldest goes.
   std::array<axsElement*, 64> indexed_elements = {};

@@ -1,5 +1,6 @@
 #include "axsNamespaceCheck.h"
 
+#include "axsSaveFault.h"
 #include "axsTextHash.h"
 #include "axsTree.h"
 #include "axsXmlName.h"
@@ -12,6 +13,7 @@
 namespace
 {
 std::string_view const xml_namespace = "http://www.w3.org/XML/1998/namespace";
+char const* const wrong_name = "has a prefix that is not bound to a namespace, or more than one colon in its name";
 std::string_view const xmlns_namespace = "http://www.w3.org/2000/xmlns/";
 
 // A prefix, that of the default namespace being empty, and the namespaces it is bound to by the open elements.
@@ -36,7 +38,7 @@ class Check
 {
 public:
   // Of a document of XML 1.1, for which the later namespaces hold.
-  explicit Check(bool is_xml_1_1) : may_undeclare(is_xml_1_1) {}
+  Check(bool is_xml_1_1, axsSaveFault& what_is_wrong) : fault(what_is_wrong), may_undeclare(is_xml_1_1) {}
 
   bool open(axsElement const& element);
   void close();
@@ -48,6 +50,7 @@ private:
   bool declare(Prefix& prefix, std::string_view value);
   bool has_repetition(axsElement const& element);
 
+  axsSaveFault& fault;
   bool const may_undeclare;
   // The texts of names and values lie in the tree.
   std::unordered_map<axsName const*, QualifiedName> names;
@@ -67,7 +70,7 @@ bool Check::open(axsElement const& element)
     QualifiedName const& attribute = find(at->full_name());
     has_prefix = has_prefix || attribute.prefix != nullptr;
     if (attribute.declared != nullptr && !declare(*attribute.declared, at->text()))
-      return false;
+      return fault.note(*at, "declares what no document may declare (Namespaces in XML 1.0, 3 and 5)");
   }
   if (!has_prefix)
     return true;
@@ -75,14 +78,14 @@ bool Check::open(axsElement const& element)
   auto const is_well_named = [](QualifiedName const& tested)
   { return tested.prefix == nullptr || (tested.is_qualified && tested.prefix->is_bound()); };
   if (!is_well_named(name))
-    return false;
+    return fault.note(element, wrong_name);
   for (axsAttribute const* at = element.first_attribute(); at != nullptr; at = at->next_attribute())
   {
     QualifiedName const& attribute = find(at->full_name());
     if (attribute.declared == nullptr ? !is_well_named(attribute) : !attribute.is_qualified)
-      return false;
+      return fault.note(*at, wrong_name);
   }
-  return !has_repetition(element);
+  return !has_repetition(element) || fault.note(element, "has two attributes of one name in one namespace");
 }
 
 void Check::close()
@@ -163,12 +166,12 @@ bool Check::has_repetition(axsElement const& element)
 }
 }
 
-bool axsNamespaceCheck::holds(axsTree const& document)
+bool axsNamespaceCheck::holds(axsTree const& document, axsSaveFault& fault)
 {
   axsNode const* const root = document.root_element();
   if (root == nullptr || !document.names().has_namespaces())
     return true;
-  Check check(document.is_xml_1_1());
+  Check check(document.is_xml_1_1(), fault);
   for (axsNode const* node = root;;)
   {
     if (node->is_element() && !check.open(static_cast<axsElement const&>(*node)))

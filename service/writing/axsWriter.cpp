@@ -3,12 +3,15 @@
 #include "axsTree.h"
 
 #include <utUtf8.h>
+#include <utXmlCharacter.h>
 
 #include <array>
 #include <cstdint>
 
 namespace
 {
+char const* const wrong_character = "holds a character that XML cannot hold there";
+
 std::size_t const piece = 64 * 1024;
 
 enum Class : unsigned char
@@ -92,6 +95,14 @@ bool axsWriter::write(axsNode const& node, std::string& xml)
   return axsWriter(node, xml, nullptr).write_tree(node);
 }
 
+bool axsWriter::write(axsNode const& node, std::string& xml, axsSaveFault& fault)
+{
+  axsWriter writer(node, xml, nullptr);
+  bool const is_written = writer.write_tree(node);
+  fault = writer.fault;
+  return is_written;
+}
+
 bool axsWriter::write(axsNode const& node, std::FILE* file)
 {
   std::string buffer;
@@ -133,8 +144,8 @@ bool axsWriter::open(axsNode const& node)
   switch (node.kind())
   {
   case axsKind::document:
-    xml += is_xml_1_1 ? "<?xml version=\"1.1\" encoding=\"UTF-8\"?>\n" : "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
-    return static_cast<axsTree const&>(node).root_element() != nullptr;
+    write_declaration(static_cast<axsTree const&>(node));
+    return static_cast<axsTree const&>(node).root_element() != nullptr || fault.note(node, "has no root element");
   case axsKind::element:
   {
     xml += '<';
@@ -148,22 +159,30 @@ bool axsWriter::open(axsNode const& node)
     xml += node.name()->utf8();
     xml += "=\"";
     if (!write_escaped(node.value(), true))
-      return false;
+      return fault.note(node, wrong_character);
     xml += '"';
     return true;
   case axsKind::text:
-    return write_escaped(node.value(), false);
+    return write_escaped(node.value(), false) || fault.note(node, wrong_character);
   case axsKind::cdata_section:
-    return write_cdata(node.value());
+    return write_cdata(node);
   case axsKind::comment:
-    return write_comment(node.value());
+    return write_comment(node);
   case axsKind::processing_instruction:
-    return write_instruction(static_cast<axsLeaf const&>(node).text());
+    return write_instruction(static_cast<axsLeaf const&>(node));
   case axsKind::doctype:
     xml += static_cast<axsLeaf const&>(node).text();
     return true;
   }
   return false;
+}
+
+void axsWriter::write_declaration(axsTree const& document)
+{
+  xml += is_xml_1_1 ? "<?xml version=\"1.1\" encoding=\"UTF-8\"" : "<?xml version=\"1.0\" encoding=\"UTF-8\"";
+  if (!document.standalone().empty())
+    xml.append(" standalone=\"").append(document.standalone()) += '"';
+  xml += "?>\n";
 }
 
 void axsWriter::close(axsNode const& node)
@@ -187,50 +206,57 @@ bool axsWriter::write_attributes(axsElement const& element)
 }
 
 // A section holds no references: what needs one is written as a text.
-bool axsWriter::write_cdata(std::string_view text)
+bool axsWriter::write_cdata(axsNode const& section)
 {
+  std::string_view const text = section.value();
   bool is_whole = text.find("]]>") == std::string_view::npos && text.find('\r') == std::string_view::npos;
   for (std::size_t at = 0; is_whole && is_xml_1_1 && at < text.size(); ++at)
     is_whole = needs_reference(text, at) == 0;
   if (!is_whole)
-    return write_escaped(text, false);
+    return write_escaped(text, false) || fault.note(section, wrong_character);
   xml += "<![CDATA[";
-  if (!write_raw(text))
+  if (!write_raw(section, text))
     return false;
   xml += "]]>";
   return true;
 }
 
-bool axsWriter::write_comment(std::string_view text)
+bool axsWriter::write_comment(axsNode const& comment)
 {
+  std::string_view const text = comment.value();
   if (text.find("--") != std::string_view::npos || (!text.empty() && text.back() == '-'))
-    return false;
+    return fault.note(comment, "has two hyphens in a row, or one at its end");
   xml += "<!--";
-  if (!write_raw(text))
+  if (!write_raw(comment, text))
     return false;
   xml += "-->";
   return true;
 }
 
-bool axsWriter::write_instruction(std::string_view text)
+bool axsWriter::write_instruction(axsLeaf const& instruction)
 {
+  std::string_view const text = instruction.text();
   if (text.find("?>") != std::string_view::npos)
-    return false;
+    return fault.note(instruction, "holds \"?>\", which would end it");
+  std::string_view const data = instruction.value();
+  if (!data.empty() && utXmlCharacter::is_space(data.front()))
+    return fault.note(instruction, "begins its data with white space, which a reader takes out");
   xml += "<?";
-  if (!write_raw(text))
+  if (!write_raw(instruction, text))
     return false;
   xml += "?>";
   return true;
 }
 
-bool axsWriter::write_raw(std::string_view text)
+// What can have no references: where a reader would make a line feed of a carriage return, it does not go either.
+bool axsWriter::write_raw(axsNode const& node, std::string_view text)
 {
   for (std::size_t at = 0; at < text.size(); ++at)
   {
     Class const found = class_of(text[at]);
-    if (found >= control || (found == restricted && needs_reference(text, at) != 0) ||
+    if (found >= control || found == carriage || (found == restricted && needs_reference(text, at) != 0) ||
         (found == last_plane && is_no_character(text, at)))
-      return false;
+      return fault.note(node, wrong_character);
   }
   xml += text;
   return true;

@@ -18,10 +18,11 @@ public:
   /// A new element. An empty pointer when `name` is not a name (XML 1.0, 2.3, [5] Name).
   virtual std::shared_ptr<axmElement> createElement(apString const& name) = 0;
 
-  /// A new text, whatever `data` holds.
+  /// A new text, whatever `data` holds. An engine may refuse, with an empty pointer, what is not Unicode (a surrogate
+  /// without its other half).
   virtual std::shared_ptr<axmTextNode> createTextNode(apString const& data) = 0;
 
-  /// A new comment, whatever `data` holds.
+  /// A new comment, whatever `data` holds, as for a text.
   virtual std::shared_ptr<axmCommentNode> createComment(apString const& data) = 0;
 
   /// The root element; empty for a document without one.

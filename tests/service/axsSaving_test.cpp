@@ -1,7 +1,12 @@
 #include "Engine.h"
 
+#include <axsSaving.h>
+#include <utAssert.h>
+
 #include <cstdlib>
 #include <filesystem>
+#include <iterator>
+#include <random>
 
 #if !defined(_WIN32)
 #  include <sys/resource.h>
@@ -41,6 +46,40 @@ std::string utf8(char32_t code)
     return {byte(0xE0 + code / 4096), byte(0x80 + code / 64 % 64), byte(0x80 + code % 64)};
   return {
     byte(0xF0 + code / 262144), byte(0x80 + code / 4096 % 64), byte(0x80 + code / 64 % 64), byte(0x80 + code % 64)};
+}
+
+// The reason is told, too.
+void refuses(std::shared_ptr<axmDocument> const& document, std::string const& obstacle)
+{
+  refuses(document);
+  EXPECT_EQ(narrow(axsSaving::obstacle(*document)), obstacle);
+}
+
+void saves_as(std::shared_ptr<axmDocument> const& document, std::string const& expected)
+{
+  EXPECT_EQ(saved(document), declaration + expected);
+  EXPECT_EQ(narrow(axsSaving::obstacle(*document)), "");
+  EXPECT_EQ(saved(load(declaration + expected)), declaration + expected);
+}
+
+class CountingListener final : public utAssertListener
+{
+public:
+  CountingListener() : previous(ut_set_assert_listener(this)) {}
+  ~CountingListener() override { ut_set_assert_listener(previous); }
+
+  void assertion_failed(char const*, char const*, int) override { ++reports; }
+
+  int reports = 0;
+
+private:
+  utAssertListener* previous;
+};
+
+// A text that is not Unicode: a surrogate without its other half.
+apString half_a_pair()
+{
+  return apString(L"a\xD800z");
 }
 
 int files_beginning_with(std::string const& name)
@@ -180,6 +219,267 @@ TEST(axsSaving, refuses_names_without_their_namespaces)
   EXPECT_NE(load(saved(document)), nullptr);
   root->appendChild(document->createElement(APSTRING("p:x:y")));
   refuses(document);
+}
+
+TEST(axsSaving, refuses_what_reading_would_change)
+{
+  auto const document = load("<r><!--c--><?p d?></r>");
+  auto const root = document->getDocumentElement();
+  auto const comment = root->getFirstChild();
+  auto const instruction = root->getLastChild();
+  comment->set_text(APSTRING("a\rb"));
+  refuses(document, "a comment in \"r\" holds a character that XML cannot hold there");
+  comment->set_text(APSTRING(" a\nb "));
+  saves_as(document, "<r><!-- a\nb --><?p d?></r>\n");
+
+  instruction->set_text(APSTRING("a\rb"));
+  refuses(document, "the processing instruction \"p\" in \"r\" holds a character that XML cannot hold there");
+  for (char const* const data : {" d", "\td", "\nd", " "})
+  {
+    instruction->set_text(wide(data));
+    refuses(
+      document, "the processing instruction \"p\" in \"r\" begins its data with white space, which a reader takes out");
+  }
+  instruction->set_text(APSTRING("d \n"));
+  saves_as(document, "<r><!-- a\nb --><?p d \n?></r>\n");
+  instruction->set_text(APSTRING(""));
+  EXPECT_EQ(narrow(load(saved(document))->getDocumentElement()->getLastChild()->getNodeValue()), "");
+}
+
+TEST(axsSaving, tells_what_keeps_a_document_from_being_saved)
+{
+  auto const document = load("<r><a b='1'/>t<![CDATA[c]]><!--d--></r>");
+  auto const root = document->getDocumentElement();
+  auto const a = root->getFirstChild();
+  auto const element = std::dynamic_pointer_cast<axmElement>(a);
+  element->setAttribute(APSTRING("b"), wide("\x01"));
+  refuses(document, "the attribute \"b\" in \"a\" holds a character that XML cannot hold there");
+  element->removeAttribute(APSTRING("b"));
+  a->getNextSibling()->set_text(wide("\x01"));
+  refuses(document, "a text in \"r\" holds a character that XML cannot hold there");
+  a->getNextSibling()->set_text(APSTRING("t"));
+  root->getLastChild()->getPreviousSibling()->set_text(wide("\x01"));
+  refuses(document, "a CDATA section in \"r\" holds a character that XML cannot hold there");
+  root->getLastChild()->getPreviousSibling()->set_text(APSTRING("]]>"));
+  root->getLastChild()->set_text(APSTRING("--"));
+  refuses(document, "a comment in \"r\" has two hyphens in a row, or one at its end");
+  root->getLastChild()->set_text(APSTRING("d"));
+  auto const unbound = root->appendChild(document->createElement(APSTRING("p:x")));
+  refuses(document,
+    "the element \"p:x\" in \"r\" has a prefix that is not bound to a namespace, or more than one colon in its name");
+  root->removeChild(unbound);
+  element->setAttribute(APSTRING("xmlns:p"), APSTRING(""));
+  refuses(document,
+    "the attribute \"xmlns:p\" in \"a\" declares what no document may declare (Namespaces in XML 1.0, 3 and 5)");
+  element->setAttribute(APSTRING("xmlns:p"), APSTRING("u"));
+  element->setAttribute(APSTRING("xmlns:q"), APSTRING("u"));
+  element->setAttribute(APSTRING("p:b"), APSTRING("1"));
+  element->setAttribute(APSTRING("q:b"), APSTRING("2"));
+  refuses(document, "the element \"a\" in \"r\" has two attributes of one name in one namespace");
+  document->removeChild(root);
+  refuses(document, "the document has no root element");
+}
+
+TEST(axsSaving, a_missing_default_is_not_saved_for_it_would_come_back)
+{
+  std::string const type = "<!DOCTYPE r [<!ATTLIST r d CDATA 'v' f CDATA #FIXED 'w' i CDATA #IMPLIED>]>\n";
+  auto const document = load(type + "<r/>");
+  auto const root = document->getDocumentElement();
+  saves_as(document, type + "<r d=\"v\" f=\"w\"/>\n");
+  for (char const* const name : {"d", "f"})
+  {
+    auto const taken = root->getAttributes()->removeNamedItem(wide(name));
+    EXPECT_FALSE(root->hasAttribute(wide(name)));
+    refuses(document,
+      "the element \"r\" lacks an attribute that a reader adds, for the document type declares a default of it");
+    root->getAttributes()->setNamedItem(taken);
+  }
+  root->setAttribute(APSTRING("d"), APSTRING("other"));
+  root->removeAttribute(APSTRING("i"));
+  saves_as(document, type + "<r d=\"other\" f=\"w\"/>\n");
+
+  // Without its document type, nothing comes back.
+  root->removeAttribute(APSTRING("d"));
+  document->removeChild(document->getFirstChild());
+  saves_as(document, "<r f=\"w\"/>\n");
+}
+
+TEST(axsSaving, new_elements_have_the_defaults_of_the_document_type)
+{
+  std::string const type = "<!DOCTYPE r [<!ATTLIST p:e xmlns:p CDATA 'u' a CDATA '1' p:a CDATA '2'>]>\n";
+  auto const document = load(type + "<r/>");
+  auto const root = document->getDocumentElement();
+  auto const made = document->createElement(APSTRING("p:e"));
+  EXPECT_EQ(made->getAttributes()->getLength(), 3);
+  root->appendChild(made);
+  root->appendChild(document->createElement(APSTRING("e")));
+  EXPECT_FALSE(root->getLastChild()->hasAttributes());
+  saves_as(document, type + "<r><p:e xmlns:p=\"u\" a=\"1\" p:a=\"2\"/><e/></r>\n");
+
+  made->setAttribute(APSTRING("xmlns:q"), APSTRING("u"));
+  made->setAttribute(APSTRING("q:a"), APSTRING("3"));
+  refuses(document, "the element \"p:e\" in \"r\" has two attributes of one name in one namespace");
+
+  document->removeChild(document->getFirstChild());
+  EXPECT_FALSE(document->createElement(APSTRING("p:e"))->hasAttributes());
+}
+
+TEST(axsSaving, spaces_that_reading_takes_out_of_tokens_are_not_saved)
+{
+  std::string const type =
+    "<!DOCTYPE r [<!ATTLIST r i ID #IMPLIED n NMTOKENS #IMPLIED e (x|y) #IMPLIED c CDATA #IMPLIED>]>\n";
+  auto const document = load(type + "<r/>");
+  auto const root = document->getDocumentElement();
+  for (char const* const name : {"i", "n", "e"})
+  {
+    for (char const* const value : {" x", "x ", "x  y", " "})
+    {
+      root->setAttribute(wide(name), wide(value));
+      refuses(
+        document, "the attribute \"" + std::string(name) +
+                    "\" in \"r\" consists of tokens by its declaration, and its value has spaces that a reader takes "
+                    "out");
+    }
+    root->setAttribute(wide(name), APSTRING("x y"));
+    saves_as(document, type + "<r " + name + "=\"x y\"/>\n");
+    // As references, other white space is not spaces (XML 1.0, 3.3.3).
+    root->setAttribute(wide(name), APSTRING("\tx\n\ny\r"));
+    saves_as(document, type + "<r " + name + "=\"&#9;x&#10;&#10;y&#13;\"/>\n");
+    root->removeAttribute(wide(name));
+  }
+  root->setAttribute(APSTRING("c"), APSTRING(" x  y "));
+  saves_as(document, type + "<r c=\" x  y \"/>\n");
+}
+
+TEST(axsSaving, whatever_is_saved_after_any_edits_is_read_as_the_same)
+{
+  // A reader drops texts of white space only, so none of them is made.
+  std::string const pieces[] = {"x", "\r", "\n", "\t", "  ", "-", "--", "]]>", "?>", "&", "<", "\"", "'", "\x01",
+    "\x7F", "\xC2\x85", "\xE2\x80\xA8", "\xEF\xBF\xBE", "\xF0\x90\x80\x80"};
+  std::string const names[] = {"a", "t", "d", "xmlns", "xmlns:p", "xmlns:q", "p:a", "q:a", "xml:lang", "p:q:a"};
+  std::string const elements[] = {"r", "e", "p:e", "q:e"};
+  std::string const type = "<!DOCTYPE r [<!ATTLIST r t NMTOKENS #IMPLIED><!ATTLIST e d CDATA ' 1 '>"
+                           "<!ATTLIST p:e xmlns:p CDATA 'u' p:a ID 'i'>]>\n";
+  std::mt19937 random(17);
+  auto const any = [&](auto const& from) { return from[random() % std::size(from)]; };
+  auto const text = [&]
+  {
+    std::string made = random() % 2 == 0 ? "x" : "";
+    for (auto count = random() % 3; count > 0; --count)
+      made += random() % 3 == 0 ? any(pieces) : "y";
+    return made;
+  };
+
+  int saves = 0;
+  int refusals = 0;
+  for (int round = 0; round < 2000; ++round)
+  {
+    bool const is_later = round % 4 == 0;
+    auto const document =
+      load((is_later ? "<?xml version='1.1'?>" : "") + type + "<r><![CDATA[c]]><?i d?><!--c--></r>");
+    auto const root = document->getDocumentElement();
+    for (auto edits = random() % 6; edits > 0; --edits)
+    {
+      auto const found = root->selectNodes(APSTRING("//*"));
+      auto const element = found->at(static_cast<int>(random() % static_cast<unsigned>(found->length())));
+      std::shared_ptr<axmNode> const child = element->getFirstChild();
+      switch (random() % 8)
+      {
+      case 0:
+        element->appendChild(document->createElement(wide(any(elements))));
+        break;
+      case 1:
+        element->appendChild(document->createComment(wide(text())));
+        break;
+      case 2:
+        element->setAttribute(wide(any(names)), wide(random() % 2 == 0 ? "u" : text()));
+        break;
+      case 3:
+        element->removeAttribute(wide(any(names)));
+        break;
+      case 4:
+        if (child != nullptr && child->getNodeName() != APSTRING("#text"))
+          child->set_text(wide("x" + text()));
+        break;
+      case 5:
+        if (child != nullptr && child->getNodeName() == APSTRING("i"))
+          child->set_text(wide(text()));
+        break;
+      case 6:
+        element->insertBefore(document->createTextNode(wide("x" + text())), nullptr);
+        break;
+      default:
+        if (random() % 8 == 0)
+          document->removeChild(document->getFirstChild());
+      }
+    }
+    apByteArray output;
+    if (!engine()->saveDocument(document, output))
+    {
+      ++refusals;
+      EXPECT_NE(narrow(axsSaving::obstacle(*document)), "");
+      continue;
+    }
+    ++saves;
+    EXPECT_EQ(narrow(axsSaving::obstacle(*document)), "");
+    std::string const xml(output.data(), output.size());
+    auto const again = load(xml);
+    ASSERT_NE(again, nullptr) << xml;
+    EXPECT_EQ(saved(again), xml);
+  }
+  EXPECT_GT(saves, 200);
+  EXPECT_GT(refusals, 200);
+}
+
+TEST(axsSaving, what_the_document_says_of_its_own_stands_alone_is_kept)
+{
+  for (std::string const word : {"yes", "no"})
+  {
+    std::string const text = "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"" + word + "\"?>\n<r/>\n";
+    EXPECT_EQ(saved(load(text)), text);
+    EXPECT_EQ(narrow(load(text)->get_xml()), text);
+  }
+  std::string const later = "<?xml version=\"1.1\" encoding=\"UTF-8\" standalone=\"yes\"?>\n<r/>\n";
+  EXPECT_EQ(saved(load(later)), later);
+  EXPECT_EQ(saved(load("<r/>")), declaration + "<r/>\n");
+}
+
+TEST(axsSaving, what_is_not_unicode_does_not_enter_a_document)
+{
+  CountingListener const listener;
+  auto const document = load("<r a='1'>t<!--c--><?p d?></r>");
+  std::string const before = saved(document);
+  auto const root = document->getDocumentElement();
+  EXPECT_EQ(document->createTextNode(half_a_pair()), nullptr);
+  EXPECT_EQ(document->createComment(half_a_pair()), nullptr);
+  EXPECT_EQ(document->createElement(half_a_pair()), nullptr);
+  EXPECT_EQ(engine()->createDocument(half_a_pair()), nullptr);
+  EXPECT_EQ(listener.reports, 0);
+  root->setAttribute(APSTRING("a"), half_a_pair());
+  root->setAttribute(APSTRING("b"), half_a_pair());
+  root->setAttribute(half_a_pair(), APSTRING("1"));
+  root->set_text(half_a_pair());
+  root->getAttributes()->getNamedItem(APSTRING("a"))->set_text(half_a_pair());
+  for (auto child = root->getFirstChild(); child != nullptr; child = child->getNextSibling())
+    child->set_text(half_a_pair());
+  EXPECT_EQ(listener.reports, 7);
+  EXPECT_EQ(saved(document), before);
+
+  // What stands for such texts elsewhere is a character like any other.
+  root->setAttribute(APSTRING("a"), wide("\xEF\xBF\xBD\xF0\x90\x80\x80"));
+  EXPECT_EQ(listener.reports, 7);
+  EXPECT_EQ(
+    narrow(load(saved(document))->getDocumentElement()->getAttribute(APSTRING("a"))), "\xEF\xBF\xBD\xF0\x90\x80\x80");
+}
+
+TEST(axsSaving, a_name_that_is_not_unicode_finds_nothing_among_many)
+{
+  auto const root = engine()->createDocument(APSTRING("r"))->getDocumentElement();
+  root->setAttribute(wide("\xEF\xBF\xBD"), APSTRING("1"));
+  for (int i = 0; i < 1000; ++i)
+    root->setAttribute(wide("a" + std::to_string(i)), APSTRING("2"));
+  EXPECT_TRUE(root->hasAttribute(wide("\xEF\xBF\xBD")));
+  EXPECT_FALSE(root->hasAttribute(apString(L"\xD800")));
 }
 
 TEST(axsSaving, replaces_a_file_and_leaves_nothing_else_behind)
