@@ -58,9 +58,6 @@ ROOM_OF_FILE = {
     "service/axsRegister.cpp": "service/engine",
 }
 
-# The libraries whose includes are all written in one form.
-IN_ONE_FORM = ["service", "command"]
-
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 
 
@@ -145,7 +142,7 @@ class Check:
                 self.faults.append(f"{place}: there is no header {name} in the house, so it stands in angles")
             return
         is_own = library_of(path) == library_of(target)
-        if library_of(path) in IN_ONE_FORM and is_own != (mark == '"'):
+        if is_own != (mark == '"'):
             self.faults.append(f"{place}: {name} stands in {'quotes' if is_own else 'angles'}, as a header of "
                                f"{'the own' if is_own else 'another'} library")
         included = room_of(target)

@@ -1,3 +1,3 @@
-#include <charcoDynArr.h>
+#include "charcoDynArr.h"
 
 template class CO_SYMBOL_INSTANCE coDynArr<char>;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <coDynArr.h>
-#include <coExport.h>
+#include "coDynArr.h"
+#include "coExport.h"
 
 /// Growable array of bytes, such as the contents of a file.
 using charcoDynArr = coDynArr<char>;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <utAnycoPageArrINTERNALcoDynArr.h>
-#include <utCopy.h>
+#include "utAnycoPageArrINTERNALcoDynArr.h"
+#include "utCopy.h"
 
 #include <algorithm>
 #include <cassert>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <coPrfExternalDeleter.h>
+#include "coPrfExternalDeleter.h"
 
 #include <memory>
 #include <utility>

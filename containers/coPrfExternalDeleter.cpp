@@ -1,3 +1,3 @@
-#include <coPrfExternalDeleter.h>
+#include "coPrfExternalDeleter.h"
 
 void coPrfExternalDeleter::operator()(void const*) const noexcept {}

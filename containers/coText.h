@@ -1,6 +1,6 @@
 #pragma once
 
-#include <coSharedText.h>
+#include "coSharedText.h"
 
 #include <cstring>
 #include <new>

@@ -1,3 +1,3 @@
-#include <utAnycoPageArrINTERNALcoDynArr.h>
+#include "utAnycoPageArrINTERNALcoDynArr.h"
 
 template class CO_SYMBOL_INSTANCE coDynArr<void*>;

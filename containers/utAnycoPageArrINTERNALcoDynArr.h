@@ -1,7 +1,7 @@
 #pragma once
 
-#include <coDynArr.h>
-#include <coExport.h>
+#include "coDynArr.h"
+#include "coExport.h"
 
 /// The page directory of every paged array: one untyped pointer a page.
 using utAnycoPageArrINTERNALcoDynArr = coDynArr<void*>;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <apByteBlock.h>
+#include "apByteBlock.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include <apAtomicFile.h>
+#include "apAtomicFile.h"
 
 #include "apHeldSignals.h"
 #include "apNativeFile.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <apExport.h>
-#include <apPath.h>
+#include "apExport.h"
+#include "apPath.h"
 
 #include <cstdio>
 
@@ -25,7 +25,7 @@
 ///
 /// One object belongs to one thread at a time; several objects, of several threads and processes too, may have one
 /// target: each commit() that is not in place puts a whole file there. Memory that runs out is std::bad_alloc from the
-/// constructor, with no file left behind.
+/// constructor, with no file left.
 class AP_API apAtomicFile
 {
 public:

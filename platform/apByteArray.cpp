@@ -1,4 +1,4 @@
-#include <apByteArray.h>
+#include "apByteArray.h"
 
 #include <cstring>
 #include <functional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <apExport.h>
+#include "apExport.h"
 
 #include <cstddef>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <apBits.h>
+#include "apBits.h"
 
 #include <cstddef>
 #include <cstdint>

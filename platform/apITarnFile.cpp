@@ -1,4 +1,4 @@
-#include <apITarnFile.h>
+#include "apITarnFile.h"
 
 apITarnFile::apITarnFile() = default;
 apITarnFile::~apITarnFile() = default;

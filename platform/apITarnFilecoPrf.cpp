@@ -1,3 +1,3 @@
-#include <apITarnFilecoPrf.h>
+#include "apITarnFilecoPrf.h"
 
 template class CO_SYMBOL_INSTANCE coPrf<apITarnFile>;

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <apExport.h>
-#include <apITarnFile.h>
+#include "apExport.h"
+#include "apITarnFile.h"
+
 #include <coPrf.h>
 
 /// Shared owner of an open file.

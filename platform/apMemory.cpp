@@ -1,4 +1,4 @@
-#include <apMemory.h>
+#include "apMemory.h"
 
 #if defined(__linux__)
 #  include <sys/mman.h>

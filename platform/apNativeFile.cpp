@@ -5,7 +5,7 @@
 #include <cstring>
 
 #if defined(_WIN32)
-#  include <apString.h>
+#  include "apString.h"
 
 #  include <fcntl.h>
 #  include <io.h>

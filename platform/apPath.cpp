@@ -1,4 +1,4 @@
-#include <apPath.h>
+#include "apPath.h"
 
 #include "apNativeFile.h"
 

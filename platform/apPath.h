@@ -1,7 +1,8 @@
 #pragma once
 
-#include <apExport.h>
-#include <apString.h>
+#include "apExport.h"
+#include "apString.h"
+
 #include <utString.h>
 
 #include <cstdio>

@@ -1,4 +1,4 @@
-#include <apProcessControl.h>
+#include "apProcessControl.h"
 
 #if defined(_WIN32)
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <apExport.h>
+#include "apExport.h"
 
 /// The running process. Safe from several threads at once.
 class AP_API apProcessControl

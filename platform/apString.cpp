@@ -1,7 +1,8 @@
-#include <apString.h>
+#include "apString.h"
 
-#include <apAscii.h>
-#include <apWide.h>
+#include "apAscii.h"
+#include "apWide.h"
+
 #include <utUtf8.h>
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <apExport.h>
+#include "apExport.h"
+
 #include <coText.h>
 #include <utString.h>
 

@@ -1,4 +1,4 @@
-#include <apStringFormatter.h>
+#include "apStringFormatter.h"
 
 #include <climits>
 #include <cstdarg>

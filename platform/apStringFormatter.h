@@ -1,7 +1,7 @@
 #pragma once
 
-#include <apExport.h>
-#include <apString.h>
+#include "apExport.h"
+#include "apString.h"
 
 /// Builds a wide text from a pattern, the same on every system and under every locale.
 ///

@@ -1,6 +1,6 @@
-#include <apStringLocaleDoubleParser.h>
+#include "apStringLocaleDoubleParser.h"
 
-#include <apDecimalPoint.h>
+#include "apDecimalPoint.h"
 
 #include <cfloat>
 #include <cstddef>

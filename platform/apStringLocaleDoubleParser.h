@@ -1,7 +1,7 @@
 #pragma once
 
-#include <apExport.h>
-#include <apString.h>
+#include "apExport.h"
+#include "apString.h"
 
 /// Reads a floating-point number at the beginning of a text, in the form of the current C locale.
 ///

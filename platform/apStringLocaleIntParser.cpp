@@ -1,4 +1,4 @@
-#include <apStringLocaleIntParser.h>
+#include "apStringLocaleIntParser.h"
 
 #include <climits>
 #include <cwctype>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <apExport.h>
-#include <apString.h>
+#include "apExport.h"
+#include "apString.h"
 
 /// Reads a decimal integer at the beginning of a text.
 ///

@@ -1,4 +1,4 @@
-#include <apTarnFileStdio.h>
+#include "apTarnFileStdio.h"
 
 #include "apNativeFile.h"
 

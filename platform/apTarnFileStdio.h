@@ -1,8 +1,9 @@
 #pragma once
 
-#include <apExport.h>
-#include <apITarnFile.h>
-#include <apTarnMode.h>
+#include "apExport.h"
+#include "apITarnFile.h"
+#include "apTarnMode.h"
+
 #include <utString.h>
 
 #include <cstdio>

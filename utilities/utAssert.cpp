@@ -1,4 +1,4 @@
-#include <utAssert.h>
+#include "utAssert.h"
 
 #include <cstddef>
 #include <cstdint>

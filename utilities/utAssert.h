@@ -1,7 +1,7 @@
 #pragma once
 
-#include <utAssertListener.h>
-#include <utExport.h>
+#include "utAssertListener.h"
+#include "utExport.h"
 
 /// Reports a broken assumption: that `expression` does not hold at `line` of `file`. The report goes to the listener in
 /// charge, and the program goes on. Safe from several threads at once; a listener may itself report.

@@ -1,4 +1,4 @@
-#include <utAssertListener.h>
+#include "utAssertListener.h"
 
 utAssertListener::utAssertListener() = default;
 utAssertListener::~utAssertListener() = default;

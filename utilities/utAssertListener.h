@@ -1,6 +1,6 @@
 #pragma once
 
-#include <utExport.h>
+#include "utExport.h"
 
 /// Is told of every assertion that fails; see utAssert.h.
 ///

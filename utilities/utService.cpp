@@ -1,4 +1,4 @@
-#include <utService.h>
+#include "utService.h"
 
 #include <map>
 #include <mutex>

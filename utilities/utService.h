@@ -1,7 +1,7 @@
 #pragma once
 
-#include <utExport.h>
-#include <utServiceName.h>
+#include "utExport.h"
+#include "utServiceName.h"
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include <utServiceName.h>
+#include "utServiceName.h"
 
 #include <cstring>
 

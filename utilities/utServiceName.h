@@ -1,7 +1,7 @@
 #pragma once
 
-#include <utExport.h>
-#include <utString.h>
+#include "utExport.h"
+#include "utString.h"
 
 /// The name of a service, possibly qualified: "a::b::XMLService" is XMLService, qualified by a and b.
 ///

@@ -1,4 +1,4 @@
-#include <utString.h>
+#include "utString.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "utExport.h"
+
 #include <coText.h>
-#include <utExport.h>
 
 #include <cstddef>
 #include <iosfwd>

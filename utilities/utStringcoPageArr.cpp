@@ -1,3 +1,3 @@
-#include <utStringcoPageArr.h>
+#include "utStringcoPageArr.h"
 
 template class CO_SYMBOL_INSTANCE coPageArr<utString>;

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "utExport.h"
+#include "utString.h"
+
 #include <coPageArr.h>
-#include <utExport.h>
-#include <utString.h>
 
 /// Growable list of narrow texts.
 using utStringcoPageArr = coPageArr<utString>;

@@ -1,7 +1,7 @@
-#include <utUnitTest.h>
+#include "utUnitTest.h"
 
-#include <utAssert.h>
-#include <utUnitTestConsole.h>
+#include "utAssert.h"
+#include "utUnitTestConsole.h"
 
 #include <algorithm>
 #include <atomic>

@@ -1,4 +1,4 @@
-#include <utUnitTestConsole.h>
+#include "utUnitTestConsole.h"
 
 #include <algorithm>
 #include <cstring>

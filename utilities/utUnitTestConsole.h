@@ -1,8 +1,8 @@
 #pragma once
 
-#include <utExport.h>
-#include <utUnitTestCounter.h>
-#include <utUnitTestListener.h>
+#include "utExport.h"
+#include "utUnitTestCounter.h"
+#include "utUnitTestListener.h"
 
 #include <cstdio>
 #include <memory>

@@ -1,4 +1,4 @@
-#include <utUnitTestCounter.h>
+#include "utUnitTestCounter.h"
 
 #include <map>
 #include <string>

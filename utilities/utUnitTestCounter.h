@@ -1,7 +1,7 @@
 #pragma once
 
-#include <utExport.h>
-#include <utUnitTestListener.h>
+#include "utExport.h"
+#include "utUnitTestListener.h"
 
 #include <memory>
 

@@ -1,7 +1,7 @@
-#include <utUnitTestJunit.h>
+#include "utUnitTestJunit.h"
 
-#include <utUtf8.h>
-#include <utXmlCharacter.h>
+#include "utUtf8.h"
+#include "utXmlCharacter.h"
 
 #include <string>
 #include <string_view>

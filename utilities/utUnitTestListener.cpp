@@ -1,4 +1,4 @@
-#include <utUnitTestListener.h>
+#include "utUnitTestListener.h"
 
 utUnitTestListener::utUnitTestListener() = default;
 utUnitTestListener::~utUnitTestListener() = default;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <utExport.h>
-#include <utUnitTestReport.h>
+#include "utExport.h"
+#include "utUnitTestReport.h"
 
 /// Is told what happens in a run of checks; see utUnitTest. Interface. Calls come one at a time, on the thread that
 /// reports.

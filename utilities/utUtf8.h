@@ -1,6 +1,6 @@
 #pragma once
 
-#include <utCodePoint.h>
+#include "utCodePoint.h"
 
 #include <cstddef>
 #include <cstdint>

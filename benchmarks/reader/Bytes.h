@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-// The bytes of a file with a NUL behind them, read into memory that nobody wrote to before.
+// The bytes of a file with a NUL after them, read into memory that nobody wrote to before.
 class Bytes
 {
 public:

@@ -98,7 +98,7 @@ void append_tag(Tag const& tag, std::string& text, Changes& changes)
     std::string space(attribute.space);
     if (&attribute == tag.attributes.data() && space.front() != ' ')
     {
-      changes.count("white space other than a blank behind an element's name");
+      changes.count("white space other than a blank after an element's name");
       space.front() = ' ';
     }
     std::string value = with_replaced(attribute.value, '>', "&gt;");
@@ -123,7 +123,7 @@ void append_tag(Tag const& tag, std::string& text, Changes& changes)
     changes.count("white space around a =");
   if (tag.attributes.empty() && is_blank(end.substr(0, 1)) && end.front() != ' ')
   {
-    changes.count("white space other than a blank behind an element's name");
+    changes.count("white space other than a blank after an element's name");
     end.front() = ' ';
   }
   text += end;

@@ -8,7 +8,7 @@
 struct Element
 {
   std::string name;
-  int field = 0; // the number of the first attribute; each attribute is a field, and the text is the one behind them
+  int field = 0; // the number of the first attribute; each attribute is a field, and the text is the one after them
   std::vector<std::string> attributes;
   bool has_text = false;
   bool is_single = false; // no parent has two of them, and all parents have their children in the order given here

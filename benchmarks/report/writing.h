@@ -6,7 +6,7 @@
 /// What the reports of the benchmarks write their tables and plots with.
 std::string number(double value, int digits);
 
-/// With spaces behind the text, or before it, up to `width`; a longer text as it is.
+/// With spaces after the text, or before it, up to `width`; a longer text as it is.
 std::string padded(std::string const& text, std::size_t width);
 std::string aligned_right(std::string const& text, std::size_t width);
 

@@ -35,7 +35,7 @@ public:
   // Whether the document, written, is one that loads again: it has a root, and no text holds what XML cannot.
   bool can_be_written() const;
 
-  // The next node in document order under `top`, null behind the last one.
+  // The next node in document order under `top`, null after the last one.
   static xmlNode* next_in_document(xmlNode* node, xmlNode* top);
 
 private:

@@ -30,7 +30,7 @@ std::string_view axsAttributeValue::read_special(char const*& p, std::string_vie
   std::size_t const before = normal.size();
   while (true)
   {
-    p = behind_value(p, quote);
+    p = end_of_value(p, quote);
     if (*p == quote && in.depth() == depth)
       break;
     if (*p == '<')

@@ -32,7 +32,7 @@ std::string normalised(std::string const& public_id)
 
 bool is_name_start(char const* p)
 {
-  return behind_name(p) != p;
+  return end_of_name(p) != p;
 }
 }
 
@@ -80,7 +80,7 @@ std::string axsDeclarationReader::name(char const* missing)
 std::string axsDeclarationReader::name_token(char const* missing)
 {
   char const* const begin = in.at;
-  in.at = behind_rest_of_name(in.at);
+  in.at = end_of_name_characters(in.at);
   if (in.at == begin)
     unexpected(missing);
   in.need(in.at);
@@ -97,7 +97,7 @@ std::string axsDeclarationReader::literal(char const* missing)
   auto const take_to = [&](char const* to) { text.append(from, static_cast<std::size_t>(to - from)); };
   while (true)
   {
-    in.at = behind_text<apByteBlock, '"', '\'', '\r'>(in.at);
+    in.at = end_of_text<apByteBlock, '"', '\'', '\r'>(in.at);
     if (*in.at == quote)
       break;
     char const* const special = in.at;
@@ -125,7 +125,7 @@ std::string axsDeclarationReader::entity_value()
   while (true)
   {
     char const* const from = in.at;
-    in.at = behind_text<apByteBlock, '"', '\'', '&', '%', '\r'>(in.at);
+    in.at = end_of_text<apByteBlock, '"', '\'', '&', '%', '\r'>(in.at);
     value.append(from, in.at);
     in.check_controls(from, in.at);
     char const* const special = in.at;

@@ -179,7 +179,7 @@ void axsDtdParser::skip_ignored()
   for (std::size_t open = 1; open > 0;)
   {
     char const* const from = in.at;
-    in.at = behind_text<apByteBlock, '<', ']', '\r'>(in.at);
+    in.at = end_of_text<apByteBlock, '<', ']', '\r'>(in.at);
     in.check_controls(from, in.at);
     if (reader.take("<!["))
       ++open;

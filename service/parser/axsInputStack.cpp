@@ -228,7 +228,7 @@ void axsInputStack::skip_other_spaces(char const*& p) const
     std::size_t const length = length_of_other_line_end(p);
     if (length == 0)
       return;
-    p = behind_spaces(p + length);
+    p = end_of_spaces(p + length);
   }
 }
 

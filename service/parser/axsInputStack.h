@@ -104,7 +104,7 @@ public:
   bool skip_spaces(char const*& p) const
   {
     char const* const before = p;
-    p = axsCharacters::behind_spaces(p);
+    p = axsCharacters::end_of_spaces(p);
     if (xml_1_1 && !axsCharacters::is_ascii(*p))
       skip_other_spaces(p);
     return p != before;

@@ -62,7 +62,7 @@ private:
   std::unordered_map<std::string, axsPrefix, axsTextHash> prefixes;
   axsPrefix const* empty;
   std::deque<axsReadName> names;
-  // Of a power of two, at least half of them empty; an entry stands at its hash or behind.
+  // Of a power of two, at least half of them empty; an entry stands at its hash or after it.
   std::vector<Entry> entries;
   // What was found last, and what came after it the last time.
   axsReadName* last = nullptr;

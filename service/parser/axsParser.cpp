@@ -295,7 +295,7 @@ axsReadName* axsParser::read_name(char const*& p)
 
 void axsParser::fail_start_tag(char const* p, axsReadName const& name) const
 {
-  bool const is_attribute = !attributes.empty() && behind_name(p) != p;
+  bool const is_attribute = !attributes.empty() && end_of_name(p) != p;
   in.unexpected(p, is_attribute ? std::string(axsMessages::attribute_space)
                                 : "the start tag of " + axsMessages::quoted(name.name->utf8()) +
                                     " is not ended: '>', '/>' or an attribute is expected");
@@ -376,7 +376,7 @@ void axsParser::end_tag()
   p += name.size();
   if (*p != '>')
   {
-    if (behind_rest_of_name(p) != p)
+    if (end_of_name_characters(p) != p)
       fail_end_tag(in.at + 2);
     in.skip_spaces(p);
     if (*p != '>')
@@ -403,7 +403,7 @@ void axsParser::end_element()
 void axsParser::fail_end_tag(char const* p) const
 {
   OpenElement const& element = open.back();
-  in.need(behind_name(p));
+  in.need(end_of_name(p));
   in.unexpected(p, axsMessages::not_closed_first(element.name->name->utf8(), since(element)));
 }
 
@@ -459,7 +459,7 @@ void axsParser::text()
   auto const take = [&] { normal.append(from, static_cast<std::size_t>(p - from)); };
   while (true)
   {
-    p = behind_text<apByteBlock, '<', '&', ']', '\r'>(p);
+    p = end_of_text<apByteBlock, '<', '&', ']', '\r'>(p);
     if (*p == '<')
       return end_text(from, p);
     if (*p == ']')

@@ -33,7 +33,7 @@ std::string_view read(
   char const* from = begin;
   while (true)
   {
-    p = behind_text<apByteBlock, first, '\r'>(p);
+    p = end_of_text<apByteBlock, first, '\r'>(p);
     if (*p == first)
     {
       if (begins(p, closing))

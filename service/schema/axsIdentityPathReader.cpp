@@ -131,7 +131,7 @@ bool axsIdentityPathReader::skip(std::string_view token)
   return is_there;
 }
 
-// The name at the place, behind which it goes on; empty if there is none.
+// The name at the place, after which it goes on; empty if there is none.
 std::string_view axsIdentityPathReader::ncname()
 {
   std::size_t end = at;

@@ -76,15 +76,15 @@ bool axsCharacters::skip_multibyte(char const*& at)
   return true;
 }
 
-char const* axsCharacters::behind_name(char const* at)
+char const* axsCharacters::end_of_name(char const* at)
 {
   if (is(*at, name_start))
-    return behind_rest_of_name(at + 1);
+    return end_of_name_characters(at + 1);
   std::size_t const length = length_in_name(at, is_name_start);
-  return length == 0 ? at : behind_rest_of_name(at + length);
+  return length == 0 ? at : end_of_name_characters(at + length);
 }
 
-char const* axsCharacters::behind_rest_of_name(char const* at)
+char const* axsCharacters::end_of_name_characters(char const* at)
 {
   while (true)
   {

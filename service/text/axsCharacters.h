@@ -45,7 +45,7 @@ inline bool is(char c, Class of)
   return (classes[static_cast<unsigned char>(c)] & of) != 0;
 }
 
-inline char const* behind_spaces(char const* at)
+inline char const* end_of_spaces(char const* at)
 {
   while (is(*at, space))
     ++at;
@@ -69,7 +69,7 @@ inline bool skip(char const*& at, std::string_view expected)
 inline bool skip_spaces(char const*& at)
 {
   char const* const before = at;
-  at = behind_spaces(at);
+  at = end_of_spaces(at);
   return at != before;
 }
 
@@ -107,24 +107,24 @@ bool is_name_part(char32_t character) noexcept;
 /// Moves past characters beyond ASCII. Whether there was one, and nothing wrong among them.
 bool skip_multibyte(char const*& at);
 
-/// Behind the name at `at` (2.3, [5] Name); `at` itself if there is none.
-char const* behind_name(char const* at);
+/// The end of the name at `at` (2.3, [5] Name); `at` itself if there is none.
+char const* end_of_name(char const* at);
 
-/// Behind the rest of a name, of which the character before `at` is a part.
-char const* behind_rest_of_name(char const* at);
+/// The end of the characters of a name, of which the character before `at` is a part.
+char const* end_of_name_characters(char const* at);
 
 /// Moves past the name at `at`. Whether there is one.
 inline bool skip_name(char const*& at)
 {
   char const* const before = at;
-  at = behind_name(at);
+  at = end_of_name(at);
   return at != before;
 }
 
 /// The first byte at or after `at` that is one of `stops`, not ASCII or a control character other than tab and line
 /// feed.
 template <class Block, char... stops>
-char const* behind_text(char const* at)
+char const* end_of_text(char const* at)
 {
   while (true)
   {
@@ -139,7 +139,7 @@ char const* behind_text(char const* at)
 
 /// The first byte at or after `at` that is `quote`, '<', '&', not ASCII or a control character.
 template <class Block = apByteBlock>
-char const* behind_value(char const* at, char quote)
+char const* end_of_value(char const* at, char quote)
 {
   while (true)
   {
@@ -159,7 +159,7 @@ inline bool read_literal(char const*& at, std::string_view& text)
   if (quote != '"' && quote != '\'')
     return false;
   char const* const from = at + 1;
-  at = behind_value(from, quote);
+  at = end_of_value(from, quote);
   text = {from, static_cast<std::size_t>(at - from)};
   return skip_character(at, quote);
 }

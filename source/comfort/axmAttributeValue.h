@@ -1,8 +1,7 @@
 #pragma once
 
+#include "axmElement.h"
 #include "axmUtf8.h"
-
-#include <axmElement.h>
 
 #include <charconv>
 #include <initializer_list>

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <axmDocumentFactory.h>
+#include "axmDocumentFactory.h"
+
 #include <utService.h>
 
 #include <memory>

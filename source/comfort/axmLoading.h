@@ -1,12 +1,12 @@
 #pragma once
 
+#include "axmDocumentFactory.h"
 #include "axmEngineAccess.h"
+#include "axmLoadOptions.h"
 #include "axmResult.h"
 #include "axmUtf8.h"
 
 #include <apByteArray.h>
-#include <axmDocumentFactory.h>
-#include <axmLoadOptions.h>
 
 #include <istream>
 #include <iterator>

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <axmCommentNode.h>
-#include <axmDocument.h>
-#include <axmElement.h>
-#include <axmNamedNodeMap.h>
-#include <axmNode.h>
-#include <axmProcessingInstruction.h>
-#include <axmTextNode.h>
+#include "axmCommentNode.h"
+#include "axmDocument.h"
+#include "axmElement.h"
+#include "axmNamedNodeMap.h"
+#include "axmNode.h"
+#include "axmProcessingInstruction.h"
+#include "axmTextNode.h"
 
 #include <memory>
 

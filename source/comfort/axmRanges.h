@@ -1,9 +1,8 @@
 #pragma once
 
 #include "axmNodeKind.h"
+#include "axmNodeList.h"
 #include "axmUtf8.h"
-
-#include <axmNodeList.h>
 
 #include <cstddef>
 #include <iterator>

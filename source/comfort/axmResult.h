@@ -1,8 +1,7 @@
 #pragma once
 
+#include "axmParseError.h"
 #include "axmUtf8.h"
-
-#include <axmParseError.h>
 
 #include <string>
 #include <utility>

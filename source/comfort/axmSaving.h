@@ -1,5 +1,6 @@
 #pragma once
 
+#include "axmDocumentFactory.h"
 #include "axmEngineAccess.h"
 #include "axmIndentedWriter.h"
 #include "axmResult.h"
@@ -7,7 +8,6 @@
 
 #include <apAtomicFile.h>
 #include <apByteArray.h>
-#include <axmDocumentFactory.h>
 
 #include <cerrno>
 #include <cstdio>

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "axmAbstractXmlReader.h"
 #include "axmUtf8.h"
-
-#include <axmAbstractXmlReader.h>
 
 #include <cstddef>
 #include <iterator>

@@ -1,4 +1,4 @@
-#include <axmCharacterData.h>
+#include "axmCharacterData.h"
 
 axmCharacterData::axmCharacterData() = default;
 axmCharacterData::~axmCharacterData() = default;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axmNode.h>
+#include "axmNode.h"
 
 /// What texts and comments have in common (DOM Core, interface CharacterData).
 /// Interface; see axmNode for ownership, threads and order of operations.

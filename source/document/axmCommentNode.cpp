@@ -1,4 +1,4 @@
-#include <axmCommentNode.h>
+#include "axmCommentNode.h"
 
 axmCommentNode::axmCommentNode() = default;
 axmCommentNode::~axmCommentNode() = default;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axmCharacterData.h>
+#include "axmCharacterData.h"
 
 /// A comment (DOM Core, interface Comment). Its get_xml() is the comment with its delimiters, and escapes nothing.
 /// Interface; see axmNode for ownership, threads and order of operations.

@@ -1,4 +1,4 @@
-#include <axmDocument.h>
+#include "axmDocument.h"
 
 axmDocument::axmDocument() = default;
 axmDocument::~axmDocument() = default;

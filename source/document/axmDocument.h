@@ -1,7 +1,7 @@
 #pragma once
 
-#include <axmElement.h>
-#include <axmNode.h>
+#include "axmElement.h"
+#include "axmNode.h"
 
 class axmCommentNode;
 class axmTextNode;

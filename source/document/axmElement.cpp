@@ -1,4 +1,4 @@
-#include <axmElement.h>
+#include "axmElement.h"
 
 axmElement::axmElement() = default;
 axmElement::~axmElement() = default;

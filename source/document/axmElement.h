@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axmNode.h>
+#include "axmNode.h"
 
 /// An element (DOM Core, interface Element). Interface; see axmNode for ownership, threads and order of operations.
 class AXM_API axmElement : public virtual axmNode

@@ -1,4 +1,4 @@
-#include <axmNamedNodeMap.h>
+#include "axmNamedNodeMap.h"
 
 axmNamedNodeMap::axmNamedNodeMap() = default;
 axmNamedNodeMap::~axmNamedNodeMap() = default;

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "axmExport.h"
+#include "axmNode.h"
+
 #include <apString.h>
-#include <axmExport.h>
-#include <axmNode.h>
 
 #include <memory>
 

@@ -1,11 +1,12 @@
-#include <axmNode.h>
+#include "axmNode.h"
+
+#include "axmElement.h"
+#include "axmNamedNodeMap.h"
 
 #include <apDecimalPoint.h>
 #include <apStringFormatter.h>
 #include <apStringLocaleDoubleParser.h>
 #include <apStringLocaleIntParser.h>
-#include <axmElement.h>
-#include <axmNamedNodeMap.h>
 
 #include <cstdio>
 #include <new>

@@ -1,4 +1,4 @@
-#include <axmNodeList.h>
+#include "axmNodeList.h"
 
 #include <climits>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <axmElement.h>
-#include <axmExport.h>
+#include "axmElement.h"
+#include "axmExport.h"
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include <axmProcessingInstruction.h>
+#include "axmProcessingInstruction.h"
 
 axmProcessingInstruction::axmProcessingInstruction() = default;
 axmProcessingInstruction::~axmProcessingInstruction() = default;

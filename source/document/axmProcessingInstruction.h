@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axmNode.h>
+#include "axmNode.h"
 
 /// A processing instruction (DOM Core, interface ProcessingInstruction): getNodeName() is its target, getNodeValue() its
 /// content. Interface; see axmNode for ownership, threads and order of operations.

@@ -1,4 +1,4 @@
-#include <axmTextNode.h>
+#include "axmTextNode.h"
 
 axmTextNode::axmTextNode() = default;
 axmTextNode::~axmTextNode() = default;

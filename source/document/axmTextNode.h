@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axmCharacterData.h>
+#include "axmCharacterData.h"
 
 /// A text between tags (DOM Core, interface Text). Its get_xml() escapes the three markup characters & < >.
 /// Interface; see axmNode for ownership, threads and order of operations.

@@ -1,4 +1,4 @@
-#include <axmDocumentFactory.h>
+#include "axmDocumentFactory.h"
 
 axmDocumentFactory::axmDocumentFactory() = default;
 axmDocumentFactory::~axmDocumentFactory() = default;

@@ -1,13 +1,14 @@
 #pragma once
 
+#include "axmDocument.h"
+#include "axmExport.h"
+#include "axmLoadOptions.h"
+#include "axmOverloads.h"
+#include "axmParseError.h"
+
 #include <apByteArray.h>
 #include <apPath.h>
 #include <apString.h>
-#include <axmDocument.h>
-#include <axmExport.h>
-#include <axmLoadOptions.h>
-#include <axmOverloads.h>
-#include <axmParseError.h>
 #include <utService.h>
 
 #include <memory>

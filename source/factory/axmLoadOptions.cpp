@@ -1,4 +1,4 @@
-#include <axmLoadOptions.h>
+#include "axmLoadOptions.h"
 
 #include <stdexcept>
 

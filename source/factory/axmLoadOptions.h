@@ -1,9 +1,10 @@
 #pragma once
 
+#include "axmExport.h"
+#include "axmValidateMode.h"
+
 #include <apPath.h>
 #include <apString.h>
-#include <axmExport.h>
-#include <axmValidateMode.h>
 
 #include <vector>
 

@@ -1,4 +1,4 @@
-#include <axmParseError.h>
+#include "axmParseError.h"
 
 axmParseError::axmParseError() : line(-1), column(-1), empty(true) {}
 

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "axmExport.h"
+
 #include <apString.h>
-#include <axmExport.h>
 
 /// Why a load failed, and where.
 ///

@@ -1,4 +1,4 @@
-#include <axmAbstractXmlReader.h>
+#include "axmAbstractXmlReader.h"
 
 #include <algorithm>
 

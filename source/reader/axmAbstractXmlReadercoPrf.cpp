@@ -1,3 +1,3 @@
-#include <axmAbstractXmlReadercoPrf.h>
+#include "axmAbstractXmlReadercoPrf.h"
 
 template class CO_SYMBOL_INSTANCE coPrf<axmAbstractXmlReader>;

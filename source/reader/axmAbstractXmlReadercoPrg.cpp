@@ -1,3 +1,3 @@
-#include <axmAbstractXmlReadercoPrg.h>
+#include "axmAbstractXmlReadercoPrg.h"
 
 template class CO_SYMBOL_INSTANCE coPrg<axmAbstractXmlReader>;

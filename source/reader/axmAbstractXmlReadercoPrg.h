@@ -1,7 +1,8 @@
 #pragma once
 
-#include <axmAbstractXmlReader.h>
-#include <axmExport.h>
+#include "axmAbstractXmlReader.h"
+#include "axmExport.h"
+
 #include <coPrg.h>
 
 /// Sole owner of a reader.

@@ -1,9 +1,8 @@
 #include "axmAttributes.h"
 
+#include "axmEndException.h"
 #include "axmFind.h"
 #include "axmText.h"
-
-#include <axmEndException.h>
 
 namespace
 {

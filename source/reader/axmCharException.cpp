@@ -1,4 +1,4 @@
-#include <axmCharException.h>
+#include "axmCharException.h"
 
 namespace
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axmException.h>
+#include "axmException.h"
 
 /// A character that has to stand in a certain place does not stand there.
 class AXM_API axmCharException : public axmException

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axmPositionX.h>
+#include "axmPositionX.h"
 
 #include <cstring>
 

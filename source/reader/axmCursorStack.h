@@ -1,8 +1,8 @@
 #pragma once
 
 #include "axmCursorState.h"
+#include "axmPositionXcoPageArrPrgcoPrgcoPageArr.h"
 
-#include <axmPositionXcoPageArrPrgcoPrgcoPageArr.h>
 #include <coDynArr.h>
 
 // The cursors of the elements that are entered, the outermost at the bottom, each with what is known of it. The cursors

@@ -1,11 +1,11 @@
 #include "axmElementWalk.h"
 
 #include "axmCursor.h"
+#include "axmEndException.h"
 #include "axmFind.h"
 #include "axmText.h"
 
 #include <apBits.h>
-#include <axmEndException.h>
 
 #include <cstddef>
 #include <cstring>

@@ -3,8 +3,8 @@
 #include "axmAttributes.h"
 #include "axmCursorStack.h"
 #include "axmElementIndex.h"
+#include "axmPositionX.h"
 
-#include <axmPositionX.h>
 #include <utString.h>
 
 #include <cstdint>

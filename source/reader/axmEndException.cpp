@@ -1,4 +1,4 @@
-#include <axmEndException.h>
+#include "axmEndException.h"
 
 axmEndException::axmEndException() = default;
 axmEndException::axmEndException(axmEndException const& other) = default;

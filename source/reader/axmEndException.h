@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axmException.h>
+#include "axmException.h"
 
 /// The document ends where it must not.
 class AXM_API axmEndException : public axmException

@@ -1,4 +1,4 @@
-#include <axmException.h>
+#include "axmException.h"
 
 axmException::axmException() = default;
 axmException::axmException(axmException const& other) = default;

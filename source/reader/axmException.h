@@ -1,6 +1,7 @@
 #pragma once
 
-#include <axmExport.h>
+#include "axmExport.h"
+
 #include <utString.h>
 
 /// What the cursors throw, by value, when a document is not as they need it.

@@ -1,4 +1,4 @@
-#include <axmIXmlFileFactory.h>
+#include "axmIXmlFileFactory.h"
 
 axmIXmlFileFactory::axmIXmlFileFactory() = default;
 axmIXmlFileFactory::~axmIXmlFileFactory() = default;

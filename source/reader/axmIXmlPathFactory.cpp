@@ -1,4 +1,4 @@
-#include <axmIXmlPathFactory.h>
+#include "axmIXmlPathFactory.h"
 
 axmIXmlPathFactory::axmIXmlPathFactory() = default;
 axmIXmlPathFactory::~axmIXmlPathFactory() = default;

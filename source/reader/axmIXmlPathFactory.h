@@ -1,8 +1,9 @@
 #pragma once
 
+#include "axmAbstractXmlReader.h"
+#include "axmExport.h"
+
 #include <apPath.h>
-#include <axmAbstractXmlReader.h>
-#include <axmExport.h>
 #include <utPtrRelease.h>
 
 #include <memory>

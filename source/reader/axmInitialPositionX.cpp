@@ -1,4 +1,4 @@
-#include <axmInitialPositionX.h>
+#include "axmInitialPositionX.h"
 
 axmInitialPositionX::axmInitialPositionX(char* buffer) : axmPositionX(buffer) {}
 axmInitialPositionX::axmInitialPositionX(axmInitialPositionX const& other) = default;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axmPositionX.h>
+#include "axmPositionX.h"
 
 /// The beginning of an XML document that is in memory: its XML declaration (XML 1.0, 2.8).
 ///

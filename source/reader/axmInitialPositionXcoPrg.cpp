@@ -1,3 +1,3 @@
-#include <axmInitialPositionXcoPrg.h>
+#include "axmInitialPositionXcoPrg.h"
 
 template class CO_SYMBOL_INSTANCE coPrg<axmInitialPositionX>;

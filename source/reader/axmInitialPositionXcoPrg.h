@@ -1,7 +1,8 @@
 #pragma once
 
-#include <axmExport.h>
-#include <axmInitialPositionX.h>
+#include "axmExport.h"
+#include "axmInitialPositionX.h"
+
 #include <coPrg.h>
 
 /// Sole owner of a cursor at the beginning of a document.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axmTagName.h>
+#include "axmTagName.h"
 
 #include <coDynArr.h>
 

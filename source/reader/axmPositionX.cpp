@@ -1,12 +1,12 @@
-#include <axmPositionX.h>
+#include "axmPositionX.h"
 
+#include "axmCharException.h"
 #include "axmCursor.h"
+#include "axmEndException.h"
 #include "axmOpenTags.h"
+#include "axmTagException.h"
 #include "axmTagName.h"
 
-#include <axmCharException.h>
-#include <axmEndException.h>
-#include <axmTagException.h>
 #include <utXmlCharacter.h>
 
 #include <memory>

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <axmExport.h>
+#include "axmExport.h"
+
 #include <utPtrRelease.h>
 #include <utString.h>
 

@@ -1,3 +1,3 @@
-#include <axmPositionXcoPageArrPrgcoPrg.h>
+#include "axmPositionXcoPageArrPrgcoPrg.h"
 
 template class CO_SYMBOL_INSTANCE coPrg<axmPositionX>;

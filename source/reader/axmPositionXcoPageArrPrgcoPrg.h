@@ -1,7 +1,8 @@
 #pragma once
 
-#include <axmExport.h>
-#include <axmPositionX.h>
+#include "axmExport.h"
+#include "axmPositionX.h"
+
 #include <coPrg.h>
 
 /// Sole owner of a cursor.

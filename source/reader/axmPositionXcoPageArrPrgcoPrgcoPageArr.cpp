@@ -1,3 +1,3 @@
-#include <axmPositionXcoPageArrPrgcoPrgcoPageArr.h>
+#include "axmPositionXcoPageArrPrgcoPrgcoPageArr.h"
 
 template class CO_SYMBOL_INSTANCE coPageArr<axmPositionXcoPageArrPrgcoPrg>;

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <axmExport.h>
-#include <axmPositionXcoPageArrPrgcoPrg.h>
+#include "axmExport.h"
+#include "axmPositionXcoPageArrPrgcoPrg.h"
+
 #include <coPageArr.h>
 
 /// Growable array of cursors, which it owns: the stack of a reader.

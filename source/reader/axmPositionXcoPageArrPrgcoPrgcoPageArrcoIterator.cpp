@@ -1,3 +1,3 @@
-#include <axmPositionXcoPageArrPrgcoPrgcoPageArrcoIterator.h>
+#include "axmPositionXcoPageArrPrgcoPrgcoPageArrcoIterator.h"
 
 template class CO_SYMBOL_INSTANCE coIterator<axmPositionXcoPageArrPrgcoPrgcoPageArr>;

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <axmExport.h>
-#include <axmPositionXcoPageArrPrgcoPrgcoPageArr.h>
+#include "axmExport.h"
+#include "axmPositionXcoPageArrPrgcoPrgcoPageArr.h"
+
 #include <coIterator.h>
 
 /// Walks the owners in an array of cursors.

@@ -1,7 +1,8 @@
-#include <axmSimpleXmlFactory.h>
+#include "axmSimpleXmlFactory.h"
+
+#include "axmSimpleXmlReader.h"
 
 #include <apTarnFileStdio.h>
-#include <axmSimpleXmlReader.h>
 
 axmSimpleXmlFactory::axmSimpleXmlFactory() = default;
 axmSimpleXmlFactory::~axmSimpleXmlFactory() = default;

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <axmExport.h>
-#include <axmIXmlFileFactory.h>
-#include <axmIXmlPathFactory.h>
+#include "axmExport.h"
+#include "axmIXmlFileFactory.h"
+#include "axmIXmlPathFactory.h"
 
 /// Makes the streaming readers of the library:
 ///

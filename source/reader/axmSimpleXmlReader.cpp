@@ -1,9 +1,9 @@
-#include <axmSimpleXmlReader.h>
+#include "axmSimpleXmlReader.h"
 
 #include "axmElementWalk.h"
+#include "axmException.h"
 
 #include <apMemory.h>
-#include <axmException.h>
 
 #include <climits>
 #include <new>

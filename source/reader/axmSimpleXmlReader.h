@@ -1,10 +1,11 @@
 #pragma once
 
+#include "axmAbstractXmlReader.h"
+#include "axmExport.h"
+#include "axmInitialPositionXcoPrg.h"
+#include "axmPositionXcoPageArrPrgcoPrgcoPageArr.h"
+
 #include <apITarnFilecoPrf.h>
-#include <axmAbstractXmlReader.h>
-#include <axmExport.h>
-#include <axmInitialPositionXcoPrg.h>
-#include <axmPositionXcoPageArrPrgcoPrgcoPageArr.h>
 #include <charcoDynArr.h>
 #include <utStringcoPageArr.h>
 

@@ -1,4 +1,4 @@
-#include <axmTagException.h>
+#include "axmTagException.h"
 
 axmTagException::axmTagException(utString const& text) : tag_text(text) {}
 axmTagException::axmTagException(axmTagException const& other) = default;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axmException.h>
+#include "axmException.h"
 
 /// A tag is missing or does not match another one.
 class AXM_API axmTagException : public axmException

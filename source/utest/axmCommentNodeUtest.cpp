@@ -1,9 +1,9 @@
-#include <axmCommentNodeUtest.h>
+#include "axmCommentNodeUtest.h"
 
+#include "axmCommentNode.h"
 #include "axmUtestAccess.h"
 #include "axmUtestGroup.h"
 
-#include <axmCommentNode.h>
 #include <utUnitTest.h>
 
 using namespace axmUtestAccess;

@@ -1,4 +1,4 @@
-#include <axmContractUtest.h>
+#include "axmContractUtest.h"
 
 #include "axmUtestGroup.h"
 

@@ -1,10 +1,9 @@
-#include <axmContractUtest.h>
+#include "axmContractUtest.h"
 
+#include "axmCommentNode.h"
+#include "axmTextNode.h"
 #include "axmUtestAccess.h"
 #include "axmUtestGroup.h"
-
-#include <axmCommentNode.h>
-#include <axmTextNode.h>
 
 #include <cstdio>
 

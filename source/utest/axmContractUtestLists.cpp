@@ -1,10 +1,9 @@
-#include <axmContractUtest.h>
+#include "axmContractUtest.h"
 
+#include "axmCommentNode.h"
+#include "axmTextNode.h"
 #include "axmUtestAccess.h"
 #include "axmUtestGroup.h"
-
-#include <axmCommentNode.h>
-#include <axmTextNode.h>
 
 using namespace axmUtestAccess;
 
@@ -33,7 +32,7 @@ void axmContractUtest::test_list_cursor(Factory const& factory) const
   group.check(++*list, "++*list", __LINE__, "the second step");
   group.check(!list->invalid() && name_of((*list)()) == APSTRING("b"), "(*list)()->getNodeName()", __LINE__,
     "goes to the second item");
-  group.check(!++*list, "!++*list", __LINE__, "the step behind the last item");
+  group.check(!++*list, "!++*list", __LINE__, "the step past the last item");
   group.check(list->invalid(), "list->invalid()", __LINE__, "goes past the end");
   bool const wrapped = ++*list;
   group.check(wrapped, "++*list", __LINE__, "one step more starts again");
@@ -48,7 +47,7 @@ void axmContractUtest::test_list_cursor(Factory const& factory) const
   group.check(name_of(other != nullptr ? other->next_node() : nullptr), APSTRING("a"), "other->next_node()", __LINE__,
     "each list has a cursor of its own");
   group.check(name_of(list->next_node()), APSTRING("b"), "list->next_node()->getNodeName()", __LINE__, "the next item");
-  group.check(list->next_node() == nullptr, "!list->next_node().get()", __LINE__, "no item behind the last one");
+  group.check(list->next_node() == nullptr, "!list->next_node().get()", __LINE__, "no item after the last one");
   group.check(name_of(list->next_node()), APSTRING("a"), "list->next_node()->getNodeName()", __LINE__,
     "and the first one after that");
 
@@ -93,7 +92,7 @@ void axmContractUtest::test_live_lists(Factory const& factory) const
       break;
     rest += node->getNodeName();
   }
-  group.check(rest, APSTRING("xcz"), "the names behind y", __LINE__, "the cursor follows what comes meanwhile");
+  group.check(rest, APSTRING("xcz"), "the names after y", __LINE__, "the cursor follows what comes meanwhile");
   for (int step = 0; step < 10 && root->hasChildNodes(); ++step)
     remove(root, first_of(root));
   group.check(list->isEmpty() && list->invalid(), "list->isEmpty() && list->invalid()", __LINE__,

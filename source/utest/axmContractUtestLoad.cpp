@@ -1,10 +1,9 @@
-#include <axmContractUtest.h>
+#include "axmContractUtest.h"
 
 #include "axmUtestAccess.h"
 #include "axmUtestFile.h"
 #include "axmUtestGroup.h"
-
-#include <axmUtestUtils.h>
+#include "axmUtestUtils.h"
 
 #include <string>
 

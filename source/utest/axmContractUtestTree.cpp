@@ -1,10 +1,10 @@
-#include <axmContractUtest.h>
+#include "axmContractUtest.h"
 
+#include "axmCommentNode.h"
+#include "axmTextNode.h"
 #include "axmUtestAccess.h"
 #include "axmUtestGroup.h"
 
-#include <axmCommentNode.h>
-#include <axmTextNode.h>
 #include <utUnitTest.h>
 
 using namespace axmUtestAccess;
@@ -137,9 +137,9 @@ void axmContractUtest::test_siblings(Factory const& factory) const
   group.check(
     name_of(next_of(text)), APSTRING("a"), "text->getNextSibling()->getNodeName()", __LINE__, "the sibling of a text");
   group.check(value_of(next_of(next_of(text))), APSTRING("two"), "a->getNextSibling()->getNodeValue()", __LINE__,
-    "the text behind an element");
+    "the text after an element");
   group.check(value_of(next_of(next_of(next_of(text)))), APSTRING("three"), "two->getNextSibling()->getNodeValue()",
-    __LINE__, "the comment behind a text");
+    __LINE__, "the comment after a text");
   Node const remark = last_of(mixed);
   group.check(value_of(previous_of(remark)), APSTRING("two"), "remark->getPreviousSibling()->getNodeValue()", __LINE__,
     "the text before a comment");

@@ -1,10 +1,10 @@
-#include <axmDocumentFactoryUtest.h>
+#include "axmDocumentFactoryUtest.h"
 
 #include "axmUtestAccess.h"
 #include "axmUtestFile.h"
 #include "axmUtestGroup.h"
+#include "axmUtestUtils.h"
 
-#include <axmUtestUtils.h>
 #include <utUnitTest.h>
 
 using namespace axmUtestAccess;

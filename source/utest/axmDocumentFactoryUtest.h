@@ -1,10 +1,11 @@
 #pragma once
 
+#include "axmDocumentFactory.h"
+#include "axmExport.h"
+
 #include <apByteArray.h>
 #include <apPath.h>
 #include <apString.h>
-#include <axmDocumentFactory.h>
-#include <axmExport.h>
 
 #include <memory>
 #include <vector>

@@ -1,4 +1,4 @@
-#include <axmDocumentUtest.h>
+#include "axmDocumentUtest.h"
 
 #include "axmUtestAccess.h"
 #include "axmUtestGroup.h"

@@ -1,9 +1,9 @@
-#include <axmElementUtest.h>
+#include "axmElementUtest.h"
 
+#include "axmTextNode.h"
 #include "axmUtestAccess.h"
 #include "axmUtestGroup.h"
 
-#include <axmTextNode.h>
 #include <utUnitTest.h>
 
 using namespace axmUtestAccess;

@@ -1,12 +1,11 @@
-#include <axmLoadUtest.h>
+#include "axmLoadUtest.h"
 
+#include "axmCommentNode.h"
+#include "axmTextNode.h"
 #include "axmUtestAccess.h"
 #include "axmUtestFile.h"
 #include "axmUtestGroup.h"
-
-#include <axmCommentNode.h>
-#include <axmTextNode.h>
-#include <axmUtestUtils.h>
+#include "axmUtestUtils.h"
 
 #include <string>
 

@@ -1,4 +1,4 @@
-#include <axmModelUtest.h>
+#include "axmModelUtest.h"
 
 #include "axmUtestGroup.h"
 #include "model/axmModelDraw.h"

@@ -1,11 +1,11 @@
-#include <axmModelUtest.h>
+#include "axmModelUtest.h"
 
+#include "axmCommentNode.h"
+#include "axmTextNode.h"
 #include "axmUtestAccess.h"
 #include "axmUtestGroup.h"
 #include "model/axmModelRandom.h"
 
-#include <axmCommentNode.h>
-#include <axmTextNode.h>
 #include <utUnitTest.h>
 
 #include <string>

@@ -1,9 +1,9 @@
-#include <axmNamedNodeMapUtest.h>
+#include "axmNamedNodeMapUtest.h"
 
+#include "axmNamedNodeMap.h"
 #include "axmUtestAccess.h"
 #include "axmUtestGroup.h"
 
-#include <axmNamedNodeMap.h>
 #include <utUnitTest.h>
 
 #include <algorithm>

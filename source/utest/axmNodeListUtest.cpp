@@ -1,4 +1,4 @@
-#include <axmNodeListUtest.h>
+#include "axmNodeListUtest.h"
 
 #include "axmUtestAccess.h"
 #include "axmUtestGroup.h"

@@ -1,4 +1,4 @@
-#include <axmNodeUtest.h>
+#include "axmNodeUtest.h"
 
 #include "axmUtestAccess.h"
 #include "axmUtestGroup.h"

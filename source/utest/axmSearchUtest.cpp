@@ -1,12 +1,12 @@
-#include <axmSearchUtest.h>
+#include "axmSearchUtest.h"
 
+#include "axmModelUtest.h"
 #include "axmUtestAccess.h"
 #include "axmUtestGroup.h"
 #include "model/axmModelSearch.h"
 #include "model/axmModelSource.h"
 #include "model/axmModelText.h"
 
-#include <axmModelUtest.h>
 #include <utUnitTest.h>
 
 #include <algorithm>

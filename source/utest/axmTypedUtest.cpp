@@ -1,5 +1,6 @@
-#include <axmTypedUtest.h>
+#include "axmTypedUtest.h"
 
+#include "axmModelUtest.h"
 #include "axmUtestAccess.h"
 #include "axmUtestGroup.h"
 #include "model/axmModelRandom.h"
@@ -7,7 +8,6 @@
 
 #include <apStringLocaleDoubleParser.h>
 #include <apStringLocaleIntParser.h>
-#include <axmModelUtest.h>
 #include <utUnitTest.h>
 
 #include <climits>

@@ -1,13 +1,14 @@
 #pragma once
 
+#include "axmDocument.h"
+#include "axmDocumentFactory.h"
+#include "axmElement.h"
+#include "axmNamedNodeMap.h"
+#include "axmNode.h"
+#include "axmNodeList.h"
+
 #include <apByteArray.h>
 #include <apString.h>
-#include <axmDocument.h>
-#include <axmDocumentFactory.h>
-#include <axmElement.h>
-#include <axmNamedNodeMap.h>
-#include <axmNode.h>
-#include <axmNodeList.h>
 
 #include <memory>
 

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "axmUtestGroupListener.h"
+
 #include <apString.h>
-#include <axmUtestGroupListener.h>
 
 #include <exception>
 

@@ -1,4 +1,4 @@
-#include <axmUtestGroupListener.h>
+#include "axmUtestGroupListener.h"
 
 #include <atomic>
 

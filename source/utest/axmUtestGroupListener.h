@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axmExport.h>
+#include "axmExport.h"
 
 /// Is told of every group of checks of this process and may leave it out, so that a run can be taken apart.
 ///

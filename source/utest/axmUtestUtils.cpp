@@ -1,4 +1,4 @@
-#include <axmUtestUtils.h>
+#include "axmUtestUtils.h"
 
 #include "axmUtestGroup.h"
 

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "axmExport.h"
+
 #include <apPath.h>
 #include <apString.h>
-#include <axmExport.h>
 
 /// What the check classes do with files.
 class AXM_API axmUtestUtils

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "axmDocumentFactory.h"
+#include "axmExport.h"
+
 #include <apPath.h>
-#include <axmDocumentFactory.h>
-#include <axmExport.h>
 
 class utUnitTest;
 

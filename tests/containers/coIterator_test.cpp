@@ -62,7 +62,7 @@ TEST(coIterator, of_an_empty_array_finds_nothing)
   EXPECT_TRUE(iterator.invalid());
 }
 
-TEST(coIterator, stays_behind_the_last_element_however_often_it_is_moved)
+TEST(coIterator, stays_after_the_last_element_however_often_it_is_moved)
 {
   Array array{1};
   Iterator iterator(array);

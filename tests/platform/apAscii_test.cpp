@@ -63,7 +63,7 @@ TEST(apAscii, narrows_text_of_any_length_and_writes_nothing_around_it)
   }
 }
 
-TEST(apAscii, bytes_behind_the_text_do_not_count)
+TEST(apAscii, bytes_after_the_text_do_not_count)
 {
   for (std::size_t length = 0; length <= longest; ++length)
     EXPECT_TRUE(apAscii::is_ascii((letters(length) + "\xFF\xFF").data(), length)) << length;

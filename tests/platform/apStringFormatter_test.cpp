@@ -165,7 +165,7 @@ TEST(apStringFormatter, arguments_are_taken_in_order)
   EXPECT_EQ(formatted(L"%d %s %.1f %c %u", -1, L"two", 3.5, L'4', 5u), L"-1 two 3.5 4 5");
 }
 
-TEST(apStringFormatter, unknown_directive_stands_as_it_is_with_all_behind_it)
+TEST(apStringFormatter, unknown_directive_stands_as_it_is_with_all_after_it)
 {
   EXPECT_EQ(formatted(L"%d %y %d", 1, 2, 3), L"1 %y %d");
   EXPECT_EQ(formatted(L"%n"), L"%n");

@@ -46,7 +46,7 @@ TEST(apStringLocaleIntParser, skips_white_space_before_the_number_and_counts_it)
   expect_read(L"  -1", -1, 4);
 }
 
-TEST(apStringLocaleIntParser, stops_behind_the_last_digit)
+TEST(apStringLocaleIntParser, stops_after_the_last_digit)
 {
   expect_read(L"12abc", 12, 2);
   expect_read(L"12 ", 12, 2);

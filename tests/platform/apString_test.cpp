@@ -133,7 +133,7 @@ TEST(apString, texts_are_ordered_character_by_character)
   EXPECT_TRUE(apString(L"B") < apString(L"a"));
 }
 
-TEST(apString, find_gives_the_first_position_at_or_behind_the_start)
+TEST(apString, find_gives_the_first_position_at_or_after_the_start)
 {
   apString const text(L"abcabc");
   EXPECT_EQ(text.find(APSTRING("abc")), 0);

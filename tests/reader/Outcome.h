@@ -6,7 +6,7 @@
 
 #include <string>
 
-// What a call throws, in words: "nothing", "end", "char " or "tag " with the whole explanation behind it.
+// What a call throws, in words: "nothing", "end", "char " or "tag " with the whole explanation after it.
 template <class Call>
 std::string thrown_by(Call call)
 {

@@ -151,7 +151,7 @@ TEST(axmElementIndex, finds_elements_by_their_place)
   EXPECT_EQ(index->find(4), axmElementIndex::none);
   EXPECT_EQ(index->find(14), 3u);
   EXPECT_EQ(index->find(18), axmElementIndex::none);
-  EXPECT_EQ(index->find(22), axmElementIndex::none); // behind the root
+  EXPECT_EQ(index->find(22), axmElementIndex::none); // after the root
   EXPECT_EQ(index->first_from(4), 2u);
   EXPECT_EQ(index->first_from(15), index->count());
 }

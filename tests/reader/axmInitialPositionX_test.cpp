@@ -47,7 +47,7 @@ TEST(axmInitialPositionX, values_come_as_they_are_written)
   EXPECT_EQ(declaration.version(), "1.0");
 }
 
-TEST(axmInitialPositionX, standalone_may_stand_behind_the_version)
+TEST(axmInitialPositionX, standalone_may_stand_after_the_version)
 {
   EXPECT_EQ(Declaration("<?xml version='1.0' standalone='yes'?>\n").standalone(), "yes");
   EXPECT_EQ(Declaration("<?xml version='1.0' standalone=''?>\n").standalone(), "");
@@ -100,12 +100,12 @@ TEST(axmInitialPositionX, a_declaration_that_does_not_end_is_the_end_error)
   EXPECT_EQ(thrown_by([] { Declaration("<?xml version='1.0' ").encoding(); }), "end");
 }
 
-TEST(axmInitialPositionX, end_point_is_behind_the_declaration_white_space_and_comments)
+TEST(axmInitialPositionX, end_point_is_after_the_declaration_white_space_and_comments)
 {
   EXPECT_EQ(Declaration("<?xml version='1.0'?>\n<!--c-->\n <!--d--><root>\n").end_point(), "<root>\n");
 }
 
-TEST(axmInitialPositionX, end_point_without_a_declaration_is_behind_the_first_tag)
+TEST(axmInitialPositionX, end_point_without_a_declaration_is_after_the_first_tag)
 {
   EXPECT_EQ(Declaration("<root> <a/>\n").end_point(), "<a/>\n");
 }

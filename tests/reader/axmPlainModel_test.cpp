@@ -270,7 +270,7 @@ protected:
   DocumentMaker maker{static_cast<std::uint32_t>(GetParam())};
 };
 
-// The position of the first NUL, behind which nothing belongs to the document.
+// The position of the first NUL, after which nothing belongs to the document.
 std::size_t length_of(std::string const& document)
 {
   return std::string(document.c_str()).size();

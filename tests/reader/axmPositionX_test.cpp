@@ -243,7 +243,7 @@ TEST(axmPositionX, skip_comment_refuses_two_hyphens_inside)
   EXPECT_EQ(thrown_by([] { Document("<!--a--->x")->skip_comment(); }), char_error('>'));
 }
 
-TEST(axmPositionX, skip_comment_wants_a_comment_and_more_behind_it)
+TEST(axmPositionX, skip_comment_wants_a_comment_and_more_after_it)
 {
   EXPECT_EQ(thrown_by([] { Document("<a>")->skip_comment(); }), char_error('!'));
   EXPECT_EQ(thrown_by([] { Document("<!--a-->")->skip_comment(); }), "end");
@@ -343,7 +343,7 @@ TEST(axmPositionX, text_node_reads_a_cdata_section)
   EXPECT_EQ(str(document->text_node()), "<x> y");
 }
 
-TEST(axmPositionX, text_node_without_text_is_empty_and_goes_back_behind_the_opening_tag)
+TEST(axmPositionX, text_node_without_text_is_empty_and_goes_back_after_the_opening_tag)
 {
   Document document("<a k=\"v\"> <b>x</b> </a>\n");
   document->object_setup();
@@ -440,7 +440,7 @@ TEST(axmPositionX, find_sub_tag_stays_on_the_child)
   EXPECT_EQ(document.rest(), "<c/></r>\n");
 }
 
-TEST(axmPositionX, find_sub_tag_goes_back_behind_the_opening_tag_when_there_is_none)
+TEST(axmPositionX, find_sub_tag_goes_back_after_the_opening_tag_when_there_is_none)
 {
   Document document("<r k=\"v\"> <a></a></r>\n");
   document->object_setup();
@@ -586,7 +586,7 @@ TEST(axmPositionX, object_setup_does_not_tell_a_self_closing_element_apart)
   EXPECT_EQ(document.rest(), "<c>x</c>");
 }
 
-TEST(axmPositionX, initial_tag_is_the_name_behind_the_first_tag)
+TEST(axmPositionX, initial_tag_is_the_name_after_the_first_tag)
 {
   Document document("<!--c--><?xml version='1.0'?>\n<root a='1'>");
   EXPECT_EQ(str(document->initial_tag()), "root");
@@ -625,7 +625,7 @@ TEST(axmPositionX, attribute_with_space_before_the_equals_sign_is_never_found)
   EXPECT_EQ(str(document->attribute(ut_lit("x"), ut_lit("none"))), "none");
 }
 
-TEST(axmPositionX, attribute_with_space_behind_the_equals_sign_has_a_space_for_quote)
+TEST(axmPositionX, attribute_with_space_after_the_equals_sign_has_a_space_for_quote)
 {
   Document document("<a x= \"1\" y='2'>_");
   EXPECT_EQ(str(document->attribute(ut_lit("x"), ut_lit("none"))), "\"1\"");
@@ -653,7 +653,7 @@ TEST(axmPositionX, attribute_without_a_name_is_found_by_an_empty_one)
   EXPECT_EQ(str(document->attribute(ut_lit(""), ut_lit("none"))), "1");
 }
 
-TEST(axmPositionX, attribute_begins_behind_the_first_space)
+TEST(axmPositionX, attribute_begins_after_the_first_space)
 {
   Document document("<a\tx='1' y='2'>_");
   EXPECT_EQ(str(document->attribute(ut_lit("x"), ut_lit("none"))), "none");

@@ -27,7 +27,7 @@ public:
   {
   }
 
-  // On an element, behind a declaration.
+  // On an element, after a declaration.
   static Reader of(std::string const& root)
   {
     Reader made("<?xml version='1.0'?>\n" + root + "\n");
@@ -385,7 +385,7 @@ TEST(axmSimpleXmlReader, comments_before_the_root_are_passed)
   EXPECT_FALSE(reader->has_error_occurred());
 }
 
-TEST(axmSimpleXmlReader, a_tab_behind_the_name_is_part_of_it)
+TEST(axmSimpleXmlReader, a_tab_after_the_name_is_part_of_it)
 {
   Reader reader = Reader::of("<r><a\tk='1'></a></r>");
   ASSERT_TRUE(reader.down("r"));

@@ -256,7 +256,7 @@ TEST(axsLoading, bytes_that_are_no_utf8_are_named_with_their_place)
                                                                         return std::string(hex);
                                                                       }());
   EXPECT_EQ(fault_of("<a>\xE2\x82"), "1:4 The byte 0xE2" + undeclared);
-  // Far behind the beginning, across the blocks that are read, and in a file.
+  // Far after the beginning, across the blocks that are read, and in a file.
   std::string const before(70000 - 5, 'x');
   EXPECT_EQ(fault_of("<a>" + before + "\xE2\x82\xAC\n\xE9</a>"), "2:1 The byte 0xE9" + undeclared);
   TestFile const file("engine_latin.xml", "<a>\n" + before + "\n\xE9</a>");

@@ -190,7 +190,7 @@ TEST(axsTree, keeps_attributes_in_their_order_and_of_any_length)
 
 TEST(axsTree, keeps_a_text_of_any_length_in_the_place_of_one_of_any_other)
 {
-  // Short ones stand in their node, longer ones behind it, the longest apart.
+  // Short ones stand in their node, longer ones after it, the longest apart.
   std::string const all(1200, 'x');
   for (std::size_t first = 0; first < all.size(); first += first < 30 ? 1 : 97)
   {

@@ -30,7 +30,7 @@ struct GuardedLimits
 {
   int processes = 1;
 
-  /// For one task; behind that its process is killed.
+  /// For one task; after that its process is killed.
   int seconds = 20;
 
   /// Of address space, for one process; 0 leaves it as it is.

@@ -27,7 +27,7 @@ std::vector<std::string> attributes(axmNode& element)
   return lines;
 }
 
-/// Calls `enter` for every node below `document` and `leave` behind the children of each, without recursion: there are
+/// Calls `enter` for every node below `document` and `leave` after the children of each, without recursion: there are
 /// deep documents.
 template <class Enter, class Leave>
 void walk(axmDocument& document, Enter enter, Leave leave)

@@ -314,7 +314,7 @@ std::vector<Fault> const& collection_faults()
     {"axmNodeList::reset", "the cursor cannot be reset", put_list<CannotBeReset>},
     {"axmNodeList::invalid", "the cursor always stands on an item", put_list<NeverInvalid>},
     {"axmNodeList::operator()", "looking at the item moves the cursor", put_list<LookingMoves>},
-    {"axmNodeList::next_node", "behind the last item comes the last item", put_list<NextStaysAtTheEnd>},
+    {"axmNodeList::next_node", "after the last item comes the last item", put_list<NextStaysAtTheEnd>},
     {"axmNodeList", "the list of a node is one object with one cursor",
       [](Hooks& h)
       {

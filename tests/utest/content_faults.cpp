@@ -311,7 +311,7 @@ std::vector<Fault> const& content_faults()
           return n->get_attribute(name, text) && text.length() > 1 && n->get_attribute(name, value);
         };
       }},
-    {"get_attribute", "a number may have more behind it",
+    {"get_attribute", "a number may have more after it",
       [](Hooks& h)
       {
         h.get_int = [](Node const& n, apString const& name, int& value)

@@ -242,7 +242,7 @@ std::vector<Fault> const& node_faults()
           return next != nullptr ? next->getNextSibling() : nullptr;
         };
       }},
-    {"getNextSibling", "behind the last child comes what follows the parent",
+    {"getNextSibling", "after the last child comes what follows the parent",
       [](Hooks& h)
       {
         h.next = [](Node const& n)

@@ -304,7 +304,7 @@ std::vector<Fault> const& subtle_tree_faults()
         };
       }},
 
-    {"insertBefore", "a sibling that comes before the reference ends up behind it",
+    {"insertBefore", "a sibling that comes before the reference ends up after it",
       [](Hooks& h)
       {
         h.insert = [](Node const& n, Node const& child, Node const& before)

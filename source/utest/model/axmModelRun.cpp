@@ -1,11 +1,11 @@
 #include "axmModelRun.h"
 
 #include "../axmUtestFile.h"
+#include "axmCommentNode.h"
 #include "axmModelSource.h"
+#include "axmTextNode.h"
+#include "axmUtestUtils.h"
 
-#include <axmCommentNode.h>
-#include <axmTextNode.h>
-#include <axmUtestUtils.h>
 #include <utAssert.h>
 
 #include <exception>

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "axmDocumentFactory.h"
 #include "axmModel.h"
 #include "axmModelStep.h"
+#include "axmNamedNodeMap.h"
+#include "axmNodeList.h"
 
 #include <apPath.h>
-#include <axmDocumentFactory.h>
-#include <axmNamedNodeMap.h>
-#include <axmNodeList.h>
 #include <utAssertListener.h>
 
 #include <memory>

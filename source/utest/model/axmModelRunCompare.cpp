@@ -1,9 +1,8 @@
+#include "axmCommentNode.h"
 #include "axmModelRun.h"
 #include "axmModelText.h"
-
-#include <axmCommentNode.h>
-#include <axmProcessingInstruction.h>
-#include <axmTextNode.h>
+#include "axmProcessingInstruction.h"
+#include "axmTextNode.h"
 
 #include <algorithm>
 #include <climits>

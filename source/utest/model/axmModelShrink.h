@@ -1,8 +1,7 @@
 #pragma once
 
+#include "axmDocumentFactory.h"
 #include "axmModelStep.h"
-
-#include <axmDocumentFactory.h>
 
 #include <string>
 #include <vector>

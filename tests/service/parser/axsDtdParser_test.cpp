@@ -122,7 +122,7 @@ TEST(axsDtdParser, declarations_of_attributes)
 }
 
 // 3.3.2
-TEST(axsDtdParser, defaults_come_behind_what_is_written_in_the_order_of_their_declarations)
+TEST(axsDtdParser, defaults_come_after_what_is_written_in_the_order_of_their_declarations)
 {
   std::string const some = "a CDATA '1' b CDATA #IMPLIED c CDATA #FIXED '3' d CDATA #REQUIRED e (x|y) 'y'";
   expect_taken({list(some), list(some, "<r d='4'/>"), list(some, "<r e='x' d='4' c='3' z='26'/>"),

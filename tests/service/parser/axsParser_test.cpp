@@ -85,12 +85,12 @@ TEST(axsParser, takes_every_character_in_names_as_the_parser_does)
     std::string const character = utf8(code);
     std::string const begin = character + std::string(17, '\0');
     std::string const behind = 'a' + begin;
-    if (axsCharacters::behind_name(begin.data()) != begin.data() && code != ':')
+    if (axsCharacters::end_of_name(begin.data()) != begin.data() && code != ':')
     {
       document += '<' + character + "/>";
       ++first;
     }
-    if (axsCharacters::behind_name(behind.data()) != behind.data() + 1 && code != ':')
+    if (axsCharacters::end_of_name(behind.data()) != behind.data() + 1 && code != ':')
     {
       document += "<a" + character + " b" + character + "='1'></a" + character + '>';
       ++further;

@@ -6,7 +6,7 @@
 
 namespace
 {
-// Of a text as the scanner has it: a zero byte behind it, and behind that whatever.
+// Of a text as the scanner has it: a zero byte after it, and after that whatever.
 std::string padded(std::string const& text)
 {
   return text + '\0' + std::string(apByteBlock::size, '<');
@@ -74,15 +74,15 @@ TEST(axsCharacters, finds_the_end_of_a_name)
     {std::pair<char const*, std::size_t>{"", 0}, {" a", 0}, {"-a", 0}, {"1a", 0}, {".a", 0}, {"a", 1}, {"_:a-1.b=", 7},
       {"a/", 1}, {"\xC3\xA4\xC3\x84\xC2\xB7z>", 7}, {"a\xC2\xB7>", 3}, {"\xC2\xB7", 0}, {"a\xC3\x97", 1}, {"a\xC3>", 1},
       {"\xC3", 0}, {"\xF0\x90\x80\x80", 4}, {"a\xF3\xAF\xBF\xBF>", 5}, {"a\xF3\xB0\x80\x80", 1}, {"a\xFF", 1}})
-    EXPECT_EQ(length(text, axsCharacters::behind_name), expected) << text;
+    EXPECT_EQ(length(text, axsCharacters::end_of_name), expected) << text;
 }
 
 TEST(axsCharacters, finds_the_end_of_what_is_plain)
 {
-  auto const text = [](char const* at) { return axsCharacters::behind_text<apByteBlock, '<', ']'>(at); };
-  auto const text_by_words = [](char const* at) { return axsCharacters::behind_text<apWordBlock, '<', ']'>(at); };
-  auto const value = [](char const* at) { return axsCharacters::behind_value(at, '"'); };
-  auto const value_by_words = [](char const* at) { return axsCharacters::behind_value<apWordBlock>(at, '"'); };
+  auto const text = [](char const* at) { return axsCharacters::end_of_text<apByteBlock, '<', ']'>(at); };
+  auto const text_by_words = [](char const* at) { return axsCharacters::end_of_text<apWordBlock, '<', ']'>(at); };
+  auto const value = [](char const* at) { return axsCharacters::end_of_value(at, '"'); };
+  auto const value_by_words = [](char const* at) { return axsCharacters::end_of_value<apWordBlock>(at, '"'); };
   for (std::size_t plain = 0; plain < 40; ++plain)
   {
     std::string const begin = std::string(plain, ' ');

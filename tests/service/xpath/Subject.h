@@ -18,14 +18,14 @@ std::shared_ptr<axmDocument> create(char const* root_name);
 
 std::string utf8(apString const& text);
 
-/// How a node is shown: an element as its name and, behind '#', its attribute id; an attribute as "@name=value", a text
+/// How a node is shown: an element as its name and, after '#', its attribute id; an attribute as "@name=value", a text
 /// in quotes, a comment as "<!--data-->", an instruction as "<?target?>", the document as "/".
 std::string label(axmNode& node);
 
 /// The nodes that an expression gives, separated by blanks; "error at P: M" where it is wrong.
 std::string nodes(axmNode& context, std::string const& expression);
 
-/// The value of an expression as its function string() has it, behind its type: "number 1".
+/// The value of an expression as its function string() has it, after its type: "number 1".
 std::string value(axmNode& context, std::string const& expression);
 
 /// The same for a document in which nothing stands.

@@ -54,7 +54,7 @@ TEST_F(XPathAxis, descendant_or_self_adds_the_node)
   EXPECT_EQ(nodes(*document, "//@x/descendant-or-self::node()"), "@x=7");
 }
 
-TEST_F(XPathAxis, following_leads_to_what_starts_behind_the_end)
+TEST_F(XPathAxis, following_leads_to_what_starts_after_the_end)
 {
   EXPECT_EQ(from_d("following::node()"), "<?go?> g#7 h#8");
   EXPECT_EQ(nodes(*document, "//c/following::*"), "d#4 e#5 f#6 g#7 h#8");

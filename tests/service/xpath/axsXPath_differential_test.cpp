@@ -206,7 +206,7 @@ bool holds_one_of(std::string const& text, std::initializer_list<char const*> pa
 }
 
 /// Whether a step "." follows "//".
-bool has_self_behind_slashes(std::string const& expression)
+bool has_self_after_slashes(std::string const& expression)
 {
   for (std::size_t at = expression.find("//."); at != std::string::npos; at = expression.find("//.", at + 1))
     if (expression.compare(at, 4, "//..") != 0)
@@ -231,7 +231,7 @@ bool known_difference(std::string const& document, std::string const& expression
   bool const meets_attributes = is_attribute || holds_one_of(expression, {"@", "attribute::", "namespace::"});
   if (meets_attributes && holds_one_of(expression, {"following::"}))
     return true;
-  if (has_self_behind_slashes(expression))
+  if (has_self_after_slashes(expression))
     return true;
   if (holds_one_of(expression, {"preceding::"}) && holds_one_of(document, {"--><?pi one?><a", "<?go behind?><!--end"}))
     return true;

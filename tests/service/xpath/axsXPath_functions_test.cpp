@@ -165,7 +165,7 @@ TEST_F(XPathFunction, substring_before_ends_at_the_first_occurrence)
   EXPECT_EQ(ask("substring-before('abc', '')"), "string ");
 }
 
-TEST_F(XPathFunction, substring_after_starts_behind_the_first_occurrence)
+TEST_F(XPathFunction, substring_after_starts_after_the_first_occurrence)
 {
   EXPECT_EQ(ask("substring-after('1999/04/01', '/')"), "string 04/01");
   EXPECT_EQ(ask("substring-after('abc', 'x')"), "string ");
