@@ -7,6 +7,12 @@
 
 bool axsXPath::evaluate(axmNode& context, apString const& expression, Value& value, axsXPathError& error)
 {
+  return evaluate(context, expression, {}, value, error);
+}
+
+bool axsXPath::evaluate(
+  axmNode& context, apString const& expression, axsXPathPrefixes const& prefixes, Value& value, axsXPathError& error)
+{
   axsNode* const node = axsHandle::node_of(context);
   if (node == nullptr)
   {
@@ -15,7 +21,7 @@ bool axsXPath::evaluate(axmNode& context, apString const& expression, Value& val
   }
   axsXPathCache& cache = axsDomDocument::of(*node).xpath_cache();
   axsXPathQuery::Value found;
-  if (!axsXPathQuery::evaluate(cache, *node, expression.to_utf8().view(), found, error))
+  if (!axsXPathQuery::evaluate(cache, *node, expression.to_utf8().view(), prefixes, found, error))
     return false;
 
   Value made;

@@ -2,6 +2,7 @@
 
 #include "axsExport.h"
 #include "axsXPathError.h"
+#include "axsXPathPrefixes.h"
 #include "axsXPathType.h"
 #include <apString.h>
 #include <axmNode.h>
@@ -50,4 +51,10 @@ public:
   /// expression is wrong or the context is no node of this engine; `error` is without a message otherwise.
   /// Throws std::bad_alloc when memory runs out. One document belongs to one thread at a time.
   static bool evaluate(axmNode& context, apString const& expression, Value& value, axsXPathError& error);
+
+  /// The same with prefixes of the caller's, in UTF-8, which count before those in scope: so that what is in a default
+  /// namespace, which XPath has no name for, can be named. "xml" stays what it is, and a prefix that is given as bound to
+  /// nothing is not declared.
+  static bool evaluate(
+    axmNode& context, apString const& expression, axsXPathPrefixes const& prefixes, Value& value, axsXPathError& error);
 };

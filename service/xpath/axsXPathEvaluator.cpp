@@ -54,7 +54,7 @@ axsXPathEvaluator::axsXPathEvaluator(axsXPathExpression const& evaluated, axsNod
   initial_context.node = data_model.wrapped(context);
 }
 
-bool axsXPathEvaluator::bind(axsXPathError& error, std::size_t& place)
+bool axsXPathEvaluator::bind(axsXPathPrefixes const& prefixes, axsXPathError& error, std::size_t& place)
 {
   place = 0;
   if (initial_context.node.is_none())
@@ -66,7 +66,7 @@ bool axsXPathEvaluator::bind(axsXPathError& error, std::size_t& place)
   tests.resize(expression.steps.size());
   for (std::size_t i = 0; i < tests.size(); ++i)
   {
-    if (bind_step(expression.steps[i], scope, tests[i]))
+    if (bind_step(expression.steps[i], prefixes, scope, tests[i]))
       continue;
     Expression::Name const& name = *expression.name_of(expression.steps[i].test);
     error.message = "the prefix '" + name.prefix + "' is not declared at the context node";
@@ -76,7 +76,8 @@ bool axsXPathEvaluator::bind(axsXPathError& error, std::size_t& place)
   return true;
 }
 
-bool axsXPathEvaluator::bind_step(Expression::Step const& step, axsElement const* scope, axsXPathNodeTest& test)
+bool axsXPathEvaluator::bind_step(
+  Expression::Step const& step, axsXPathPrefixes const& prefixes, axsElement const* scope, axsXPathNodeTest& test)
 {
   test.kind = step.test.kind;
   Expression::Name const* const found = expression.name_of(step.test);
@@ -95,6 +96,8 @@ bool axsXPathEvaluator::bind_step(Expression::Step const& step, axsElement const
   }
   if (name.prefix == "xml")
     test.uri = axsXPathScopes::xml_uri;
+  else if (auto const given = prefixes.find(name.prefix); given != prefixes.end())
+    test.uri = given->second;
   else if (scope != nullptr)
     test.uri = data_model.scopes().uri(*scope, name.prefix);
   return !test.uri.empty();

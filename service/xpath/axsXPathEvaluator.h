@@ -8,6 +8,7 @@
 #include "axsXPathModel.h"
 #include "axsXPathNodeTest.h"
 #include "axsXPathPathEvaluator.h"
+#include "axsXPathPrefixes.h"
 #include "axsXPathValue.h"
 
 #include <cstddef>
@@ -34,10 +35,10 @@ public:
   /// With `context` as the context node. The expression has to outlive the evaluator.
   axsXPathEvaluator(axsXPathExpression const& evaluated, axsNode& context);
 
-  /// Takes the prefixes of the expression from the scope of the context node. False, with the error filled but for its
-  /// position, and that in bytes in `place`, where one is not declared or the context is no node of the data model.
-  /// To be called first.
-  bool bind(axsXPathError& error, std::size_t& place);
+  /// Takes the prefixes of the expression from `prefixes`, which must live as long, and those that are not there from the
+  /// scope of the context node. False, with the error filled but for its position, and that in bytes in `place`, where one
+  /// is not declared or the context is no node of the data model. To be called first.
+  bool bind(axsXPathPrefixes const& prefixes, axsXPathError& error, std::size_t& place);
 
   /// The value of the whole expression.
   axsXPathValue evaluate();
@@ -98,7 +99,8 @@ private:
 
   using CachedNodes = std::unordered_map<CacheKey, Nodes, CacheKeyHash>;
 
-  bool bind_step(Expression::Step const& step, axsElement const* scope, axsXPathNodeTest& test);
+  bool bind_step(
+    Expression::Step const& step, axsXPathPrefixes const& prefixes, axsElement const* scope, axsXPathNodeTest& test);
 
   // The value of a term, without a look at the cache, as the type that the term has.
   axsXPathValue compute_value(int term, Context const& context);

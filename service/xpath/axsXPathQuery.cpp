@@ -37,10 +37,10 @@ std::vector<axsXPathNode> handed_out(std::vector<axsXPathNode> nodes)
   return nodes;
 }
 
-bool bind(axsXPathEvaluator& evaluator, std::string_view text, axsXPathError& error)
+bool bind(axsXPathEvaluator& evaluator, axsXPathPrefixes const& prefixes, std::string_view text, axsXPathError& error)
 {
   std::size_t place = 0;
-  if (evaluator.bind(error, place))
+  if (evaluator.bind(prefixes, error, place))
     return true;
   error.position = static_cast<int>(utUtf8::count(text.substr(0, place))) + 1;
   return false;
@@ -55,7 +55,7 @@ std::vector<axsXPathNode> select_nodes(axsXPathEvaluator& evaluator, axsXPathExp
     error.position = 1;
     return {};
   }
-  if (!bind(evaluator, text, error))
+  if (!bind(evaluator, {}, text, error))
     return {};
   return evaluator.select(want);
 }
@@ -90,14 +90,14 @@ axsNode* axsXPathQuery::select_first(
   return found == nodes.end() ? nullptr : handed_out(*found);
 }
 
-bool axsXPathQuery::evaluate(
-  axsXPathCache& cache, axsNode& context, std::string_view text, Value& value, axsXPathError& error)
+bool axsXPathQuery::evaluate(axsXPathCache& cache, axsNode& context, std::string_view text,
+  axsXPathPrefixes const& prefixes, Value& value, axsXPathError& error)
 {
   auto const expression = cache.compile(text, error);
   if (expression == nullptr)
     return false;
   axsXPathEvaluator evaluator(*expression, context);
-  if (!bind(evaluator, text, error))
+  if (!bind(evaluator, prefixes, text, error))
     return false;
   axsXPathValue const found = evaluator.evaluate();
   value = Value();

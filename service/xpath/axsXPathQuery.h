@@ -2,6 +2,7 @@
 
 #include "axsXPathError.h"
 #include "axsXPathNode.h"
+#include "axsXPathPrefixes.h"
 #include "axsXPathType.h"
 
 #include <string>
@@ -36,6 +37,8 @@ std::vector<axsXPathNode> select(
 /// The first of them, null if there is none, without looking for the others where that can be spared.
 axsNode* select_first(axsXPathCache& cache, axsNode& context, std::string_view expression, axsXPathError& error);
 
-/// The value of `expression`, whatever its type. False, with the reason in `error`, where it is wrong.
-bool evaluate(axsXPathCache& cache, axsNode& context, std::string_view expression, Value& value, axsXPathError& error);
+/// The value of `expression`, whatever its type, with `prefixes` before those in scope. False, with the reason in `error`,
+/// where it is wrong.
+bool evaluate(axsXPathCache& cache, axsNode& context, std::string_view expression, axsXPathPrefixes const& prefixes,
+  Value& value, axsXPathError& error);
 }

@@ -109,3 +109,22 @@ TEST_F(XPathSelect, an_error_leaves_the_value_as_it_was)
   EXPECT_EQ(value.number, 7);
   EXPECT_EQ(error.position, 3);
 }
+
+TEST(axsXPath, prefixes_that_are_given_name_what_is_in_a_default_namespace)
+{
+  auto const document = subject::load("<r xmlns='urn:a' xmlns:q='urn:b'><b id='1'/><q:b id='2'/></r>");
+  axsXPath::Value value;
+  axsXPathError error;
+  auto const text = [&](char const* expression, axsXPathPrefixes const& prefixes)
+  {
+    bool const is_right = axsXPath::evaluate(*document, apString(expression), prefixes, value, error);
+    return is_right ? std::string(value.text.to_utf8().c_str()) : error.message;
+  };
+  EXPECT_EQ(text("string(//p:b/@id)", {{"p", "urn:a"}}), "1");
+  // What is given counts before what is in scope, and beside it.
+  EXPECT_EQ(text("string(//q:b/@id)", {{"q", "urn:a"}}), "1");
+  EXPECT_EQ(text("string(//q:b/@id)", {{"p", "urn:a"}}), "2");
+  EXPECT_EQ(text("count(//xml:b)", {{"xml", "urn:a"}}), "0");
+  EXPECT_EQ(text("//p:b", {{"p", ""}}), "the prefix 'p' is not declared at the context node");
+  EXPECT_EQ(error.position, 3);
+}
