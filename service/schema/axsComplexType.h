@@ -7,6 +7,7 @@
 #include "axsTypeDefinition.h"
 #include "axsWildcard.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 
@@ -24,6 +25,8 @@ struct axsComplexType
   };
 
   axsSchemaName name;
+  /// Among the complex types of the schema, counted from 0.
+  std::uint32_t number = 0;
   axsTypeDefinition base;
   axsDerivation derivation = axsDerivationRestriction;
   bool is_abstract = false;

@@ -225,6 +225,9 @@ void axsSchemaBuilder::compile_contents()
 
 void axsSchemaBuilder::publish()
 {
+  std::uint32_t number = 0;
+  for (axsComplexType& type : context.store.complex_types)
+    type.number = number++;
   for (axsSchemaUnit const& unit : loader.units())
     model->add_namespace(unit.target);
   model->add({axsSchemaVocabulary::schema_namespace, "anyType"}, {nullptr, context.any_type});

@@ -13,6 +13,10 @@
 #include "axsTypeDerivation.h"
 #include "axsWildcard.h"
 
+#include <utXmlCharacter.h>
+
+#include <algorithm>
+
 namespace
 {
 using Kind = axsValueConstraint::Kind;
@@ -22,6 +26,11 @@ std::string_view const white = " \t\r\n";
 std::string shown(axsKnownName const& name)
 {
   return "element '" + std::string(name.name->local()) + "'";
+}
+
+bool is_white(std::string_view text) noexcept
+{
+  return std::all_of(text.begin(), text.end(), [](char c) { return utXmlCharacter::is_space(c); });
 }
 
 std::string_view without_white(std::string_view text)
@@ -286,6 +295,7 @@ void axsAssessment::open(Element& element)
   }
   if (element.has_run)
     contents.open(*type->automaton);
+  element.collects_text = collects_text(element);
   value.clear();
   elements.push_back(element);
 }
@@ -318,30 +328,43 @@ void axsAssessment::pass_on_with_defaults(axsStartTag const& tag)
   next->start_element(longer);
 }
 
+// Whether what is in the element has to be known as a whole: not where any text is right and nobody asks for the value.
+bool axsAssessment::collects_text(Element const& element) const
+{
+  bool const has_constraint = element.decl != nullptr && element.decl->constraint.kind != Kind::none;
+  if (element.content != Content::simple)
+    return element.content == Content::mixed && has_constraint;
+  axsSimpleType const* const type = simple_type_of(element);
+  return has_constraint || is_field() || type == nullptr || !type->takes_all();
+}
+
+bool axsAssessment::is_field() const
+{
+  return findings.identity.is_active() && findings.identity.wants_value();
+}
+
 void axsAssessment::text(std::string_view text, bool is_cdata)
 {
   if (!elements.empty() && !text.empty())
-  {
-    Element& element = elements.back();
-    bool const is_refused =
-      element.is_nil || element.content == Content::empty ||
-      (element.content == Content::elements && text.find_first_not_of(white) != std::string_view::npos);
-    if (is_refused && !element.is_wrong)
-    {
-      element.is_wrong = true;
-      findings.report(
-        shown(*element.name) + (element.content == Content::elements && !element.is_nil ? ": text is not allowed here"
-                                                                                        : ": it must be empty"));
-    }
-    bool const has_constraint = element.decl != nullptr && element.decl->constraint.kind != Kind::none;
-    if (element.content == Content::simple || (element.content == Content::mixed && has_constraint))
-      value += text;
-  }
+    take_text(elements.back(), text);
   if (next != nullptr)
     next->text(text, is_cdata);
 }
 
-axsSimpleType const* axsAssessment::simple_type_of(Element const& element) const
+void axsAssessment::take_text(Element& element, std::string_view text)
+{
+  if (element.collects_text)
+    value += text;
+  bool const is_refused =
+    element.is_nil || element.content == Content::empty || (element.content == Content::elements && !is_white(text));
+  if (!is_refused || element.is_wrong)
+    return;
+  element.is_wrong = true;
+  bool const is_misplaced = element.content == Content::elements && !element.is_nil;
+  findings.report(shown(*element.name) + (is_misplaced ? ": text is not allowed here" : ": it must be empty"));
+}
+
+axsSimpleType const* axsAssessment::simple_type_of(Element const& element)
 {
   return element.type.simple != nullptr    ? element.type.simple
          : element.type.complex != nullptr ? element.type.complex->simple_content
@@ -390,15 +413,14 @@ void axsAssessment::tell_identity(Element const& element)
 void axsAssessment::end_simple(Element& element)
 {
   axsSimpleType const* const type = simple_type_of(element);
-  if (type == nullptr || element.is_wrong)
+  if (type == nullptr || element.is_wrong || !element.collects_text)
     return;
   bool const has_constraint = element.decl != nullptr && element.decl->constraint.kind != Kind::none;
   if (has_constraint && value.empty())
     return end_with_default(element, *type);
   bool const is_fixed = has_constraint && element.decl->constraint.kind == Kind::fixed;
-  bool const is_field = findings.identity.is_active() && findings.identity.wants_value();
-  bool const wants_value = is_fixed || is_field || axsAttributeAssessment::has_meaning(*type);
-  findings.value.clear();
+  bool const is_asked_for = is_field();
+  bool const wants_value = is_fixed || is_asked_for || type->has_references();
   if (!type->check(value, findings.context, wants_value ? &findings.value : nullptr))
     return findings.report(shown(*element.name) + ": " + type->fault(value, findings.context));
   if (is_fixed && findings.value.bytes() != element.decl->constraint.bytes)
@@ -408,7 +430,7 @@ void axsAssessment::end_simple(Element& element)
   if (wants_value && !findings.value.identifiers().empty())
     if (std::string const wrong = findings.identifiers.add(findings.value, findings.locator->end()); !wrong.empty())
       findings.report(shown(*element.name) + ": " + wrong);
-  if (is_field)
+  if (is_asked_for)
     findings.identity.value({value, findings.value.bytes()}, element.decl != nullptr && element.decl->is_nillable);
 }
 
@@ -419,7 +441,7 @@ void axsAssessment::end_with_default(Element const& element, axsSimpleType const
   bool const is_declared = element.type == element.decl->type;
   if (!is_declared && !type.needs_namespaces() && !type.check(constraint.value, findings.context, nullptr))
     return findings.report(shown(*element.name) + ": " + type.fault(constraint.value, findings.context));
-  if (findings.identity.is_active() && findings.identity.wants_value())
+  if (is_field())
     findings.identity.value({constraint.value, constraint.bytes}, element.decl->is_nillable);
   if (adds_defaults && next != nullptr)
     next->text(constraint.value, false);

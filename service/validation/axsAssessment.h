@@ -66,6 +66,7 @@ private:
     bool has_run = false;  // of the automaton of its content
     bool is_wrong = false; // something is wrong with what is in it, and has been said
     bool has_children = false;
+    bool collects_text = false; // which is looked at when it ends
   };
 
   // What the attributes of the namespace of schema instances say.
@@ -90,12 +91,15 @@ private:
   void assess_attributes(axsStartTag const& tag, Element const& element);
   void pass_on(axsStartTag const& tag);
   void pass_on_with_defaults(axsStartTag const& tag);
+  bool collects_text(Element const& element) const;
+  void take_text(Element& element, std::string_view text);
   void end_content(Element& element);
   void end_simple(Element& element);
   void end_with_default(Element const& element, axsSimpleType const& type);
   void end_mixed(Element& element);
   void tell_identity(Element const& element);
-  axsSimpleType const* simple_type_of(Element const& element) const;
+  bool is_field() const;
+  static axsSimpleType const* simple_type_of(Element const& element);
 
   axsFindings findings;
   axsAttributeAssessment attributes;
@@ -105,6 +109,6 @@ private:
   bool adds_defaults = false;
   std::vector<Element> elements;
   axsContentStack contents;
-  std::string value; // the text of the innermost element, where it is of a simple type
+  std::string value; // the text of the innermost element, where that collects it
   std::vector<axsTagAttribute> extended;
 };

@@ -32,12 +32,6 @@ bool allows(axsWildcard const& wildcard, std::string_view name_space)
 
 }
 
-bool axsAttributeAssessment::has_meaning(axsSimpleType const& type) noexcept
-{
-  return type.role() != axsSimpleType::Role::plain || type.variety() == axsSimpleType::Variety::list ||
-         type.variety() == axsSimpleType::Variety::union_of;
-}
-
 bool axsAttributeAssessment::is_exempt(axsTagAttribute const& attribute) noexcept
 {
   if (attribute.is_declaration)
@@ -51,26 +45,58 @@ bool axsAttributeAssessment::is_exempt(axsTagAttribute const& attribute) noexcep
 void axsAttributeAssessment::assess(axsStartTag const& tag, axsComplexType const& type)
 {
   start = &tag;
-  wild_ids = 0;
   added.clear();
+  std::vector<Usual>& usual = usual_of(type);
+  if (!assess_usual(usual))
+    assess_each(type, usual);
+}
+
+std::vector<axsAttributeAssessment::Usual>& axsAttributeAssessment::usual_of(axsComplexType const& type)
+{
+  if (type.number >= usuals.size())
+    usuals.resize(type.number + std::size_t{1});
+  return usuals[type.number];
+}
+
+// Whether the element has exactly these attributes.
+bool axsAttributeAssessment::assess_usual(std::vector<Usual> const& usual)
+{
+  std::vector<axsTagAttribute> const& attributes = *start->attributes;
+  if (usual.empty() || usual.size() != attributes.size())
+    return false;
+  for (std::size_t i = 0; i < usual.size(); ++i)
+    if (attributes[i].name != usual[i].name || attributes[i].name_space != usual[i].use->decl->name.name_space)
+      return false;
+  for (std::size_t i = 0; i < usual.size(); ++i)
+    assess_use(attributes[i], *usual[i].use);
+  return true;
+}
+
+void axsAttributeAssessment::assess_each(axsComplexType const& type, std::vector<Usual>& usual)
+{
+  usual.clear();
+  wild_ids = 0;
   is_seen.assign(type.attributes.size(), 0);
-  for (axsTagAttribute const& attribute : *tag.attributes)
+  for (axsTagAttribute const& attribute : *start->attributes)
   {
     if (is_exempt(attribute))
     {
       tell_identity(attribute);
       continue;
     }
-    std::size_t const use = find_use(type, attribute);
-    if (use == type.attributes.size())
+    std::size_t const number = type.attributes.find(attribute.name_space, attribute.name->local());
+    if (number == axsAttributeUses::none)
     {
       assess_wild(attribute, type);
       continue;
     }
-    is_seen[use] = 1;
-    assess_use(attribute, type.attributes[use]);
+    is_seen[number] = 1;
+    axsAttributeUse const& use = type.attributes[number];
+    usual.push_back({attribute.name, &use});
+    assess_use(attribute, use);
   }
-  add_missing(type);
+  if (add_missing(type) || usual.size() != start->attributes->size())
+    usual.clear();
 }
 
 void axsAttributeAssessment::assess_simple(axsStartTag const& tag)
@@ -105,12 +131,6 @@ void axsAttributeAssessment::skip(axsStartTag const& tag)
   added.clear();
   for (axsTagAttribute const& attribute : *tag.attributes)
     tell_identity(attribute);
-}
-
-std::size_t axsAttributeAssessment::find_use(axsComplexType const& type, axsTagAttribute const& attribute)
-{
-  std::size_t const found = type.attributes.find(attribute.name_space, attribute.name->local());
-  return found == axsAttributeUses::none ? type.attributes.size() : found;
 }
 
 // cvc-attribute, cvc-au
@@ -157,8 +177,7 @@ bool axsAttributeAssessment::check_value(
 {
   findings.has_assessed = true;
   bool const is_field = findings.identity.is_active() && findings.identity.wants_attributes();
-  bool const wants_value = fixed != nullptr || is_field || has_meaning(type);
-  findings.value.clear();
+  bool const wants_value = fixed != nullptr || is_field || type.has_references();
   if (!type.check(attribute.value, findings.context, wants_value ? &findings.value : nullptr))
   {
     findings.report(subject(attribute) + type.fault(attribute.value, findings.context));
@@ -188,9 +207,10 @@ void axsAttributeAssessment::tell_identity(axsTagAttribute const& attribute)
   findings.identity.attribute(attribute.name_space, attribute.name->local(), {attribute.value, findings.value.bytes()});
 }
 
-// cvc-complex-type.4; and the attributes with defaults (3.4.5, attribute default).
-void axsAttributeAssessment::add_missing(axsComplexType const& type)
+// cvc-complex-type.4; and the attributes with defaults (3.4.5, attribute default). Whether there are any of either.
+bool axsAttributeAssessment::add_missing(axsComplexType const& type)
 {
+  bool is_any_missing = false;
   for (std::size_t i = 0; i < is_seen.size(); ++i)
   {
     axsAttributeUse const& use = type.attributes[i];
@@ -198,9 +218,13 @@ void axsAttributeAssessment::add_missing(axsComplexType const& type)
       continue;
     axsValueConstraint const& constraint = constraint_of(use);
     if (use.is_required)
+    {
+      is_any_missing = true;
       findings.report("element '" + element() + "': missing required attribute '" + use.decl->name.local + "'");
+    }
     else if (constraint.kind != Kind::none)
     {
+      is_any_missing = true;
       added.push_back(&use);
       add_references(use, constraint.value);
       if (findings.identity.is_active() && findings.identity.wants_attributes())
@@ -208,12 +232,13 @@ void axsAttributeAssessment::add_missing(axsComplexType const& type)
           use.decl->name.name_space, use.decl->name.local, {constraint.value, constraint.bytes});
     }
   }
+  return is_any_missing;
 }
 
 // A default may refer to IDs (cvc-id); it cannot be one.
 void axsAttributeAssessment::add_references(axsAttributeUse const& use, std::string const& value)
 {
-  if (use.decl->type == nullptr || !has_meaning(*use.decl->type))
+  if (use.decl->type == nullptr || !use.decl->type->has_references())
     return;
   findings.value.clear();
   if (use.decl->type->check(value, findings.context, &findings.value) && !findings.value.identifiers().empty())

@@ -4,14 +4,12 @@
 #include "axsStartTag.h"
 #include "axsTypeDefinition.h"
 
-#include "axsTextHash.h"
-
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
+class axsName;
 struct axsAttributeUse;
 struct axsComplexType;
 struct axsWildcard;
@@ -33,28 +31,26 @@ public:
   /// Nothing is looked at.
   void skip(axsStartTag const& tag);
 
-  /// Whether a value of the type may be or contain an ID or a reference to one.
-  static bool has_meaning(axsSimpleType const& type) noexcept;
-
   /// The attributes that the type adds to the element assessed last.
   std::vector<axsAttributeUse const*> const& defaults() const noexcept { return added; }
 
 private:
-  struct NameHash
+  // The attributes of an element in which each was declared and none was missing.
+  struct Usual
   {
-    axsTextHash text;
-    std::size_t operator()(std::pair<std::string_view, std::string_view> const& name) const
-    {
-      return text(name.first) * 31 + text(name.second);
-    }
+    axsName const* name;
+    axsAttributeUse const* use;
   };
+
   static bool is_exempt(axsTagAttribute const& attribute) noexcept;
-  std::size_t find_use(axsComplexType const& type, axsTagAttribute const& attribute);
+  std::vector<Usual>& usual_of(axsComplexType const& type);
+  bool assess_usual(std::vector<Usual> const& usual);
+  void assess_each(axsComplexType const& type, std::vector<Usual>& usual);
   void assess_use(axsTagAttribute const& attribute, axsAttributeUse const& use);
   void assess_wild(axsTagAttribute const& attribute, axsComplexType const& type);
   bool check_value(axsTagAttribute const& attribute, axsSimpleType const& type, std::string const* fixed,
     std::string const& shown_fixed);
-  void add_missing(axsComplexType const& type);
+  bool add_missing(axsComplexType const& type);
   void add_references(axsAttributeUse const& use, std::string const& value);
   void tell_identity(axsTagAttribute const& attribute);
   std::string subject(axsTagAttribute const& attribute) const;
@@ -65,4 +61,6 @@ private:
   std::vector<char> is_seen; // by the number of the use
   std::size_t wild_ids = 0;
   std::vector<axsAttributeUse const*> added;
+  // By the number of the type: elements of one type have mostly the same attributes in the same order.
+  std::vector<std::vector<Usual>> usuals;
 };

@@ -23,6 +23,9 @@ struct axsContentItem
   axsContentGroup const* group = nullptr;
   axsParticle const* particle = nullptr;
 
+  /// Whether it is of the element declaration with that name itself.
+  bool is_named(std::uint32_t symbol) const noexcept { return names != nullptr && names->symbol == symbol; }
+
   /// Whether the element or wildcard takes the name; `symbol` may be axsSymbols::none.
   bool takes(std::uint32_t symbol, std::uint32_t space) const noexcept
   {

@@ -42,9 +42,39 @@ axsContentItem const* axsContentStack::step(std::uint32_t symbol, std::uint32_t 
 {
   if (runs.back().is_weak)
     return step_weak(symbol, space);
+  if (axsContentItem const* const near = step_near(symbol))
+    return near;
   found_moves.clear();
   find_moves(frames, runs.back().first_frame, symbol, space, false, found_moves);
   return found_moves.empty() ? nullptr : apply(frames, found_moves.front(), symbol, space);
+}
+
+// Most children are of the same element particle as the one before, or of the next one in a sequence. Others are left to
+// find_moves(), which decides the same where no two particles compete for a child (cos-nonambig).
+axsContentItem const* axsContentStack::step_near(std::uint32_t symbol)
+{
+  Frame& frame = frames.back();
+  axsContentGroup const& group = *frame.group;
+  if (group.is_all())
+    return nullptr;
+  std::uint32_t next = 0;
+  if (frame.child != before_first)
+  {
+    axsContentItem const& item = frame.item();
+    if (frame.count < item.max && item.is_named(symbol))
+    {
+      frame.count = counted(item, frame.count);
+      return &item;
+    }
+    if (frame.count < item.min || !group.is_sequence())
+      return nullptr;
+    next = frame.child + 1;
+  }
+  if (!group.is_sequence() || next == group.items.size() || !group.items[next].is_named(symbol))
+    return nullptr;
+  frame.child = next;
+  frame.count = 1;
+  return &group.items[next];
 }
 
 // A child can be counted in several ways, of which a later child may refuse some: all that differ are followed.

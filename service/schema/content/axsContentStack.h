@@ -74,6 +74,7 @@ private:
 
   static constexpr std::uint32_t before_first = static_cast<std::uint32_t>(-1);
 
+  axsContentItem const* step_near(std::uint32_t symbol);
   axsContentItem const* step_weak(std::uint32_t symbol, std::uint32_t space);
   void find_moves(Frames const& from, std::size_t base, std::uint32_t symbol, std::uint32_t space, bool all,
     std::vector<Move>& moves) const;

@@ -43,6 +43,8 @@ axsBuiltInRegistry::axsBuiltInRegistry()
   add_text_types();
   add_lists();
   add_numbers();
+  for (std::unique_ptr<axsSimpleType> const& type : made)
+    type->quick = axsQuickCheck(*type);
 }
 
 axsSimpleType const* axsBuiltInRegistry::find(std::string_view name) const noexcept
@@ -98,6 +100,7 @@ void axsBuiltInRegistry::add_text_types()
     type.form = text.form;
     type.own_role = text.role;
     type.contains_id = text.role == Role::id;
+    type.contains_references = text.role == Role::id || text.role == Role::idref;
   }
 }
 

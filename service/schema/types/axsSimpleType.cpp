@@ -71,6 +71,8 @@ bool axsSimpleType::is_restriction_of(axsSimpleType const& ancestor, axsDerivati
 
 bool axsSimpleType::check(std::string_view text, axsValueContext const& context, axsValue* value) const
 {
+  if (value == nullptr && quick.takes(text))
+    return true;
   bool const is_valid = axsTypeChecker(context).check(*this, text, value).is_valid();
   if (!is_valid && value != nullptr)
     value->clear();
@@ -135,6 +137,7 @@ void axsSimpleType::make_list(axsSimpleType const& of)
 void axsSimpleType::contain(axsSimpleType const& part) noexcept
 {
   contains_id = contains_id || part.contains_id;
+  contains_references = contains_references || part.contains_references;
   contains_notation = contains_notation || part.contains_notation;
   contains_names = contains_names || part.contains_names;
   contains_list = contains_list || part.contains_list;

@@ -3,6 +3,7 @@
 #include "axsDerivation.h"
 #include "axsFacet.h"
 #include "axsPrimitive.h"
+#include "axsQuickCheck.h"
 #include "axsValue.h"
 #include "axsValueContext.h"
 #include "axsValueSet.h"
@@ -74,6 +75,12 @@ public:
   bool has_id() const noexcept { return contains_id; }
   bool has_notation() const noexcept { return contains_notation; }
 
+  /// Whether a value may be or contain an ID or a reference to one.
+  bool has_references() const noexcept { return contains_references; }
+
+  /// Whether every text is a value of the type, whatever surrounds it.
+  bool takes_all() const noexcept { return quick.takes_all(); }
+
   /// Whether values depend on the namespaces in scope: the type is or contains QName or NOTATION.
   bool needs_namespaces() const noexcept { return contains_names; }
 
@@ -125,6 +132,7 @@ public:
 private:
   friend class axsSimpleTypes;
   friend class axsBuiltInRegistry;
+  friend class axsQuickCheck;
   friend class axsTypeChecker;
   friend class axsRestriction;
 
@@ -171,6 +179,7 @@ private:
   axsDerivationSet own_final = 0;
   bool built_in = false;
   bool contains_id = false;
+  bool contains_references = false;
   bool contains_notation = false;
   bool contains_names = false;
   bool contains_list = false; // the type or a member
@@ -191,4 +200,6 @@ private:
   PatternStep patterns;
   // The nearest type with patterns of its own that it is derived from, or is.
   axsSimpleType const* with_patterns = nullptr;
+  // Made when all else is.
+  axsQuickCheck quick;
 };

@@ -34,6 +34,7 @@ axsSimpleType const& axsSimpleTypes::restrict(axsTypeHead const& head, axsSimple
   axsSimpleType& type = add(head, base);
   type.inherit(base);
   axsRestriction(type, diagnostics, head.place).add_all(facets);
+  type.quick = axsQuickCheck(type);
   return type;
 }
 

@@ -74,6 +74,11 @@ Verdict axsTypeChecker::check(axsSimpleType const& type, std::string_view text, 
 
 Verdict axsTypeChecker::check_any(axsSimpleType const& type, std::string_view text, Target& target) const
 {
+  if (target.bytes == nullptr && target.names == nullptr && type.quick.takes(text))
+  {
+    target.active = &type;
+    return valid();
+  }
   switch (type.variety())
   {
   case axsSimpleType::Variety::list:
