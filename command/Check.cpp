@@ -1,14 +1,16 @@
 #include "BuiltInCheck.h"
+#include "CommonOptions.h"
+#include "FileJobs.h"
 #include "Loading.h"
-#include "Progress.h"
+#include "Messages.h"
 #include "Verb.h"
 
 #include <CLI/CLI.hpp>
 
 #include <cstdint>
-#include <iostream>
 #include <limits>
 #include <memory>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -39,6 +41,7 @@ struct Request
   std::string plain_schema;
   bool all_errors = false;
   bool schemas_only = false;
+  unsigned jobs = 1;
 
   std::size_t max_errors() const { return all_errors ? std::numeric_limits<std::size_t>::max() : 20; }
   bool validates() const { return !schemas.empty() || !plain_schema.empty(); }
@@ -90,21 +93,17 @@ bool check_schema(std::string const& file, Request const& request)
   return complain_of_all(built_in_schema_check(file, request.max_errors()), file);
 }
 
-bool check_document(BuiltInCheck const& engine, std::string const& file, Request const& request)
+bool check_document(BuiltInCheck const& engine, std::string const& file, Request const& request, JobOutput& output)
 {
-  std::string const name = file == "-" ? "standard input" : file;
-  BuiltInCheck::Result result;
-  {
-    Progress progress;
-    result = engine.run(
-      file, request.max_errors(), [&](std::uint64_t bytes) { progress.show_bytes(static_cast<long long>(bytes)); });
-  }
+  std::string const name = shown_name(file);
+  BuiltInCheck::Result const result =
+    engine.run(file, request.max_errors(), [&](std::uint64_t bytes) { output.show_bytes(bytes); });
   bool const is_good = complain_of_all(result.errors, name, result.has_lines);
   if (!result.is_whole)
-    std::cerr << name << ": this is all that is shown of it; --all-errors shows the rest\n";
+    messages() << name << ": this is all that is shown of it; --all-errors shows the rest\n";
   if (!is_good || !request.validates() || result.has_assessed)
     return is_good;
-  std::cerr << name << ": nothing in it is declared in the schemas, so nothing was checked\n";
+  messages() << name << ": nothing in it is declared in the schemas, so nothing was checked\n";
   return false;
 }
 
@@ -116,11 +115,14 @@ int check(Request const& request)
     return engine_or_complain() == nullptr ? exit_bad_input : exit_good;
   if (!complain_of_all(engine->schema_errors(), request.plain_schema))
     return exit_bad_input;
-  int result = exit_good;
-  for (std::string const& file : request.files)
-    if (!(request.schemas_only ? check_schema(file, request) : check_document(*engine, file, request)))
-      result = exit_bad_input;
-  return result;
+  OutputFile output{std::string()};
+  auto const check_one = [&](std::string const& file, JobOutput& job)
+  {
+    bool const is_good =
+      request.schemas_only ? check_schema(file, request) : check_document(*engine, file, request, job);
+    return is_good ? exit_good : exit_bad_input;
+  };
+  return FileJobs::worst(FileJobs(request.jobs).run(request.files, output, check_one));
 }
 }
 
@@ -128,15 +130,18 @@ void add_check(CLI::App& app, int& exit_code)
 {
   CLI::App* const verb = app.add_subcommand("check", description);
   auto const request = std::make_shared<Request>();
-  verb->add_option("FILE", request->files, "The documents; - is standard input")->required();
-  verb->add_option("--schema", request->schemas, "NS=XSD: a schema file for a namespace; may be given again")
+  CommonOptions::add_files(*verb, request->files);
+  verb->add_option("--schema", request->schemas, "A schema file for a namespace; may be given again")
+    ->type_name("NS=XSD")
     ->check(wrong_schema)
     ->allow_extra_args(false);
   verb->add_option("--no-namespace-schema", request->plain_schema, "The schema file for elements in no namespace")
+    ->type_name("FILE")
     ->check(wrong_file);
   verb->add_flag(
     "--all-errors", request->all_errors, "Show everything that is wrong with a file, and not the first 20");
   verb->add_flag("--schemas-only", request->schemas_only, "The files are schemas; say whether these are right");
+  CommonOptions::add_jobs(*verb, request->jobs);
   verb->footer(footer);
   verb->callback([request, &exit_code] { exit_code = check(*request); });
 }

@@ -1,11 +1,12 @@
 #include "Complaint.h"
 
+#include "Messages.h"
 #include "SourceLine.h"
 
-#include <iostream>
+#include <ostream>
 
 ExitCode complain(std::string const& about, std::string const& message, ExitCode code)
 {
-  std::cerr << "axm: " << shown(about) << ": " << shown(message) << '\n';
+  messages() << "axm: " << shown(about) << ": " << shown(message) << '\n';
   return code;
 }

@@ -10,7 +10,12 @@ std::string built_in_obstacle(axmDocument const&)
   return {};
 }
 
-XPathAnswer built_in_answer(axmNode&, std::string const&)
+InputBytes built_in_bytes(std::string const&, bool)
+{
+  return {};
+}
+
+XPathAnswer built_in_answer(axmNode&, std::string const&, Namespaces const&)
 {
   return {};
 }

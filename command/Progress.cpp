@@ -24,8 +24,14 @@ Progress::Progress() : terminal(standard_error_is_terminal()) {}
 
 Progress::~Progress()
 {
+  clear();
+}
+
+void Progress::clear()
+{
   if (shown)
     std::fputs("\r                                        \r", stderr);
+  shown = false;
 }
 
 void Progress::show(long long rows)
@@ -40,6 +46,13 @@ void Progress::show_bytes(long long bytes)
   std::chrono::milliseconds elapsed{};
   if (terminal && is_due(elapsed))
     write(std::to_string(bytes / 1000000) + " MB" + since(elapsed));
+}
+
+void Progress::show_files(long long done, long long all)
+{
+  std::chrono::milliseconds elapsed{};
+  if (terminal && is_due(elapsed))
+    write(std::to_string(done) + " of " + std::to_string(all) + " files" + since(elapsed));
 }
 
 bool Progress::is_due(std::chrono::milliseconds& elapsed)

@@ -19,6 +19,12 @@ public:
   /// To be called now and then, with the bytes that have been read.
   void show_bytes(long long bytes);
 
+  /// To be called when one of several files is done.
+  void show_files(long long done, long long all);
+
+  /// Takes the line away, so that something else can be written.
+  void clear();
+
   /// The line for a work of that state.
   static std::string line(long long rows, std::chrono::milliseconds elapsed);
 

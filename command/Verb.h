@@ -15,6 +15,7 @@ enum ExitCode : int
 using Verb = void (*)(CLI::App& app, int& exit_code);
 
 void add_check(CLI::App& app, int& exit_code);
+void add_completion(CLI::App& app, int& exit_code);
 void add_conform(CLI::App& app, int& exit_code);
 void add_conform_worker(CLI::App& app, int& exit_code);
 void add_select(CLI::App& app, int& exit_code);

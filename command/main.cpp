@@ -1,14 +1,21 @@
 #include "Arguments.h"
 #include "Complaint.h"
+#include "HelpFormatter.h"
+#include "ManualPage.h"
+#include "OptionRow.h"
 #include "Utf8Console.h"
+#include "Version.h"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <exception>
 #include <iostream>
+#include <memory>
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -17,7 +24,25 @@ Verb const verbs[] = {add_check, add_select, add_set,
 #if defined(AXM_HAS_ENGINE)
   add_split,
 #endif
-  add_table, add_conform, add_conform_worker};
+  add_table, add_conform, add_completion, add_conform_worker};
+
+char const footer[] = "axm VERB --help explains a verb; axm --man VERB writes its manual page.";
+
+std::string wrong_page(CLI::App const& app, std::string const& name)
+{
+  std::vector<CLI::App const*> const all = shown_verbs(app);
+  bool const is_verb =
+    std::any_of(all.begin(), all.end(), [&](CLI::App const* verb) { return verb->get_name() == name; });
+  return is_verb || name == "axm" ? std::string() : "there is no verb " + name;
+}
+
+// The page of "axm" or of a verb.
+std::string manual_page(CLI::App const& app, std::string const& name)
+{
+  std::string page = name == "axm" ? ManualPage::of_program(app) : ManualPage::of_verb(*app.get_subcommand(name));
+  page.pop_back(); // the line end comes with what is shown
+  return page;
+}
 
 bool names_no_verb(CLI::App& app, Arguments const& arguments)
 {
@@ -40,10 +65,21 @@ int run(Arguments const& arguments)
   // A slash begins a path or an XPath expression on every system, never an option.
   app.allow_windows_style_options(false);
   app.require_subcommand(1);
-  app.set_version_flag("--version", "axm " AXM_VERSION);
+  app.formatter(std::make_shared<HelpFormatter>());
+  app.set_version_flag("--version", version_text(), "Say the version and how the program was built");
+  app.set_help_flag("-h,--help", "Explain the program or a verb");
+  app.footer(footer);
+  app
+    .add_option_function<std::string>(
+      "--man", [&app](std::string const& name) { throw CLI::CallForVersion(manual_page(app, name), 0); },
+      "Write the manual page of a verb, or that of axm")
+    ->type_name("VERB")
+    ->check([&app](std::string const& name) { return wrong_page(app, name); });
   int exit_code = exit_good;
   for (Verb const verb : verbs)
     verb(app, exit_code);
+  for (CLI::App* const verb : app.get_subcommands([](CLI::App const* each) { return !each->get_group().empty(); }))
+    verb->group("Verbs");
 
   if (names_no_verb(app, arguments))
     return complain(arguments.values()[1], "there is no such verb; axm --help lists them", exit_usage);
