@@ -3,6 +3,7 @@
 #include "InputStream.h"
 
 #include <apPath.h>
+#include <axsNodeLines.h>
 #include <axsRegister.h>
 #include <axsSaving.h>
 #include <axsXPath.h>
@@ -76,4 +77,10 @@ XPathAnswer built_in_answer(axmNode& context, std::string const& xpath, Namespac
   else
     answer.nodes = std::move(value.nodes);
   return answer;
+}
+
+std::vector<int> built_in_lines(
+  axmDocument const& document, apByteArray const& bytes, std::vector<std::shared_ptr<axmNode>> const& nodes)
+{
+  return axsNodeLines::find(document, bytes, axmLoadOptions(axmValidateNone), nodes);
 }

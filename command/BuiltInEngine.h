@@ -45,3 +45,7 @@ struct XPathAnswer
 
 /// The answer for the expression `xpath`, seen from `context`, a node of that engine.
 XPathAnswer built_in_answer(axmNode& context, std::string const& xpath, Namespaces const& namespaces = {});
+
+/// The lines of nodes of a document that was loaded from `bytes` and not changed, counted from 1; 0 of one that has none.
+std::vector<int> built_in_lines(
+  axmDocument const& document, apByteArray const& bytes, std::vector<std::shared_ptr<axmNode>> const& nodes);

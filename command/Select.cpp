@@ -1,98 +1,267 @@
 #include "BuiltInEngine.h"
+#include "Colours.h"
+#include "CommonOptions.h"
 #include "Complaint.h"
+#include "FileJobs.h"
 #include "Loading.h"
-#include "OutputFile.h"
+#include "NamespaceHint.h"
+#include "Namespaces.h"
+#include "OptionRow.h"
+#include "RowFormat.h"
 
 #include <axmElement.h>
-#include <axmNodeList.h>
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <memory>
+#include <mutex>
 #include <string>
+#include <vector>
 
 namespace
 {
-char const description[] = "Write what an XPath expression selects from a document, a line for each node.";
+char const description[] = "Write what an XPath expression selects from documents, a line for each node.";
 
 char const footer[] =
   R"(Examples:
   axm select books.xml //book/title
   axm select books.xml //book --attribute id
   axm select books.xml "//book[@id='b1']" --xml
+  axm select feed.xml //a:entry/a:title --ns a=http://www.w3.org/2005/Atom
+  axm select *.xml "//item[not(@id)]" --with-filename --line-number
+  axm select *.xml //item --format count -H
 
-The expression is XPath 1.0, seen from the root element. Of one that is no path, as in
-count(//book), the value is written. Prefixes in it are those that the root element binds.
+The expression, the last of the arguments, is XPath 1.0, seen from the root element. Of one
+that is no path, as in count(//book), the value is written. Prefixes in it are those of --ns
+and those that the root element binds; a name without a prefix is one in no namespace.
 White space between elements is not part of the document as it is loaded.
 
-The exit code is 1 if the document cannot be read or nothing is selected, 2 for wrong usage,
-such as an expression that is none.)";
+text (the default) writes the text of each node, xml the node as XML, count how many nodes
+there are in each file. csv (RFC 4180) and jsonl write rows: the file and the line, where
+these are asked for, and the text; jsonl the name of the node, too.
+
+The exit code is 1 if a document cannot be read or nothing is selected in any, 2 for wrong
+usage, such as an expression that is none.)";
 
 struct Request
 {
-  std::string file;
+  std::vector<std::string> files;
   std::string xpath;
+  std::vector<std::string> spaces;
+  Namespaces namespaces;
+  std::string format = "text";
   std::string attribute;
+  std::string colour = "auto";
   bool as_text = false;
   bool as_xml = false;
+  bool with_filename = false;
+  bool with_line = false;
+  unsigned jobs = 1;
+
+  bool has_rows() const { return format == "csv" || format == "jsonl"; }
 };
 
-void write_line(OutputFile& output, apString const& text)
+std::string utf8(apString const& text)
 {
-  utString const utf8 = text.to_utf8();
-  output.write({utf8.c_str(), static_cast<std::size_t>(utf8.length())});
-  output.write("\n");
+  return std::string(text.to_utf8().view());
 }
 
-bool write_node(axmNode const& node, Request const& request, OutputFile& output)
+// Writes what was found in one file.
+class Found
+{
+public:
+  Found(Request const& asked, std::string const& file, JobOutput& target)
+    : request(asked),
+      name(shown_name(file)),
+      output(target),
+      colours(asked.colour)
+  {
+  }
+
+  void write_value(std::string const& value) { write(value, nullptr, 0); }
+
+  // Whether there was something to write.
+  bool write_node(axmNode const& node, int line);
+
+  void write_count(std::size_t count) { write(std::to_string(count), nullptr, 0); }
+
+private:
+  void write(std::string const& text, axmNode const* node, int line);
+  void write_line(std::string const& text, int line);
+  void write_row(std::string const& text, axmNode const* node, int line);
+
+  Request const& request;
+  std::string const name;
+  JobOutput& output;
+  Colours const colours;
+};
+
+bool Found::write_node(axmNode const& node, int line)
 {
   apString text;
   if (request.attribute.empty())
-    text = request.as_xml ? node.get_xml() : node.get_text();
+    text = request.format == "xml" ? node.get_xml() : node.get_text();
   else if (!node.get_attribute(apString(request.attribute.c_str()), text))
     return false;
-  write_line(output, text);
+  write(utf8(text), &node, line);
   return true;
 }
 
-// For an expression that selects no nodes.
-int write_value(axmElement& root, Request const& request, OutputFile& output)
+void Found::write(std::string const& text, axmNode const* node, int line)
 {
-  XPathAnswer const answer = built_in_answer(root, request.xpath);
-  if (!answer.fault.empty())
-    return complain(request.xpath, answer.fault, exit_usage);
-  if (!answer.value)
-    return complain(request.xpath, "selects nothing", exit_bad_input);
-  if (request.as_xml || !request.attribute.empty())
+  if (request.has_rows())
+    write_row(text, node, line);
+  else
+    write_line(text, line);
+}
+
+void Found::write_line(std::string const& text, int line)
+{
+  std::string all;
+  if (request.with_filename)
+    all += colours.in(Colours::magenta, name) + colours.in(Colours::cyan, ":");
+  if (line > 0)
+    all += colours.in(Colours::green, std::to_string(line)) + colours.in(Colours::cyan, ":");
+  output.write(all + text + "\n");
+}
+
+void Found::write_row(std::string const& text, axmNode const* node, int line)
+{
+  std::string const number = std::to_string(line);
+  std::string node_name;
+  std::vector<std::string> columns;
+  std::vector<Value> values;
+  auto const add = [&](char const* column, std::string const& value)
+  {
+    columns.emplace_back(column);
+    values.emplace_back(value);
+  };
+  if (request.with_filename)
+    add("file", name);
+  if (request.with_line)
+    add("line", number);
+  if (request.format == "jsonl" && node != nullptr)
+  {
+    node_name = utf8(node->getNodeName());
+    add("name", node_name);
+  }
+  add("value", text);
+  std::string row;
+  RowFormat::of(request.format)->append_row(row, columns, values);
+  output.write(row);
+}
+
+// The code for a file in which nothing is selected, about which the others may have to say something.
+int const nothing_found = -1;
+
+// Why nothing is selected in the first file. Files may be worked on in several threads.
+class Reason
+{
+public:
+  void set(std::string const& text)
+  {
+    std::lock_guard<std::mutex> const lock(mutex);
+    reason = text;
+  }
+
+  std::string const& text() const { return reason; }
+
+private:
+  std::mutex mutex;
+  std::string reason;
+};
+
+bool write_nodes(XPathAnswer const& answer, std::vector<int> const& lines, Found& found)
+{
+  bool is_written = false;
+  for (std::size_t i = 0; i < answer.nodes.size(); ++i)
+    is_written = found.write_node(*answer.nodes[i], lines.empty() ? 0 : lines[i]) || is_written;
+  return is_written;
+}
+
+int write_value(std::string const& value, Request const& request, Found& found)
+{
+  if (request.format == "xml" || request.format == "count" || !request.attribute.empty())
     return complain(request.xpath, "gives a value and no nodes", exit_usage);
-  output.write(*answer.value + "\n");
+  found.write_value(value);
   return exit_good;
 }
 
-int write_nodes(axmNodeList& nodes, Request const& request, OutputFile& output)
+std::shared_ptr<axmDocument> load(
+  std::string const& file, Request const& request, axmDocumentFactory const& factory, apByteArray& bytes)
 {
-  bool written = false;
-  while (std::shared_ptr<axmElement> const node = nodes.next_node())
-    written = write_node(*node, request, output) || written;
-  return written ? exit_good
-                 : complain(request.xpath, "no selected node has the attribute " + request.attribute, exit_bad_input);
+  axmLoadOptions const options(axmValidateNone);
+  if (!request.with_line)
+    return load_or_complain(factory, file, options);
+  return read_or_complain(file, bytes) ? load_or_complain(factory, file, bytes, options) : nullptr;
+}
+
+int select_in(std::string const& file, Request const& request, Reason& reason, JobOutput& output)
+{
+  std::shared_ptr<axmDocumentFactory> const factory = built_in_engine();
+  apByteArray bytes;
+  std::shared_ptr<axmDocument> const document = load(file, request, *factory, bytes);
+  if (document == nullptr)
+    return exit_bad_input;
+  std::shared_ptr<axmElement> const root = document->getDocumentElement();
+  XPathAnswer const answer = built_in_answer(*root, request.xpath, request.namespaces);
+  if (!answer.fault.empty())
+    return complain(request.xpath, answer.fault, exit_usage);
+
+  Found found(request, file, output);
+  if (answer.value)
+    return write_value(*answer.value, request, found);
+  if (request.format == "count")
+    found.write_count(answer.nodes.size());
+  else
+  {
+    std::vector<int> const lines =
+      request.with_line ? built_in_lines(*document, bytes, answer.nodes) : std::vector<int>();
+    if (write_nodes(answer, lines, found))
+      return exit_good;
+  }
+  if (!answer.nodes.empty() && request.format == "count")
+    return exit_good;
+  if (file == request.files.front())
+    reason.set(answer.nodes.empty() ? "selects nothing" + NamespaceHint::of(*root, request.xpath)
+                                    : "no selected node has the attribute " + request.attribute);
+  return nothing_found;
+}
+
+// Whatever cannot be read is a failure; otherwise one file with something in it is enough.
+int result_of(std::vector<int> const& codes, Request const& request, Reason const& reason)
+{
+  int const worst = FileJobs::worst(codes);
+  bool const is_found = std::find(codes.begin(), codes.end(), exit_good) != codes.end();
+  if (worst > exit_good || is_found)
+    return worst;
+  return complain(request.xpath, reason.text(), exit_bad_input);
 }
 
 int select(Request const& request)
 {
-  std::shared_ptr<axmDocumentFactory> const factory = engine_or_complain();
-  if (factory == nullptr)
+  if (engine_or_complain() == nullptr)
     return exit_bad_input;
-  std::shared_ptr<axmDocument> const document =
-    load_or_complain(*factory, request.file, axmLoadOptions(axmValidateNone));
-  if (document == nullptr)
-    return exit_bad_input;
-
   OutputFile output{std::string()};
-  std::shared_ptr<axmElement> const root = document->getDocumentElement();
-  std::shared_ptr<axmNodeList> const found = root->selectNodes(apString(request.xpath.c_str()));
-  int const result = found->isEmpty() ? write_value(*root, request, output) : write_nodes(*found, request, output);
+  Reason reason;
+  auto const work = [&](std::string const& file, JobOutput& job) { return select_in(file, request, reason, job); };
+  std::vector<int> const codes = FileJobs(request.jobs).run(request.files, output, work);
+  int const result = result_of(codes, request, reason);
   return output.finish() ? result : complain("standard output", "cannot be written", exit_bad_input);
+}
+
+// The last of the arguments is the expression: with the files before it, patterns of the shell can name them.
+std::string take_expression(Request& request)
+{
+  if (request.files.size() < 2)
+    return "XPATH is required";
+  request.xpath = request.files.back();
+  request.files.pop_back();
+  request.namespaces = namespaces_of(request.spaces);
+  if (request.as_xml)
+    request.format = "xml";
+  return std::string();
 }
 }
 
@@ -100,14 +269,29 @@ void add_select(CLI::App& app, int& exit_code)
 {
   CLI::App* const verb = app.add_subcommand("select", description);
   auto const request = std::make_shared<Request>();
-  verb->add_option("FILE", request->file, "The document")->required();
-  verb->add_option("XPATH", request->xpath, "What to select")->required();
-  CLI::Option* const text = verb->add_flag("--text", request->as_text, "Write the text of each node (the default)");
-  CLI::Option* const xml = verb->add_flag("--xml", request->as_xml, "Write each node as XML");
+  CommonOptions::add_files(*verb, request->files);
+  auto const xpath = std::make_shared<std::string>();
+  verb->add_option("XPATH", *xpath, "What to select")->option_text(OptionRow::filled_by_verb);
+  CLI::Option* const format =
+    verb->add_option("--format", request->format, "How to write it: text (the default), xml, csv, jsonl or count")
+      ->check(CLI::IsMember({"text", "xml", "csv", "jsonl", "count"}));
+  CLI::Option* const text = verb->add_flag("--text", request->as_text, "The same as --format text");
+  CLI::Option* const xml = verb->add_flag("--xml", request->as_xml, "The same as --format xml");
   CLI::Option* const attribute =
-    verb->add_option("--attribute", request->attribute, "Write the attribute NAME of each node that has it");
-  text->excludes(xml)->excludes(attribute);
-  xml->excludes(attribute);
+    verb->add_option("--attribute", request->attribute, "Write the attribute NAME of each node that has it")
+      ->type_name("NAME");
+  text->excludes(xml)->excludes(attribute)->excludes(format);
+  xml->excludes(attribute)->excludes(format);
+  CommonOptions::add_namespaces(*verb, request->spaces);
+  verb->add_flag("-H,--with-filename", request->with_filename, "Write the name of the file before each line");
+  verb->add_flag("-n,--line-number", request->with_line, "Write the line in which each node begins");
+  CommonOptions::add_colour(*verb, request->colour);
+  CommonOptions::add_jobs(*verb, request->jobs);
   verb->footer(footer);
-  verb->callback([request, &exit_code] { exit_code = select(*request); });
+  verb->callback(
+    [request, &exit_code]
+    {
+      std::string const wrong = take_expression(*request);
+      exit_code = wrong.empty() ? select(*request) : complain("select", wrong, exit_usage);
+    });
 }
