@@ -2,6 +2,7 @@
 #include "ConformClasses.h"
 #include "ConformListener.h"
 #include "ConformRun.h"
+#include "Interruption.h"
 
 #include <apPath.h>
 #include <utUnitTest.h>
@@ -44,6 +45,7 @@ struct Request
   std::string service;
   std::string junit;
   int time_limit = 60;
+  bool fail_fast = false;
   ConformSelection selection;
 };
 
@@ -76,6 +78,7 @@ std::vector<std::string> worker_arguments(Request const& request)
 
 int conform(Request const& request)
 {
+  Interruption const interruption;
   // Opened before the run goes to work elsewhere: the name may be relative.
   File const junit_file(
     request.junit.empty() ? nullptr : apPath(request.junit.c_str()).file_open(apPath::write_mode()));
@@ -91,6 +94,7 @@ int conform(Request const& request)
   if (junit_file != nullptr)
     tester.add_listener(junit.emplace(junit_file.get()));
   ConformRun run(worker_arguments(request), std::chrono::seconds(request.time_limit), tester);
+  run.set_fail_fast(request.fail_fast);
   bool const had_engine = run.run();
   tester.finish();
 
@@ -114,6 +118,7 @@ void add_conform(CLI::App& app, int& exit_code)
   verb->add_option("--time-limit", request->time_limit, "How long a group of checks may take; 60 by default")
     ->type_name("SECONDS")
     ->check(CLI::Range(1, 86400));
+  verb->add_flag("--fail-fast", request->fail_fast, "End at the first check that fails");
   verb->add_option("--seed", request->selection.seed, "Draw other random operations: the same for the same number")
     ->type_name("N");
   verb->add_option("--rounds", request->selection.rounds, "How many sequences of them a group draws")

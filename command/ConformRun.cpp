@@ -1,7 +1,9 @@
 #include "ConformRun.h"
 
 #include "ChildProcess.h"
+#include "CommaLocale.h"
 #include "ConformanceData.h"
+#include "Interruption.h"
 #include "ScratchFolder.h"
 
 #include <apPath.h>
@@ -19,6 +21,7 @@ void lay_out_data(ScratchFolder const& scratch)
 {
   std::filesystem::create_directory(scratch.path() / "data");
   axmUtestUtils::write_data(apPath("../data/in_memory_test_schema.xsd"), in_memory_test_schema);
+  comma_locale::provide(scratch.path() / "locales");
 }
 
 std::string in_seconds(milliseconds time)
@@ -70,8 +73,11 @@ ConformRun::Outcome ConformRun::listen(ChildProcess& process)
     ChildProcess::Got const got = process.read(bytes, std::max(left, milliseconds(0)));
     reader.add(bytes);
     ConformRecord record;
-    while (reader.next(record))
+    while (!(fail_fast && has_failed) && reader.next(record))
       take(record);
+    // With it ends the process.
+    if (Interruption::is_asked() || (fail_fast && has_failed))
+      return Outcome::give_up;
     ran_out_of_time = left.count() <= 0 && got != ChildProcess::Got::end;
     if (got == ChildProcess::Got::end || ran_out_of_time || reader.is_broken())
       return judge(process);
@@ -98,7 +104,7 @@ ConformRun::Outcome ConformRun::judge(ChildProcess& process)
       return Outcome::done;
     fail("the process " + end.how);
   }
-  if (is_finished)
+  if (is_finished || fail_fast)
     return Outcome::done;
   return begun_here > 0 ? Outcome::go_on : Outcome::give_up;
 }
@@ -139,6 +145,7 @@ void ConformRun::take_report(std::vector<std::string> const& texts)
   if (texts.size() != 6)
     return;
   step = texts[4];
+  has_failed = has_failed || texts[0] != "1";
   int const line = std::atoi(texts[3].c_str());
   tester.utest_handler(
     texts[0] == "1" ? 1 : 0, texts[1].c_str(), texts[2].c_str(), line, texts[4].c_str(), texts[5].c_str());

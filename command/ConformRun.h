@@ -19,7 +19,10 @@ public:
   /// but no less than a second, is enough. The tester is not owned.
   ConformRun(std::vector<std::string> arguments, std::chrono::milliseconds limit, utUnitTest& tester);
 
-  /// Runs all groups. False when there is no engine; error() says why then.
+  /// Whether the first check that fails is the last one; not by default.
+  void set_fail_fast(bool given) { fail_fast = given; }
+
+  /// Runs all groups, unless the program is interrupted. False when there is no engine; error() says why then.
   bool run();
 
   std::string const& error() const { return no_engine; }
@@ -51,6 +54,8 @@ private:
   int begun_here = 0;
   std::string group = "axm_register_engine";
   std::string step;
+  bool fail_fast = false;
+  bool has_failed = false;
   bool is_finished = false;
   bool ran_out_of_time = false;
   Clock::time_point deadline;

@@ -28,7 +28,8 @@ public:
   apString url() const;
   void set_url(apString const& url);
 
-  /// Line and column of the failure, counted from 1; -1 where it is not known.
+  /// Line and column of the failure, counted from 1; -1 where it is not known. Columns are characters, not bytes: a
+  /// tab is one, and one beyond U+FFFF one or, as in UTF-16, two.
   int line_number() const;
   void set_line_number(int line);
   int column_number() const;

@@ -339,7 +339,7 @@ void axmLoadUtest::test_places(Factory const& factory) const
   axmUtestGroup const group(tester, file, "axmLoadUtest::test_places");
   struct Case
   {
-    char const* text;
+    std::string text;
     int line;
     // The first and the last column that may be told.
     int first;
@@ -358,7 +358,14 @@ void axmLoadUtest::test_places(Factory const& factory) const
     {"<r>\n<![CDATA[\n\n]]>\n</s>", 5, 1, 5, "after a CDATA section"},
     {"<!DOCTYPE r [\n<!ENTITY e 'x'>\n]>\n<r></s>", 4, 1, 8, "after a document type"},
     {"<r k='\n\n'>\n</s>", 4, 1, 5, "after an attribute of three lines"},
-    {"<r>\xC3\xA4\xC3\xA4</s>", 1, 4, 10, "columns are characters, not bytes"},
+    {"<r>" + many(50, "\xC3\xA4") + "</s>", 1, 54, 58, "columns are characters, not bytes"},
+    {"<r k='" + many(50, "\xE2\x82\xAC") + "'></s>", 1, 59, 63, "in an attribute, too"},
+    {"<" + many(50, "\xD1\x84") + "></r>", 1, 53, 57, "and in a name"},
+    {"<r>" + many(50, "\xF0\x90\x90\xB7") + "</s>", 1, 54, 108, "one beyond the first plane is one character or two"},
+    {"<r>\t\t\t\t\t</s>", 1, 9, 13, "a tab is one character"},
+    {"<r>\r\n\r\n</s>", 3, 1, 5, "a line end of two characters is before the first column"},
+    {"<!DOCTYPE r [<!ENTITY e '" + many(50, "x") + "'>]><r>&e;</s>", 1, 86, 90,
+      "an entity is as long as its reference"},
   };
   for (auto const& [text, line, first, last, description] : cases)
     for (Load const& load : {load_of(factory, text), load_of_file(factory, text)})

@@ -41,10 +41,12 @@ public:
   Locale& operator=(Locale const&) = delete;
   ~Locale() { std::setlocale(LC_NUMERIC, before.c_str()); }
 
-  // Whether the system has one with a decimal comma.
+  // Sets one with a decimal comma; false if there is none.
   static bool set_comma()
   {
-    for (char const* const name : {"de_DE.UTF-8", "de_DE.utf8", "de_DE", "German", "fr_FR.UTF-8", "nl_NL.UTF-8"})
+    // The last one is made by `axm conform`, for systems that have none.
+    for (char const* const name :
+      {"de_DE.UTF-8", "de_DE.utf8", "de_DE", "German", "fr_FR.UTF-8", "nl_NL.UTF-8", "axm_utest_comma"})
       if (std::setlocale(LC_NUMERIC, name) != nullptr && std::strcmp(std::localeconv()->decimal_point, ",") == 0)
         return true;
     return false;
@@ -267,9 +269,10 @@ void axmTypedUtest::test_decimal_comma(Factory const& factory) const
   axmUtestGroup const group(tester, file, "axmTypedUtest::test_decimal_comma");
   auto const root = root_of(factory->createDocument(APSTRING("root")));
   Locale const back_at_the_end;
-  Locale::set_comma();
+  if (!Locale::set_comma())
+    tester->printf("no locale with a decimal comma is installed: these checks run under a decimal point");
   group.check(root != nullptr && run_getters(*tester, *root, axmModelRandom(seed + 1), rounds),
-    "every getter gives what it must", __LINE__, "under a decimal comma, where the system has one");
+    "every getter gives what it must", __LINE__, "under a decimal comma");
   group.check(root != nullptr && run_setters(*root, axmModelRandom(seed + 1), rounds),
-    "every setter writes what it must", __LINE__, "under a decimal comma, where the system has one");
+    "every setter writes what it must", __LINE__, "under a decimal comma");
 }

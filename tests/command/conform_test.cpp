@@ -9,9 +9,16 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <string>
+#include <thread>
 #include <vector>
+
+#if !defined(_WIN32)
+#  include <unistd.h>
+#endif
 
 namespace
 {
@@ -255,7 +262,46 @@ TEST(conform, an_engine_that_crashes_leaves_no_folder_behind)
   EXPECT_TRUE(fs::is_empty(folder));
   fs::remove_all(folder);
 }
+
+TEST(conform, a_run_that_is_interrupted_leaves_nothing_behind)
+{
+  namespace fs = std::filesystem;
+  for (int const signal : {SIGINT, SIGTERM, SIGHUP})
+  {
+    fs::path const folder = fs::temp_directory_path() / "axm conform interruption test";
+    fs::remove_all(folder);
+    fs::create_directory(folder);
+    setenv("TMPDIR", folder.c_str(), 1);
+    set_misbehaviour("hang");
+    pid_t const process = fork();
+    if (process == 0)
+    {
+      execl(AXM_PROGRAM, "axm", "conform", "--service", AXM_MISBEHAVING_ENGINE, "axmNodeUtest", nullptr);
+      std::_Exit(1);
+    }
+    unsetenv("TMPDIR");
+    while (fs::is_empty(folder))
+      std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    kill(process, signal);
+    int status = 0;
+    waitpid(process, &status, 0);
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == signal) << status;
+    EXPECT_TRUE(fs::is_empty(folder));
+    fs::remove_all(folder);
+  }
+}
 #  endif
+
+TEST(conform, a_run_that_is_to_fail_fast_ends_with_the_first_failure)
+{
+  set_misbehaviour("exception");
+  ProgramRun const run = conform({"--service", AXM_MISBEHAVING_ENGINE, "--fail-fast", "axmNodeUtest"});
+  EXPECT_EQ(run.exit_code, 1);
+  EXPECT_TRUE(holds(run.out, std::string("FAILED ") + in_group)) << run.out;
+  EXPECT_TRUE(holds(last_line(run.out), " passed, 1 failed")) << run.out;
+  ProgramRun const whole = conform({"--service", AXM_MISBEHAVING_ENGINE, "axmNodeUtest"});
+  EXPECT_NE(last_line(run.out), last_line(whole.out));
+}
 #endif
 
 #if defined(__linux__)
@@ -274,7 +320,7 @@ TEST(conform, an_engine_of_another_make_gets_an_honest_list)
   GoneAtTheEnd const report("conform second report.xml");
   ProgramRun const run = conform({"--service", AXM_SECOND_ENGINE, "--junit", report.name});
   EXPECT_EQ(run.exit_code, 1) << run.err;
-  EXPECT_EQ(last_line(run.out), "1113 passed, 108 failed") << run.out;
+  EXPECT_EQ(last_line(run.out), "1149 passed, 108 failed") << run.out;
   std::vector<std::string> failed;
   auto const cases = loaded(report.name)->getDocumentElement()->selectNodes(APSTRING("//failure/.."));
   for (auto one = cases->next_node(); one != nullptr; one = cases->next_node())
