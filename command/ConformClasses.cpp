@@ -10,10 +10,13 @@
 #include <axmNamedNodeMapUtest.h>
 #include <axmNodeListUtest.h>
 #include <axmNodeUtest.h>
+#include <axmSchemaUtest.h>
 #include <axmSearchUtest.h>
 #include <axmTextNodeUtest.h>
 #include <axmTypedUtest.h>
 #include <axmValidationUtest.h>
+#include <axmXPathUtest.h>
+#include <axmXmlUtest.h>
 
 #include <algorithm>
 
@@ -57,6 +60,9 @@ CheckClass const check_classes[] = {
   {"axmCommentNodeUtest", run_with_reference<axmCommentNodeUtest>},
   {"axmContractUtest", run_with_owner<axmContractUtest>},
   {"axmLoadUtest", run_with_owner<axmLoadUtest>},
+  {"axmXmlUtest", run_with_owner<axmXmlUtest>},
+  {"axmSchemaUtest", run_with_owner<axmSchemaUtest>},
+  {"axmXPathUtest", run_with_owner<axmXPathUtest>},
   {"axmModelUtest", run_with_draws<axmModelUtest>},
   {"axmSearchUtest", run_with_draws<axmSearchUtest>},
   {"axmTypedUtest", run_with_draws<axmTypedUtest>},

@@ -13,11 +13,14 @@
 #include <axmNamedNodeMapUtest.h>
 #include <axmNodeListUtest.h>
 #include <axmNodeUtest.h>
+#include <axmSchemaUtest.h>
 #include <axmSearchUtest.h>
 #include <axmTextNodeUtest.h>
 #include <axmTypedUtest.h>
 #include <axmUtestGroupListener.h>
 #include <axmValidationUtest.h>
+#include <axmXPathUtest.h>
+#include <axmXmlUtest.h>
 #include <axsRegister.h>
 #include <utAssert.h>
 #include <utUnitTest.h>
@@ -181,6 +184,9 @@ void run_fixed(utUnitTest& tester, Factory const& factory)
 void run_generated(utUnitTest& tester, Factory const& factory, int rounds)
 {
   axmLoadUtest(&tester).run_tests(factory);
+  axmXmlUtest(&tester).run_tests(factory);
+  axmSchemaUtest(&tester).run_tests(factory);
+  axmXPathUtest(&tester).run_tests(factory);
   axmTypedUtest(&tester, axmModelUtest::default_seed, rounds).run_tests(factory);
   axmSearchUtest(&tester, axmModelUtest::default_seed, rounds).run_tests(factory);
   axmModelUtest(&tester, axmModelUtest::default_seed, rounds).run_tests(factory);

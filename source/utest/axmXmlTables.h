@@ -1,0 +1,48 @@
+#pragma once
+
+#include "axmUtestAccess.h"
+
+#include <cstddef>
+#include <string>
+
+class utUnitTest;
+
+// Tables of documents and how engines are held to them. Not installed.
+namespace axmXmlTables
+{
+// A document in UTF-8 and what it is once it is loaded, as shape_of() writes it.
+struct Taken
+{
+  char const* text;
+  char const* shape;
+};
+
+// A document or an element with all below it, as text: attributes in the order of their names, in single quotes, without
+// any references, elements with both tags. Declarations of namespaces are left out, for they may be attributes or not; so
+// is what stands in a document type. It ends after a number of nodes that no check comes near.
+std::string shape_of(axmUtestAccess::Node const& top);
+
+// Whether the document is loaded, from memory and from a file, with no error and with that shape; if not, it is told.
+bool is_taken(utUnitTest& tester, axmDocumentFactory const& factory, Taken const& taken);
+
+// Whether it fails in both ways with an error; if not, it is told.
+bool is_refused(utUnitTest& tester, axmDocumentFactory const& factory, char const* text);
+
+template <std::size_t Count>
+bool all_are_taken(utUnitTest& tester, axmDocumentFactory const& factory, Taken const (&table)[Count])
+{
+  bool are_right = true;
+  for (Taken const& taken : table)
+    are_right = is_taken(tester, factory, taken) && are_right;
+  return are_right;
+}
+
+template <std::size_t Count>
+bool all_are_refused(utUnitTest& tester, axmDocumentFactory const& factory, char const* const (&table)[Count])
+{
+  bool are_right = true;
+  for (char const* const text : table)
+    are_right = is_refused(tester, factory, text) && are_right;
+  return are_right;
+}
+}
