@@ -1,11 +1,11 @@
-#include <axmSchemaUtest.h>
+#include "axmSchemaUtest.h"
 
 #include "axmUtestAccess.h"
 #include "axmUtestFile.h"
 #include "axmUtestGroup.h"
 #include "model/axmModelText.h"
 
-#include <axmUtestUtils.h>
+#include "axmUtestUtils.h"
 #include <utUnitTest.h>
 
 #include <string>

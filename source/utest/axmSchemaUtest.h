@@ -1,7 +1,7 @@
 #pragma once
 
-#include <axmDocumentFactory.h>
-#include <axmExport.h>
+#include "axmDocumentFactory.h"
+#include "axmExport.h"
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include <axmXPathUtest.h>
+#include "axmXPathUtest.h"
 
 #include "axmUtestAccess.h"
 #include "axmUtestGroup.h"

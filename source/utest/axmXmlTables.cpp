@@ -3,11 +3,11 @@
 #include "axmUtestFile.h"
 #include "model/axmModelText.h"
 
-#include <axmCharacterData.h>
-#include <axmCommentNode.h>
-#include <axmProcessingInstruction.h>
-#include <axmTextNode.h>
-#include <axmUtestUtils.h>
+#include "axmCharacterData.h"
+#include "axmCommentNode.h"
+#include "axmProcessingInstruction.h"
+#include "axmTextNode.h"
+#include "axmUtestUtils.h"
 #include <utUnitTest.h>
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include <axmXmlUtest.h>
+#include "axmXmlUtest.h"
 
 #include "axmUtestGroup.h"
 #include "axmXmlTables.h"
