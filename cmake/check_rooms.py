@@ -44,6 +44,7 @@ ROOMS = {
     "service/writing": ["service/text", "service/tree"],
     "service/dom": ["service/text", "service/tree", "service/xpath", "service/writing"],
     "service/reader": ["service/text", "service/parser", "service/validation"],
+    "service/tools": ["service/text", "service/parser"],
     "service/engine": [
         "service/text", "service/parser", "service/schema", "service/validation", "service/tree", "service/xpath",
         "service/writing", "service/dom", "service/reader"],

@@ -18,6 +18,7 @@ void add_check(CLI::App& app, int& exit_code);
 void add_completion(CLI::App& app, int& exit_code);
 void add_conform(CLI::App& app, int& exit_code);
 void add_conform_worker(CLI::App& app, int& exit_code);
+void add_format(CLI::App& app, int& exit_code);
 void add_select(CLI::App& app, int& exit_code);
 void add_set(CLI::App& app, int& exit_code);
 void add_split(CLI::App& app, int& exit_code);

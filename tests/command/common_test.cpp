@@ -11,7 +11,7 @@
 namespace
 {
 // Those that everyone has.
-std::string const verbs[] = {"check", "select", "set", "split", "table", "conform", "completion"};
+std::string const verbs[] = {"check", "format", "select", "set", "split", "table", "conform", "completion"};
 
 bool contains(std::string const& text, std::string const& part)
 {
