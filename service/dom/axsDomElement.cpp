@@ -4,6 +4,8 @@
 #include "axsDomAttribute.h"
 #include "axsHandle.h"
 
+#include <new>
+
 std::shared_ptr<axmNode> axsDomElement::getFirstChild()
 {
   return axsHandle::of_next(first_child());
@@ -72,10 +74,15 @@ std::shared_ptr<axmNode> axsDomElement::selectSingleNode(apString const& xpath)
 }
 
 bool axsDomElement::get_attribute(apString const& name, apString& value) const
+try
 {
   axsAttribute const* const attribute = find_attribute(name.view());
   if (attribute == nullptr)
     return false;
   value.assign_utf8(attribute->text());
   return true;
+}
+catch (std::bad_alloc const&)
+{
+  return false;
 }

@@ -61,6 +61,7 @@ axsDocumentFactory::axsDocumentFactory() = default;
 axsDocumentFactory::~axsDocumentFactory() = default;
 
 std::shared_ptr<axmDocument> axsDocumentFactory::createDocument(apString const& root_name) const
+try
 {
   std::shared_ptr<axmDocument> document = axsDomDocument::make(new_uri());
   std::shared_ptr<axmElement> const root = document->createElement(root_name);
@@ -68,6 +69,10 @@ std::shared_ptr<axmDocument> axsDocumentFactory::createDocument(apString const& 
     return nullptr;
   document->appendChild(root);
   return document;
+}
+catch (std::bad_alloc const&)
+{
+  return nullptr;
 }
 
 std::shared_ptr<axmDocument> axsDocumentFactory::loadDocument(

@@ -25,6 +25,8 @@ class axmNodeList;
 /// refused. A new child that has a parent is moved: it is taken out there first, which is reported as an assertion
 /// (utAssert.h).
 /// Misuse is an empty result or false, with the tree unchanged; no operation throws for a wrong argument.
+/// Memory: what hands out a node, list, map or text, makes one or sets a text may throw std::bad_alloc when memory runs out,
+/// with nothing changed. What moves, removes, compares or counts, typed access, and the factory do not throw.
 /// Threads: nothing here locks; whether one tree may be used from several threads is the engine's business.
 /// The order of the virtual operations is a promise to engines that were built separately.
 class AXM_API axmNode

@@ -31,7 +31,8 @@ public:
   axmDocumentFactory();
   ~axmDocumentFactory() override = 0;
 
-  /// A new document whose root element has the name `root_name`. Empty when that is not a name (XML 1.0, 2.3).
+  /// A new document whose root element has the name `root_name`. Empty when that is not a name (XML 1.0, 2.3)
+  /// or memory runs out.
   virtual std::shared_ptr<axmDocument> createDocument(apString const& root_name) const = 0;
 
   /// Loads the file at `path`, or the document that `data` holds: UTF-8, or what its declaration says (XML 1.0, 4.3.3).
