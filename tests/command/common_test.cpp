@@ -11,7 +11,8 @@
 namespace
 {
 // Those that everyone has.
-std::string const verbs[] = {"check", "format", "select", "set", "split", "table", "conform", "completion"};
+std::string const verbs[] = {
+  "check", "outline", "diff", "format", "select", "set", "split", "table", "conform", "completion"};
 
 bool contains(std::string const& text, std::string const& part)
 {

@@ -1,0 +1,164 @@
+#include "CommonOptions.h"
+#include "Complaint.h"
+#include "InputStream.h"
+#include "Loading.h"
+#include "OutputFile.h"
+#include "Progress.h"
+#include "RowFormat.h"
+#include "SourceLine.h"
+
+#include <axsOutline.h>
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <iostream>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace
+{
+char const description[] = "Show which elements documents have in which, how many, with which attributes.";
+
+char const footer[] =
+  R"(Examples:
+  axm outline books.xml
+  axm outline *.xml --depth 3
+  axm outline map.osm.xz --format csv --output paths.csv
+
+A line for each path from the root, as axm table takes it: how deep it lies, how many
+elements there are, the path, the attributes, each with its number where not all elements
+have it, and "text" where there is text in them. Several documents make one outline. Names
+are as they are written. csv (RFC 4180) and jsonl have the same in columns, one of which has
+the number of elements with text.
+
+A document is read in one pass. Memory grows with the number of different paths, of which
+up to --paths are told apart; a message says how many elements that leaves out.
+
+The exit code is 1 if a document cannot be read to its end, 2 for wrong usage.)";
+
+struct Request
+{
+  std::vector<std::string> files;
+  std::string output;
+  std::string format = "text";
+  std::size_t depth = 100;
+  std::size_t paths = 10000;
+};
+
+std::string attributes_of(axsOutlinePath const& path)
+{
+  std::string text;
+  for (axsOutlinePath::Attribute const& attribute : path.attributes)
+  {
+    text += (text.empty() ? "@" : " @") + attribute.name;
+    if (attribute.count != path.count)
+      text += "(" + std::to_string(attribute.count) + ")";
+  }
+  return text;
+}
+
+std::string padded(std::string const& text, std::size_t width, bool is_number)
+{
+  std::string const blanks(width - std::min(width, text.size()), ' ');
+  return is_number ? blanks + text : text + blanks;
+}
+
+void write_table(std::vector<axsOutlinePath> const& paths, OutputFile& output)
+{
+  std::size_t count_width = 5;
+  std::size_t path_width = 4;
+  std::size_t const widest = 60;
+  for (axsOutlinePath const& path : paths)
+  {
+    count_width = std::max(count_width, std::to_string(path.count).size());
+    path_width = std::max(path_width, std::min(path.path.size(), widest));
+  }
+  output.write("depth  " + padded("count", count_width, true) + "  " + padded("path", path_width, false) + "  has\n");
+  for (axsOutlinePath const& path : paths)
+  {
+    std::string const text = path.texts == 0 ? "" : path.attributes.empty() ? "text" : " text";
+    std::string line = padded(std::to_string(path.depth), 5, true) + "  " +
+                       padded(std::to_string(path.count), count_width, true) + "  " +
+                       padded(shown(path.path), path_width, false) + "  " + shown(attributes_of(path)) + text;
+    line.erase(line.find_last_not_of(' ') + 1);
+    output.write(line + "\n");
+  }
+}
+
+void write_rows(std::vector<axsOutlinePath> const& paths, std::string const& format, OutputFile& output)
+{
+  std::vector<std::string> const columns = {"depth", "count", "path", "attributes", "texts"};
+  std::unique_ptr<RowFormat> const rows = RowFormat::of(format);
+  std::string text;
+  rows->append_header(text, columns);
+  for (axsOutlinePath const& path : paths)
+  {
+    std::string const depth = std::to_string(path.depth);
+    std::string const count = std::to_string(path.count);
+    std::string const attributes = attributes_of(path);
+    std::string const texts = std::to_string(path.texts);
+    rows->append_row(text, columns, {depth, count, path.path, attributes, texts});
+  }
+  output.write(text);
+}
+
+bool read_or_complain(axsOutline& outline, std::string const& file)
+{
+  axmParseError error;
+  InputStream input(file);
+  bool const is_plain = input.is_plain_file();
+  bool is_read = false;
+  {
+    Progress shown_progress;
+    auto const progress = [&](std::uint64_t bytes) { shown_progress.show_bytes(static_cast<long long>(bytes)); };
+    is_read = is_plain ? outline.read(apPath(file.c_str()), error, progress) : outline.read(input, error, progress);
+  }
+  if (!is_read && is_plain)
+    complain_about(error, file);
+  else if (!is_read)
+    complain_in_one_line(error, shown_name(file), {});
+  return is_read;
+}
+
+int show_outline(Request const& request)
+{
+  axsOutline outline(request.paths, request.depth);
+  int result = exit_good;
+  for (std::string const& file : request.files)
+    if (!read_or_complain(outline, file))
+      result = exit_bad_input;
+  std::vector<axsOutlinePath> const paths = outline.paths();
+  if (paths.empty())
+    return result;
+  OutputFile output(request.output);
+  if (request.format == "text")
+    write_table(paths, output);
+  else
+    write_rows(paths, request.format, output);
+  if (outline.left_out() > 0)
+    std::cerr << "axm: elements left out, for which --depth or --paths is too small: " << outline.left_out() << '\n';
+  if (output.finish())
+    return result;
+  return complain(request.output.empty() ? "standard output" : request.output, "cannot be written", exit_bad_input);
+}
+}
+
+void add_outline(CLI::App& app, int& exit_code)
+{
+  CLI::App* const verb = app.add_subcommand("outline", description);
+  auto const request = std::make_shared<Request>();
+  CommonOptions::add_files(*verb, request->files);
+  verb->add_option("--depth", request->depth, "How many names a path may have (100 without it)")
+    ->type_name("N")
+    ->check(CLI::Range(1, 1000));
+  verb->add_option("--paths", request->paths, "How many paths are told apart (10000 without it)")
+    ->type_name("N")
+    ->check(CLI::Range(1, 10000000));
+  verb->add_option("--format", request->format, "text (the default), csv or jsonl")
+    ->check(CLI::IsMember({"text", "csv", "jsonl"}));
+  CommonOptions::add_output(*verb, request->output);
+  verb->footer(footer);
+  verb->callback([request, &exit_code] { exit_code = show_outline(*request); });
+}
