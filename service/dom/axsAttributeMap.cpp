@@ -3,15 +3,9 @@
 #include "axsElement.h"
 #include "axsHandle.h"
 
-axsAttributeMap::axsAttributeMap(axsElement& element) noexcept : owner(element)
-{
-  owner.acquire();
-}
+axsAttributeMap::axsAttributeMap(axsElement& element) noexcept : owner(element), hold(element) {}
 
-axsAttributeMap::~axsAttributeMap()
-{
-  owner.release();
-}
+axsAttributeMap::~axsAttributeMap() = default;
 
 int axsAttributeMap::getLength()
 {
@@ -39,7 +33,7 @@ std::shared_ptr<axmNode> axsAttributeMap::getNamedItem(apString const& name)
 
 std::shared_ptr<axmNode> axsAttributeMap::removeNamedItem(apString const& name)
 {
-  axsAttribute* const attribute = owner.find_attribute(name.view());
+  axsAttribute* const attribute = owner.tree().is_shared() ? nullptr : owner.find_attribute(name.view());
   std::shared_ptr<axmNode> removed = axsHandle::of(attribute);
   if (removed != nullptr)
     owner.take_attribute(*attribute);
@@ -49,7 +43,7 @@ std::shared_ptr<axmNode> axsAttributeMap::removeNamedItem(apString const& name)
 std::shared_ptr<axmNode> axsAttributeMap::setNamedItem(std::shared_ptr<axmNode> node)
 {
   axsNode* const given = node == nullptr ? nullptr : axsHandle::node_of(*node);
-  if (given == nullptr || !given->is_attribute() || &given->tree() != &owner.tree())
+  if (given == nullptr || !given->is_attribute() || &given->tree() != &owner.tree() || owner.tree().is_shared())
     return nullptr;
   auto& attribute = static_cast<axsAttribute&>(*given);
   if (attribute.owner() == &owner)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "axsHold.h"
+
 #include <axmNamedNodeMap.h>
 
 #include <cstdint>
@@ -24,6 +26,7 @@ public:
 
 private:
   axsElement& owner;
+  axsHold const hold;
 
   // The attribute handed out last by index, as long as no attribute came or went since.
   std::uint64_t seen_changes = 0;

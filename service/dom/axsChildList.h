@@ -1,5 +1,7 @@
 #pragma once
 
+#include "axsHold.h"
+
 #include <axmNodeList.h>
 
 class axsChildPositions;
@@ -18,7 +20,10 @@ public:
   int length() const override;
 
 private:
+  axsNode* child_at(int index);
+
   axsNode& listed;
+  axsHold const hold;
   // Null for a node that cannot have children.
   axsChildPositions* positions = nullptr;
 };

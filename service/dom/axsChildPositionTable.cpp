@@ -11,7 +11,8 @@ int const few_children = 32;
 axsChildPositions& axsChildPositionTable::acquire(axsParent& node)
 {
   axsChildPositions& positions = table.try_emplace(&node, node).first->second;
-  node.set_watched(true);
+  if (watch == Watch::children)
+    node.set_watched(true);
   ++positions.lists;
   return positions;
 }
@@ -30,10 +31,27 @@ void axsChildPositionTable::forget(axsParent const& node) noexcept
 {
   auto const found = table.find(&node);
   axsParent& forgotten = found->second.node();
-  forgotten.set_watched(false);
+  if (watch == Watch::children)
+    forgotten.set_watched(false);
   if (found->second.is_kept)
     std::replace(unused.begin(), unused.end(), &forgotten, static_cast<axsParent*>(nullptr));
   table.erase(found);
+}
+
+void axsChildPositionTable::forget_unused() noexcept
+{
+  for (axsParent*& kept : unused)
+  {
+    axsParent* const node = std::exchange(kept, nullptr);
+    if (node == nullptr)
+      continue;
+    axsChildPositions& positions = table.find(node)->second;
+    positions.is_kept = false;
+    if (positions.lists == 0)
+      forget(*node);
+  }
+  if (table.empty())
+    Table(table.get_allocator()).swap(table);
 }
 
 void axsChildPositionTable::keep_unused(axsChildPositions& positions) noexcept

@@ -17,8 +17,15 @@
 class axsChildPositionTable
 {
 public:
+  /// Whether the nodes are to tell of their children: not where these never change.
+  enum class Watch
+  {
+    children,
+    none
+  };
+
   /// Takes its memory from `pool`.
-  explicit axsChildPositionTable(axsHandlePool& pool) : table(Allocator(pool)) {}
+  axsChildPositionTable(axsHandlePool& pool, Watch what) : table(Allocator(pool)), watch(what) {}
 
   /// The positions for a list of the children of `node`. Throws std::bad_alloc when memory runs out.
   axsChildPositions& acquire(axsParent& node);
@@ -39,13 +46,20 @@ public:
   /// A watched node, of which no list is left, is about to be freed.
   void forget(axsParent const& node) noexcept;
 
+  /// Forgets what no list uses, and gives its memory back where no list uses any.
+  void forget_unused() noexcept;
+
 private:
   using Allocator = axsHandleAllocator<std::pair<axsNode const* const, axsChildPositions>>;
 
   void keep_unused(axsChildPositions& positions) noexcept;
 
-  std::unordered_map<axsNode const*, axsChildPositions, std::hash<axsNode const*>, std::equal_to<>, Allocator> table;
+  using Table =
+    std::unordered_map<axsNode const*, axsChildPositions, std::hash<axsNode const*>, std::equal_to<>, Allocator>;
+
+  Table table;
   // Nodes whose positions stay without a list, a ring: for each further one, those of the oldest may go.
   std::array<axsParent*, 64> unused = {};
   std::size_t next_unused = 0;
+  Watch const watch;
 };

@@ -12,7 +12,10 @@
 #include <utility>
 #include <vector>
 
-axsDomDocument::axsDomDocument(apString const& uri) : address(uri), handles(axsHandlePool::make()), positions(*handles)
+axsDomDocument::axsDomDocument(apString const& uri)
+  : address(uri),
+    handles(axsHandlePool::make()),
+    positions(*handles, axsChildPositionTable::Watch::children)
 {
 }
 
@@ -23,7 +26,7 @@ std::shared_ptr<axmDocument> axsDomDocument::make(apString const& uri)
 
 std::shared_ptr<axmElement> axsDomDocument::createElement(apString const& name)
 {
-  axsName const* const known = names().intern_checked(name);
+  axsName const* const known = is_shared() ? nullptr : names().intern_checked(name);
   if (known == nullptr)
     return nullptr;
   axsDomElement* const made = make_element(*known);
@@ -51,13 +54,17 @@ void axsDomDocument::add_defaults(axsElement& element)
 std::shared_ptr<axmTextNode> axsDomDocument::createTextNode(apString const& data)
 {
   utString text;
-  return axsWideText::to_utf8(data, text) ? axsHandle::make<axmTextNode>(*make_text(text.view(), false)) : nullptr;
+  if (is_shared() || !axsWideText::to_utf8(data, text))
+    return nullptr;
+  return axsHandle::make<axmTextNode>(*make_text(text.view(), false));
 }
 
 std::shared_ptr<axmCommentNode> axsDomDocument::createComment(apString const& data)
 {
   utString text;
-  return axsWideText::to_utf8(data, text) ? axsHandle::make<axmCommentNode>(*make_comment(text.view())) : nullptr;
+  if (is_shared() || !axsWideText::to_utf8(data, text))
+    return nullptr;
+  return axsHandle::make<axmCommentNode>(*make_comment(text.view()));
 }
 
 std::shared_ptr<axmElement> axsDomDocument::getDocumentElement()
@@ -115,6 +122,25 @@ axsDomInstruction* axsDomDocument::make_processing_instruction(std::string_view 
 axsDomDoctype* axsDomDocument::make_doctype(std::string_view declaration)
 {
   return make_leaf<axsDomDoctype>(declaration);
+}
+
+std::shared_ptr<axsDomDocument> axsDomDocument::prepare_sharing()
+{
+  auto made = std::make_unique<axsSharedState>();
+  index_all_attributes();
+  expressions.share();
+  acquire();
+  // If that fails, the document is released.
+  std::shared_ptr<axsDomDocument> holder(this, axsHandleRelease());
+  self = holder;
+  state = std::move(made);
+  return holder;
+}
+
+void axsDomDocument::begin_sharing() noexcept
+{
+  handles->close();
+  set_shared();
 }
 
 void axsDomDocument::add(axsStaticNodeList& list) noexcept

@@ -3,12 +3,14 @@
 #include "axsChildPositionTable.h"
 #include "axsDomNode.h"
 #include "axsHandlePool.h"
+#include "axsSharedState.h"
 #include "axsTree.h"
 #include "axsXPathCache.h"
 
 #include <axmDocument.h>
 
 #include <memory>
+#include <mutex>
 #include <string_view>
 
 class axsDomAttribute;
@@ -47,22 +49,38 @@ public:
   axsDomDoctype* make_doctype(std::string_view declaration);
 
   axsHandlePool& handle_pool() noexcept { return *handles; }
-  axsChildPositionTable& child_positions() noexcept { return positions; }
+  axsChildPositionTable& child_positions() noexcept { return state == nullptr ? positions : state->positions; }
   axsXPathCache& xpath_cache() noexcept { return expressions; }
 
   /// The name of texts other than CDATA sections, made once (DOM Core, nodeName).
   apString const& name_of_texts() const noexcept { return text_name; }
+
+  /// Where the document is shared, the lock that goes with what its threads change together.
+  std::unique_lock<std::mutex> lock() noexcept
+  {
+    return state == nullptr ? std::unique_lock<std::mutex>() : std::unique_lock(state->lock);
+  }
+
+  /// Whether a single pointer is all that is held of the document.
+  bool is_held_by_one() noexcept
+  {
+    positions.forget_unused();
+    return is_held_once() && handles->count_used() == 1;
+  }
+
+  /// Of one that is held by one: a pointer for the time when it is shared. It is to take the place of that one, and
+  /// begin_sharing() to follow. Throws std::bad_alloc when memory runs out.
+  std::shared_ptr<axsDomDocument> prepare_sharing();
+  void begin_sharing() noexcept;
+
+  /// Of a shared document: what holds it.
+  std::shared_ptr<axsDomDocument> owner() const noexcept { return self.lock(); }
 
   // Lists that hold the root of their nodes only are told before nodes leave the tree, while they are added.
   void add(axsStaticNodeList& list) noexcept;
   void remove(axsStaticNodeList& list) noexcept;
 
 private:
-  struct PoolAbandoner
-  {
-    void operator()(axsHandlePool* pool) const noexcept { pool->abandon(); }
-  };
-
   void add_defaults(axsElement& element);
 
   explicit axsDomDocument(apString const& uri);
@@ -79,8 +97,11 @@ private:
 
   apString const address;
   apString const text_name = APSTRING("#text");
-  std::unique_ptr<axsHandlePool, PoolAbandoner> handles;
+  std::unique_ptr<axsHandlePool, axsHandlePool::Abandoner> handles;
   axsXPathCache expressions;
   axsChildPositionTable positions;
   axsStaticNodeList* static_lists = nullptr;
+  // Null and empty while it is not shared.
+  std::unique_ptr<axsSharedState> state;
+  std::weak_ptr<axsDomDocument> self;
 };

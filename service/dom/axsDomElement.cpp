@@ -23,8 +23,7 @@ apString axsDomElement::getNodeName() const
 
 std::shared_ptr<axmNamedNodeMap> axsDomElement::getAttributes()
 {
-  return std::allocate_shared<axsAttributeMap>(
-    axsHandleAllocator<axsAttributeMap>(axsDomDocument::of(*this).handle_pool()), *this);
+  return axsHandle::make_object<axmNamedNodeMap, axsAttributeMap>(axsDomDocument::of(*this), *this);
 }
 
 void axsDomElement::reserved_element_0() {}
@@ -43,7 +42,7 @@ apString axsDomElement::getAttribute(apString const& name) const
 void axsDomElement::setAttribute(apString const& name, apString const& value)
 {
   utString text;
-  if (!axsDomOperations::to_utf8(value, text))
+  if (!axsDomOperations::may_change(*this) || !axsDomOperations::to_utf8(value, text))
     return;
   if (axsAttribute* const present = find_attribute(name.view()))
     return present->set_text(text.view());
@@ -54,6 +53,8 @@ void axsDomElement::setAttribute(apString const& name, apString const& value)
 
 void axsDomElement::removeAttribute(apString const& name)
 {
+  if (!axsDomOperations::may_change(*this))
+    return;
   if (axsAttribute* const attribute = find_attribute(name.view()))
     take_attribute(*attribute);
 }
@@ -71,6 +72,11 @@ std::shared_ptr<axmNodeList> axsDomElement::selectNodes(apString const& xpath)
 std::shared_ptr<axmNode> axsDomElement::selectSingleNode(apString const& xpath)
 {
   return axsDomOperations::select_single_node(*this, xpath);
+}
+
+bool axsDomElement::set_attribute(apString const& name, apString const& value)
+{
+  return !tree().is_shared() && axmNode::set_attribute(name, value);
 }
 
 bool axsDomElement::get_attribute(apString const& name, apString& value) const

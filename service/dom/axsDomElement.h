@@ -31,6 +31,10 @@ public:
   void reserved_element_11() override;
 
   using axmNode::get_attribute;
+  using axmNode::set_attribute;
+
+  /// The same as in the interface, but false where the document is shared.
+  bool set_attribute(apString const& name, apString const& value) override;
 
   /// The same as in the interface, without the way over map and attribute node.
   bool get_attribute(apString const& name, apString& value) const override;

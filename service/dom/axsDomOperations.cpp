@@ -49,7 +49,7 @@ bool is_before_doctype(axsNode const* node)
 // (DOM Core, HIERARCHY_REQUEST_ERR and WRONG_DOCUMENT_ERR).
 bool can_hold(axsNode const& parent, axsNode const& child, axsNode const* before, axsNode const* replaced)
 {
-  if (!parent.is_parent() || &parent.tree() != &child.tree())
+  if (!parent.is_parent() || &parent.tree() != &child.tree() || parent.tree().is_shared())
     return false;
   switch (child.kind())
   {
@@ -109,8 +109,7 @@ std::shared_ptr<axmNode> axsDomOperations::next_sibling(axsNode& node)
 
 std::shared_ptr<axmNodeList> axsDomOperations::children(axsNode& node)
 {
-  return std::allocate_shared<axsChildList>(
-    axsHandleAllocator<axsChildList>(axsDomDocument::of(node).handle_pool()), node);
+  return axsHandle::make_object<axmNodeList, axsChildList>(axsDomDocument::of(node), node);
 }
 
 std::shared_ptr<axmDocument> axsDomOperations::owner_document(axsNode& node)
@@ -159,7 +158,7 @@ std::shared_ptr<axmNode> axsDomOperations::replace_child(
 std::shared_ptr<axmNode> axsDomOperations::remove_child(axsNode& node, std::shared_ptr<axmNode> const& old_child)
 {
   axsNode* const child = node_of(old_child);
-  if (!is_child(child, node))
+  if (!is_child(child, node) || node.tree().is_shared())
     return nullptr;
   static_cast<axsParent&>(node).remove(*child);
   return old_child;
@@ -184,6 +183,14 @@ apString axsDomOperations::text(axsNode const& node)
   return apString::from_utf8(text);
 }
 
+bool axsDomOperations::may_change(axsNode const& node)
+{
+  if (!node.tree().is_shared())
+    return true;
+  ut_report_assertion("the document is not shared", "service/dom/axsDomOperations.cpp", __LINE__);
+  return false;
+}
+
 bool axsDomOperations::to_utf8(apString const& text, utString& utf8)
 {
   if (axsWideText::to_utf8(text, utf8))
@@ -195,7 +202,7 @@ bool axsDomOperations::to_utf8(apString const& text, utString& utf8)
 void axsDomOperations::set_text(axsNode& node, apString const& text)
 {
   utString data;
-  if (!to_utf8(text, data))
+  if (!may_change(node) || !to_utf8(text, data))
     return;
   switch (node.kind())
   {

@@ -32,12 +32,15 @@ std::shared_ptr<axmNode> remove_child(axsNode& node, std::shared_ptr<axmNode> co
 /// Whether `node` stands for `record`, as the node itself or a view of it.
 bool is_node(axmNode const& node, axsNode const& record) noexcept;
 
+/// False for a node of a shared document, which is reported.
+bool may_change(axsNode const& node);
+
 /// Makes `utf8` the text that a caller gives for a value. False where it is not Unicode, which is reported.
 bool to_utf8(apString const& text, utString& utf8);
 
 apString text(axsNode const& node);
 
-/// Changes nothing where the text is not Unicode, which is reported.
+/// Changes nothing where the text is not Unicode or the document is shared, which is reported.
 void set_text(axsNode& node, apString const& text);
 
 /// Empty where XML cannot hold the node.

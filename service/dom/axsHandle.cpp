@@ -62,6 +62,5 @@ std::shared_ptr<axmElement> axsHandle::of_item(axsNode& node)
 {
   if (node.is_element())
     return make<axmElement>(static_cast<axsDomElement&>(node));
-  return std::allocate_shared<axsDomNodeView>(
-    axsHandleAllocator<axsDomNodeView>(axsDomDocument::of(node).handle_pool()), node);
+  return make_object<axmElement, axsDomNodeView>(axsDomDocument::of(node), node);
 }

@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <type_traits>
+#include <utility>
 
 /// Gives a held node back when the last copy of a shared pointer to it goes.
 struct axsHandleRelease
@@ -51,15 +52,43 @@ template <class Interface, class Node>
   return std::shared_ptr<Interface>(&node, axsHandleRelease(), axsReadyAllocator<char>(pool));
 }
 
-/// The same where the pool of the document has to be made ready before.
+/// The same where the pool of the document has to be made ready before, which that of a shared one never is: it has one
+/// count for all pointers to its nodes.
 template <class Interface, class Node>
 [[gnu::noinline]] std::shared_ptr<Interface> make_first(Node& node)
 {
+  axsDomDocument& document = axsDomDocument::of(node);
+  if (document.is_shared())
+    return std::shared_ptr<Interface>(document.owner(), &node);
   // A node that nobody holds yet goes if that fails.
   node.acquire();
   std::unique_ptr<Node, axsHandleRelease> const held(&node);
-  axsDomDocument::of(node).handle_pool().make_ready();
+  document.handle_pool().make_ready();
   return make<Interface>(node);
+}
+
+/// A list, map or view of nodes of the document.
+template <class Interface, class Object, class... Arguments>
+std::shared_ptr<Interface> make_object(axsDomDocument& document, Arguments&&... arguments)
+{
+  if (!document.is_shared())
+    return std::allocate_shared<Object>(
+      axsHandleAllocator<Object>(document.handle_pool()), std::forward<Arguments>(arguments)...);
+
+  // The document goes after what looks at it.
+  struct Holding
+  {
+    Holding(std::shared_ptr<axsDomDocument> holder, Arguments&&... parts)
+      : owner(std::move(holder)),
+        object(std::forward<Arguments>(parts)...)
+    {
+    }
+
+    std::shared_ptr<axsDomDocument> const owner;
+    Object object;
+  };
+  auto const made = std::make_shared<Holding>(document.owner(), std::forward<Arguments>(arguments)...);
+  return std::shared_ptr<Interface>(made, &made->object);
 }
 
 /// The same as of(), made in place for what most nodes are. For the steps of a walk, of which there is one for every node

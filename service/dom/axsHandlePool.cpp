@@ -1,6 +1,8 @@
 #include "axsHandlePool.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <iterator>
 #include <new>
 #include <utility>
 
@@ -25,12 +27,25 @@ axsHandlePool::~axsHandlePool()
     std::free(std::exchange(slabs, slabs->older));
 }
 
+std::size_t axsHandlePool::count_used() const noexcept
+{
+  std::size_t used = blocks;
+  for (Block const* block : free_blocks)
+    for (; block != nullptr; block = block->next)
+      --used;
+  return used;
+}
+
+void axsHandlePool::close() noexcept
+{
+  blocks = 0;
+  std::fill(std::begin(free_blocks), std::end(free_blocks), nullptr);
+}
+
 void axsHandlePool::abandon() noexcept
 {
   is_abandoned = true;
-  for (Block const* block : free_blocks)
-    for (; block != nullptr; block = block->next)
-      --blocks;
+  blocks = count_used();
   if (blocks == 0)
     delete this;
 }

@@ -18,6 +18,18 @@ public:
   /// The document is destroyed; the pool deletes itself as soon as no block is in use.
   void abandon() noexcept;
 
+  /// Calls that.
+  struct Abandoner
+  {
+    void operator()(axsHandlePool* pool) const noexcept { pool->abandon(); }
+  };
+
+  /// The number of blocks in use. Costs a step for each that was.
+  std::size_t count_used() const noexcept;
+
+  /// For a pool without a block in use: nothing is taken from it any more, and it is never ready.
+  void close() noexcept;
+
   /// A block for `size` bytes. Throws std::bad_alloc when memory runs out.
   void* allocate(std::size_t size)
   {

@@ -7,13 +7,13 @@
 
 std::shared_ptr<axmNodeList> axsStaticNodeList::make(axsNode& context, std::vector<axsXPathNode> found)
 {
-  return std::allocate_shared<axsStaticNodeList>(
-    axsHandleAllocator<axsStaticNodeList>(axsDomDocument::of(context).handle_pool()), context, std::move(found));
+  return axsHandle::make_object<axmNodeList, axsStaticNodeList>(axsDomDocument::of(context), context, std::move(found));
 }
 
 axsStaticNodeList::axsStaticNodeList(axsNode& context, std::vector<axsXPathNode> found) noexcept
   : nodes(std::move(found)),
-    root(nodes.empty() ? nullptr : &context.root())
+    is_shared(context.tree().is_shared()),
+    root(nodes.empty() || is_shared ? nullptr : &context.root())
 {
   if (root == nullptr)
     return;
@@ -23,6 +23,8 @@ axsStaticNodeList::axsStaticNodeList(axsNode& context, std::vector<axsXPathNode>
 
 axsStaticNodeList::~axsStaticNodeList()
 {
+  if (is_shared)
+    return;
   if (last != nullptr)
     last->release();
   if (root != nullptr)
@@ -40,6 +42,8 @@ std::shared_ptr<axmElement> axsStaticNodeList::at(int index)
   if (index < 0 || index >= length())
     return nullptr;
   axsNode& node = *nodes[static_cast<std::size_t>(index)].node();
+  if (is_shared)
+    return axsHandle::of_item(node);
   node.acquire();
   if (last != nullptr)
     last->release();

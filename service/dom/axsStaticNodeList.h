@@ -31,6 +31,8 @@ public:
 
 private:
   std::vector<axsXPathNode> nodes;
+  // A shared document holds its nodes.
+  bool const is_shared;
   // Held for all of them; null while each is held by itself.
   axsNode* root;
   // The node that was asked for last, held, so that the way up from the next one is short.

@@ -183,6 +183,14 @@ void axsElement::index_if_many(int attributes_passed) const noexcept
     tree().index_attributes(const_cast<axsElement&>(*this));
 }
 
+bool axsElement::has_many_attributes() const noexcept
+{
+  int passed = 0;
+  for (axsAttribute const* at = attributes; at != nullptr && passed <= max_walk; at = at->next_attribute())
+    ++passed;
+  return passed > max_walk;
+}
+
 axsAttributeIndex* axsElement::index() const noexcept
 {
   return &tree().attribute_index(*this);

@@ -69,6 +69,7 @@ private:
   void link_attribute(axsAttribute& attribute, axsAttribute* previous, axsAttribute* next) noexcept;
   void unlink_attribute(axsAttribute& attribute, axsAttribute* previous) noexcept;
   void index_if_many(int attributes_passed) const noexcept;
+  bool has_many_attributes() const noexcept;
   axsAttributeIndex* index() const noexcept;
 
   axsAttribute* attributes = nullptr;

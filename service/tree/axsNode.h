@@ -29,7 +29,8 @@ enum class axsKind : std::uint8_t
 /// from node to parent and from the root of a detached tree to the document. A detached tree is freed when its root is no
 /// longer held, the document with all that is left when it is no longer held itself. Nothing else frees a node.
 ///
-/// Threads: links and counts are plain numbers, so a document belongs to one thread at a time.
+/// Threads: links and counts are plain numbers, so a document belongs to one thread at a time. In a shared document neither
+/// changes: its nodes are not held one by one.
 class axsNode
 {
 public:
@@ -107,6 +108,7 @@ public:
   }
 
   bool is_held() const noexcept { return holders != 0; }
+  bool is_held_once() const noexcept { return holders == 1; }
 
 protected:
   explicit axsNode(axsKind kind) noexcept : node_kind(kind) {}

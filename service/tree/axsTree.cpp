@@ -62,9 +62,25 @@ void axsTree::free_leaf(axsLeaf& leaf) noexcept
   memory.release(reinterpret_cast<char*>(&leaf) - lead, lead + leaf.size());
 }
 
+void axsTree::index_all_attributes()
+{
+  for (axsNode* node = first_child(); node != nullptr; node = node->next_in_tree(*this))
+  {
+    if (!node->is_element())
+      continue;
+    auto& element = static_cast<axsElement&>(*node);
+    if (element.is_indexed() || !element.has_many_attributes())
+      continue;
+    attribute_indexes.try_emplace(&element, element.first_attribute());
+    element.set_indexed(true);
+  }
+}
+
 void axsTree::index_attributes(axsElement& element) noexcept
 try
 {
+  if (shared)
+    return;
   attribute_indexes.try_emplace(&element, element.first_attribute());
   element.set_indexed(true);
   if (axsElement* const oldest = indexed_elements[next_indexed])

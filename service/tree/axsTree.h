@@ -49,6 +49,9 @@ public:
   std::string_view standalone() const noexcept { return standalone_word; }
   void set_standalone(std::string_view word) { standalone_word = word; }
 
+  /// Whether many threads read it, and nothing changes any more.
+  bool is_shared() const noexcept { return shared; }
+
   /// How often an attribute has come or gone, anywhere in the document.
   std::uint64_t attribute_changes() const noexcept { return attribute_change_count; }
   void count_attribute_change() noexcept { ++attribute_change_count; }
@@ -74,6 +77,12 @@ public:
 protected:
   axsTree() noexcept : axsParent(axsKind::document, axsName::no_number), memory(*this) {}
   ~axsTree() = default;
+
+  /// Makes what reading would make when it is first needed. Throws std::bad_alloc when memory runs out.
+  void index_all_attributes();
+
+  /// From now on nothing in it changes.
+  void set_shared() noexcept { shared = true; }
 
   /// Whether nodes_leaving() is to be called.
   void watch_leaving(bool is_wanted) noexcept { has_leave_watch = is_wanted; }
@@ -115,6 +124,7 @@ private:
   std::uint64_t attribute_change_count = 0;
   bool xml_1_1 = false;
   bool has_leave_watch = false;
+  bool shared = false;
 };
 
 template <class Element>

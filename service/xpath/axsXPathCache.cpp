@@ -8,6 +8,7 @@
 
 std::shared_ptr<axsXPathExpression const> axsXPathCache::compile(std::string_view text, axsXPathError& error)
 {
+  auto const locked = lock == nullptr ? std::unique_lock<std::mutex>() : std::unique_lock(*lock);
   auto const known =
     std::find_if(entries.rbegin(), entries.rend(), [text](Entry const& entry) { return entry.text == text; });
   if (known != entries.rend())

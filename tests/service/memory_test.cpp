@@ -5,6 +5,7 @@
 
 #include <axmProcessingInstruction.h>
 #include <axsSaving.h>
+#include <axsSharing.h>
 
 #include <functional>
 #include <string>
@@ -447,5 +448,31 @@ TEST(axsMemory, a_load_that_fails_for_want_of_memory_says_so)
       break;
     EXPECT_TRUE(has_failed);
     EXPECT_EQ(narrow(error.message()), "Memory ran out");
+  }
+}
+
+TEST(axsMemory, a_document_that_cannot_be_shared_for_want_of_memory_is_as_it_was)
+{
+  std::string text = "<r";
+  for (int i = 0; i < 600; ++i)
+    text += " a" + std::to_string(i) + "=''";
+  for (int allowed = 0;; ++allowed)
+  {
+    auto document = load(text + "/>");
+    bool threw = false;
+    try
+    {
+      FailingMemory const memory(allowed);
+      EXPECT_TRUE(axsSharing::share(document));
+    }
+    catch (std::bad_alloc const&)
+    {
+      threw = true;
+    }
+    ASSERT_EQ(axsSharing::is_shared(*document), !threw);
+    EXPECT_EQ(document->getDocumentElement()->set_attribute(APSTRING("a599"), 1), threw);
+    EXPECT_EQ(document->getDocumentElement()->hasAttribute(APSTRING("a600")), false);
+    if (!threw)
+      break;
   }
 }
