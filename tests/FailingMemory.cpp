@@ -26,6 +26,7 @@ struct State
 {
   bool active;
   bool failed;
+  bool is_single;
   long allowed;
   long held;
 };
@@ -38,13 +39,13 @@ bool admitted()
 {
   if (!state.active)
     return true;
-  if (state.allowed == 0)
+  if (state.allowed > 0 || (state.failed && state.is_single))
   {
-    state.failed = true;
-    return false;
+    --state.allowed;
+    return true;
   }
-  --state.allowed;
-  return true;
+  state.failed = true;
+  return false;
 }
 
 void* counted(void* block)
@@ -55,9 +56,9 @@ void* counted(void* block)
 }
 }
 
-FailingMemory::FailingMemory(long allowed)
+FailingMemory::FailingMemory(long allowed, Failures failures)
 {
-  state = {true, false, allowed, 0};
+  state = {true, false, failures == Failures::single, allowed, 0};
 }
 
 FailingMemory::~FailingMemory()

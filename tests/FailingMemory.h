@@ -3,8 +3,15 @@
 #include <gtest/gtest.h>
 #include <new>
 
-/// While it lives, only so many allocations of its thread succeed and every further one fails, whether through new,
-/// malloc, calloc or realloc, in the test program as in the libraries it uses. Besides, it counts the blocks that its
+/// Whether further allocations fail after the first one that does.
+enum class Failures
+{
+  lasting,
+  single
+};
+
+/// While it lives, only so many allocations of its thread succeed and every further one fails, or only the next one,
+/// whether through new, malloc, calloc or realloc, in the test program as in the libraries it uses. Besides, it counts the blocks that its
 /// thread has allocated and not given back. One at a time.
 ///
 /// Linking its source replaces the allocation functions of the program, which the system's loader lets the libraries
@@ -12,7 +19,7 @@
 class FailingMemory
 {
 public:
-  explicit FailingMemory(long allowed);
+  explicit FailingMemory(long allowed, Failures failures = Failures::lasting);
   FailingMemory(FailingMemory const&) = delete;
   FailingMemory& operator=(FailingMemory const&) = delete;
   ~FailingMemory();
@@ -28,14 +35,14 @@ public:
 /// `after` with the FailingMemory after each call. `operation` handles its own failures. Returns how often an allocation
 /// was refused.
 template <class Operation, class After>
-int with_every_failure(Operation operation, After after)
+int with_every_failure(Operation operation, After after, Failures failures = Failures::lasting)
 {
   for (int allowed = 0;; ++allowed)
   {
     bool failed = false;
     long held = 0;
     {
-      FailingMemory const memory(allowed);
+      FailingMemory const memory(allowed, failures);
       operation();
       failed = memory.has_failed();
       held = memory.blocks_held();
@@ -49,7 +56,7 @@ int with_every_failure(Operation operation, After after)
 /// Calls `operation` with each of its allocations failing in turn and expects it to throw std::bad_alloc then, to leak
 /// nothing, and to leave `unchanged()` true; when none fails, to hold nothing either. Returns the number of allocations.
 template <class Operation, class Unchanged>
-int fails_cleanly(Operation operation, Unchanged unchanged)
+int fails_cleanly(Operation operation, Unchanged unchanged, Failures failures = Failures::lasting)
 {
   bool threw = false;
   return with_every_failure(
@@ -70,11 +77,13 @@ int fails_cleanly(Operation operation, Unchanged unchanged)
       EXPECT_EQ(threw, failed);
       EXPECT_EQ(held, 0);
       EXPECT_TRUE(!failed || unchanged());
-    });
+    },
+    failures);
 }
 
 template <class Operation>
-int fails_cleanly(Operation operation)
+int fails_cleanly(Operation operation, Failures failures = Failures::lasting)
 {
-  return fails_cleanly(operation, [] { return true; });
+  return fails_cleanly(
+    operation, [] { return true; }, failures);
 }

@@ -63,3 +63,8 @@ std::unique_ptr<Contender> make_axs_check(std::string const& schema)
 {
   return std::make_unique<Check>(schema);
 }
+
+bool compile_with_axs(std::string const& schema)
+{
+  return axsValidation::check_schema(apPath(schema.c_str()), 1).empty();
+}

@@ -24,5 +24,9 @@ std::unique_ptr<Contender> make_axs_check(std::string const& schema);
 std::unique_ptr<Contender> make_libxml2_tree(std::string const& schema);
 std::unique_ptr<Contender> make_libxml2_stream(std::string const& schema);
 
+// Reads and compiles a schema anew, and says whether it is right.
+bool compile_with_axs(std::string const& schema);
+bool compile_with_libxml2(std::string const& schema);
+
 // Xerces-C, its SAX parser with a grammar that is kept.
 std::unique_ptr<Contender> make_xerces(std::string const& schema);

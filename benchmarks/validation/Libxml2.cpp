@@ -74,3 +74,8 @@ std::unique_ptr<Contender> make_libxml2_stream(std::string const& schema)
 {
   return std::make_unique<Stream>(schema);
 }
+
+bool compile_with_libxml2(std::string const& schema)
+{
+  return Schema(schema).schema != nullptr;
+}

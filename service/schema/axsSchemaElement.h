@@ -13,10 +13,10 @@
 /// they may stand anywhere and say nothing to us.
 struct axsSchemaAttributeText
 {
-  axsSchemaField field = axsSchemaField::other;
   /// White space collapsed, but for `value`, `default` and `fixed`. Of `other` the name instead.
   std::string_view value;
   axsSchemaPlace place;
+  axsSchemaField field = axsSchemaField::other;
 };
 
 /// An element of a schema document. Lives in the document, with what it refers to. What stands in `appinfo` and

@@ -76,6 +76,54 @@ constexpr axsSchemaProduction open_content(std::uint64_t fields)
 {
   return {fields, 0, nullptr, 0};
 }
+
+// Of the elements that have the same role wherever they stand.
+Role role_anywhere(Tag tag) noexcept
+{
+  if ((bit(tag) & set(Tag::enumeration, Tag::pattern)) != 0)
+    return Role::value_facet;
+  if ((bit(tag) & facets) != 0)
+    return Role::facet;
+  switch (tag)
+  {
+  case Tag::include:
+    return Role::include;
+  case Tag::import:
+    return Role::import;
+  case Tag::redefine:
+    return Role::redefine;
+  case Tag::annotation:
+    return Role::annotation;
+  case Tag::appinfo:
+    return Role::appinfo;
+  case Tag::documentation:
+    return Role::documentation;
+  case Tag::any:
+    return Role::any;
+  case Tag::any_attribute:
+    return Role::any_attribute;
+  case Tag::simple_content:
+    return Role::simple_content;
+  case Tag::complex_content:
+    return Role::complex_content;
+  case Tag::list:
+    return Role::list;
+  case Tag::union_:
+    return Role::union_;
+  case Tag::unique:
+  case Tag::key:
+    return Role::identity_constraint;
+  case Tag::keyref:
+    return Role::keyref;
+  case Tag::selector:
+  case Tag::field:
+    return Role::path;
+  case Tag::notation:
+    return Role::notation;
+  default:
+    return Role::none;
+  }
+}
 }
 
 axsSchemaProduction axsSchemaProduction::of(axsSchemaRole role) noexcept
@@ -179,24 +227,13 @@ axsSchemaRole axsSchemaProduction::role_of(axsSchemaRole parent, axsSchemaTag ch
 {
   bool const is_top = parent == Role::schema || parent == Role::redefine;
   bool const is_simple_content = parent == Role::simple_content;
+  bool const is_in_definition = parent == Role::group_definition;
   switch (child)
   {
-  case Tag::include:
-    return Role::include;
-  case Tag::import:
-    return Role::import;
-  case Tag::redefine:
-    return Role::redefine;
-  case Tag::annotation:
-    return Role::annotation;
-  case Tag::appinfo:
-    return Role::appinfo;
-  case Tag::documentation:
-    return Role::documentation;
   case Tag::element:
-    if (is_top)
-      return Role::global_element;
-    return parent == Role::all || parent == Role::definition_all ? Role::all_element : Role::local_element;
+    if (parent == Role::all || parent == Role::definition_all)
+      return Role::all_element;
+    return is_top ? Role::global_element : Role::local_element;
   case Tag::attribute:
     return is_top ? Role::global_attribute : Role::local_attribute;
   case Tag::complex_type:
@@ -208,55 +245,17 @@ axsSchemaRole axsSchemaProduction::role_of(axsSchemaRole parent, axsSchemaTag ch
   case Tag::attribute_group:
     return is_top ? Role::attribute_group_definition : Role::attribute_group_reference;
   case Tag::all:
-    return parent == Role::group_definition ? Role::definition_all : Role::all;
+    return is_in_definition ? Role::definition_all : Role::all;
   case Tag::choice:
   case Tag::sequence:
-    return parent == Role::group_definition ? Role::definition_group : Role::group;
-  case Tag::any:
-    return Role::any;
-  case Tag::any_attribute:
-    return Role::any_attribute;
-  case Tag::simple_content:
-    return Role::simple_content;
-  case Tag::complex_content:
-    return Role::complex_content;
+    return is_in_definition ? Role::definition_group : Role::group;
   case Tag::restriction:
     if (is_simple_content)
       return Role::simple_content_restriction;
     return parent == Role::complex_content ? Role::complex_content_restriction : Role::simple_restriction;
   case Tag::extension:
     return is_simple_content ? Role::simple_content_extension : Role::complex_content_extension;
-  case Tag::list:
-    return Role::list;
-  case Tag::union_:
-    return Role::union_;
-  case Tag::unique:
-  case Tag::key:
-    return Role::identity_constraint;
-  case Tag::keyref:
-    return Role::keyref;
-  case Tag::selector:
-  case Tag::field:
-    return Role::path;
-  case Tag::notation:
-    return Role::notation;
-  case Tag::enumeration:
-  case Tag::pattern:
-    return Role::value_facet;
-  case Tag::fraction_digits:
-  case Tag::length:
-  case Tag::max_exclusive:
-  case Tag::max_inclusive:
-  case Tag::max_length:
-  case Tag::min_exclusive:
-  case Tag::min_inclusive:
-  case Tag::min_length:
-  case Tag::total_digits:
-  case Tag::white_space:
-    return Role::facet;
-  case Tag::schema:
-  case Tag::other:
-    break;
+  default:
+    return role_anywhere(child);
   }
-  return Role::none;
 }

@@ -404,9 +404,8 @@ void axsAssessment::tell_identity(Element const& element)
   using Without = axsIdentityChecks::Without;
   if (!findings.identity.is_active())
     return;
-  bool const is_known = element.content != Content::skipped && element.content != Content::unknown;
-  bool const is_simple = element.content == Content::simple;
-  findings.identity.no_value(is_simple ? Without::is_nil : is_known ? Without::is_complex : Without::is_not_valid);
+  // What no declaration is found for has no simple type either (cvc-identity-constraint.3).
+  findings.identity.no_value(element.content == Content::simple ? Without::is_nil : Without::is_complex);
 }
 
 // cvc-elt.5, cvc-type.3.1, cvc-complex-type.2.2

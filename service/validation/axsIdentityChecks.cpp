@@ -37,12 +37,16 @@ void append(std::string& key, std::string const& field)
 }
 }
 
-axsIdentityChecks::Plan const& axsIdentityChecks::plan_of(axsIdentityConstraint const& constraint)
+axsIdentityChecks::Plan& axsIdentityChecks::plan_of(axsIdentityConstraint const& constraint)
 {
   std::unique_ptr<Plan>& plan = plans[&constraint];
   if (plan != nullptr)
     return *plan;
-  auto made = std::make_unique<Plan>(Plan{&constraint, axsIdentityMatcher(constraint.selector), {}});
+  auto made = std::make_unique<Plan>(Plan{&constraint, nullptr, axsIdentityMatcher(constraint.selector), {}});
+  if (!made->is_reference())
+    made->key = &key_of(constraint);
+  else if (constraint.referenced != nullptr)
+    made->key = &key_of(*constraint.referenced);
   for (axsIdentityPath const& path : constraint.fields)
   {
     made->fields.emplace_back(path);
@@ -53,6 +57,18 @@ axsIdentityChecks::Plan const& axsIdentityChecks::plan_of(axsIdentityConstraint 
   depth_of_selectors = std::max(depth_of_selectors, made->selector.depth());
   plan = std::move(made);
   return *plan;
+}
+
+axsIdentityChecks::Key& axsIdentityChecks::key_of(axsIdentityConstraint const& constraint)
+{
+  auto const [at, is_new] = keys_by_constraint.try_emplace(&constraint);
+  Key& key = at->second;
+  if (is_new)
+  {
+    key.number = keys.size();
+    keys.push_back(&key);
+  }
+  return key;
 }
 
 void axsIdentityChecks::begin(
@@ -68,33 +84,34 @@ void axsIdentityChecks::begin(
 void axsIdentityChecks::open_scopes(axsElementDecl const& decl, axsKnownName const& name)
 {
   for (axsIdentityConstraint const* const constraint : decl.identity_constraints)
+    if (Plan const& plan = plan_of(*constraint); plan.is_reference() && plan.key != nullptr)
+      ++plan.key->references;
+  for (axsIdentityConstraint const* const constraint : decl.identity_constraints)
+    if (Plan& plan = plan_of(*constraint); !is_covered(plan))
+      open_scope(plan, name);
+}
+
+void axsIdentityChecks::open_scope(Plan& plan, axsKnownName const& name)
+{
+  std::size_t const level = open.size();
+  scopes.push_back({level, &plan, &name, std::make_unique<axsIdentityTable>(level), {}});
+  if (plan.selector.is_deep())
   {
-    Plan const& plan = plan_of(*constraint);
-    if (is_covered(plan, decl))
-      continue;
-    scopes.push_back({open.size(), &plan, &name, std::make_unique<axsIdentityTable>(), {}});
-    if (plan.selector.is_deep())
-      deep_scopes.push_back(scopes.size() - 1);
+    deep_scopes.push_back(scopes.size() - 1);
+    ++plan.deep_scopes;
   }
+  if (plan.key == nullptr)
+    return;
+  plan.key->levels.push_back(level);
+  if (!plan.is_reference())
+    plan.key->scopes.push_back(scopes.size() - 1);
 }
 
 // What is unique in an element is so in each within it: where an outer element has the same constraint, the inner one needs
 // none, unless it is referred to.
-bool axsIdentityChecks::is_covered(Plan const& plan, axsElementDecl const& decl) const
+bool axsIdentityChecks::is_covered(Plan const& plan) noexcept
 {
-  if (plan.constraint->category == Category::keyref || !plan.selector.is_deep_only())
-    return false;
-  bool const has_outer = std::any_of(deep_scopes.begin(), deep_scopes.end(),
-    [&](std::size_t scope) { return scopes[scope].plan == &plan && scopes[scope].level < open.size(); });
-  auto const refers = [&](axsIdentityConstraint const* other) { return other->referenced == plan.constraint; };
-  return has_outer && !is_referred_to(*plan.constraint) &&
-         std::none_of(decl.identity_constraints.begin(), decl.identity_constraints.end(), refers);
-}
-
-bool axsIdentityChecks::is_referred_to(axsIdentityConstraint const& key) const
-{
-  return std::any_of(
-    scopes.begin(), scopes.end(), [&](Scope const& scope) { return scope.plan->constraint->referenced == &key; });
+  return !plan.is_reference() && plan.selector.is_deep_only() && plan.deep_scopes > 0 && plan.key->references == 0;
 }
 
 void axsIdentityChecks::select(axsKnownName const& name, std::function<axsPlace()> const& place)
@@ -230,14 +247,14 @@ void axsIdentityChecks::complete(Selection& selection)
     for (Field const& field : selection.fields)
       append(key, field.bytes);
   std::size_t const known = scope.table->add(key, selection.place);
-  if (scope.plan->constraint->category == Category::keyref)
+  if (scope.plan->is_reference())
   {
     if (known == axsIdentityTable::none)
       scope.texts.push_back(std::move(selection.text));
     return;
   }
   if (known != axsIdentityTable::none)
-    report_duplicate(selection, (*scope.table)[known].place);
+    report_duplicate(selection, scope.table->place(known));
 }
 
 // Only of a key, each part must have a value (cvc-identity-constraint.4.2.1).
@@ -272,34 +289,29 @@ void axsIdentityChecks::report_duplicate(Selection const& selection, axsPlace fi
 // Each reference must find a key in the element or within it (cvc-identity-constraint.4.3).
 void axsIdentityChecks::check_references(Scope const& scope)
 {
-  axsIdentityConstraint const* const key = scope.plan->constraint->referenced;
-  if (key == nullptr)
+  if (!scope.plan->is_reference() || scope.plan->key == nullptr)
     return;
-  axsIdentityTable const* const keys = table_of(*key, scope.level);
+  axsIdentityTable const* const known = table_of(*scope.plan->key, scope.level);
   for (std::size_t i = 0; i < scope.table->size(); ++i)
-    if (keys == nullptr || !keys->has(scope.table->value(i)))
+    if (known == nullptr || !known->has(scope.table->value(i)))
       report("the key reference " + scope.texts[i] + " in the element " + quoted(*scope.name) +
                " has no key that it refers to",
-        (*scope.table)[i].place);
+        scope.table->place(i));
 }
 
 // The keys that an element and those within it have.
-axsIdentityTable const* axsIdentityChecks::table_of(axsIdentityConstraint const& key, std::size_t level)
+axsIdentityTable const* axsIdentityChecks::table_of(Key const& key, std::size_t level)
 {
-  axsIdentityTable* own = nullptr;
-  for (std::size_t i = scopes.size(); i-- > 0 && scopes[i].level == level;)
-    if (scopes[i].plan->constraint == &key)
-      own = scopes[i].table.get();
-  for (std::size_t i = inherited.size(); i-- > 0 && inherited[i].level >= level;)
+  bool const has_own = !key.scopes.empty() && scopes[key.scopes.back()].level == level;
+  if (!has_own)
   {
-    if (inherited[i].level != level || inherited[i].key != &key || inherited[i].table == nullptr)
-      continue;
-    if (own == nullptr)
-      return inherited[i].table.get();
-    own->inherit(std::move(*inherited[i].table));
-    inherited[i].table = nullptr;
+    auto const found = inherited.find({level, key.number});
+    return found == inherited.end() ? nullptr : found->second.get();
   }
-  return own;
+  axsIdentityTable& own = *scopes[key.scopes.back()].table;
+  if (std::unique_ptr<axsIdentityTable> const inner = take_inherited(level, key))
+    own.inherit(std::move(*inner));
+  return &own;
 }
 
 void axsIdentityChecks::close_scopes()
@@ -310,48 +322,65 @@ void axsIdentityChecks::close_scopes()
     --first;
   for (std::size_t i = first; i < scopes.size(); ++i)
     check_references(scopes[i]);
-  auto const begin = scopes.begin() + static_cast<std::ptrdiff_t>(first);
-  std::vector<Scope> closed(std::make_move_iterator(begin), std::make_move_iterator(scopes.end()));
-  scopes.erase(begin, scopes.end());
-  while (!deep_scopes.empty() && deep_scopes.back() >= first)
-    deep_scopes.pop_back();
-  std::vector<Inherited> within;
-  for (; !inherited.empty() && inherited.back().level == level; inherited.pop_back())
-    within.push_back(std::move(inherited.back()));
-  if (scopes.empty())
-    return;
-  for (Scope& scope : closed)
+  std::vector<std::pair<Key const*, std::unique_ptr<axsIdentityTable>>> closed;
+  for (; scopes.size() > first; close_scope())
+    if (!scopes.back().plan->is_reference())
+      closed.emplace_back(scopes.back().plan->key, std::move(scopes.back().table));
+  // Of equal values, those of the element itself count, not those within it.
+  for (auto& [key, table] : closed)
   {
-    // Of equal values, those of the element itself count, not those within it.
-    for (Inherited& inner : within)
-      if (inner.key == scope.plan->constraint && inner.table != nullptr)
-        scope.table->inherit(std::move(*std::exchange(inner.table, nullptr)));
-    if (scope.plan->constraint->category != Category::keyref)
-      hand_up(*scope.plan->constraint, std::move(scope.table), level);
+    if (std::unique_ptr<axsIdentityTable> const inner = take_inherited(level, *key))
+      table->inherit(std::move(*inner));
+    hand_up(*key, std::move(table));
   }
-  for (Inherited& inner : within)
-    hand_up(*inner.key, std::move(inner.table), level);
+  while (!inherited.empty() && inherited.rbegin()->first.first == level)
+  {
+    auto const last = std::prev(inherited.end());
+    Key const& key = *keys[last->first.second];
+    std::unique_ptr<axsIdentityTable> table = std::move(last->second);
+    inherited.erase(last);
+    hand_up(key, std::move(table));
+  }
+}
+
+// The last one.
+void axsIdentityChecks::close_scope()
+{
+  Plan& plan = *scopes.back().plan;
+  if (plan.selector.is_deep())
+  {
+    deep_scopes.pop_back();
+    --plan.deep_scopes;
+  }
+  if (plan.key != nullptr)
+  {
+    plan.key->levels.pop_back();
+    if (plan.is_reference())
+      --plan.key->references;
+    else
+      plan.key->scopes.pop_back();
+  }
+  scopes.pop_back();
+}
+
+std::unique_ptr<axsIdentityTable> axsIdentityChecks::take_inherited(std::size_t level, Key const& key)
+{
+  auto const found = inherited.find({level, key.number});
+  if (found == inherited.end())
+    return nullptr;
+  std::unique_ptr<axsIdentityTable> table = std::move(found->second);
+  inherited.erase(found);
+  return table;
 }
 
 // Keys are known in the elements around that refer to them.
-void axsIdentityChecks::hand_up(
-  axsIdentityConstraint const& key, std::unique_ptr<axsIdentityTable> table, std::size_t level)
+void axsIdentityChecks::hand_up(Key const& key, std::unique_ptr<axsIdentityTable> table)
 {
-  if (table == nullptr || table->size() == 0)
+  if (table->size() == 0 || key.references == 0)
     return;
-  auto const referring = std::find_if(scopes.rbegin(), scopes.rend(),
-    [&](Scope const& scope) { return scope.plan->constraint->referenced == &key || scope.plan->constraint == &key; });
-  if (referring == scopes.rend() || !is_referred_to(key) || referring->level >= level)
-    return;
-  for (Inherited& known : inherited)
-    if (known.level == referring->level && known.key == &key && known.table != nullptr)
-    {
-      known.table->inherit(std::move(*table));
-      return;
-    }
-  auto made = std::make_unique<axsIdentityTable>();
-  made->inherit(std::move(*table));
-  auto const place = std::find_if(
-    inherited.begin(), inherited.end(), [&](Inherited const& other) { return other.level > referring->level; });
-  inherited.insert(place, {referring->level, &key, std::move(made)});
+  std::size_t const level = key.levels.back();
+  std::unique_ptr<axsIdentityTable>& known = inherited[{level, key.number}];
+  if (known == nullptr)
+    known = std::make_unique<axsIdentityTable>(level);
+  known->inherit(std::move(*table));
 }

@@ -1,19 +1,21 @@
 #pragma once
 
+#include "axsIdentityConstraint.h"
 #include "axsIdentityMatcher.h"
 #include "axsIdentityTable.h"
 #include "axsPlace.h"
 
 #include <cstddef>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 struct axsElementDecl;
-struct axsIdentityConstraint;
 struct axsKnownName;
 
 /// Checks the identity constraints of a document (Part 1, 3.11.4 cvc-identity-constraint) while its elements go by. Time and
@@ -61,20 +63,33 @@ public:
   void end();
 
 private:
+  // What is open of a constraint that others may refer to.
+  struct Key
+  {
+    std::size_t number;
+    std::vector<std::size_t> scopes; // its own, by their numbers
+    std::vector<std::size_t> levels; // of these, and of those that refer to it
+    std::size_t references = 0;      // how many of the latter there are
+  };
+
   struct Plan
   {
     axsIdentityConstraint const* constraint;
+    Key* key; // of a keyref what that refers to
     axsIdentityMatcher selector;
     std::vector<axsIdentityMatcher> fields;
     std::size_t depth_of_fields = 0;
     bool has_deep_fields = false;
+    std::size_t deep_scopes = 0; // that are open and whose selector leads to any depth
+
+    bool is_reference() const noexcept { return constraint->category == axsIdentityConstraint::Category::keyref; }
   };
 
   // An element with a constraint. Levels count the open elements from 1, from the outermost one with a constraint on.
   struct Scope
   {
     std::size_t level;
-    Plan const* plan;
+    Plan* plan;
     axsKnownName const* name;
     std::unique_ptr<axsIdentityTable> table;
     std::vector<std::string> texts; // of a keyref: the values as they stand in the document
@@ -106,18 +121,14 @@ private:
     std::size_t field;
   };
 
-  // What the elements within one have as keys that it refers to.
-  struct Inherited
-  {
-    std::size_t level;
-    axsIdentityConstraint const* key;
-    std::unique_ptr<axsIdentityTable> table;
-  };
+  // The level of an element and the number of a key.
+  using LevelAndKey = std::pair<std::size_t, std::size_t>;
 
-  Plan const& plan_of(axsIdentityConstraint const& constraint);
+  Plan& plan_of(axsIdentityConstraint const& constraint);
+  Key& key_of(axsIdentityConstraint const& constraint);
   void open_scopes(axsElementDecl const& decl, axsKnownName const& name);
-  bool is_covered(Plan const& plan, axsElementDecl const& decl) const;
-  bool is_referred_to(axsIdentityConstraint const& key) const;
+  void open_scope(Plan& plan, axsKnownName const& name);
+  static bool is_covered(Plan const& plan) noexcept;
   void select(axsKnownName const& name, std::function<axsPlace()> const& place);
   void await_fields();
   template <class Visit>
@@ -128,12 +139,16 @@ private:
   bool has_all_fields(Selection const& selection) const;
   void report_duplicate(Selection const& selection, axsPlace first);
   void check_references(Scope const& scope);
-  axsIdentityTable const* table_of(axsIdentityConstraint const& key, std::size_t level);
+  axsIdentityTable const* table_of(Key const& key, std::size_t level);
   void close_scopes();
-  void hand_up(axsIdentityConstraint const& key, std::unique_ptr<axsIdentityTable> table, std::size_t level);
+  void close_scope();
+  std::unique_ptr<axsIdentityTable> take_inherited(std::size_t level, Key const& key);
+  void hand_up(Key const& key, std::unique_ptr<axsIdentityTable> table);
 
   Report report;
   std::unordered_map<axsIdentityConstraint const*, std::unique_ptr<Plan>> plans;
+  std::unordered_map<axsIdentityConstraint const*, Key> keys_by_constraint;
+  std::vector<Key const*> keys;
   std::vector<axsKnownName const*> open;
   std::vector<Scope> scopes;
   std::vector<std::size_t> deep_scopes; // those whose selectors lead to any depth
@@ -142,6 +157,7 @@ private:
   std::size_t depth_of_fields = 0;
   std::size_t selections_with_deep_fields = 0;
   std::vector<Awaited> awaited;
-  std::vector<Inherited> inherited;
+  // What the elements within an open one have as keys that it refers to.
+  std::map<LevelAndKey, std::unique_ptr<axsIdentityTable>> inherited;
   bool attributes_wanted = false;
 };

@@ -16,17 +16,13 @@ class axsIdentityTable
 public:
   static constexpr std::size_t none = axsValueSet::none;
 
-  struct Entry
-  {
-    axsPlace place;
-    bool is_own = true;       // of the element, and not of one within it
-    bool is_conflict = false; // two elements within have it: then it is of neither
-  };
+  /// Levels count the elements that are open, from 1. All own values are of the element at `level`.
+  explicit axsIdentityTable(std::size_t level) noexcept : own_level(static_cast<std::uint32_t>(level)) {}
 
   std::size_t size() const noexcept { return entries.size(); }
-  Entry const& operator[](std::size_t number) const noexcept { return entries[number]; }
+  axsPlace place(std::size_t number) const noexcept { return entries[number].place; }
 
-  /// The entry of the value as it was before; none if it is new.
+  /// The number of the value as it was before; none if it is new.
   std::size_t add(std::string_view value, axsPlace place);
 
   /// Whether a reference finds the value.
@@ -34,10 +30,24 @@ public:
 
   std::string_view value(std::size_t number) const noexcept { return values[number]; }
 
-  /// Takes over what a table of an element within has: the own values remain.
+  /// Takes over what a table of an element within has: the own values remain; of equal ones of two elements within, there
+  /// is none. The smaller table is walked, so that what is handed up through all levels of a document costs no more than a
+  /// logarithm of it for each value.
   void inherit(axsIdentityTable&& inner);
 
 private:
+  struct Entry
+  {
+    axsPlace place;
+    std::uint32_t level;        // of the element whose own value it is
+    std::uint32_t conflict = 0; // the level at which two elements within had it; from there on, it is not there
+  };
+
+  bool is_own(Entry const& entry) const noexcept { return entry.level == own_level; }
+  void inherit_entry(std::string_view value, Entry const& entry);
+  void put_own(std::string_view value, Entry const& entry);
+
+  std::uint32_t own_level;
   axsValueSet values;
   std::vector<Entry> entries;
 };

@@ -9,15 +9,15 @@
 #include <vector>
 
 /// Values by their bytes, each numbered in the order of its first coming. A table whose hash nobody can foresee
-/// (axsTextHash); takes the bytes themselves and about 30 more for each. Any number of threads may look at one while none
+/// (axsTextHash); takes the bytes themselves and about 20 more for each. Any number of threads may look at one while none
 /// changes it.
 class axsValueSet
 {
 public:
   static constexpr std::size_t none = static_cast<std::size_t>(-1);
 
-  /// The number of the value, whose bytes are not empty, which is size() as it was before if it is new. Where memory runs out, std::bad_alloc, and
-  /// the set is as it was.
+  /// The number of the value, whose bytes are not empty, which is size() as it was before if it is new. Where memory runs
+  /// out, or there are 2^32 - 1 values, std::bad_alloc, and the set is as it was.
   std::size_t insert(std::string_view bytes);
 
   /// The number of the value, none if it is not there.
@@ -36,12 +36,14 @@ private:
   // A place of the table: free, or the number of a value and its hash.
   struct Slot
   {
-    std::size_t number = none;
-    std::size_t hash = 0;
+    std::uint32_t number = no_number;
+    std::uint32_t hash = 0;
   };
 
-  std::size_t hash_of(char first, std::string_view rest) const;
-  std::size_t slot_of(std::size_t hash, char first, std::string_view rest) const;
+  static constexpr std::uint32_t no_number = static_cast<std::uint32_t>(-1);
+
+  std::uint32_t hash_of(char first, std::string_view rest) const;
+  std::size_t slot_of(std::uint32_t hash, char first, std::string_view rest) const;
   void make_room();
 
   std::string data;

@@ -61,6 +61,19 @@ TEST(axsIdentityChecks, a_field_has_one_value)
   EXPECT_EQ(complex.wrong("<r><i/></r>"), "1: element 'i' is a field of a key, and must have a simple type\n");
 }
 
+// cvc-identity-constraint.3
+TEST(axsIdentityChecks, a_field_without_a_declaration_has_no_simple_type)
+{
+  for (char const* const process : {"lax", "skip"})
+  {
+    Schema const schema("<xs:element name='r'><xs:complexType><xs:sequence><xs:any processContents='" +
+                        std::string(process) + "' maxOccurs='unbounded'/></xs:sequence></xs:complexType>" +
+                        constraint("unique", "u", "*", {"."}) + "</xs:element><xs:element name='i' type='xs:int'/>");
+    ASSERT_EQ(schema.fault(), "");
+    EXPECT_EQ(schema.wrong("<r><o>1</o></r>"), "1: element 'o' is a field of a key, and must have a simple type\n");
+  }
+}
+
 TEST(axsIdentityChecks, references_find_keys_in_their_element)
 {
   Schema const schema(items + root(constraint("key", "k", "i", {"@k"}) + constraint("keyref", "f", "f", {"@to"}, "k")));
@@ -128,6 +141,50 @@ TEST(axsIdentityChecks, many_values_and_many_levels_are_held)
   }
   EXPECT_EQ(nested.wrong(open + close), "");
   EXPECT_NE(nested.wrong(open + "<i k='0'/>" + close), "");
+}
+
+// Each level has a key of its own, and refers to those of all levels within; what is not linear would not end here.
+TEST(axsIdentityChecks, keys_in_each_of_many_levels_are_held)
+{
+  Schema const schema("<xs:element name='r'><xs:complexType><xs:sequence><xs:element name='f' minOccurs='0' "
+                      "maxOccurs='2'><xs:complexType><xs:attribute name='to' type='xs:int'/></xs:complexType>"
+                      "</xs:element><xs:element ref='r' minOccurs='0'/></xs:sequence>"
+                      "<xs:attribute name='k' type='xs:int'/></xs:complexType>" +
+                      constraint("key", "k", ".", {"@k"}) + constraint("keyref", "f", "f", {"@to"}, "k") +
+                      constraint("unique", "u", ".", {"@k"}) + "</xs:element>");
+  ASSERT_EQ(schema.fault(), "");
+  int const levels = 100000;
+  std::string open;
+  std::string close;
+  for (int i = 0; i < levels; ++i)
+  {
+    open += "<r k='" + std::to_string(i) + "'><f to='" + std::to_string(levels - 1) + "'/>";
+    close += "</r>";
+  }
+  EXPECT_EQ(schema.wrong(open + "<f to='99999'/>" + close), "");
+  EXPECT_EQ(schema.wrong(open + "<f to='0'/>" + close),
+    "1: the key reference \"0\" in the element 'r' has no key that it refers to\n");
+}
+
+// Of equal keys, those of an element itself count before those within it, which do not conflict with them.
+TEST(axsIdentityChecks, keys_within_conflict_with_each_other_only)
+{
+  Schema const schema(items + root(constraint("key", "k", "i", {"@k"}) + constraint("keyref", "f", "f", {"@to"}, "k")));
+  ASSERT_EQ(schema.fault(), "");
+  std::string const one = "<r><i k='1'/></r>";
+  std::string const two = "<r><i k='1'/><i k='2'/><i k='3'/></r>";
+  std::string const reference = "<f to='1'/>";
+  EXPECT_EQ(schema.wrong("<r>" + one + reference + "</r>"), "");
+  EXPECT_NE(schema.wrong("<r>" + one + one + reference + "</r>"), "");
+  EXPECT_NE(schema.wrong("<r>" + one + two + reference + "</r>"), "");
+  EXPECT_NE(schema.wrong("<r>" + two + one + reference + "</r>"), "");
+  EXPECT_EQ(schema.wrong("<r>" + one + two + "<i k='1'/>" + reference + "</r>"), "");
+  EXPECT_EQ(schema.wrong("<r>" + two + "<i k='1'/><i k='9'/>" + reference + "</r>"), "");
+  // What is in conflict further in is not there further out.
+  EXPECT_NE(schema.wrong("<r><r>" + one + one + "</r>" + reference + "</r>"), "");
+  EXPECT_EQ(schema.wrong("<r><r>" + one + one + "</r>" + one + reference + "</r>"), "");
+  EXPECT_EQ(schema.wrong("<r><r>" + one + two + "</r>" + one + reference + "</r>"), "");
+  EXPECT_NE(schema.wrong("<r><r>" + one + two + "</r>" + one + one + reference + "</r>"), "");
 }
 
 TEST(axsIdentityChecks, two_thousand_keys_at_once_are_checked)
