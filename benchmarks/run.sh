@@ -19,6 +19,9 @@ results=build/benchmark/results
 mkdir -p "$results"
 status=0
 build/benchmark/bin/bench_reader ${folder:+"$folder"} --output "$results/reader" || status=1
+if [ -n "$folder" ]; then
+  build/benchmark/bin/bench_rows "$folder" --output "$results/rows" || status=1
+fi
 documents=()
 [ -z "$folder" ] || documents=("$folder"/*.xml)
 build/benchmark/bin/document_benchmark --output "$results/document" "${documents[@]}" || status=1

@@ -23,11 +23,20 @@ double peak_megabytes()
   return static_cast<double>(usage.ru_maxrss) / 1024;
 }
 
+double seconds_of(timeval const& time)
+{
+  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+}
+
+// With the processes that have been waited for.
 double processor_seconds()
 {
   timespec time = {};
   clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+  rusage children = {};
+  getrusage(RUSAGE_CHILDREN, &children);
+  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9 + seconds_of(children.ru_utime) +
+         seconds_of(children.ru_stime);
 }
 
 // In the process of its own.

@@ -10,6 +10,8 @@ axsRecordHandler::axsRecordHandler(axsRecordPattern const& given, axsRecord& fil
     record(filled),
     record_ended(std::move(ended))
 {
+  for (std::string const& text : pattern.names())
+    wanted_names.push_back(&names.intern(text));
 }
 
 void axsRecordHandler::start_element(axsStartTag const& tag)
@@ -82,9 +84,10 @@ void axsRecordHandler::take_attributes(Element const& element, axsStartTag const
       }
 }
 
-bool axsRecordHandler::is_it(axsRecordPattern::Name const& wanted, axsName const& name, std::string_view name_space)
+bool axsRecordHandler::is_it(
+  axsRecordPattern::Name const& wanted, axsName const& name, std::string_view name_space) const
 {
   if (wanted.has_name_space)
     return (wanted.is_any || name.local() == wanted.text) && name_space == wanted.name_space;
-  return wanted.is_any || name.utf8() == wanted.text;
+  return wanted.is_any || &name == wanted_names[wanted.number];
 }

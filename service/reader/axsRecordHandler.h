@@ -43,12 +43,14 @@ private:
   void begin_record(axsStartTag const& tag);
   void begin_child(axsStartTag const& tag);
   void take_attributes(Element const& element, axsStartTag const& tag);
-  static bool is_it(axsRecordPattern::Name const& wanted, axsName const& name, std::string_view name_space);
+  bool is_it(axsRecordPattern::Name const& wanted, axsName const& name, std::string_view name_space) const;
 
   axsRecordPattern const& pattern;
   axsRecord& record;
   Ended const record_ended;
   axsNameTable names;
+  // The names of the pattern as those of the document, by their numbers.
+  std::vector<axsName const*> wanted_names;
   axsLocator const* locator = nullptr;
   // Which name of the path the next element has to have, counted from 1.
   std::size_t depth = 1;

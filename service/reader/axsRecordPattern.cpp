@@ -119,19 +119,20 @@ axsRecordPattern::axsRecordPattern(
   }
 }
 
-axsRecordPattern::Name axsRecordPattern::name_of(std::string_view text, Namespaces const& namespaces) const
+axsRecordPattern::Name axsRecordPattern::name_of(std::string_view text, Namespaces const& namespaces)
 {
+  Name name{std::string(text), {}, false, text == "*", texts.size()};
   std::size_t const colon = text.find(':');
   if (colon != std::string_view::npos)
-  {
-    auto const given = namespaces.find(std::string(text.substr(0, colon)));
-    if (given != namespaces.end())
+    if (auto const given = namespaces.find(std::string(text.substr(0, colon))); given != namespaces.end())
     {
-      std::string_view const local = text.substr(colon + 1);
-      return {std::string(local), given->second, true, local == "*"};
+      name.text = text.substr(colon + 1);
+      name.name_space = given->second;
+      name.has_name_space = true;
+      name.is_any = name.text == "*";
     }
-  }
-  return {std::string(text), {}, false, text == "*"};
+  texts.push_back(name.text);
+  return name;
 }
 
 std::size_t axsRecordPattern::child(std::size_t element, Name const& name)

@@ -26,6 +26,7 @@ public:
     std::string name_space; // where one is given
     bool has_name_space = false;
     bool is_any = false;
+    std::size_t number = 0; // among all names of the pattern
   };
 
   /// An element of the record in which columns lie; the first is the record itself.
@@ -58,6 +59,9 @@ public:
   std::vector<Name> const& path() const noexcept { return steps; }
   std::vector<Element> const& elements() const noexcept { return all_elements; }
 
+  /// The texts of all names, by their numbers.
+  std::vector<std::string> const& names() const noexcept { return texts; }
+
   /// The number of columns, and for each the number of the child of the record in which it lies, counted as they are met
   /// in the columns; no_child where it is of the record itself.
   std::size_t column_count() const noexcept { return groups.size(); }
@@ -67,10 +71,11 @@ public:
   static constexpr std::size_t no_group = static_cast<std::size_t>(-1);
 
 private:
-  Name name_of(std::string_view text, Namespaces const& namespaces) const;
+  Name name_of(std::string_view text, Namespaces const& namespaces);
   std::size_t child(std::size_t element, Name const& name);
 
   std::vector<Name> steps;
   std::vector<Element> all_elements;
+  std::vector<std::string> texts;
   std::vector<std::size_t> groups;
 };

@@ -28,10 +28,11 @@ class axsRecordReading;
 ///     axmParseError error;
 ///     reader.read(apPath("books.xml"), axmLoadOptions(), error, [](axsRecordReader::Row const& row) { ...; return true; });
 ///
-/// A path is written `a/b/c` from the root; a name in it may be `*`. A column is `@a` (an attribute of the record), `b`
-/// (the texts directly in a child, joined), `b/c`, `b/@a`, or `.` (the texts directly in the record). Names are compared
-/// as they are written in the document, but those with a prefix that the request gives a namespace: by that and the part
-/// after the colon. References are resolved, texts are UTF-8 whatever the document is encoded in.
+/// A path is written `a/b/c` from the root; a name in it may be `*`. A column is `@a` (an attribute of the record; defaults
+/// are attributes, declarations of namespaces are none), `b` (the texts directly in a child, joined), `b/c`, `b/@a`, or `.`
+/// (the texts directly in the record). Names are compared as they are written in the document, but those with a prefix that
+/// the request gives a namespace: by that and the part after the colon. References are resolved, texts are UTF-8 whatever
+/// the document is encoded in.
 ///
 /// The document is checked as a load checks it, from its first byte to its last. Time: linear in its size. Memory: that of
 /// the largest record and text; the document itself may be of any size, and come from a pipe.

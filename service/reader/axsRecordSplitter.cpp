@@ -165,8 +165,9 @@ try
   axsParser parser(source, options, splitter);
   parser.run();
   if (parser.encoding() != "UTF-8" && parser.encoding() != "US-ASCII")
-    throw axsReadError{
-      APSTRING("only a document in UTF-8 can be split; this one is in ") + apString::from_utf8(parser.encoding()),
+    throw axsReadError{APSTRING("only a document in UTF-8 can be split, and this one is in ") +
+                         apString::from_utf8(parser.encoding()) +
+                         APSTRING(": convert it first, as 'xmllint --encode UTF-8' does, or take its rows as a whole"),
       source.url()};
   parts.size = size;
   // What follows the last record is read with it, up to the end of the document.

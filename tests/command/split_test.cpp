@@ -142,6 +142,16 @@ TEST_F(Split, what_cannot_be_split_is_an_error)
   EXPECT_EQ(run_axm(name, {"split", "no such file.xml", "r/e"}).exit_code, 1);
 }
 
+TEST_F(Split, of_a_document_in_another_encoding_the_message_says_what_to_do)
+{
+  TemporaryFile const file(document, "<?xml version='1.0' encoding='iso-8859-1'?><r><e k='\xE4'/></r>");
+  ProgramRun const run = run_axm(name, {"split", document, "r/e"});
+  EXPECT_EQ(run.exit_code, 1);
+  EXPECT_EQ(run.err, document +
+                       ": only a document in UTF-8 can be split, and this one is in ISO-8859-1: convert it first, as "
+                       "'xmllint --encode UTF-8' does, or take its rows as a whole\n");
+}
+
 TEST_F(Split, an_index_that_is_none_is_an_error)
 {
   TemporaryFile const file(document, "<r><e/></r>");
