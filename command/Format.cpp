@@ -3,7 +3,9 @@
 #include "FileJobs.h"
 #include "InputStream.h"
 #include "Loading.h"
+#include "MemoryStream.h"
 
+#include <axsComparison.h>
 #include <axsFormatter.h>
 
 #include <CLI/CLI.hpp>
@@ -30,6 +32,7 @@ quotes and the document type stay as they are written; lines end as they did. Of
 lines between elements one stays. What is laid out already does not change. Documents in
 other encodings become UTF-8, and say so.
 
+--in-place compares what a document says before and after, and replaces it in one step.
 Without --in-place, --check or --output, the one document goes to standard output.
 
 The exit code is 0 if all is well, 1 if a document cannot be read or written or, with
@@ -60,8 +63,23 @@ bool format_or_complain(std::string const& file, Request const& request, apByteA
   return is_good;
 }
 
-int replace(std::string const& file, std::string const& text)
+// Nothing takes the place of a document that does not say the same.
+bool says_the_same(apByteArray const& bytes, std::string const& text)
 {
+  axsCompareOptions options;
+  options.ignores_layout = true;
+  axsComparison comparison(options);
+  axmParseError error;
+  MemoryStream before({bytes.data(), bytes.size()});
+  MemoryStream after(text);
+  return comparison.read_first(before, error) && comparison.read_second(after, error) &&
+         comparison.run([](axsDifference const&) { return false; });
+}
+
+int replace(std::string const& file, apByteArray const& bytes, std::string const& text)
+{
+  if (!says_the_same(bytes, text))
+    return complain(file, "is left as it is: laid out, it would not say the same", exit_bad_input);
   OutputFile target(file);
   target.write(text);
   return target.finish() ? exit_good : complain(file, "cannot be written", exit_bad_input);
@@ -77,7 +95,7 @@ int format_one(std::string const& file, Request const& request, JobOutput& outpu
     return exit_bad_input;
   bool const is_changed = text != std::string_view(bytes.data(), bytes.size());
   if (request.in_place)
-    return is_changed ? replace(file, text) : exit_good;
+    return is_changed ? replace(file, bytes, text) : exit_good;
   if (!request.check)
     output.write(text);
   else if (is_changed)

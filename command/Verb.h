@@ -18,6 +18,7 @@ void add_check(CLI::App& app, int& exit_code);
 void add_completion(CLI::App& app, int& exit_code);
 void add_conform(CLI::App& app, int& exit_code);
 void add_conform_worker(CLI::App& app, int& exit_code);
+void add_convert(CLI::App& app, int& exit_code);
 void add_diff(CLI::App& app, int& exit_code);
 void add_format(CLI::App& app, int& exit_code);
 void add_outline(CLI::App& app, int& exit_code);

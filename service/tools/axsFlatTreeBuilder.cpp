@@ -3,6 +3,7 @@
 #include "axsDtd.h"
 #include "axsFlatTreeNames.h"
 #include "axsHashKey.h"
+#include "axsLineFeeds.h"
 #include "axsLocator.h"
 #include "axsName.h"
 #include "axsStartTag.h"
@@ -75,9 +76,17 @@ axsFlatTreeBuilder::Node& axsFlatTreeBuilder::add(Kind kind)
   return node;
 }
 
+void axsFlatTreeBuilder::declaration(std::string_view version, std::string_view, std::string_view)
+{
+  is_xml_1_1 = version == "1.1";
+}
+
+// It comes as it is written.
 void axsFlatTreeBuilder::doctype(std::shared_ptr<axsDtd const> const& type)
 {
-  add(Kind::doctype).text = names.kept(rules.joins_space ? joined(type->text) : type->text);
+  std::string text = type->text;
+  axsLineFeeds::normalise(text, is_xml_1_1);
+  add(Kind::doctype).text = names.kept(rules.joins_space ? joined(text) : text);
 }
 
 void axsFlatTreeBuilder::start_element(axsStartTag const& tag)

@@ -32,6 +32,7 @@ public:
 
   axsName const& name(std::string_view text) override { return read_names.intern(text); }
   void start_document(axsLocator const& given) override { locator = &given; }
+  void declaration(std::string_view version, std::string_view encoding, std::string_view standalone) override;
   void doctype(std::shared_ptr<axsDtd const> const& type) override;
   void start_element(axsStartTag const& tag) override;
   void end_element() override;
@@ -68,6 +69,7 @@ private:
   axsFlatTreeRules const rules;
   axsNameTable read_names;
   axsLocator const* locator = nullptr;
+  bool is_xml_1_1 = false;
   std::vector<Open> open;
   // A text that may go on: there may be references and CDATA sections in it.
   std::string pending;

@@ -11,7 +11,7 @@
 /// Lays documents out anew: what they say stays, only white space that no reader heeds is changed.
 ///
 /// - An element with elements only has each of them, comments and instructions on lines of their own, one level further
-///   in. Of empty lines between them one stays; a comment after blanks on a line stays there.
+///   in, up to 100 levels. Of empty lines between them one stays; a comment after blanks on a line stays there.
 /// - Whatever is in an element with text in it, CDATA and references included, stays as it is, down to the last blank; so
 ///   does the white space of an element that has nothing else, and what xml:space="preserve" is said of, in the document or
 ///   its type (XML 1.0, 2.10).

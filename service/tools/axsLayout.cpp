@@ -8,6 +8,9 @@ namespace
 {
 std::size_t const piece_size = 64 * 1024;
 
+// No line is indented by more of them, so that what is written of a deep document stays in proportion to it.
+std::size_t const max_levels = 100;
+
 bool is_space(std::string_view text)
 {
   return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
@@ -191,8 +194,9 @@ void axsLayout::write_tag(bool is_empty)
 void axsLayout::break_line(std::size_t levels)
 {
   put("\n");
-  out.append(levels * options.indent, options.has_tabs ? '\t' : ' ');
-  column = levels * options.indent;
+  std::size_t const indent = std::min(levels, max_levels) * options.indent;
+  out.append(indent, options.has_tabs ? '\t' : ' ');
+  column = indent;
 }
 
 void axsLayout::put(std::string_view what)

@@ -12,7 +12,7 @@ namespace
 {
 // Those that everyone has.
 std::string const verbs[] = {
-  "check", "outline", "diff", "format", "select", "set", "split", "table", "conform", "completion"};
+  "check", "outline", "diff", "format", "convert", "select", "set", "split", "table", "conform", "completion"};
 
 bool contains(std::string const& text, std::string const& part)
 {

@@ -74,6 +74,14 @@ TEST(axsComparison, what_is_written_in_another_way_is_no_difference)
     "");
 }
 
+TEST(axsComparison, line_ends_are_no_difference)
+{
+  EXPECT_EQ(
+    compared("<!DOCTYPE a [\r\n\r<!ENTITY e '\r'>]><a>\r\n</a>", "<!DOCTYPE a [\n\n<!ENTITY e '\n'>]><a>\n</a>"), "");
+  EXPECT_EQ(
+    compared("<?xml version='1.1'?><!DOCTYPE a [\xC2\x85]><a/>", "<?xml version='1.1'?><!DOCTYPE a [\n]><a/>"), "");
+}
+
 TEST(axsComparison, names_count_by_their_namespaces)
 {
   EXPECT_EQ(
