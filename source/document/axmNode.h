@@ -130,7 +130,7 @@ public:
   virtual bool set_attribute_locale(apString const& name, double value);
 
   /// The texts of the node and all its descendants in document order, with nothing between them; of a text or comment
-  /// its data. What comments and instructions below the node hold is left out.
+  /// its data, of an attribute its value. What comments and instructions below the node hold is left out.
   virtual apString get_text() const = 0;
 
   /// Replaces the content by one text child that holds `text`, which may be empty; what was there is out then, and whole.

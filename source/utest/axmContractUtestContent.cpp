@@ -84,6 +84,8 @@ void axmContractUtest::test_creation(Factory const& factory) const
   group.check(name_of(element), APSTRING("p_1.x-y"), "element->getNodeName()", __LINE__, "a name as it was given");
   group.check(name_of(document->createElement(APSTRING("\u0444\u00E4"))), APSTRING("\u0444\u00E4"),
     "element->getNodeName()", __LINE__, "a name in other letters");
+  group.check(name_of(document->createElement(APSTRING("p:x"))), APSTRING("p:x"), "element->getNodeName()", __LINE__,
+    "a name with a colon is one");
   group.check(name_of(load_root(*factory, "<p:Root xmlns:p='u'/>")), APSTRING("p:Root"), "root->getNodeName()",
     __LINE__, "a name as it was written, prefix included");
   group.check(

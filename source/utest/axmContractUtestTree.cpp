@@ -339,7 +339,7 @@ void axmContractUtest::test_refusals(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_refusals");
   AssertionsAllowed const allowed;
-  auto const document = load(*factory, "<root><a><b/></a></root>");
+  auto const document = load(*factory, "<root K='V'><a><b/></a></root>");
   auto const root = root_of(document);
   Node const a = first_of(root);
   Node const b = first_of(a);
@@ -363,6 +363,12 @@ void axmContractUtest::test_refusals(Factory const& factory) const
     a->removeChild(nullptr) == nullptr, "!a->removeChild(nullptr).get()", __LINE__, "nothing cannot be removed");
   group.check(document->appendChild(x) == nullptr, "!document->appendChild(x).get()", __LINE__,
     "a document has one root element");
+  auto const map = map_of(root);
+  Node const attribute = map != nullptr ? map->getNamedItem(APSTRING("K")) : nullptr;
+  group.check(attribute != nullptr && root->removeChild(attribute) == nullptr, "!root->removeChild(attribute).get()",
+    __LINE__, "an attribute is no child");
+  group.check(attribute != nullptr && attribute->appendChild(x) == nullptr, "!attribute->appendChild(x).get()",
+    __LINE__, "an attribute holds no element");
   group.check(xml_of(root), before, "root->get_xml() == before", __LINE__, "a refused edit changes nothing");
   group.check(
     same(parent_of(b), a) && same(parent_of(a), root), "the parents are as before", __LINE__, "nor any parent");
@@ -483,6 +489,16 @@ void axmContractUtest::test_text(Factory const& factory) const
   group.check(root->get_text(), APSTRING("again"), "root->get_text()", __LINE__, "a text replaces a text");
   group.check(
     number_of_children(root), 1, "root->getChildNodes()->length() == 1", __LINE__, "and is still the only child");
+  auto const map = map_of(root);
+  Node const attribute = map != nullptr ? map->getNamedItem(APSTRING("K")) : nullptr;
+  group.check(text_of(attribute), APSTRING("V"), "attribute->get_text()", __LINE__, "of an attribute its value");
+  set_text(attribute, APSTRING("W"));
+  group.check(
+    attribute_of(root, APSTRING("K")), APSTRING("W"), "root->getAttribute(\"K\")", __LINE__, "which can be replaced");
+  Node const instruction = first_of(load_root(*factory, "<r><?target content?></r>"));
+  set_text(instruction, APSTRING("other"));
+  group.check(value_of(instruction), APSTRING("other"), "instruction->getNodeValue()", __LINE__,
+    "so can the value of an instruction");
   Node const fresh = created(document, APSTRING("fresh"));
   set_text(fresh, APSTRING("filled"));
   group.check(text_of(fresh), APSTRING("filled"), "fresh->get_text()", __LINE__, "an element that was empty");

@@ -6,7 +6,10 @@
 #include "axmUtestFile.h"
 #include "axmUtestGroup.h"
 #include "axmUtestUtils.h"
+#include "axmXmlTables.h"
+#include "model/axmModelRandom.h"
 
+#include <cstdio>
 #include <string>
 
 using namespace axmUtestAccess;
@@ -44,11 +47,21 @@ Load load_of(Factory const& factory, std::string const& text, axmLoadOptions con
   return result;
 }
 
+// Any bytes, zero too.
+void write(apPath const& path, std::string const& bytes)
+{
+  std::FILE* const stream = path.file_open(apPath::write_mode());
+  if (stream == nullptr)
+    return;
+  std::fwrite(bytes.data(), 1, bytes.size(), stream);
+  std::fclose(stream);
+}
+
 Load load_of_file(Factory const& factory, std::string const& text, axmLoadOptions const& options = axmLoadOptions())
 {
   apPath const path = unique(APSTRING("file"), APSTRING("xml"));
   axmUtestFile const removed_at_the_end(path);
-  axmUtestUtils::write_data(path, text.c_str());
+  write(path, text);
   Load result = {nullptr, axmParseError(), false};
   result.document = factory->loadDocument(path, options, result.error);
   result.is_consistent = (result.document != nullptr) == result.error.invalid();
@@ -118,11 +131,13 @@ void axmLoadUtest::run_tests(Factory const& factory) const
     {&Utest::test_external_things, "axmLoadUtest::test_external_things"},
     {&Utest::test_encodings, "axmLoadUtest::test_encodings"},
     {&Utest::test_markup, "axmLoadUtest::test_markup"},
+    {&Utest::test_large_documents, "axmLoadUtest::test_large_documents"},
     {&Utest::test_places, "axmLoadUtest::test_places"},
     {&Utest::test_schemas, "axmLoadUtest::test_schemas"},
     {&Utest::test_schema_sets, "axmLoadUtest::test_schema_sets"},
     {&Utest::test_saved_sizes, "axmLoadUtest::test_saved_sizes"},
     {&Utest::test_second_saves, "axmLoadUtest::test_second_saves"},
+    {&Utest::test_saved_edits, "axmLoadUtest::test_saved_edits"},
     {&Utest::test_refused_saves, "axmLoadUtest::test_refused_saves"},
   };
   axm_run_groups(*this, factory, groups, tester, file);
@@ -261,12 +276,23 @@ void axmLoadUtest::test_encodings(Factory const& factory) const
   {
     Load const load = load_of(factory, text);
     group.check(text_of(root_of(load.document)), promised, "root->get_text()", __LINE__, description);
+    group.check(
+      text_of(root_of(load_of_file(factory, text).document)), promised, "root->get_text()", __LINE__, description);
     apByteArray output;
     bool const saved = load.document != nullptr && factory->saveDocument(load.document, output);
     axmParseError error;
     auto const copy = saved ? factory->loadDocument(output, axmLoadOptions(), error) : nullptr;
     group.check(text_of(root_of(copy)), promised, "root->get_text(), saved and loaded", __LINE__, description);
   }
+  std::string const pair("\xFF\xFE<\0r\0>\0\x01\xD8\x37\xDC<\0/\0r\0>\0", 20);
+  std::string const halves[] = {std::string("\xFF\xFE<\0r\0>\0\x01\xD8<\0/\0r\0>\0", 18),
+    std::string("\xFF\xFE<\0r\0>\0\x37\xDC<\0/\0r\0>\0", 18), std::string("\xFF\xFE<\0r\0>\0a\0<\0/\0r\0>", 17)};
+  for (Load const& load : {load_of(factory, pair), load_of_file(factory, pair)})
+    group.check(text_of(root_of(load.document)), APSTRING("\U00010437"), "root->get_text()", __LINE__,
+      "a pair of surrogates in UTF-16");
+  for (std::string const& half : halves)
+    group.check(fails(load_of(factory, half)) && fails(load_of_file(factory, half)), "fails", __LINE__,
+      "half a character in UTF-16");
   // Other encodings an engine may refuse, but not mistake.
   Load const latin = load_of(factory, "<?xml version='1.0' encoding='ISO-8859-1'?><r>\xE4</r>");
   group.check(fails(latin) || text_of(root_of(latin.document)) == APSTRING("\u00E4"), "root->get_text()", __LINE__,
@@ -274,7 +300,13 @@ void axmLoadUtest::test_encodings(Factory const& factory) const
   for (std::string const& text :
     {std::string("<r>\xC3</r>"), std::string("<r>\xE4\xB8</r>"), std::string("<r>\xC0\x80</r>"),
       std::string("<r>\xED\xA0\x80</r>"), std::string("<r>\xF5\x80\x80\x80</r>"), std::string("<r k='\xFF'/>")})
-    group.check(fails(load_of(factory, text)), "fails", __LINE__, "bytes that are not UTF-8");
+    group.check(fails(load_of(factory, text)) && fails(load_of_file(factory, text)), "fails", __LINE__,
+      "bytes that are not UTF-8");
+  std::string const with_zero("<r/>\0<r/>", 9);
+  group.check(fails(load_of_file(factory, with_zero)), "fails", __LINE__, "a zero byte ends no file");
+  std::string const long_text(200000, 'x');
+  group.check(text_of(root_of(load_of_file(factory, "<r>" + long_text + "</r>").document)), apString(long_text.c_str()),
+    "root->get_text()", __LINE__, "a large file is read to its end");
 }
 
 void axmLoadUtest::test_markup(Factory const& factory) const
@@ -304,8 +336,8 @@ void axmLoadUtest::test_markup(Factory const& factory) const
     {"<!DOCTYPE r [<!ENTITY e '&#38;lt;'>]><r>&e;</r>", L"<r><", "an entity that holds an escaped reference"},
   };
   for (auto const& [text, promised, description] : cases)
-    group.check(
-      shape(root_of(load_of(factory, text).document)), apString(promised), "shape(root)", __LINE__, description);
+    for (Load const& load : {load_of(factory, text), load_of_file(factory, text)})
+      group.check(shape(root_of(load.document)), apString(promised), "shape(root)", __LINE__, description);
   struct Value
   {
     char const* text;
@@ -332,6 +364,73 @@ void axmLoadUtest::test_markup(Factory const& factory) const
     "comments and instructions outside the root");
   group.check(value_of(first_of(outside)), APSTRING("q"), "document->getFirstChild()->getNodeValue()", __LINE__,
     "the content of an instruction");
+}
+
+namespace
+{
+// What stands in a document and what it means there.
+struct Piece
+{
+  char const* written;
+  char const* in_text;
+  char const* in_attribute;
+};
+
+Piece const pieces[] = {{"x", "x", "x"}, {" ", " ", " "}, {"]", "]", "]"}, {"\xC3\xA4", "\xC3\xA4", "\xC3\xA4"},
+  {"\xE2\x82\xAC", "\xE2\x82\xAC", "\xE2\x82\xAC"}, {"\xF0\x90\x90\xB7", "\xF0\x90\x90\xB7", "\xF0\x90\x90\xB7"},
+  {"\r\n", "\n", " "}, {"\r", "\n", " "}, {"\n", "\n", " "}, {"\t", "\t", " "}, {"&lt;", "<", "<"},
+  {"&#8364;", "\xE2\x82\xAC", "\xE2\x82\xAC"}, {"&e;", "y", "y"}, {"word", "word", "word"}};
+}
+
+void axmLoadUtest::test_large_documents(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmLoadUtest::test_large_documents");
+  axmModelRandom random(1);
+  // Of some kinds of pieces only, so that each kind comes to stand at every border of a buffer.
+  for (int const kinds : {1, 2, 4, 6, 8, 14})
+  {
+    std::string written;
+    std::string text;
+    std::string value;
+    while (written.size() < 150000)
+    {
+      Piece const& piece = pieces[static_cast<std::size_t>(random.below(kinds))];
+      // Two line ends of one character each would be one of two.
+      bool const would_join = !written.empty() && written.back() == '\r' && piece.written[0] == '\n';
+      if (would_join)
+        continue;
+      written += piece.written;
+      text += piece.in_text;
+      value += piece.in_attribute;
+    }
+    text = "begin" + text;
+    std::string const document =
+      "<!DOCTYPE r [<!ENTITY e 'y'>]><r k='" + written + "' l='m'>begin" + written + "<a/>end</r>";
+    for (Load const& load : {load_of(factory, document), load_of_file(factory, document)})
+    {
+      auto const root = root_of(load.document);
+      group.check(attribute_of(root, APSTRING("k")) == apString(value.c_str()), "root->getAttribute(\"k\")", __LINE__,
+        "a large attribute");
+      group.check(attribute_of(root, APSTRING("l")), APSTRING("m"), "root->getAttribute(\"l\")", __LINE__,
+        "and the one after it");
+      group.check(value_of(first_of(root)) == apString(text.c_str()), "root->getFirstChild()->getNodeValue()", __LINE__,
+        "a large text");
+      group.check(
+        text_of(last_of(root)), APSTRING("end"), "root->getLastChild()->get_text()", __LINE__, "and what follows it");
+    }
+    std::string const broken = "<r>" + many(3, written) + "</s>";
+    group.check(fails(load_of(factory, broken)), "fails", __LINE__, "a large document with an error at its end");
+  }
+  for (std::string const& name : {std::string(40000, 'n'), many(20000, "\xC3\xA4"), many(10000, "\xE4\xB8\x80")})
+  {
+    std::string const content = many(3, "<" + name + "></" + name + ">");
+    Load const load = load_of_file(factory, "<r>" + content + "</r>");
+    bool const is_right = number_of_children(root_of(load.document)) == 3 &&
+                          name_of(last_of(root_of(load.document))) == apString(name.c_str());
+    group.check(is_right, "root->getLastChild()->getNodeName()", __LINE__, "long names");
+    group.check(fails(load_of(factory, "<r><" + name + "></" + name + "x></r>")), "fails", __LINE__,
+      "a long end tag of another name");
+  }
 }
 
 void axmLoadUtest::test_places(Factory const& factory) const
@@ -569,6 +668,113 @@ void axmLoadUtest::test_second_saves(Factory const& factory) const
   group.check(xml_of(document), xml, "document->get_xml()", __LINE__, "and change nothing");
   group.check(xml.find(APSTRING("<?xml ")), 0, "document->get_xml()", __LINE__,
     "the XML of a document begins with its declaration");
+}
+
+namespace
+{
+// What is done to the root of a document before it is saved. It may be refused only if `may_be_refused`.
+struct Edit
+{
+  char const* text;
+  void (*edit)(axmDocument& document, axmElement& root);
+  bool may_be_refused;
+  char const* description;
+};
+
+void add(axmDocument& document, axmElement& parent, char const* name)
+{
+  if (auto const element = document.createElement(apString(name)))
+    parent.appendChild(element);
+}
+
+void set_first(axmElement& root, wchar_t const* text)
+{
+  if (Node const first = root.getFirstChild())
+    first->set_text(text);
+}
+
+char const with_types[] = "<!DOCTYPE r [<!ATTLIST r k NMTOKENS #IMPLIED d CDATA 'x'>]><r k='a'/>";
+
+Edit const edits[] = {
+  {"<r xmlns:p='u'/>", [](axmDocument& d, axmElement& r) { add(d, r, "p:x"); }, true, "a prefix that is declared"},
+  {"<r/>", [](axmDocument& d, axmElement& r) { add(d, r, "p:x"); }, true, "a prefix that is not declared"},
+  {"<r/>", [](axmDocument&, axmElement& r) { r.setAttribute(L"p:k", L"v"); }, true, "an attribute with such a prefix"},
+  {"<r><a xmlns:p='u'/></r>", [](axmDocument& d, axmElement& r) { add(d, r, "p:x"); }, true,
+    "a prefix that is declared elsewhere"},
+  {"<r xmlns:p='u' xmlns:q='u'/>",
+    [](axmDocument&, axmElement& r)
+    {
+      r.setAttribute(L"p:k", L"1");
+      r.setAttribute(L"q:k", L"2");
+    },
+    true, "two attributes of one name in one namespace"},
+  {"<r xmlns:p='u' xmlns:q='v'/>",
+    [](axmDocument&, axmElement& r)
+    {
+      r.setAttribute(L"p:k", L"1");
+      r.setAttribute(L"q:k", L"2");
+    },
+    true, "and in two"},
+  {"<r xmlns:p='u'><p:a/></r>", [](axmDocument&, axmElement& r) { r.setAttribute(L"xmlns:p", L""); }, true,
+    "a prefix that is undeclared"},
+  {"<r xmlns:p='u'><p:a/></r>", [](axmDocument&, axmElement& r) { r.removeAttribute(L"xmlns:p"); }, true,
+    "a declaration that is taken out"},
+  {"<r/>", [](axmDocument&, axmElement& r) { r.setAttribute(L"xmlns:xml", L"u"); }, true, "a prefix for another"},
+  {"<r/>", [](axmDocument&, axmElement& r) { r.setAttribute(L"xmlns:xmlns", L"u"); }, true, "one that is for nobody"},
+  {"<r/>", [](axmDocument& d, axmElement& r) { add(d, r, "x:"); }, true, "a prefix without a name"},
+  {"<r/>", [](axmDocument& d, axmElement& r) { add(d, r, ":x"); }, true, "a name without a prefix"},
+  {"<r xmlns:a='u'/>", [](axmDocument& d, axmElement& r) { add(d, r, "a:b:c"); }, true, "two colons"},
+  {"<r xmlns:a='u'/>", [](axmDocument& d, axmElement& r) { add(d, r, "a:1"); }, true, "a name that begins wrong"},
+  {"<r xmlns='u'><a/></r>", [](axmDocument& d, axmElement& r) { add(d, r, "x"); }, false, "no prefix"},
+  {with_types, [](axmDocument&, axmElement& r) { r.setAttribute(L"k", L"a  b"); }, true, "two blanks among tokens"},
+  {with_types, [](axmDocument&, axmElement& r) { r.setAttribute(L"k", L" a"); }, true, "a blank before tokens"},
+  {with_types, [](axmDocument&, axmElement& r) { r.setAttribute(L"k", L"a "); }, true, "a blank after tokens"},
+  {with_types, [](axmDocument&, axmElement& r) { r.setAttribute(L"k", L"a b c"); }, false, "single blanks"},
+  {with_types, [](axmDocument&, axmElement& r) { r.setAttribute(L"k", L""); }, false, "no tokens"},
+  {with_types, [](axmDocument&, axmElement& r) { r.setAttribute(L"n", L" a  b "); }, false, "what is no tokens"},
+  {with_types, [](axmDocument&, axmElement& r) { r.setAttribute(L"d", L" y "); }, false, "a default that is another"},
+  {with_types, [](axmDocument&, axmElement& r) { r.removeAttribute(L"d"); }, true, "a default that is taken out"},
+  {with_types, [](axmDocument& d, axmElement& r) { add(d, r, "r"); }, true, "a new element without its default"},
+  {with_types, [](axmDocument& d, axmElement& r) { add(d, r, "s"); }, false, "an element without any"},
+  {"<r><?t x?></r>", [](axmDocument&, axmElement& r) { set_first(r, L"a?>b"); }, true, "the end of an instruction"},
+  {"<r><?t x?></r>", [](axmDocument&, axmElement& r) { set_first(r, L" a"); }, true, "a blank at its beginning"},
+  {"<r><?t x?></r>", [](axmDocument&, axmElement& r) { set_first(r, L"a ?"); }, false, "a question mark"},
+  {"<r><?t x?></r>", [](axmDocument&, axmElement& r) { set_first(r, L""); }, false, "an empty instruction"},
+  {"<r><?t x?></r>", [](axmDocument&, axmElement& r) { set_first(r, L"\u0444&<"); }, false, "any characters in it"},
+  {"<r><?t x?></r>", [](axmDocument&, axmElement& r) { set_first(r, L"a\x01"); }, true, "what no document holds"},
+  {"<r><!--x--></r>", [](axmDocument&, axmElement& r) { set_first(r, L"a -> b <c> &d; ]]>"); }, false, "a comment"},
+  {"<r><!--x--></r>", [](axmDocument&, axmElement& r) { set_first(r, L"-a"); }, false, "a hyphen at its beginning"},
+  {"<r><![CDATA[x]]></r>", [](axmDocument&, axmElement& r) { set_first(r, L"a]]>b"); }, true, "the end of a section"},
+  {"<r><![CDATA[x]]></r>", [](axmDocument&, axmElement& r) { set_first(r, L"a\rb"); }, true, "a return in a section"},
+  {"<r><![CDATA[x]]></r>", [](axmDocument&, axmElement& r) { set_first(r, L"<&>\"'"); }, false, "markup in a section"},
+  {"<r><![CDATA[x]]></r>", [](axmDocument&, axmElement& r) { set_first(r, L"a\x01"); }, true, "a character in one"},
+  {"<r>x</r>", [](axmDocument&, axmElement& r) { set_first(r, L"]]>\r\n&lt;\t<>"); }, false, "a text"},
+  {"<r k='x'/>", [](axmDocument&, axmElement& r) { r.setAttribute(L"k", L"\t\r\n \"'<>&"); }, false, "a value"},
+};
+}
+
+void axmLoadUtest::test_saved_edits(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmLoadUtest::test_saved_edits");
+  for (auto const& [text, edit, may_be_refused, description] : edits)
+  {
+    auto const document = load_of(factory, text).document;
+    auto const root = root_of(document);
+    if (!group.prerequisite(root != nullptr, "root.get()", __LINE__, "Prerequisite: load document"))
+      continue;
+    edit(*document, *root);
+    apByteArray output;
+    if (!factory->saveDocument(document, output))
+    {
+      group.check(may_be_refused, "factory->saveDocument(document, output)", __LINE__, description);
+      continue;
+    }
+    axmParseError error;
+    auto const copy = factory->loadDocument(output, axmLoadOptions(), error);
+    apString const promised(axmXmlTables::shape_of(document).c_str());
+    group.check(copy != nullptr ? apString(axmXmlTables::shape_of(copy).c_str()) : APSTRING("(no document)"), promised,
+      "what was saved, loaded again", __LINE__, description);
+  }
 }
 
 void axmLoadUtest::test_refused_saves(Factory const& factory) const

@@ -24,11 +24,13 @@ protected:
   void test_external_things(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_encodings(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_markup(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_large_documents(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_places(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_schemas(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_schema_sets(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_saved_sizes(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_second_saves(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_saved_edits(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_refused_saves(std::shared_ptr<axmDocumentFactory> const& factory) const;
 
 private:

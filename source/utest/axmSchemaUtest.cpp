@@ -2128,6 +2128,19 @@ Checked const attributes_12[] = {
 
 Checked const derivation_0[] = {
   {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' />", true},
+  {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'  "
+   "xsi:type='xs:int'/>",
+    false},
+  {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'  "
+   "xsi:type='xs:int'>1</r>",
+    true},
+  {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'  "
+   "xsi:type='xs:decimal'/>",
+    true},
+};
+
+Checked const derivation_1[] = {
+  {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' />", true},
   {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' ><a/></r>",
     true},
   {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'  "
@@ -2170,7 +2183,7 @@ Checked const derivation_0[] = {
     true},
 };
 
-Checked const derivation_1[] = {
+Checked const derivation_2[] = {
   {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'  "
    "xsi:type='xs:int'>5</r>",
     true},
@@ -2187,32 +2200,32 @@ Checked const derivation_1[] = {
     true},
 };
 
-Checked const derivation_2[] = {
-  {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'  "
-   "xsi:type='less'/>",
-    true},
-  {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'  "
-   "xsi:type='more'><b/></r>",
-    false},
-};
-
 Checked const derivation_3[] = {
   {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'  "
    "xsi:type='less'/>",
+    true},
+  {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'  "
+   "xsi:type='more'><b/></r>",
+    false},
+};
+
+Checked const derivation_4[] = {
+  {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'  "
+   "xsi:type='less'/>",
     false},
   {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'  "
    "xsi:type='more'><b/></r>",
     true},
 };
 
-Checked const derivation_4[] = {
+Checked const derivation_5[] = {
   {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' />", false},
   {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'  "
    "xsi:type='gone'/>",
     false},
 };
 
-Checked const derivation_5[] = {
+Checked const derivation_6[] = {
   {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' ><n "
    "xsi:nil='true'/></r>",
     true},
@@ -2261,7 +2274,7 @@ Checked const derivation_5[] = {
     false},
 };
 
-Checked const derivation_6[] = {
+Checked const derivation_7[] = {
   {"<r><h>1.5</h></r>", true},
   {"<r><m>1.5</m></r>", true},
   {"<r><i>1</i><h>2</h></r>", true},
@@ -2273,7 +2286,7 @@ Checked const derivation_6[] = {
   {"<r><h>1</h><h>1</h><i>1</i></r>", false},
 };
 
-Checked const derivation_7[] = {
+Checked const derivation_8[] = {
   {"<r><m>1</m></r>", true},
   {"<r><h>1</h></r>", false},
   {"<r><m>x</m></r>", false},
@@ -2281,18 +2294,18 @@ Checked const derivation_7[] = {
   {"<m>1</m>", true},
 };
 
-Checked const derivation_8[] = {
+Checked const derivation_9[] = {
   {"<r><h>1</h></r>", true},
   {"<r><m>1</m></r>", false},
 };
 
-Checked const derivation_9[] = {
+Checked const derivation_10[] = {
   {"<r a=''>xy</r>", true},
   {"<r a=''>xyz</r>", false},
   {"<r>xy</r>", false},
 };
 
-Checked const derivation_10[] = {
+Checked const derivation_11[] = {
   {"<r><a/></r>", true},
   {"<r><a/><a/></r>", true},
   {"<r/>", false},
@@ -2301,14 +2314,14 @@ Checked const derivation_10[] = {
   {"<r x=''><a/></r>", false},
 };
 
-Checked const derivation_11[] = {
+Checked const derivation_12[] = {
   {"<r>x<a/>y<b/>z</r>", true},
   {"<r><b/></r>", true},
   {"<r>x<a/>y</r>", false},
   {"<r><b/><a/></r>", false},
 };
 
-Checked const derivation_12[] = {
+Checked const derivation_13[] = {
   {"<r><f>01</f></r>", true},
   {"<r><f/></r>", true},
   {"<r><d/></r>", true},
@@ -2319,6 +2332,8 @@ Checked const derivation_12[] = {
   {"<r><d>x</d></r>", false},
   {"<r><m>x <a/>y</m></r>", false},
   {"<r><m>xy</m></r>", false},
+  {"<r><m>x y<a/></m></r>", false},
+  {"<r><m><a/></m></r>", false},
 };
 
 Checked const constraints_0[] = {
@@ -2392,12 +2407,98 @@ Checked const constraints_10[] = {
 };
 
 Checked const constraints_11[] = {
+  {"<r><g><i k='1'/><g><i k='2'/><g><i k='3'/></g></g></g><f to='1'/><f to='2'/><f to='3'/></r>", true},
+  {"<r><g><g><i k='2'/></g><g><i k='3'/></g></g><f to='2'/><f to='3'/></r>", true},
+  {"<r><g><i k='1'/><g><i k='1'/></g></g><f to='1'/></r>", true},
+  {"<r><g><g><i k='2'/></g><g><i k='2'/></g></g><f to='2'/></r>", false},
+  {"<r><g><i k='1'/><g><i k='2'/></g></g><f to='3'/></r>", false},
+};
+
+Checked const constraints_12[] = {
+  {"<r><g><i k='1'/><f to='1'/></g><f to='1'/></r>", true},
+  {"<r><g><i k='1'/></g><g><i k='2'/><f to='2'/></g><f to='1'/><f to='2'/></r>", true},
+  {"<r><g><i k='1'/></g><g><f to='1'/></g></r>", false},
+  {"<r><g><i k='1'/><f to='1'/></g><f to='2'/></r>", false},
+};
+
+Checked const constraints_13[] = {
+  {"<r><i "
+   "l='"
+   "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa"
+   "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa"
+   "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaab'/><i "
+   "l='"
+   "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa"
+   "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa"
+   "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaac'/></r>",
+    true},
+  {"<r><i "
+   "l='"
+   "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa"
+   "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa"
+   "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa'/><i "
+   "l='"
+   "bbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbb"
+   "bbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbb"
+   "bbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbb'/><i "
+   "l='"
+   "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa"
+   "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa"
+   "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa'/></r>",
+    false},
+};
+
+Checked const constraints_14[] = {
+  {"<r><t "
+   "a='"
+   "xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx"
+   "xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx' b='y'/><t "
+   "a='"
+   "xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx"
+   "xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx' b='xy'/><t a='' b=''/><t a='y' "
+   "b='"
+   "xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx"
+   "xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx'/></r>",
+    true},
+  {"<r><t "
+   "a='"
+   "xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx"
+   "xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx' b='y'/><t a='y' b='z'/><t "
+   "a='"
+   "xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx"
+   "xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx' b='y'/></r>",
+    false},
+};
+
+Checked const constraints_15[] = {
+  {"<r><n xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
+   "xsi:nil='true'/><n xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' "
+   "xmlns:xs='http://www.w3.org/2001/XMLSchema' xsi:nil='true'/><n>1</n></r>",
+    true},
+  {"<r><n>1</n><n>2</n></r>", true},
+  {"<r><n>1</n><n>1</n></r>", false},
+};
+
+Checked const constraints_16[] = {
+  {"<r><i k='1'/><i k='01'/></r>", true},
+  {"<r><i k='1'/><i k='1'/></r>", false},
+};
+
+Checked const constraints_17[] = {
+  {"<r><i k='1'/><i/></r>", true},
+  {"<r><e/><e>8</e></r>", true},
+  {"<r><i/><i/></r>", false},
+  {"<r><i/><i k='5'/></r>", false},
+  {"<r><e/><e>7</e></r>", false},
+};
+
+Checked const constraints_18[] = {
   {"<r><i><v>1</v></i></r>", true},
   {"<r><i/></r>", true},
   {"<r><i><v>1</v></i><i><v>2</v></i></r>", false},
 };
 
-Checked const constraints_12[] = {
+Checked const constraints_19[] = {
   {"<r><i k='0'/><i k='1'/><i k='2'/><i k='3'/><i k='4'/><i k='5'/><i k='6'/><i k='7'/><i k='8'/><i k='9'/><i "
    "k='10'/><i k='11'/><i k='12'/><i k='13'/><i k='14'/><i k='15'/><i k='16'/><i k='17'/><i k='18'/><i k='19'/><i "
    "k='20'/><i k='21'/><i k='22'/><i k='23'/><i k='24'/><i k='25'/><i k='26'/><i k='27'/><i k='28'/><i k='29'/><i "
@@ -2468,7 +2569,7 @@ Checked const constraints_12[] = {
     false},
 };
 
-Checked const constraints_13[] = {
+Checked const constraints_20[] = {
   {"<r><e refs='b a'/><e id='a'/><e id='b'/></r>", true},
   {"<r><e id='a' ref='a'/></r>", true},
   {"<r><e id='a'/><e id='a'/></r>", false},
@@ -2477,18 +2578,18 @@ Checked const constraints_13[] = {
   {"<r><e refs=''/></r>", false},
 };
 
-Checked const constraints_14[] = {
+Checked const constraints_21[] = {
   {"<r><e>a</e><e>b</e><f>a</f></r>", true},
   {"<r><e>a</e><e>a</e></r>", false},
   {"<r><e>a</e><f>b</f></r>", false},
 };
 
-Checked const constraints_15[] = {
+Checked const constraints_22[] = {
   {"<r i='x'/>", true},
   {"<r i='x' j='y'/>", false},
 };
 
-Checked const constraints_16[] = {
+Checked const constraints_23[] = {
   {"<r xmlns:p='urn:p'><q>p:a</q><q xmlns:p='urn:q'>p:a</q></r>", true},
   {"<r xmlns:p='urn:p'><q>p:a</q><q xmlns:o='urn:p'>o:a</q></r>", false},
   {"<r><q>p:a</q></r>", false},
@@ -3363,6 +3464,8 @@ void axmSchemaUtest::test_derivation(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmSchemaUtest::test_derivation");
   char const expression[] = "what is valid is loaded, all else fails";
+  group.check(are_right(*tester, *factory, "<xs:element name='r' type='xs:decimal' default='1.5'/>", derivation_0),
+    expression, __LINE__, "defaults of derived types");
   group.check(
     are_right(*tester, *factory,
       "<xs:complexType name='base'><xs:sequence><xs:element name='a' "
@@ -3373,9 +3476,9 @@ void axmSchemaUtest::test_derivation(Factory const& factory) const
       "base='base'/></xs:complexContent></xs:complexType><xs:complexType name='gone' "
       "abstract='true'><xs:complexContent><xs:extension base='base'/></xs:complexContent></xs:complexType><xs:element "
       "name='r' type='base'/>",
-      derivation_0),
+      derivation_1),
     expression, __LINE__, "derived types by name");
-  group.check(are_right(*tester, *factory, "<xs:element name='r' type='xs:decimal'/>", derivation_1), expression,
+  group.check(are_right(*tester, *factory, "<xs:element name='r' type='xs:decimal'/>", derivation_2), expression,
     __LINE__, "derived simple types by name");
   group.check(
     are_right(*tester, *factory,
@@ -3387,7 +3490,7 @@ void axmSchemaUtest::test_derivation(Factory const& factory) const
       "base='base'/></xs:complexContent></xs:complexType><xs:complexType name='gone' "
       "abstract='true'><xs:complexContent><xs:extension base='base'/></xs:complexContent></xs:complexType><xs:element "
       "name='r' type='base' block='extension'/>",
-      derivation_2),
+      derivation_3),
     expression, __LINE__, "blocked types");
   group.check(
     are_right(*tester, *factory,
@@ -3399,7 +3502,7 @@ void axmSchemaUtest::test_derivation(Factory const& factory) const
       "base='base'/></xs:complexContent></xs:complexType><xs:complexType name='gone' "
       "abstract='true'><xs:complexContent><xs:extension base='base'/></xs:complexContent></xs:complexType><xs:element "
       "name='r' type='base' block='restriction'/>",
-      derivation_3),
+      derivation_4),
     expression, __LINE__, "blocked restrictions");
   group.check(
     are_right(*tester, *factory,
@@ -3411,7 +3514,7 @@ void axmSchemaUtest::test_derivation(Factory const& factory) const
       "base='base'/></xs:complexContent></xs:complexType><xs:complexType name='gone' "
       "abstract='true'><xs:complexContent><xs:extension base='base'/></xs:complexContent></xs:complexType><xs:element "
       "name='r' type='gone'/>",
-      derivation_4),
+      derivation_5),
     expression, __LINE__, "abstract types");
   group.check(
     are_right(*tester, *factory,
@@ -3419,7 +3522,7 @@ void axmSchemaUtest::test_derivation(Factory const& factory) const
       "name='p' type='xs:int'/><xs:element name='f' nillable='true' type='xs:int' fixed='1'/><xs:element name='c' "
       "nillable='true'><xs:complexType><xs:sequence><xs:element name='x'/></xs:sequence><xs:attribute name='a' "
       "use='required'/></xs:complexType></xs:element></xs:choice></xs:complexType></xs:element>",
-      derivation_5),
+      derivation_6),
     expression, __LINE__, "nil");
   group.check(
     are_right(*tester, *factory,
@@ -3427,19 +3530,19 @@ void axmSchemaUtest::test_derivation(Factory const& factory) const
       "type='xs:int' substitutionGroup='h'/><xs:element name='k' type='xs:int' substitutionGroup='i'/><xs:element "
       "name='z' type='xs:int'/><xs:element name='r'><xs:complexType><xs:sequence><xs:element ref='h' "
       "maxOccurs='2'/></xs:sequence></xs:complexType></xs:element>",
-      derivation_6),
+      derivation_7),
     expression, __LINE__, "substitution");
   group.check(
     are_right(*tester, *factory,
       "<xs:element name='h' abstract='true' type='xs:int'/><xs:element name='m' substitutionGroup='h'/><xs:element "
       "name='r'><xs:complexType><xs:sequence><xs:element ref='h'/></xs:sequence></xs:complexType></xs:element>",
-      derivation_7),
+      derivation_8),
     expression, __LINE__, "abstract elements");
   group.check(are_right(*tester, *factory,
                 "<xs:element name='h' type='xs:int' block='substitution'/><xs:element name='m' "
                 "substitutionGroup='h'/><xs:element name='r'><xs:complexType><xs:sequence><xs:element "
                 "ref='h'/></xs:sequence></xs:complexType></xs:element>",
-                derivation_8),
+                derivation_9),
     expression, __LINE__, "blocked substitution");
   group.check(
     are_right(*tester, *factory,
@@ -3447,7 +3550,7 @@ void axmSchemaUtest::test_derivation(Factory const& factory) const
       "name='a'/></xs:extension></xs:simpleContent></xs:complexType><xs:element "
       "name='r'><xs:complexType><xs:simpleContent><xs:restriction base='s'><xs:maxLength value='2'/><xs:attribute "
       "name='a' use='required'/></xs:restriction></xs:simpleContent></xs:complexType></xs:element>",
-      derivation_9),
+      derivation_10),
     expression, __LINE__, "extended simple contents");
   group.check(are_right(*tester, *factory,
                 "<xs:complexType name='b'><xs:sequence><xs:element name='a' minOccurs='0' maxOccurs='3'/><xs:element "
@@ -3455,21 +3558,21 @@ void axmSchemaUtest::test_derivation(Factory const& factory) const
                 "name='r'><xs:complexType><xs:complexContent><xs:restriction base='b'><xs:sequence><xs:element "
                 "name='a' maxOccurs='2'/></xs:sequence><xs:attribute name='x' "
                 "use='prohibited'/></xs:restriction></xs:complexContent></xs:complexType></xs:element>",
-                derivation_10),
+                derivation_11),
     expression, __LINE__, "restricted contents");
   group.check(are_right(*tester, *factory,
                 "<xs:complexType name='b' mixed='true'><xs:sequence><xs:element name='a' "
                 "minOccurs='0'/></xs:sequence></xs:complexType><xs:element name='r'><xs:complexType><xs:complexContent "
                 "mixed='true'><xs:extension base='b'><xs:sequence><xs:element "
                 "name='b'/></xs:sequence></xs:extension></xs:complexContent></xs:complexType></xs:element>",
-                derivation_11),
+                derivation_12),
     expression, __LINE__, "extended mixed contents");
   group.check(are_right(*tester, *factory,
                 "<xs:element name='r'><xs:complexType><xs:choice><xs:element name='f' type='xs:decimal' "
                 "fixed='1.0'/><xs:element name='d' type='xs:int' default='5'/><xs:element name='m' fixed='x "
                 "y'><xs:complexType mixed='true'><xs:sequence><xs:element name='a' "
                 "minOccurs='0'/></xs:sequence></xs:complexType></xs:element></xs:choice></xs:complexType></xs:element>",
-                derivation_12),
+                derivation_13),
     expression, __LINE__, "fixed values of elements");
 }
 
@@ -3590,10 +3693,80 @@ void axmSchemaUtest::test_constraints(Factory const& factory) const
       "<xs:element name='i'><xs:complexType><xs:sequence><xs:element name='v' type='xs:decimal' minOccurs='0' "
       "maxOccurs='3'/></xs:sequence><xs:attribute name='k' type='xs:decimal'/><xs:attribute name='l' "
       "type='xs:string'/></xs:complexType></xs:element><xs:element name='f'><xs:complexType><xs:attribute name='to' "
+      "type='xs:decimal'/></xs:complexType></xs:element><xs:element name='g'><xs:complexType><xs:sequence><xs:any "
+      "minOccurs='0' maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:key name='k'><xs:selector "
+      "xpath='i'/><xs:field xpath='@k'/></xs:key></xs:element><xs:element "
+      "name='r'><xs:complexType><xs:sequence><xs:any minOccurs='0' "
+      "maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:keyref name='f' refer='k'><xs:selector "
+      "xpath='.//f'/><xs:field xpath='@to'/></xs:keyref></xs:element>",
+      constraints_11),
+    expression, __LINE__, "keys handed up through elements of one name");
+  group.check(
+    are_right(*tester, *factory,
+      "<xs:element name='i'><xs:complexType><xs:sequence><xs:element name='v' type='xs:decimal' minOccurs='0' "
+      "maxOccurs='3'/></xs:sequence><xs:attribute name='k' type='xs:decimal'/><xs:attribute name='l' "
+      "type='xs:string'/></xs:complexType></xs:element><xs:element name='f'><xs:complexType><xs:attribute name='to' "
+      "type='xs:decimal'/></xs:complexType></xs:element><xs:element name='g'><xs:complexType><xs:sequence><xs:any "
+      "minOccurs='0' maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:key name='k'><xs:selector "
+      "xpath='i'/><xs:field xpath='@k'/></xs:key><xs:keyref name='f' refer='k'><xs:selector xpath='f'/><xs:field "
+      "xpath='@to'/></xs:keyref></xs:element><xs:element name='r'><xs:complexType><xs:sequence><xs:any minOccurs='0' "
+      "maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:keyref name='h' refer='k'><xs:selector "
+      "xpath='f'/><xs:field xpath='@to'/></xs:keyref></xs:element>",
+      constraints_12),
+    expression, __LINE__, "references within and around");
+  group.check(
+    are_right(*tester, *factory,
+      "<xs:element name='i'><xs:complexType><xs:sequence><xs:element name='v' type='xs:decimal' minOccurs='0' "
+      "maxOccurs='3'/></xs:sequence><xs:attribute name='k' type='xs:decimal'/><xs:attribute name='l' "
+      "type='xs:string'/></xs:complexType></xs:element><xs:element name='f'><xs:complexType><xs:attribute name='to' "
+      "type='xs:decimal'/></xs:complexType></xs:element><xs:element name='r'><xs:complexType><xs:sequence><xs:any "
+      "minOccurs='0' maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:unique name='u'><xs:selector "
+      "xpath='i'/><xs:field xpath='@l'/></xs:unique></xs:element>",
+      constraints_13),
+    expression, __LINE__, "long values");
+  group.check(
+    are_right(*tester, *factory,
+      "<xs:element name='i'><xs:complexType><xs:sequence><xs:element name='v' type='xs:decimal' minOccurs='0' "
+      "maxOccurs='3'/></xs:sequence><xs:attribute name='k' type='xs:decimal'/><xs:attribute name='l' "
+      "type='xs:string'/></xs:complexType></xs:element><xs:element name='f'><xs:complexType><xs:attribute name='to' "
+      "type='xs:decimal'/></xs:complexType></xs:element><xs:element name='t'><xs:complexType><xs:attribute "
+      "name='a'/><xs:attribute name='b'/></xs:complexType></xs:element><xs:element "
+      "name='r'><xs:complexType><xs:sequence><xs:any minOccurs='0' "
+      "maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:key name='k'><xs:selector xpath='t'/><xs:field "
+      "xpath='@a'/><xs:field xpath='@b'/></xs:key></xs:element>",
+      constraints_14),
+    expression, __LINE__, "pairs of long values");
+  group.check(
+    are_right(*tester, *factory,
+      "<xs:element name='n' type='xs:int' nillable='true'/><xs:element name='r'><xs:complexType><xs:sequence><xs:any "
+      "minOccurs='0' maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:unique name='u'><xs:selector "
+      "xpath='n'/><xs:field xpath='.'/></xs:unique></xs:element>",
+      constraints_15),
+    expression, __LINE__, "nil values");
+  group.check(are_right(*tester, *factory,
+                "<xs:element name='i'/><xs:element name='r'><xs:complexType><xs:sequence><xs:any minOccurs='0' "
+                "maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:unique name='u'><xs:selector "
+                "xpath='i'/><xs:field xpath='@k'/></xs:unique></xs:element>",
+                constraints_16),
+    expression, __LINE__, "attributes of no declared type");
+  group.check(are_right(*tester, *factory,
+                "<xs:element name='i'><xs:complexType><xs:attribute name='k' type='xs:int' "
+                "default='5'/></xs:complexType></xs:element><xs:element name='e' type='xs:int' "
+                "default='7'/><xs:element name='r'><xs:complexType><xs:sequence><xs:any minOccurs='0' "
+                "maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:unique name='u'><xs:selector "
+                "xpath='i'/><xs:field xpath='@k'/></xs:unique><xs:unique name='w'><xs:selector xpath='e'/><xs:field "
+                "xpath='.'/></xs:unique></xs:element>",
+                constraints_17),
+    expression, __LINE__, "defaults are values");
+  group.check(
+    are_right(*tester, *factory,
+      "<xs:element name='i'><xs:complexType><xs:sequence><xs:element name='v' type='xs:decimal' minOccurs='0' "
+      "maxOccurs='3'/></xs:sequence><xs:attribute name='k' type='xs:decimal'/><xs:attribute name='l' "
+      "type='xs:string'/></xs:complexType></xs:element><xs:element name='f'><xs:complexType><xs:attribute name='to' "
       "type='xs:decimal'/></xs:complexType></xs:element><xs:element name='r'><xs:complexType><xs:sequence><xs:any "
       "minOccurs='0' maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:unique name='u'><xs:selector "
       "xpath='.'/><xs:field xpath='i/v'/></xs:unique></xs:element>",
-      constraints_11),
+      constraints_18),
     expression, __LINE__, "fields of several steps");
   group.check(
     are_right(*tester, *factory,
@@ -3603,31 +3776,31 @@ void axmSchemaUtest::test_constraints(Factory const& factory) const
       "type='xs:decimal'/></xs:complexType></xs:element><xs:element name='r'><xs:complexType><xs:sequence><xs:any "
       "minOccurs='0' maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:key name='k'><xs:selector "
       "xpath='i'/><xs:field xpath='@k'/></xs:key></xs:element>",
-      constraints_12),
+      constraints_19),
     expression, __LINE__, "many keys");
   group.check(are_right(*tester, *factory,
                 "<xs:element name='r'><xs:complexType><xs:sequence><xs:element name='e' "
                 "maxOccurs='unbounded'><xs:complexType><xs:attribute name='id' type='xs:ID'/><xs:attribute name='ref' "
                 "type='xs:IDREF'/><xs:attribute name='refs' "
                 "type='xs:IDREFS'/></xs:complexType></xs:element></xs:sequence></xs:complexType></xs:element>",
-                constraints_13),
+                constraints_20),
     expression, __LINE__, "IDs");
   group.check(
     are_right(*tester, *factory,
       "<xs:element name='r'><xs:complexType><xs:sequence><xs:element name='e' type='xs:ID' maxOccurs='9'/><xs:element "
       "name='f' type='xs:IDREF' minOccurs='0'/></xs:sequence></xs:complexType></xs:element>",
-      constraints_14),
+      constraints_21),
     expression, __LINE__, "IDs of elements");
   group.check(are_right(*tester, *factory,
                 "<xs:attribute name='i' type='xs:ID'/><xs:attribute name='j' type='xs:ID'/><xs:element "
                 "name='r'><xs:complexType><xs:anyAttribute processContents='lax'/></xs:complexType></xs:element>",
-                constraints_15),
+                constraints_22),
     expression, __LINE__, "IDs by a wildcard");
   group.check(are_right(*tester, *factory,
                 "<xs:element name='q' type='xs:QName'/><xs:element name='r'><xs:complexType><xs:sequence><xs:any "
                 "minOccurs='0' maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:unique name='u'><xs:selector "
                 "xpath='q'/><xs:field xpath='.'/></xs:unique></xs:element>",
-                constraints_16),
+                constraints_23),
     expression, __LINE__, "names with prefixes");
 }
 

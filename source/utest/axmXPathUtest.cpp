@@ -413,6 +413,28 @@ Question const questions_4[] = {
   {Kind::nodes, "//@x/..", "d#4"},
   {Kind::nodes, "//f/following::*[1]", "g#7"},
   {Kind::nodes, "//*[last()]", "a#1 c#3 e#5 f#6 g#7 h#8"},
+  {Kind::nodes, "//*[following::g]/@id", "id=2 id=3 id=4 id=5 id=6"},
+  {Kind::nodes, "//*[preceding::b]/@id", "id=4 id=5 id=6 id=7 id=8"},
+  {Kind::nodes, "//*[ancestor::d]/@id", "id=5 id=6"},
+  {Kind::nodes, "//*[ancestor-or-self::d]/@id", "id=4 id=5 id=6"},
+  {Kind::nodes, "//*[following-sibling::*]/@id", "id=2 id=4"},
+  {Kind::nodes, "//*[preceding-sibling::b]/@id", "id=4 id=7"},
+  {Kind::nodes, "//*[descendant::f]/@id", "id=1 id=4 id=5"},
+  {Kind::nodes, "//*[descendant-or-self::f]/@id", "id=1 id=4 id=5 id=6"},
+  {Kind::nodes, "//*[@x]/@id", "id=4"},
+  {Kind::nodes, "//*[parent::a]/@id", "id=2 id=4 id=7"},
+  {Kind::nodes, "//*[self::d]/@id", "id=4"},
+  {Kind::nodes, "//*[preceding::comment()]/@id", "id=1 id=2 id=3 id=4 id=5 id=6 id=7 id=8"},
+  {Kind::nodes, "//*[following::processing-instruction()]/@id", "id=2 id=3 id=4 id=5 id=6"},
+  {Kind::boolean, "boolean(//h/preceding::e)", "true"},
+  {Kind::boolean, "boolean(//c/preceding::e)", "false"},
+  {Kind::number, "count((//d/@x | //d)/descendant::*)", "2"},
+  {Kind::nodes, "(//d/@x | //d)/descendant-or-self::node()[not(self::text())]", "d#4 x=7 e#5 f#6 #comment=in"},
+  {Kind::nodes, "(//d/@x | //b)/following::*[1]", "d#4 e#5"},
+  {Kind::nodes, "(//d/@x | //g)/ancestor::*", "a#1 d#4"},
+  {Kind::nodes, "(//g | //b | //d)[2]", "d#4"},
+  {Kind::nodes, "(//g | //b | //d)/*", "c#3 e#5 h#8"},
+  {Kind::nodes, "//e/preceding::node()[last()]", "#comment=before"},
   {Kind::nodes, "//f/preceding::node()", "#comment=before b#2 c#3 #text=one"},
   {Kind::nodes, "//h/preceding::*[2]", "e#5"},
   {Kind::nodes, "//c/following::node()[1]", "#text=one"},
@@ -591,10 +613,29 @@ Question const questions_12[] = {
   {Kind::nodes, "//p:*", "b"},
 };
 
-char const document_13[] = "<!DOCTYPE r [<!ATTLIST a key ID #IMPLIED><!ATTLIST b key ID #IMPLIED n CDATA 'ID'>]><r><a "
-                           "key='one' id='A'>two</a><b key='two' id='B'/><b n='three' id='C'>one two</b></r>";
+char const document_13[] = "<r><a>1<b>2</b>3</a><c>1<d>2</d><!--x-->3</c></r>";
 
 Question const questions_13[] = {
+  {Kind::string, "string(a)", "123"},
+  {Kind::nodes, "//a[. = '123']", "a"},
+  {Kind::nodes, "//a[. = 123]", "a"},
+  {Kind::number, "sum(a)", "123"},
+  {Kind::boolean, "a = 123", "true"},
+  {Kind::boolean, "a > 122", "true"},
+  {Kind::boolean, "a = c", "true"},
+  {Kind::boolean, "a != c", "false"},
+  {Kind::nodes, "//*[. = ../c]", "a c"},
+  {Kind::nodes, "//b[. = 2]", "b"},
+  {Kind::number, "string-length(.)", "6"},
+  {Kind::boolean, "c/node() = a", "false"},
+  {Kind::number, "count(//text())", "6"},
+  {Kind::nodes, "(a | c)[. = '123']", "a c"},
+};
+
+char const document_14[] = "<!DOCTYPE r [<!ATTLIST a key ID #IMPLIED><!ATTLIST b key ID #IMPLIED n CDATA 'ID'>]><r><a "
+                           "key='one' id='A'>two</a><b key='two' id='B'/><b n='three' id='C'>one two</b></r>";
+
+Question const questions_14[] = {
   {Kind::nodes, "id('two')", "b#B"},
   {Kind::nodes, "id(' two\tone  nothing ')", "a#A b#B"},
   {Kind::nodes, "id(a)", "b#B"},
@@ -606,11 +647,11 @@ Question const questions_13[] = {
   {Kind::number, "count(id('one two one'))", "2"},
 };
 
-char const document_14[] =
+char const document_15[] =
   "<r xmlns:p='urn:p'><a xml:id='one' id='A'>1</a><b key='two' id='B'>2.5</b><b id='C'>three</b><c no='four' "
   "never='five' kind='x' id='D' xml:lang='en-US'><d id='E'>one two</d></c><p:e id='F' p:x='1'/><?go on?></r>";
 
-Question const questions_14[] = {
+Question const questions_15[] = {
   {Kind::nodes, "//c[lang('en')]", "c#D"},
   {Kind::boolean, "lang('en')", "false"},
   {Kind::nodes, "//d[lang('en-us')]", "d#E"},
@@ -785,6 +826,7 @@ void axmXPathUtest::test_expressions(Factory const& factory) const
   group.check(are_answered(*tester, *factory, document_12, questions_12), expression, __LINE__, "XPath in document 12");
   group.check(are_answered(*tester, *factory, document_13, questions_13), expression, __LINE__, "XPath in document 13");
   group.check(are_answered(*tester, *factory, document_14, questions_14), expression, __LINE__, "XPath in document 14");
+  group.check(are_answered(*tester, *factory, document_15, questions_15), expression, __LINE__, "XPath in document 15");
 }
 
 void axmXPathUtest::test_errors(Factory const& factory) const

@@ -24,6 +24,9 @@ std::vector<Fault> const& subtle_tree_faults();
 std::vector<Fault> const& subtle_content_faults();
 std::vector<Fault> const& subtle_factory_faults();
 
+// Those read off the promises of the headers, sentence by sentence.
+std::vector<Fault> const& promise_faults();
+
 // The text with every `wanted` replaced.
 apString replaced(apString text, apString const& wanted, apString const& replacement);
 

@@ -51,6 +51,9 @@ std::vector<Check> run_suite(Factory const& factory);
 std::vector<Check> run_fixed_classes(Factory const& factory);
 std::vector<Check> run_generated_classes(Factory const& factory);
 
+// The former, and the latter only where the former see nothing.
+std::vector<Check> run_all_classes(Factory const& factory);
+
 // The groups with failed checks in the order of their first failure, each with their number: "class::group (2)".
 std::vector<std::string> failed_groups(std::vector<Check> const& checks);
 

@@ -20,6 +20,7 @@ std::vector<Fault> every_fault()
   std::vector<Fault> faults = all_faults();
   std::vector<Fault> const subtle = all_subtle_faults();
   faults.insert(faults.end(), subtle.begin(), subtle.end());
+  faults.insert(faults.end(), promise_faults().begin(), promise_faults().end());
   return faults;
 }
 

@@ -13,6 +13,11 @@ TEST(faults, subtle_ones_of_contents_are_seen)
   expect_seen(subtle_content_faults(), run_generated_classes);
 }
 
+TEST(faults, those_read_off_the_headers_are_seen)
+{
+  expect_seen(promise_faults(), run_all_classes);
+}
+
 TEST(faults, subtle_ones_of_factories_are_seen)
 {
   expect_seen(subtle_factory_faults(), run_generated_classes);
