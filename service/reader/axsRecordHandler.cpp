@@ -37,6 +37,7 @@ void axsRecordHandler::end_element()
   else
   {
     open.pop_back();
+    record.end_element();
     if (open.empty())
       record_ended(record);
   }
@@ -52,7 +53,7 @@ void axsRecordHandler::text(std::string_view text, bool)
 
 void axsRecordHandler::begin_record(axsStartTag const& tag)
 {
-  record.clear();
+  record.begin();
   open.push_back(0);
   take_attributes(pattern.elements().front(), tag);
 }
@@ -60,13 +61,12 @@ void axsRecordHandler::begin_record(axsStartTag const& tag)
 void axsRecordHandler::begin_child(axsStartTag const& tag)
 {
   auto const& children = pattern.elements()[open.back()].children;
-  for (std::size_t i = 0; i < children.size(); ++i)
-    if (is_it(children[i].name, *tag.name, tag.name_space))
+  for (Element::Child const& child : children)
+    if (is_it(child.name, *tag.name, tag.name_space))
     {
-      if (open.size() == 1)
-        record.begin_instance(i);
-      open.push_back(children[i].element);
-      return take_attributes(pattern.elements()[children[i].element], tag);
+      record.begin_element(child.element);
+      open.push_back(child.element);
+      return take_attributes(pattern.elements()[child.element], tag);
     }
   passed = 1;
 }

@@ -82,41 +82,29 @@ std::string axsRecordPattern::complaint(
 }
 
 axsRecordPattern::axsRecordPattern(
-  std::string_view path, std::vector<std::string> const& columns, Namespaces const& namespaces)
+  std::string_view path, std::vector<std::string> const& given, Namespaces const& namespaces)
   : all_elements(1)
 {
   for (std::string_view const name : split(path))
     steps.push_back(name_of(name, namespaces));
-  for (std::string const& column : columns)
-  {
-    std::size_t const number = groups.size();
-    groups.push_back(no_group);
-    if (column == ".")
-    {
-      all_elements.front().text_columns.push_back(number);
-      continue;
-    }
-    std::size_t element = 0;
+  for (std::string const& column : given)
+    add_column(column, columns++, namespaces);
+}
+
+void axsRecordPattern::add_column(std::string_view column, std::size_t number, Namespaces const& namespaces)
+{
+  std::size_t element = 0;
+  if (column != ".")
     for (std::string_view const name : split(column))
     {
       if (name.front() == '@')
       {
         all_elements[element].attributes.push_back({name_of(name.substr(1), namespaces), number});
-        break;
+        return;
       }
-      bool const is_first = element == 0;
       element = child(element, name_of(name, namespaces));
-      if (is_first)
-      {
-        auto const& children = all_elements.front().children;
-        auto const is_it = [element](Element::Child const& known) { return known.element == element; };
-        groups.back() =
-          static_cast<std::size_t>(std::find_if(children.begin(), children.end(), is_it) - children.begin());
-      }
     }
-    if (column.find('@') == std::string::npos)
-      all_elements[element].text_columns.push_back(number);
-  }
+  all_elements[element].text_columns.push_back(number);
 }
 
 axsRecordPattern::Name axsRecordPattern::name_of(std::string_view text, Namespaces const& namespaces)

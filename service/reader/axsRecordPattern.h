@@ -62,20 +62,15 @@ public:
   /// The texts of all names, by their numbers.
   std::vector<std::string> const& names() const noexcept { return texts; }
 
-  /// The number of columns, and for each the number of the child of the record in which it lies, counted as they are met
-  /// in the columns; no_child where it is of the record itself.
-  std::size_t column_count() const noexcept { return groups.size(); }
-  std::size_t group_of(std::size_t column) const noexcept { return groups[column]; }
-  std::size_t group_count() const noexcept { return all_elements.front().children.size(); }
-
-  static constexpr std::size_t no_group = static_cast<std::size_t>(-1);
+  std::size_t column_count() const noexcept { return columns; }
 
 private:
   Name name_of(std::string_view text, Namespaces const& namespaces);
+  void add_column(std::string_view column, std::size_t number, Namespaces const& namespaces);
   std::size_t child(std::size_t element, Name const& name);
 
   std::vector<Name> steps;
   std::vector<Element> all_elements;
   std::vector<std::string> texts;
-  std::vector<std::size_t> groups;
+  std::size_t columns = 0;
 };

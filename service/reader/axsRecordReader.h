@@ -46,7 +46,7 @@ public:
   {
     first, // the first counts
     join,  // with the separator between them
-    rows   // a row each: the children of the record that bear one name stand in one row after the other
+    rows // a row each: elements of one name in one row after the other, what there is one of in every row of its parent
   };
 
   struct Request

@@ -118,20 +118,35 @@ def rows_of(records, columns, repeat):
             yield [column.value(record, repeat[5:] if repeat.startswith("join=") else None) for column in columns]
 
 
+def layout(element, columns, depth):
+    """How many rows an element has whose columns lie `depth` steps down, and its values with the rows in which they stand:
+    the first, and the one after the last; None for the last of whatever it lies in."""
+    values = [(column, 0, None, column.values(element, [])) for column in columns if len(column.steps) == depth]
+    groups = {}
+    for column in columns:
+        if len(column.steps) > depth:
+            groups.setdefault(column.steps[depth], []).append(column)
+    height = 1
+    for name, inside in groups.items():
+        children = list(columns[0].names.children([element], name))
+        top = 0
+        for child in children:
+            rows, found = layout(child, inside, depth + 1)
+            if len(children) > 1:
+                found = [(column, top + begin, top + (rows if end is None else end), value) for column, begin, end, value in found]
+            values += found
+            top += rows
+        height = max(height, top)
+    return height, values
+
+
 def rows_of_children(record, columns):
-    names = columns[0].names
-    groups = {column.steps[0] for column in columns if column.steps}
-    children = {name: list(names.children([record], name)) for name in groups}
-    for number in range(max([1] + [len(group) for group in children.values()])):
-        row = []
-        for column in columns:
-            group = children[column.steps[0]] if column.steps else []
-            if len(group) <= 1:
-                row.append(column.value(record, None))
-            else:
-                values = column.values(group[number], column.steps[1:]) if number < len(group) else []
-                row.append(values[0] if values else None)
-        yield row
+    height, found = layout(record, columns, 0)
+    rows = [{} for _ in range(height)]
+    for column, begin, end, values in found:
+        for row in rows[begin:end]:
+            row[column] = values[0] if values else None
+    return [[row.get(column) for column in columns] for row in rows]
 
 
 def choose_attribute(chance, names, element):

@@ -84,6 +84,18 @@ TEST(axsRecordReader, children_that_repeat_are_rows_with_what_is_theirs)
     rows_of("<r><a>1</a><b>x</b><a>2</a><b>y</b><a>3</a></r>", request("r", {"a", "b"}, Repeat::rows)));
 }
 
+TEST(axsRecordReader, what_repeats_further_down_is_rows_too)
+{
+  EXPECT_EQ("(7|1)(7|2)(7|3)",
+    rows_of("<r><e k='7'><l><f>1</f><f>2</f><f>3</f></l></e></r>", request("r/e", {"@k", "l/f"}, Repeat::rows)));
+  EXPECT_EQ("(7|a|1)(7|a|2)(7|b|-)(7|c|3)",
+    rows_of("<r><e k='7'><l n='a'><f>1</f><f>2</f></l><l n='b'/><l n='c'><f>3</f></l></e></r>",
+      request("r/e", {"@k", "l/@n", "l/f"}, Repeat::rows)));
+  EXPECT_EQ("(x|1|p)(x|2|q)(-|-|s)(y|3|-)",
+    rows_of("<r><l><n>x</n><f>1</f><f>2</f></l><m>p</m><m>q</m><l/><l><n>y</n><f>3</f></l><m>s</m></r>",
+      request("r", {"l/n", "l/f", "m"}, Repeat::rows)));
+}
+
 TEST(axsRecordReader, records_may_lie_in_records_of_another_path_only_once)
 {
   EXPECT_EQ("(1)(2)", rows_of("<r><g><e k='1'><e k='0'/></e></g><g><e k='2'/></g></r>", request("r/g/e", {"@k"})));
