@@ -8,7 +8,7 @@
 ///
 /// What the engine promises beyond axmDocumentFactory:
 /// - Threads: its const operations may be called from many threads at once, on one factory; a document with all its nodes,
-///   lists and maps belongs to one thread at a time.
+///   lists and maps belongs to one thread at a time, or is shared by many that read it; see axsSharing.
 /// - Nodes, lists and maps hold what they need: a node stays valid as long as it is held, even if its tree and its
 ///   document have been let go. A `std::weak_ptr` holds no node, only some bytes of bookkeeping.
 /// - Load: white-space-only text is dropped in CDATA sections, too, but kept where xml:space="preserve" holds. Prefixes must be bound

@@ -19,10 +19,7 @@ std::size_t rounded(std::size_t size, std::size_t unit)
 }
 }
 
-struct axsArena::FreeBlock
-{
-  FreeBlock* next;
-};
+static_assert(axsFreeBlocks::max_units * axsFreeBlocks::granule == axsArena::small_limit);
 
 struct alignas(std::max_align_t) axsArena::LargeBlock
 {
@@ -58,15 +55,15 @@ void* axsArena::allocate_elsewhere(std::size_t size)
 
   std::size_t const units = units_for(size);
   std::size_t const bytes = units * granule;
-  if (FreeBlock* const block = free_blocks[units])
-  {
-    axsPoison::remove(block, bytes);
-    free_blocks[units] = block->next;
-    return block;
-  }
+  if (free_blocks.has(units))
+    return free_blocks.take(units);
   if (rest.left() >= bytes)
     return rest.take(bytes);
-  if (untouched == untouched_end)
+  if (room.left() >= bytes)
+    return room.take(bytes);
+  if (void* const block = free_blocks.take_from_larger(units))
+    return block;
+  if (empty_pages == nullptr && untouched == untouched_end)
     add_pages();
   next_page();
   return room.take(bytes);
@@ -77,9 +74,66 @@ void axsArena::release(void* block, std::size_t size) noexcept
   if (size > small_limit)
     return release_large(block);
 
-  std::size_t const units = units_for(size);
-  free_blocks[units] = new (block) FreeBlock{free_blocks[units]};
-  axsPoison::add(block, units * granule);
+  free_blocks.add(block, units_for(size));
+  if (free_blocks.size() >= joined_at)
+    join_free_blocks();
+}
+
+// Costs as much as what has come back since the last time is worth.
+void axsArena::join_free_blocks() noexcept
+{
+  free_blocks.take_joined([this](char* begin, std::size_t size) { add_free(begin, size); });
+  give_empty_pages_back();
+  std::size_t const used = pages_used * page_size - free_blocks.size();
+  joined_at = free_blocks.size() + std::max(used / 4, min_joined);
+}
+
+// A stretch of a page, in blocks as large as may be, or the whole page.
+void axsArena::add_free(char* begin, std::size_t size) noexcept
+{
+  // What was left at the end of a page may have been too little for a block.
+  if (size + axsFreeBlocks::min_units * granule > page_size - rounded(sizeof(Page), granule))
+  {
+    auto* const page = reinterpret_cast<Page*>(begin - rounded(sizeof(Page), granule));
+    page->next_empty = std::exchange(empty_pages, page);
+    ++page->chunk->empty;
+    --pages_used;
+    return;
+  }
+  while (size > 0)
+  {
+    // The last one must not be too small to be one.
+    std::size_t const piece =
+      size <= small_limit ? size : std::min(small_limit, size - axsFreeBlocks::min_units * granule);
+    free_blocks.add(begin, piece / granule);
+    begin += piece;
+    size -= piece;
+  }
+}
+
+// Those that came together and are all empty go back to the system, but for the last ones, which are still laid out.
+void axsArena::give_empty_pages_back() noexcept
+{
+  auto const is_given_back = [this](Page const& chunk) { return chunk.empty == chunk.pages && &chunk != newest; };
+  for (Page** at = &empty_pages; *at != nullptr;)
+    if (is_given_back(*(*at)->chunk))
+      *at = (*at)->next_empty;
+    else
+      at = &(*at)->next_empty;
+  for (Page** at = &newest; *at != nullptr;)
+  {
+    Page* const chunk = *at;
+    if (!is_given_back(*chunk))
+    {
+      at = &chunk->older;
+      continue;
+    }
+    *at = chunk->older;
+    std::size_t const size = chunk->pages * page_size;
+    taken -= size;
+    axsPoison::remove(chunk, size);
+    ::operator delete(chunk, alignment_of(size));
+  }
 }
 
 void* axsArena::allocate_large(std::size_t size)
@@ -111,7 +165,8 @@ void axsArena::add_pages()
   auto* const memory = static_cast<char*>(::operator new(size, alignment_of(size)));
   if (size > large_page)
     apMemory::will_fill(memory, size);
-  newest = new (memory) Page{tree, newest, next_pages};
+  newest = new (memory) Page{tree, nullptr, newest, next_pages, 0, nullptr};
+  newest->chunk = newest;
   untouched = memory;
   untouched_end = memory + size;
   taken += size;
@@ -122,10 +177,32 @@ void axsArena::add_pages()
 void axsArena::next_page() noexcept
 {
   if (room.left() > rest.left())
-    rest = room;
-  if (untouched != reinterpret_cast<char*>(newest))
-    new (untouched) Page{tree, nullptr, 0};
-  room = {untouched + rounded(sizeof(Page), granule), untouched + page_size};
-  untouched = room.end;
+    std::swap(room, rest);
+  add_room(room);
+  char* const page = fresh_page();
+  room = {page + rounded(sizeof(Page), granule), page + page_size};
   axsPoison::add(room.begin, room.left());
+}
+
+// One that was emptied before one that has not been used yet.
+char* axsArena::fresh_page() noexcept
+{
+  ++pages_used;
+  if (empty_pages != nullptr)
+  {
+    Page* const page = std::exchange(empty_pages, empty_pages->next_empty);
+    --page->chunk->empty;
+    return reinterpret_cast<char*>(page);
+  }
+  char* const page = std::exchange(untouched, untouched + page_size);
+  if (page != reinterpret_cast<char*>(newest))
+    new (page) Page{tree, newest, nullptr, 0, 0, nullptr};
+  return page;
+}
+
+void axsArena::add_room(Room room_left) noexcept
+{
+  std::size_t const size = room_left.left();
+  if (size >= axsFreeBlocks::min_units * granule)
+    free_blocks.add(room_left.take(size), size / granule);
 }

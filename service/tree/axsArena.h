@@ -1,5 +1,6 @@
 #pragma once
 
+#include "axsFreeBlocks.h"
 #include "axsPoison.h"
 
 #include <cstddef>
@@ -12,7 +13,8 @@ class axsTree;
 /// The memory of one document: nodes, names and texts.
 ///
 /// Small blocks come from pages and go back to a list of free blocks of their size; large ones come from the system and
-/// go back to it at once. Everything goes with the arena, without a look at what lies in it. Sizes are in bytes.
+/// go back to it at once. When as much as a quarter of what is in use has come back since the last time, free blocks beside each other are
+/// joined and pages without a block in use are for any size again, or go back to the system. Everything goes with the arena, without a look at what lies in it. Sizes are in bytes.
 /// Belongs to its document and, as that, to one thread at a time.
 class axsArena
 {
@@ -30,7 +32,7 @@ public:
   {
     // Most blocks of a document that is read come one after the other.
     std::size_t const bytes = units_for(size) * granule;
-    bool const is_next = size <= small_limit && free_blocks[bytes / granule] == nullptr && rest.left() < bytes;
+    bool const is_next = size <= small_limit && !free_blocks.has(bytes / granule) && rest.left() < bytes;
     return is_next && room.left() >= bytes ? room.take(bytes) : allocate_elsewhere(size);
   }
 
@@ -51,11 +53,15 @@ private:
   struct Page
   {
     axsTree* tree;
-    // Of the first page that came with others: the one that came before them, and their number.
+    // The first of those that came with it.
+    Page* chunk;
+    // Of such a first one: the one that came before, their number, and how many of them are empty.
     Page* older;
     std::size_t pages;
+    std::size_t empty;
+    // Of an empty one the next one that is empty.
+    Page* next_empty;
   };
-  struct FreeBlock;
   struct LargeBlock;
 
   // Where blocks can still be taken in a page.
@@ -73,27 +79,43 @@ private:
     char* end = nullptr;
   };
 
-  static constexpr std::size_t granule = 8;
+  static constexpr std::size_t granule = axsFreeBlocks::granule;
+
+  static constexpr std::size_t min_joined = 64 * 1024;
 
   // Pages lie at multiples of their size, so that a node finds its document without a pointer of its own.
   static constexpr std::size_t page_size = 16 * 1024;
 
-  static std::size_t units_for(std::size_t size) noexcept { return size == 0 ? 1 : (size + granule - 1) / granule; }
+  static std::size_t units_for(std::size_t size) noexcept
+  {
+    std::size_t const min_size = axsFreeBlocks::min_units * granule;
+    return (size < min_size ? min_size : size + granule - 1) / granule;
+  }
   static std::align_val_t alignment_of(std::size_t size) noexcept;
   void* allocate_elsewhere(std::size_t size);
   void* allocate_large(std::size_t size);
   void release_large(void* block) noexcept;
   void add_pages();
   void next_page() noexcept;
+  char* fresh_page() noexcept;
+  void add_room(Room room_left) noexcept;
+  void add_free(char* begin, std::size_t size) noexcept;
+  void join_free_blocks() noexcept;
+  void give_empty_pages_back() noexcept;
 
   axsTree* tree;
-  FreeBlock* free_blocks[small_limit / granule + 1] = {};
+  axsFreeBlocks free_blocks;
+  // Free blocks are joined when they are as much.
+  std::size_t joined_at = min_joined;
   Room room;
   Room rest;
   char* untouched = nullptr;
   char* untouched_end = nullptr;
   Page* newest = nullptr;
+  Page* empty_pages = nullptr;
   LargeBlock* large = nullptr;
   std::size_t taken = 0;
+  // Those that are neither untouched nor empty.
+  std::size_t pages_used = 0;
   std::size_t next_pages = 1;
 };

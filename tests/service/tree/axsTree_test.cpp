@@ -170,7 +170,7 @@ TEST_F(axsTree_, a_tree_of_a_hundred_thousand_levels_is_freed_without_recursion)
   top->release();
   for (int i = 0; i < 100000; ++i)
     tree.element("e");
-  EXPECT_EQ(tree.arena().footprint(), footprint);
+  EXPECT_LE(tree.arena().footprint(), footprint);
   tree.release();
 }
 
