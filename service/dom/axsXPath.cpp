@@ -13,6 +13,12 @@ bool axsXPath::evaluate(axmNode& context, apString const& expression, Value& val
 bool axsXPath::evaluate(
   axmNode& context, apString const& expression, axsXPathPrefixes const& prefixes, Value& value, axsXPathError& error)
 {
+  return evaluate(context, expression, prefixes, axsXPathLimits(), value, error);
+}
+
+bool axsXPath::evaluate(axmNode& context, apString const& expression, axsXPathPrefixes const& prefixes,
+  axsXPathLimits const& limits, Value& value, axsXPathError& error)
+{
   axsNode* const node = axsHandle::node_of(context);
   if (node == nullptr)
   {
@@ -21,7 +27,7 @@ bool axsXPath::evaluate(
   }
   axsXPathCache& cache = axsDomDocument::of(*node).xpath_cache();
   axsXPathQuery::Value found;
-  if (!axsXPathQuery::evaluate(cache, *node, expression.to_utf8().view(), prefixes, found, error))
+  if (!axsXPathQuery::evaluate(cache, *node, expression.to_utf8().view(), prefixes, limits, found, error))
     return false;
 
   Value made;

@@ -2,6 +2,7 @@
 
 #include "axsExport.h"
 #include "axsXPathError.h"
+#include "axsXPathLimits.h"
 #include "axsXPathPrefixes.h"
 #include "axsXPathType.h"
 #include <apString.h>
@@ -32,7 +33,8 @@
 ///
 /// Limits: parentheses, brackets and calls may lie 100 deep in each other. Time grows with a power of the size of the
 /// document that does not depend on the expression; a path without positions in its predicates takes time linear in it,
-/// but for sorting.
+/// but for sorting. The steps of an evaluation are bounded (axsXPathLimits); what selectNodes() gives where that ends it is
+/// an empty list.
 class AXS_API axsXPath
 {
 public:
@@ -57,4 +59,8 @@ public:
   /// nothing is not declared.
   static bool evaluate(
     axmNode& context, apString const& expression, axsXPathPrefixes const& prefixes, Value& value, axsXPathError& error);
+
+  /// The same within limits of the caller's. That they end an evaluation is an error like others, at its first character.
+  static bool evaluate(axmNode& context, apString const& expression, axsXPathPrefixes const& prefixes,
+    axsXPathLimits const& limits, Value& value, axsXPathError& error);
 };

@@ -1,6 +1,7 @@
 #include "axsXPathEvaluator.h"
 
 #include "axsTree.h"
+#include "axsXPathNodeMap.h"
 #include "axsXPathNumber.h"
 #include "axsXPathScratchNodes.h"
 
@@ -17,6 +18,8 @@ using Type = axsXPathType;
 
 // When the cache holds so many nodes, it is emptied: memory is finite.
 std::size_t const max_cached_nodes = std::size_t{1} << 22;
+
+int const few_operands = 4;
 
 bool is_true(double number) noexcept
 {
@@ -41,10 +44,12 @@ axsElement* scope_of(axsNode& node) noexcept
 }
 }
 
-axsXPathEvaluator::axsXPathEvaluator(axsXPathExpression const& evaluated, axsNode& context)
+axsXPathEvaluator::axsXPathEvaluator(
+  axsXPathExpression const& evaluated, axsNode& context, axsXPathLimits const& limits)
   : expression(evaluated),
     context_node(context),
-    data_model(context),
+    meter(limits),
+    data_model(context, meter),
     path_evaluator(expression, data_model, tests, *this),
     comparisons(expression, *this),
     core_library(expression, *this),
@@ -197,7 +202,8 @@ void axsXPathEvaluator::nodes_of(int index, Context const& context, Want want, N
   else if (term.nodes_slot >= 0)
     found = cached_nodes(index, context);
   else
-    compute_nodes(term, context, want, found);
+    return compute_nodes(term, context, want, found);
+  meter.spend(found.size());
 }
 
 axsXPathValue axsXPathEvaluator::compute_value(int index, Context const& context)
@@ -279,20 +285,27 @@ void axsXPathEvaluator::compute_nodes(Term const& term, Context const& context, 
     path_evaluator.select(expression.path_of(term), context, want, found);
     return;
   case Expression::union_:
-  {
-    axsXPathScratchNodes part(path_evaluator);
-    for (int i = 0; i < term.count; ++i)
-    {
-      part.nodes().clear();
-      nodes_of(expression.operand(term, i).term, context, want, part.nodes());
-      found.insert(found.end(), part.nodes().begin(), part.nodes().end());
-    }
-    path_evaluator.sort(found);
-    return;
-  }
+    return compute_union(term, context, want, found);
   default:
     core_library.nodes_call(term, context, found);
   }
+}
+
+// Of many operands, each node is taken once at once: together they may have as many as all operands have nodes.
+void axsXPathEvaluator::compute_union(Term const& term, Context const& context, Want want, Nodes& found)
+{
+  axsXPathScratchNodes part(path_evaluator);
+  axsXPathNodeMap seen;
+  for (int i = 0; i < term.count; ++i)
+  {
+    part.nodes().clear();
+    nodes_of(expression.operand(term, i).term, context, want, part.nodes());
+    meter.spend(part.nodes().size());
+    for (axsXPathNode const node : part.nodes())
+      if (term.count <= few_operands || seen.insert(node))
+        found.push_back(node);
+  }
+  path_evaluator.sort(found);
 }
 
 axsXPathValue const& axsXPathEvaluator::cached_value(int index, Context const& context)

@@ -24,7 +24,8 @@
 /// What depends on nothing is evaluated once, and what selects nodes inside many predicates once a context: the time is
 /// bounded by a power of the size of the document that does not grow with the expression. Recurses as deep as the
 /// expression is nested, which its parser bounds.
-/// Belongs to one thread, which has the document for itself meanwhile. Throws std::bad_alloc when memory runs out.
+/// Belongs to one thread; the document does not change meanwhile. Throws std::bad_alloc when memory runs out, and
+/// axsXPathMeter::End where the limits end it.
 class axsXPathEvaluator
 {
 public:
@@ -33,7 +34,7 @@ public:
   using Want = axsXPathPathEvaluator::Want;
 
   /// With `context` as the context node. The expression has to outlive the evaluator.
-  axsXPathEvaluator(axsXPathExpression const& evaluated, axsNode& context);
+  axsXPathEvaluator(axsXPathExpression const& evaluated, axsNode& context, axsXPathLimits const& limits);
 
   /// Takes the prefixes of the expression from `prefixes`, which must live as long, and those that are not there from the
   /// scope of the context node. False, with the error filled but for its position, and that in bytes in `place`, where one
@@ -108,6 +109,7 @@ private:
   double compute_number(Term const& term, Context const& context);
   std::string_view compute_text(Term const& term, Context const& context, std::string& scratch);
   void compute_nodes(Term const& term, Context const& context, Want want, Nodes& found);
+  void compute_union(Term const& term, Context const& context, Want want, Nodes& found);
   double arithmetic(Term const& term, Context const& context);
 
   // The value of a term that has a slot for it.
@@ -116,6 +118,7 @@ private:
 
   Expression const& expression;
   axsNode& context_node;
+  axsXPathMeter meter;
   axsXPathModel data_model;
   // One for each step.
   std::vector<axsXPathNodeTest> tests;

@@ -6,6 +6,8 @@
 
 namespace
 {
+std::size_t const characters_a_step = 16;
+
 using Test = axsXPathExpression::NodeTest;
 
 bool is_text(axsNode const* node) noexcept
@@ -45,22 +47,6 @@ bool is_visible(axsNode const& node) noexcept
   }
 }
 
-/// The text that all texts below `node` are, null if there are none; `more` says whether there is another one.
-axsNode const* only_text(axsNode const& node, bool& more) noexcept
-{
-  axsNode const* found = nullptr;
-  more = false;
-  for (axsNode const* at = node.first_child(); at != nullptr && !more; at = at->next_in_tree(node))
-  {
-    if (!is_text(at))
-      continue;
-    more = found != nullptr;
-    if (!more)
-      found = at;
-  }
-  return found;
-}
-
 /// The node before this one in document order, within its tree; `depth` counts the levels below where the walk started,
 /// and a step to an ancestor of the start, told by a negative depth, leaves it at 0.
 axsNode* previous_in_tree(axsNode& node, long long& depth) noexcept
@@ -80,8 +66,9 @@ axsNode* previous_in_tree(axsNode& node, long long& depth) noexcept
 }
 }
 
-axsXPathModel::axsXPathModel(axsNode& context)
-  : topmost(&context.root()),
+axsXPathModel::axsXPathModel(axsNode& context, axsXPathMeter& counted)
+  : meter(counted),
+    topmost(&context.root()),
     detached_root{topmost, nullptr, -1},
     tree_root(topmost->is_document() ? axsXPathNode(topmost) : axsXPathNode(&detached_root)),
     namespaces(context.tree())
@@ -132,6 +119,13 @@ axsXPathNode axsXPathModel::parent(axsXPathNode node) const noexcept
 
 std::string_view axsXPathModel::string_value(axsXPathNode node, std::string& scratch) const
 {
+  std::string_view const value = read_string_value(node, scratch);
+  meter.spend(1 + value.size() / characters_a_step);
+  return value;
+}
+
+std::string_view axsXPathModel::read_string_value(axsXPathNode node, std::string& scratch) const
+{
   if (node.is_virtual() && !node.virtual_node().is_root())
     return node.virtual_node().declaration == nullptr ? axsXPathScopes::xml_uri
                                                       : node.virtual_node().declaration->value();
@@ -146,13 +140,27 @@ std::string_view axsXPathModel::string_value(axsXPathNode node, std::string& scr
   if (!base.is_parent())
     return base.value();
 
-  bool more = false;
-  axsNode const* const only = only_text(base, more);
-  if (!more)
-    return only == nullptr ? std::string_view() : only->value();
-  scratch.clear();
-  base.append_text_to(scratch);
-  return scratch;
+  // Most have one text, which needs no copy.
+  axsNode const* only = nullptr;
+  bool has_several = false;
+  for (axsNode const* at = base.first_child(); at != nullptr; at = at->next_in_tree(base))
+  {
+    meter.spend();
+    if (!is_text(at))
+      continue;
+    if (only == nullptr)
+    {
+      only = at;
+      continue;
+    }
+    if (!has_several)
+      scratch.assign(only->value());
+    has_several = true;
+    scratch.append(at->value());
+  }
+  if (has_several)
+    return scratch;
+  return only == nullptr ? std::string_view() : only->value();
 }
 
 std::string_view axsXPathModel::local_name(axsXPathNode node) const noexcept
@@ -263,13 +271,17 @@ bool axsXPathModel::passes_other(axsNode& node, axsXPathNodeTest const& test)
 bool axsXPathModel::passes_any(axsXPathNode node, axsXPathNodeTest const& test)
 {
   if (node.is_virtual() || node.node()->is_attribute() || node.node()->is_document())
+  {
+    meter.spend();
     return test.kind == Test::any_node;
+  }
   return passes(*node.node(), test);
 }
 
 bool axsXPathModel::passes_attribute(
   axsElement const& owner, axsAttribute const& attribute, axsXPathNodeTest const& test)
 {
+  meter.spend();
   axsName const& full_name = attribute.full_name();
   switch (test.kind)
   {
@@ -322,6 +334,7 @@ bool axsXPathModel::walk_namespaces(axsXPathNode from, axsXPathNodeTest const& t
     known = scope_ranges.emplace(&element, collect_namespaces(element)).first;
   for (std::size_t i = 0; i < known->second.count; ++i)
   {
+    meter.spend();
     axsXPathNode const node(&namespace_nodes[known->second.first + i]);
     bool const passes = test.kind == Test::any_node || test.kind == Test::any_name ||
                         (test.kind == Test::name && !test.has_prefix && name(node) == test.local);
@@ -347,6 +360,7 @@ axsXPathModel::Range axsXPathModel::collect_namespaces(axsElement& element)
   {
     for (axsNode* attribute = at->first_attribute(); attribute != nullptr; attribute = attribute->next_sibling())
     {
+      meter.spend();
       axsName const& declared = *attribute->name();
       // The nearest declaration of a prefix counts; an empty one takes the namespace away.
       if (axsXPathScopes::is_declaration(declared) && &declared != declaration_of_xml &&

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "axsXPathAxis.h"
+#include "axsXPathMeter.h"
 #include "axsXPathNode.h"
 #include "axsXPathNodeTest.h"
 #include "axsXPathScopes.h"
@@ -40,8 +41,9 @@ public:
     instruction_kind
   };
 
-  /// The tree that `context` is in.
-  explicit axsXPathModel(axsNode& context);
+  /// The tree that `context` is in. Every look at a node or text of it is a step for `counted`, which may end it by throwing
+  /// axsXPathMeter::End.
+  axsXPathModel(axsNode& context, axsXPathMeter& counted);
   axsXPathModel(axsXPathModel const&) = delete;
   axsXPathModel& operator=(axsXPathModel const&) = delete;
 
@@ -79,6 +81,7 @@ public:
   bool passes(axsNode& node, axsXPathNodeTest const& test)
   {
     using Test = axsXPathExpression::NodeTest;
+    meter.spend();
     switch (test.kind)
     {
     case Test::name:
@@ -107,6 +110,7 @@ private:
     return test.name != nullptr && element.is_named(*test.name) && namespaces.is_without_namespace(element);
   }
 
+  std::string_view read_string_value(axsXPathNode node, std::string& scratch) const;
   bool passes_other(axsNode& node, axsXPathNodeTest const& test);
   bool passes_attribute(axsElement const& owner, axsAttribute const& attribute, axsXPathNodeTest const& test);
 
@@ -129,6 +133,7 @@ private:
 
   Range collect_namespaces(axsElement& element);
 
+  axsXPathMeter& meter;
   axsNode* topmost;
   axsXPathVirtualNode detached_root;
   axsXPathNode tree_root;

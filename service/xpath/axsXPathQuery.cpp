@@ -59,25 +59,39 @@ std::vector<axsXPathNode> select_nodes(axsXPathEvaluator& evaluator, axsXPathExp
     return {};
   return evaluator.select(want);
 }
+
+axsXPathError error_of(axsXPathMeter::End end)
+{
+  return {end == axsXPathMeter::End::stopped ? "the evaluation was stopped"
+                                             : "the evaluation takes more steps than are allowed",
+    1};
+}
 }
 
 std::vector<axsXPathNode> axsXPathQuery::select(
   axsXPathCache& cache, axsNode& context, std::string_view text, axsXPathError& error)
+try
 {
   auto const expression = cache.compile(text, error);
   if (expression == nullptr)
     return {};
-  axsXPathEvaluator evaluator(*expression, context);
+  axsXPathEvaluator evaluator(*expression, context, axsXPathLimits());
   return handed_out(select_nodes(evaluator, *expression, text, Want::all, error));
+}
+catch (axsXPathMeter::End const end)
+{
+  error = error_of(end);
+  return {};
 }
 
 axsNode* axsXPathQuery::select_first(
   axsXPathCache& cache, axsNode& context, std::string_view text, axsXPathError& error)
+try
 {
   auto const expression = cache.compile(text, error);
   if (expression == nullptr)
     return nullptr;
-  axsXPathEvaluator evaluator(*expression, context);
+  axsXPathEvaluator evaluator(*expression, context, axsXPathLimits());
   std::vector<axsXPathNode> nodes = select_nodes(evaluator, *expression, text, Want::first, error);
   if (nodes.empty())
     return nullptr;
@@ -89,14 +103,20 @@ axsNode* axsXPathQuery::select_first(
     std::find_if(nodes.begin(), nodes.end(), [](axsXPathNode node) { return handed_out(node) != nullptr; });
   return found == nodes.end() ? nullptr : handed_out(*found);
 }
+catch (axsXPathMeter::End const end)
+{
+  error = error_of(end);
+  return nullptr;
+}
 
 bool axsXPathQuery::evaluate(axsXPathCache& cache, axsNode& context, std::string_view text,
-  axsXPathPrefixes const& prefixes, Value& value, axsXPathError& error)
+  axsXPathPrefixes const& prefixes, axsXPathLimits const& limits, Value& value, axsXPathError& error)
+try
 {
   auto const expression = cache.compile(text, error);
   if (expression == nullptr)
     return false;
-  axsXPathEvaluator evaluator(*expression, context);
+  axsXPathEvaluator evaluator(*expression, context, limits);
   if (!bind(evaluator, prefixes, text, error))
     return false;
   axsXPathValue const found = evaluator.evaluate();
@@ -107,4 +127,9 @@ bool axsXPathQuery::evaluate(axsXPathCache& cache, axsNode& context, std::string
   value.number = found.number;
   value.text = evaluator.text_of_value(found);
   return true;
+}
+catch (axsXPathMeter::End const end)
+{
+  error = error_of(end);
+  return false;
 }

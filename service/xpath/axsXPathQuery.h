@@ -1,6 +1,7 @@
 #pragma once
 
 #include "axsXPathError.h"
+#include "axsXPathLimits.h"
 #include "axsXPathNode.h"
 #include "axsXPathPrefixes.h"
 #include "axsXPathType.h"
@@ -15,6 +16,7 @@ class axsXPathCache;
 /// Evaluates the text of an expression over a tree, by way of a cache of compiled expressions; see axsXPath.
 ///
 /// The nodes in results are nodes of the tree that nobody holds yet: they are valid until it changes.
+/// Where the limits end an evaluation, that is an error as well; those of select() are the usual ones.
 /// All throw std::bad_alloc when memory runs out. One document belongs to one thread at a time.
 namespace axsXPathQuery
 {
@@ -40,5 +42,5 @@ axsNode* select_first(axsXPathCache& cache, axsNode& context, std::string_view e
 /// The value of `expression`, whatever its type, with `prefixes` before those in scope. False, with the reason in `error`,
 /// where it is wrong.
 bool evaluate(axsXPathCache& cache, axsNode& context, std::string_view expression, axsXPathPrefixes const& prefixes,
-  Value& value, axsXPathError& error);
+  axsXPathLimits const& limits, Value& value, axsXPathError& error);
 }

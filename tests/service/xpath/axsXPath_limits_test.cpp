@@ -2,7 +2,18 @@
 
 #include <gtest/gtest.h>
 
+#include <axsXPath.h>
+
+#include <atomic>
 #include <string>
+#include <thread>
+
+#if defined(__linux__)
+#  include <sys/resource.h>
+#  include <unistd.h>
+
+#  include <fstream>
+#endif
 
 namespace
 {
@@ -139,3 +150,88 @@ TEST(XPathLimits, comparing_many_nodes_with_many_takes_no_quadratic_time)
   EXPECT_EQ(value(*document, "string(//a[not(@n < //a/@n)]/@n)"), "string 49999");
   EXPECT_EQ(value(*document, "string(//a[not(//a/@n < @n)]/@n)"), "string 0");
 }
+
+namespace
+{
+// What an evaluation within limits tells.
+std::string told(axmNode& context, char const* expression, axsXPathLimits const& limits)
+{
+  axsXPath::Value value;
+  value.number = -1;
+  axsXPathError error;
+  if (axsXPath::evaluate(context, apString(expression), {}, limits, value, error))
+    return "done";
+  EXPECT_EQ(value.number, -1);
+  EXPECT_EQ(error.position, 1);
+  return error.message;
+}
+
+axsXPathLimits limits_of(std::uint64_t steps)
+{
+  axsXPathLimits limits;
+  limits.max_steps = steps;
+  return limits;
+}
+}
+
+TEST(XPathLimits, an_evaluation_ends_when_it_has_taken_as_many_steps_as_it_may)
+{
+  auto const document = subject::load("<r>" + repeated("<a b='1'>t<!--c--></a>", 1000) + "</r>");
+  std::string const too_many = "the evaluation takes more steps than are allowed";
+  for (char const* const expression :
+    {"//a", "//a/@b", "//text()", "//a[. = 't']", "count(//node())", "//a/following::a", "//a[last()]/preceding::a",
+      "//a/ancestor::r", "//a/namespace::*", "sum(//@b)", "string(/)", "//a|//a|//a|//a|//a|//a", "//a[. = //a]"})
+  {
+    EXPECT_EQ(told(*document, expression, limits_of(100)), too_many) << expression;
+    EXPECT_EQ(told(*document, expression, limits_of(0)), too_many) << expression;
+    EXPECT_EQ(told(*document, expression, axsXPathLimits()), "done") << expression;
+  }
+  EXPECT_EQ(told(*document, "1 + 1", limits_of(0)), "done");
+  EXPECT_EQ(told(*document, "//a", limits_of(3100)), "done");
+
+  // A power of the size of the document is too much for the limit that counts its nodes, once.
+  EXPECT_EQ(told(*document, "//a[count(../a[. = following-sibling::a]) = 2]", limits_of(1000000)), too_many);
+  EXPECT_EQ(told(*document, "count(//a[preceding-sibling::a[last()]])", limits_of(100000)), too_many);
+}
+
+TEST(XPathLimits, an_evaluation_is_stopped_by_another_thread)
+{
+  auto const document = subject::load("<r>" + repeated("<a b='1'/>", 2000) + "</r>");
+  std::atomic<bool> stop{false};
+  axsXPathLimits limits;
+  limits.max_steps = ~std::uint64_t{0};
+  limits.stop = &stop;
+  EXPECT_EQ(told(*document, "count(//a)", limits), "done");
+  // It would take more than a year.
+  std::string message;
+  std::thread working(
+    [&]
+    {
+      message = told(*document,
+        "//a[preceding-sibling::a[following-sibling::a[preceding-sibling::a[position() > last()]][position() > last()]]"
+        "[position() > last()]][position() > last()]",
+        limits);
+    });
+  stop = true;
+  working.join();
+  EXPECT_EQ(message, "the evaluation was stopped");
+  EXPECT_EQ(told(*document, "count(//a)", limits), "the evaluation was stopped");
+}
+
+#if defined(__linux__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+TEST(XPathLimits, a_union_of_many_terms_holds_each_node_once)
+{
+  auto const document = subject::load("<r>" + repeated("<a/>", 20000) + "</r>");
+  std::string const expression = "count(" + repeated("r/a|", 999) + "r/a)";
+  // With each node as often as it is selected, this would take 160 MB at least.
+  rlimit before{};
+  getrlimit(RLIMIT_AS, &before);
+  std::size_t pages = 0;
+  std::ifstream("/proc/self/statm") >> pages;
+  rlimit limited = before;
+  limited.rlim_cur = pages * static_cast<std::size_t>(sysconf(_SC_PAGESIZE)) + (40u << 20);
+  setrlimit(RLIMIT_AS, &limited);
+  EXPECT_EQ(value(*document, expression), "number 20000");
+  setrlimit(RLIMIT_AS, &before);
+}
+#endif
