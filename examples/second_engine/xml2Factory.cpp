@@ -1,17 +1,31 @@
 #include "xml2Factory.h"
 
+#include "xml2Entities.h"
 #include "xml2Node.h"
+#include "xml2Schemas.h"
 
 #include <libxml/parser.h>
+#include <libxml/xmlsave.h>
 
 #include <cstdio>
+#include <cstring>
 
 namespace
 {
-xmlParserInput* no_external_entity(char const*, char const*, xmlParserCtxt*)
+// Whether the document under way may read files that it names, and whether it named one that is not there.
+thread_local bool may_read = false;
+thread_local bool missed_one = false;
+xmlExternalEntityLoader default_loader = nullptr;
+
+xmlParserInput* load_entity(char const* url, char const* id, xmlParserCtxt* context)
 {
-  return nullptr;
+  xmlParserInput* const input = may_read ? default_loader(url, id, context) : nullptr;
+  missed_one = missed_one || (may_read && input == nullptr);
+  return input;
 }
+
+// What the library says beside what it reports.
+void silent(void*, char const*, ...) {}
 
 std::shared_ptr<axmDocument> wrapped(xmlDoc* document)
 {
@@ -37,32 +51,90 @@ axmParseError parser_error(xmlParserCtxt& context, apString const& url)
   return error;
 }
 
-bool wants_schema(axmLoadOptions const& options)
+// In UTF-8, which has none, the library would take a zero byte for the end.
+bool holds_zero(apByteArray const& data)
 {
-  return options.validate_mode() == axmValidateWithSchemas &&
-         (options.num_external_schemas() > 0 || !options.no_namespace_schema().empty());
+  bool const is_wide = data.size() > 1 && (data.data()[0] == '\xFF' || data.data()[0] == '\xFE' ||
+                                            data.data()[0] == '\0' || data.data()[1] == '\0');
+  return !is_wide && data.size() > 0 && std::memchr(data.data(), 0, data.size()) != nullptr;
+}
+
+xmlDoc* tree_of(apByteArray const& data, apString const& url, int options, axmParseError& error)
+{
+  xmlParserCtxt* const context = xmlNewParserCtxt();
+  xmlDoc* const document = xmlCtxtReadMemory(context, data.data(), static_cast<int>(data.size()), url.to_utf8().c_str(),
+    nullptr, XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | options);
+  if (document == nullptr)
+    error = parser_error(*context, url);
+  xmlFreeParserCtxt(context);
+  return document;
+}
+
+// Once with the references as they are, to count them, and once with what they stand for.
+xmlDoc* resolved(apByteArray const& data, apString const& url, axmLoadOptions const& options, axmParseError& error)
+{
+  if (holds_zero(data))
+  {
+    error = error_at(APSTRING("a zero byte is no character"), url);
+    return nullptr;
+  }
+  int const outside = options.disable_entity_resolution() ? 0 : XML_PARSE_DTDLOAD;
+  may_read = outside != 0;
+  missed_one = false;
+  xmlDoc* document = tree_of(data, url, outside, error);
+  apString fault = document != nullptr ? xml2_entity_fault(document, options) : apString();
+  bool const is_counted = document != nullptr && fault.empty();
+  xmlFreeDoc(document);
+  document = is_counted ? tree_of(data, url, outside | XML_PARSE_NOENT | XML_PARSE_DTDATTR, error) : nullptr;
+  if (document != nullptr && missed_one)
+    fault = APSTRING("a file that the document names cannot be read");
+  may_read = false;
+  if (fault.empty())
+    return document;
+  xmlFreeDoc(document);
+  error = error_at(fault, url);
+  return nullptr;
 }
 
 std::shared_ptr<axmDocument> parsed(
   apByteArray const& data, apString const& url, axmLoadOptions const& options, axmParseError& error)
 {
-  if (wants_schema(options))
-  {
-    error = error_at(APSTRING("this engine does not validate"), url);
-    return nullptr;
-  }
-  xmlParserCtxt* const context = xmlNewParserCtxt();
-  xmlDoc* document =
-    xmlCtxtReadMemory(context, data.data(), static_cast<int>(data.size()), url.to_utf8().c_str(), nullptr,
-      XML_PARSE_NOENT | XML_PARSE_DTDATTR | XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_NOERROR | XML_PARSE_NOWARNING);
-  if (document == nullptr)
-    error = parser_error(*context, url);
-  xmlFreeParserCtxt(context);
+  xmlDoc* const document = resolved(data, url, options, error);
   if (document == nullptr)
     return nullptr;
   auto const tree = std::make_shared<xml2Tree>(document);
+  may_read = true;
+  bool const is_valid = xml2_is_valid(document, options, error);
+  may_read = false;
+  if (!is_valid)
+  {
+    error.set_url(url);
+    return nullptr;
+  }
   tree->drop_white_space();
   return std::make_shared<xml2Document>(tree, tree->top());
+}
+
+// The document with both tags of every element, so that an empty text makes no difference.
+apString written_out(xmlDoc* document)
+{
+  xmlBuffer* const buffer = xmlBufferCreate();
+  xmlSaveCtxt* const context = xmlSaveToBuffer(buffer, "UTF-8", XML_SAVE_NO_EMPTY);
+  xmlSaveDoc(context, document);
+  xmlSaveClose(context);
+  apString const text = xml2_text(xmlBufferContent(buffer));
+  xmlBufferFree(buffer);
+  return text;
+}
+
+// Whether what was saved is, once it is read, the document again.
+bool comes_back(apByteArray const& saved, xmlDoc* document)
+{
+  axmParseError ignored;
+  xmlDoc* const copy = tree_of(saved, apString(), XML_PARSE_NOENT | XML_PARSE_DTDATTR, ignored);
+  bool const is_same = copy != nullptr && written_out(copy) == written_out(document);
+  xmlFreeDoc(copy);
+  return is_same;
 }
 
 bool read(apPath const& path, apByteArray& data)
@@ -81,7 +153,10 @@ bool read(apPath const& path, apByteArray& data)
 xml2Factory::xml2Factory()
 {
   xmlInitParser();
-  xmlSetExternalEntityLoader(no_external_entity);
+  if (default_loader == nullptr)
+    default_loader = xmlGetExternalEntityLoader();
+  xmlSetExternalEntityLoader(load_entity);
+  xmlSetGenericErrorFunc(nullptr, silent);
 }
 
 xml2Factory::~xml2Factory() = default;
@@ -120,7 +195,10 @@ bool xml2Factory::saveDocument(std::shared_ptr<axmDocument> document, apByteArra
   if (!handle->tree->can_be_written())
     return false;
   utString const text = handle->xml().to_utf8();
-  output = apByteArray(text.c_str(), static_cast<std::size_t>(text.length()));
+  apByteArray const saved(text.c_str(), static_cast<std::size_t>(text.length()));
+  if (!comes_back(saved, handle->tree->document()))
+    return false;
+  output = saved;
   return true;
 }
 

@@ -811,22 +811,26 @@ void axmXPathUtest::test_expressions(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmXPathUtest::test_expressions");
   char const expression[] = "every question has its answer";
-  group.check(are_answered(*tester, *factory, document_0, questions_0), expression, __LINE__, "XPath in document 0");
-  group.check(are_answered(*tester, *factory, document_1, questions_1), expression, __LINE__, "XPath in document 1");
-  group.check(are_answered(*tester, *factory, document_2, questions_2), expression, __LINE__, "XPath in document 2");
-  group.check(are_answered(*tester, *factory, document_3, questions_3), expression, __LINE__, "XPath in document 3");
-  group.check(are_answered(*tester, *factory, document_4, questions_4), expression, __LINE__, "XPath in document 4");
-  group.check(are_answered(*tester, *factory, document_5, questions_5), expression, __LINE__, "XPath in document 5");
-  group.check(are_answered(*tester, *factory, document_6, questions_6), expression, __LINE__, "XPath in document 6");
-  group.check(are_answered(*tester, *factory, document_7, questions_7), expression, __LINE__, "XPath in document 7");
-  group.check(are_answered(*tester, *factory, document_8, questions_8), expression, __LINE__, "XPath in document 8");
-  group.check(are_answered(*tester, *factory, document_9, questions_9), expression, __LINE__, "XPath in document 9");
-  group.check(are_answered(*tester, *factory, document_10, questions_10), expression, __LINE__, "XPath in document 10");
-  group.check(are_answered(*tester, *factory, document_11, questions_11), expression, __LINE__, "XPath in document 11");
-  group.check(are_answered(*tester, *factory, document_12, questions_12), expression, __LINE__, "XPath in document 12");
-  group.check(are_answered(*tester, *factory, document_13, questions_13), expression, __LINE__, "XPath in document 13");
-  group.check(are_answered(*tester, *factory, document_14, questions_14), expression, __LINE__, "XPath in document 14");
-  group.check(are_answered(*tester, *factory, document_15, questions_15), expression, __LINE__, "XPath in document 15");
+  group.check(are_answered(*tester, *factory, document_0, questions_0), expression, __LINE__, "functions");
+  group.check(are_answered(*tester, *factory, document_1, questions_1), expression, __LINE__, "languages");
+  group.check(are_answered(*tester, *factory, document_2, questions_2), expression, __LINE__, "operators");
+  group.check(are_answered(*tester, *factory, document_3, questions_3), expression, __LINE__, "numbers and values");
+  group.check(are_answered(*tester, *factory, document_4, questions_4), expression, __LINE__, "axes");
+  group.check(are_answered(*tester, *factory, document_5, questions_5), expression, __LINE__, "paths");
+  group.check(
+    are_answered(*tester, *factory, document_6, questions_6), expression, __LINE__, "names that are operators too");
+  group.check(are_answered(*tester, *factory, document_7, questions_7), expression, __LINE__, "names in other letters");
+  group.check(
+    are_answered(*tester, *factory, document_8, questions_8), expression, __LINE__, "texts beside each other");
+  group.check(are_answered(*tester, *factory, document_9, questions_9), expression, __LINE__, "a document type");
+  group.check(are_answered(*tester, *factory, document_10, questions_10), expression, __LINE__,
+    "attributes and declarations of namespaces");
+  group.check(are_answered(*tester, *factory, document_11, questions_11), expression, __LINE__, "names in namespaces");
+  group.check(are_answered(*tester, *factory, document_12, questions_12), expression, __LINE__, "prefixes in scope");
+  group.check(
+    are_answered(*tester, *factory, document_13, questions_13), expression, __LINE__, "values of several texts");
+  group.check(are_answered(*tester, *factory, document_14, questions_14), expression, __LINE__, "identifiers");
+  group.check(are_answered(*tester, *factory, document_15, questions_15), expression, __LINE__, "more of functions");
 }
 
 void axmXPathUtest::test_errors(Factory const& factory) const
