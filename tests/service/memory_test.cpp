@@ -476,3 +476,28 @@ TEST(axsMemory, a_document_that_cannot_be_shared_for_want_of_memory_is_as_it_was
       break;
   }
 }
+
+TEST(axsMemory, a_document_whose_attributes_were_moved_goes_with_all_its_memory)
+{
+  auto const factory = engine();
+  apString const name = APSTRING("a");
+  FailingMemory const memory(1000000);
+  {
+    auto const document = factory->createDocument(APSTRING("r"));
+    auto const root = document->getDocumentElement();
+    auto const other = document->createElement(APSTRING("e"));
+    for (int i = 0; i < 3; ++i)
+    {
+      // Into a place that is free, and into one that is taken.
+      other->setAttribute(name, APSTRING("1"));
+      auto const taken = other->getAttributes()->removeNamedItem(name);
+      auto const replaced = root->getAttributes()->setNamedItem(taken);
+      root->getAttributes()->removeNamedItem(name);
+    }
+    root->setAttribute(name, APSTRING("2"));
+    other->setAttribute(name, APSTRING("3"));
+    root->getAttributes()->setNamedItem(other->getAttributes()->removeNamedItem(name));
+    root->getAttributes()->setNamedItem(root->getAttributes()->getNamedItem(name));
+  }
+  EXPECT_EQ(memory.blocks_held(), 0);
+}

@@ -1,5 +1,7 @@
 #include "Subject.h"
 
+#include <axsXPath.h>
+
 #include <gtest/gtest.h>
 
 namespace
@@ -77,4 +79,22 @@ TEST(XPathErrors, leave_the_value_as_it_was)
   auto const document = subject::create("r");
   EXPECT_EQ(subject::nodes(*document, "count(r)"), "no node-set");
   EXPECT_EQ(subject::nodes(*document, "r["), "error at 3: a step is missing");
+}
+
+TEST(XPathErrors, of_before_are_gone_when_an_expression_that_is_known_is_right)
+{
+  auto const document = subject::load("<r/>");
+  axsXPath::Value value;
+  axsXPathError error;
+  ASSERT_TRUE(axsXPath::evaluate(*document, APSTRING("count(r)"), value, error));
+  for (char const* const wrong : {"//[", "count(", "p:r"})
+  {
+    EXPECT_FALSE(axsXPath::evaluate(*document, apString(wrong), value, error)) << wrong;
+    EXPECT_NE(error.message, "");
+    // Compiled before, and taken out of the cache.
+    EXPECT_TRUE(axsXPath::evaluate(*document, APSTRING("count(r)"), value, error));
+    EXPECT_EQ(error.message, "");
+    EXPECT_EQ(error.position, 0);
+    EXPECT_EQ(value.number, 1);
+  }
 }
