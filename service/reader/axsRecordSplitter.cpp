@@ -95,48 +95,40 @@ public:
   void processing_instruction(std::string_view, std::string_view) override {}
 
 private:
+  // No root comes out of an entity.
   void begin_root()
   {
-    parts.prolog_end = position();
+    parts.prolog_end = locator->begin_position().value_or(0);
     parts.prolog_lines = locator->begin().line;
     parts.prolog_column = locator->begin().column;
   }
 
+  // The first part begins with the root, whatever stands before its records; the others with a record that stands in the
+  // document itself, and is not of an entity.
   void begin_record()
   {
     std::uint64_t const number = parts.records++;
-    // The first part begins with the document.
-    bool const is_first = parts.parts.empty();
-    std::optional<std::uint64_t> const here = locator->begin_position();
-    if (!is_first && (!here || *here < next_begin))
-      return;
-    axsPlace const place = locator->begin();
-    axsRecordSplitter::Part part;
-    part.begin = is_first ? position() : *here;
-    part.first_record = number;
-    part.line = place.line;
-    part.column = place.column;
-    for (auto const& [open_tag, close_tag] : open)
+    if (parts.parts.empty())
+      begin_part({parts.prolog_end, 0, number, parts.prolog_lines, parts.prolog_column, {}, {}});
+    else if (std::optional<std::uint64_t> const here = locator->begin_position(); here && *here >= next_begin)
     {
-      part.open_tags += open_tag;
-      part.close_tags.insert(0, close_tag);
-    }
-    if (!is_first)
-    {
+      axsPlace const place = locator->begin();
+      axsRecordSplitter::Part part{*here, 0, number, place.line, place.column, {}, {}};
+      for (auto const& [open_tag, close_tag] : open)
+      {
+        part.open_tags += open_tag;
+        part.close_tags.insert(0, close_tag);
+      }
       parts.parts.back().end = part.begin;
       parts.parts.back().close_tags = part.close_tags;
+      begin_part(std::move(part));
     }
-    parts.parts.push_back(std::move(part));
-    next_begin = parts.parts.size() * part_size;
   }
 
-  std::uint64_t position() const
+  void begin_part(axsRecordSplitter::Part part)
   {
-    std::optional<std::uint64_t> const here = locator->begin_position();
-    if (!here)
-      throw locator->error(
-        APSTRING("the document cannot be split: its records come out of an entity"), locator->begin());
-    return *here;
+    parts.parts.push_back(std::move(part));
+    next_begin = parts.parts.size() * part_size;
   }
 
   axsRecord no_columns;

@@ -14,7 +14,7 @@
 /// Finds where a document can be cut so that its records can be read in parts, by several processes or machines, each of
 /// which reads its own part only.
 ///
-/// A part is a range of the document's bytes that begins with a record. What stands before it in the document is given by
+/// A part is a range of the document's bytes that begins with a record, the first one with the root element. What stands before it in the document is given by
 /// the prolog and by the tags of the elements that are open there: those, the part, and the tags that close what is open
 /// at its end are a document of their own, with the same records, namespaces and entities. The records of all parts
 /// after one another are the records of the document.
@@ -43,8 +43,8 @@ struct AXS_API axsRecordSplitter
 
   /// Cuts the document into `count` parts of about the same size, or fewer where it has fewer records; a document without
   /// records has none. `path` and `namespaces` are as axsRecordReader has them, and without complaint. False, with `error`
-  /// saying why, when the document cannot be read, is not well-formed, is not in UTF-8, or its root element or a record
-  /// comes out of an entity. Reads the document once. Throws std::bad_alloc when memory runs out.
+  /// saying why, when the document cannot be read, is not well-formed, or is not in UTF-8. Records that come out of entities
+  /// stay with those before them. Reads the document once. Throws std::bad_alloc when memory runs out.
   static bool split(apPath const& file, std::string const& path, std::map<std::string, std::string> const& namespaces,
     std::size_t count, axmLoadOptions const& options, axmParseError& error, Parts& parts);
 };

@@ -247,8 +247,7 @@ class Check:
             index = os.path.join(folder, "index.json")
             split = run([self.axm, "split", file, path, "--parts", "3", "--output", index] + names.options())
             if split.returncode != 0:
-                # Records that come out of entities, and encodings other than UTF-8, are refused.
-                if b" be split" not in split.stderr:
+                if b"only a document in UTF-8 can be split" not in split.stderr:
                     self.wrong.append(f"split {file} {path}\n  {split.stderr.decode(errors='replace')}")
                 return
             with open(index, encoding="utf-8") as stream:
