@@ -3,21 +3,16 @@
 #include "axsChildAlignment.h"
 #include "axsComparison.h"
 #include "axsFlatTree.h"
-#include "axsFlatTreeNames.h"
 
 #include <cstddef>
 #include <vector>
 
-/// Two documents that are compared; see axsComparison.
+/// One comparison of two documents; see axsComparison.
 class axsCompared
 {
 public:
-  explicit axsCompared(axsCompareOptions const& given) : options(given) {}
-
-  axsCompareOptions const options;
-  axsFlatTreeNames names;
-  axsFlatTree first;
-  axsFlatTree second;
+  /// Both must live longer.
+  axsCompared(axsFlatTree const& before, axsFlatTree const& after) : first(before), second(after) {}
 
   /// Whether they say the same.
   bool run(axsComparison::Take const& take);
@@ -39,6 +34,8 @@ private:
   void compare_children(Step step);
   axsDifference difference(axsDifference::Kind kind, Step step) const;
 
+  axsFlatTree const& first;
+  axsFlatTree const& second;
   std::vector<Step> steps;
   bool is_same = true;
 };

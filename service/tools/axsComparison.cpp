@@ -1,6 +1,7 @@
 #include "axsComparison.h"
 
 #include "axsCompared.h"
+#include "axsComparedDocuments.h"
 #include "axsFlatTreeBuilder.h"
 #include "axsParser.h"
 #include "axsReadError.h"
@@ -11,16 +12,16 @@
 namespace
 {
 template <class Open>
-bool read(Open open, axsCompared& compared, axsFlatTree& tree, axmParseError& error)
+bool read(Open open, axsComparedDocuments& documents, axsFlatTree& tree, axmParseError& error)
 try
 {
   axsFlatTreeRules rules;
-  rules.leaves_out_space = compared.options.ignores_space || compared.options.ignores_layout;
-  rules.joins_space = compared.options.ignores_space;
-  rules.leaves_out_comments = compared.options.ignores_comments;
+  rules.leaves_out_space = documents.options.ignores_space || documents.options.ignores_layout;
+  rules.joins_space = documents.options.ignores_space;
+  rules.leaves_out_comments = documents.options.ignores_comments;
   std::unique_ptr<axsSource> const source = open();
   axmLoadOptions const options(axmValidateNone);
-  axsFlatTreeBuilder builder(tree, compared.names, rules);
+  axsFlatTreeBuilder builder(tree, documents.names, rules);
   axsParser(*source, options, builder).run();
   builder.finish();
   return true;
@@ -32,31 +33,34 @@ catch (axsReadError const& failure)
 }
 }
 
-axsComparison::axsComparison(axsCompareOptions const& options) : compared(std::make_unique<axsCompared>(options)) {}
+axsComparison::axsComparison(axsCompareOptions const& options) : documents(std::make_unique<axsComparedDocuments>())
+{
+  documents->options = options;
+}
 
 axsComparison::~axsComparison() = default;
 
 bool axsComparison::read_first(apPath const& file, axmParseError& error)
 {
-  return read([&] { return std::make_unique<axsSource>(file); }, *compared, compared->first, error);
+  return read([&] { return std::make_unique<axsSource>(file); }, *documents, documents->first, error);
 }
 
 bool axsComparison::read_first(axsByteStream& stream, axmParseError& error)
 {
-  return read([&] { return std::make_unique<axsSource>(stream, apPath()); }, *compared, compared->first, error);
+  return read([&] { return std::make_unique<axsSource>(stream, apPath()); }, *documents, documents->first, error);
 }
 
 bool axsComparison::read_second(apPath const& file, axmParseError& error)
 {
-  return read([&] { return std::make_unique<axsSource>(file); }, *compared, compared->second, error);
+  return read([&] { return std::make_unique<axsSource>(file); }, *documents, documents->second, error);
 }
 
 bool axsComparison::read_second(axsByteStream& stream, axmParseError& error)
 {
-  return read([&] { return std::make_unique<axsSource>(stream, apPath()); }, *compared, compared->second, error);
+  return read([&] { return std::make_unique<axsSource>(stream, apPath()); }, *documents, documents->second, error);
 }
 
 bool axsComparison::run(Take const& take)
 {
-  return compared->run(take);
+  return axsCompared(documents->first, documents->second).run(take);
 }

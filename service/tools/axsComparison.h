@@ -10,7 +10,7 @@
 #include <functional>
 #include <memory>
 
-class axsCompared;
+struct axsComparedDocuments;
 
 /// Compares two documents by what they say: elements and attributes by their names and namespaces, whatever their prefixes
 /// and the order of attributes; texts whether they are written with references, CDATA sections or not; comments,
@@ -45,5 +45,5 @@ public:
   bool run(Take const& take);
 
 private:
-  std::unique_ptr<axsCompared> compared;
+  std::unique_ptr<axsComparedDocuments> documents;
 };

@@ -208,10 +208,10 @@ void axsFlatTreeBuilder::number_children()
     std::uint32_t count = 0;
     std::size_t first = 0;
   };
-  std::unordered_map<std::uint64_t, Count> counts;
   for (std::size_t parent = 0; parent < tree.nodes.size(); ++parent)
   {
-    counts.clear();
+    // One that was kept would be as slow to empty for each parent as the longest list of children was to fill in.
+    std::unordered_map<std::uint64_t, Count> counts;
     for (std::size_t child = parent + 1; child < tree.after(parent); child = tree.after(child))
     {
       Node& node = tree.nodes[child];

@@ -2,6 +2,7 @@
 
 #include "axsTextHash.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <string>
@@ -47,7 +48,7 @@ public:
   }
 
 private:
-  static constexpr std::size_t block_size = 64 * 1024;
+  static constexpr std::size_t block_size = std::size_t{64} * 1024;
 
   std::unordered_map<std::string, std::uint32_t, axsTextHash> numbers;
   std::unordered_map<std::string_view, std::string_view, axsTextHash> names;

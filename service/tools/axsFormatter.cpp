@@ -58,7 +58,7 @@ std::string text_of(apByteArray const& bytes)
 {
   axsSource source(bytes);
   axsUtf8Source utf8(source);
-  std::size_t const piece = 64 * 1024;
+  std::size_t const piece = std::size_t{64} * 1024;
   std::string text;
   std::size_t size = 0;
   for (std::size_t count = piece; count > 0; size += count)

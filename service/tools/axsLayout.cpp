@@ -6,7 +6,7 @@
 
 namespace
 {
-std::size_t const piece_size = 64 * 1024;
+std::size_t const piece_size = std::size_t{64} * 1024;
 
 // No line is indented by more of them, so that what is written of a deep document stays in proportion to it.
 std::size_t const max_levels = 100;
