@@ -229,6 +229,13 @@ void axmLoadUtest::test_external_things(Factory const& factory) const
   resolving.set_disable_entity_resolution(false);
   group.check(text_of(root_of(load_of_file(factory, cases[1].text, resolving).document)), APSTRING("outside"),
     "root->get_text()", __LINE__, "an external entity in an internal one, where that is allowed");
+  std::string escaped_name = entity_name;
+  std::size_t const at = escaped_name.rfind("entity");
+  if (at != std::string::npos)
+    escaped_name.replace(at, 1, "%65");
+  std::string const escaped = "<!DOCTYPE r [<!ENTITY e SYSTEM '" + escaped_name + "'>]><r>&e;</r>";
+  group.check(text_of(root_of(load_of_file(factory, escaped, resolving).document)), APSTRING("outside"),
+    "root->get_text()", __LINE__, "an external entity is named by a URI, in which %65 is a letter");
   std::string const missing = "<!DOCTYPE r [<!ENTITY e SYSTEM './load_no_such_file.ent'>]><r>&e;</r>";
   group.check(
     fails(load_of_file(factory, missing, resolving)), "fails", __LINE__, "an external entity that is missing");
@@ -293,6 +300,9 @@ void axmLoadUtest::test_encodings(Factory const& factory) const
   for (std::string const& half : halves)
     group.check(fails(load_of(factory, half)) && fails(load_of_file(factory, half)), "fails", __LINE__,
       "half a character in UTF-16");
+  for (char const* const encoding : {"x-none-such", "UTF-9", "none"})
+    group.check(fails(load_of(factory, std::string("<?xml version='1.0' encoding='") + encoding + "'?><r/>")), "fails",
+      __LINE__, "an encoding that nobody knows");
   // Other encodings an engine may refuse, but not mistake.
   Load const latin = load_of(factory, "<?xml version='1.0' encoding='ISO-8859-1'?><r>\xE4</r>");
   group.check(fails(latin) || text_of(root_of(latin.document)) == APSTRING("\u00E4"), "root->get_text()", __LINE__,

@@ -802,6 +802,7 @@ void axmXPathUtest::run_tests(Factory const& factory) const
   using Utest = axmXPathUtest;
   axmUtestEntry<Utest, Factory const&> const groups[] = {
     {&Utest::test_expressions, "axmXPathUtest::test_expressions"},
+    {&Utest::test_many_nodes, "axmXPathUtest::test_many_nodes"},
     {&Utest::test_errors, "axmXPathUtest::test_errors"},
   };
   axm_run_groups(*this, factory, groups, tester, file);
@@ -831,6 +832,105 @@ void axmXPathUtest::test_expressions(Factory const& factory) const
     are_answered(*tester, *factory, document_13, questions_13), expression, __LINE__, "values of several texts");
   group.check(are_answered(*tester, *factory, document_14, questions_14), expression, __LINE__, "identifiers");
   group.check(are_answered(*tester, *factory, document_15, questions_15), expression, __LINE__, "more of functions");
+}
+
+namespace
+{
+// The elements of a document of many in their order, by their attribute "n", where `wanted` says so.
+template <class Wanted>
+std::string promised_names(axmElement& root, Wanted wanted)
+{
+  std::string names;
+  Node node = root.getFirstChild();
+  for (int steps = 0; node != nullptr && steps < 100000; ++steps)
+  {
+    if (wanted(node))
+      names += std::string(" ") + name_of(node).to_utf8().c_str() + label_of(node);
+    Node next = node->getFirstChild();
+    while (next == nullptr && node != nullptr && !(*node == root))
+    {
+      next = node->getNextSibling();
+      node = next == nullptr ? node->getParentNode() : node;
+    }
+    node = next;
+  }
+  return names;
+}
+
+std::string found_names(axmElement& root, char const* expression)
+{
+  std::string names;
+  auto const list = root.selectNodes(apString(expression));
+  int const length = length_of(list);
+  for (int index = 0; index < length && index < 100000; ++index)
+  {
+    Node const node = item_of(list, index);
+    names += std::string(" ") + name_of(node).to_utf8().c_str() + label_of(node);
+  }
+  return names;
+}
+
+bool is_one_of(Node const& node, char const* names)
+{
+  return std::string(names).find(name_of(node).to_utf8().c_str()) != std::string::npos;
+}
+
+char const* const orders[][2] = {{"//d | //b | //a", "abd"}, {"//d/.. | //b", "bc"},
+  {"//d/ancestor::* [not(self::r)]", "ac"}, {"//d/preceding::b", "b"}, {"//d/../preceding-sibling::*", "b"},
+  {"//b/following-sibling::* | //b/..", "ac"}, {"(//c | //a)/descendant-or-self::*", "abcd"},
+  {"//c/ancestor-or-self::*[self::a or self::c]", "ac"}, {"//*[@id mod 2 >= 0]", "abcd"}};
+
+// The same where some elements hold nothing and have no attribute.
+char const* const edited_orders[][2] = {{"//d | //b | //a", "abd"}, {"//c | //b", "bc"},
+  {"//a/descendant-or-self::*", "abcd"}, {"(//a | //d | //c)/self::*", "acd"}};
+
+// Comparisons of the texts and numbers of many nodes.
+void check_many_values(axmUtestGroup const& group, axmElement& root)
+{
+  char const* const conditions[] = {"//b = //a/@id", "//b != //b", "not(//b = //d)", "//b = 599", "//b != 599",
+    "//d = 'x599'", "not(//d = 'x600')", "//b < //d/@id", "//b >= 599", "not(//b > 599)",
+    "count(//b[. = //c/@id]) = 600", "count(//d[. = //b]) = 0", "sum(//b[. >= 0]) = 179700",
+    "count(//a | //b | //a) = count(//a) + count(//b)"};
+  for (char const* const condition : conditions)
+  {
+    std::string const expression = std::string("self::r[") + condition + "]";
+    group.check(
+      length_of(root.selectNodes(apString(expression.c_str()))), 1, condition, __LINE__, "comparisons of many nodes");
+  }
+}
+
+bool are_in_order(axmElement& root, char const* expression, char const* names)
+{
+  return found_names(root, expression) ==
+         promised_names(root, [names](Node const& node) { return is_one_of(node, names); });
+}
+}
+
+void axmXPathUtest::test_many_nodes(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmXPathUtest::test_many_nodes");
+  std::string text = "<r>";
+  for (int number = 0; number < 600; ++number)
+  {
+    std::string const id = std::to_string(number);
+    text += "<a id='" + id + "'><b id='" + id + "'>" + id + "</b><c id='" + id + "'><d id='" + id + "'>x" + id +
+            "</d></c></a>";
+  }
+  auto const root = load_root(*factory, (text + "</r>").c_str());
+  if (!group.prerequisite(root != nullptr, "root.get()", __LINE__, "Prerequisite: load document"))
+    return;
+  for (auto const& [expression, names] : orders)
+    group.check(are_in_order(*root, expression, names), expression, __LINE__, "many nodes in document order");
+  check_many_values(group, *root);
+  // A node is put elsewhere, and new ones among the others.
+  Node const last = root->getLastChild();
+  remove(root, last);
+  insert(root, last, root->getFirstChild());
+  append(first_of(root), created(root->getOwnerDocument(), APSTRING("b")));
+  insert(root, created(root->getOwnerDocument(), APSTRING("a")), child_of(root, 300));
+  for (auto const& [expression, names] : edited_orders)
+    group.check(are_in_order(*root, expression, names), expression, __LINE__, "many nodes after edits");
+  check_many_values(group, *root);
 }
 
 void axmXPathUtest::test_errors(Factory const& factory) const

@@ -171,6 +171,11 @@ char const* const refused_documents[] = {
   "<!DOCTYPE r [<?xml version='1.0'?>]><r/>",
   "<!DOCTYPE r [\xC3\xA4]><r/>",
   "<!DOCTYPE r [\x01]><r/>",
+  "<?xml version='1.'?><r/>",
+  "<?xml version='1.x'?><r/>",
+  "<?xml version=''?><r/>",
+  "<?xml version='.0'?><r/>",
+  "<?xml version='a'?><r/>",
 };
 
 Taken const taken_names[] = {
