@@ -9,8 +9,12 @@
 #include "axmXmlTables.h"
 #include "model/axmModelRandom.h"
 
+#include <cctype>
 #include <cstdio>
+#include <cstring>
+#include <filesystem>
 #include <string>
+#include <system_error>
 
 using namespace axmUtestAccess;
 
@@ -190,6 +194,26 @@ void axmLoadUtest::test_entity_limits(Factory const& factory) const
     "entities that hold each other");
 }
 
+namespace
+{
+// The file as a URL.
+std::string url_of(std::string const& name)
+{
+  std::error_code ignored;
+  std::string const path = std::filesystem::absolute(std::filesystem::u8path(name), ignored).generic_u8string();
+  std::string url = path.empty() || path.front() != '/' ? "file:///" : "file://";
+  for (char const character : path)
+  {
+    char escaped[8];
+    std::snprintf(escaped, sizeof escaped, "%%%02X", static_cast<unsigned>(static_cast<unsigned char>(character)));
+    bool const is_plain =
+      std::isalnum(static_cast<unsigned char>(character)) != 0 || std::strchr("/._-:", character) != nullptr;
+    url += is_plain ? std::string(1, character) : std::string(escaped);
+  }
+  return url;
+}
+}
+
 void axmLoadUtest::test_external_things(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmLoadUtest::test_external_things");
@@ -236,6 +260,9 @@ void axmLoadUtest::test_external_things(Factory const& factory) const
   std::string const escaped = "<!DOCTYPE r [<!ENTITY e SYSTEM '" + escaped_name + "'>]><r>&e;</r>";
   group.check(text_of(root_of(load_of_file(factory, escaped, resolving).document)), APSTRING("outside"),
     "root->get_text()", __LINE__, "an external entity is named by a URI, in which %65 is a letter");
+  std::string const by_url = "<!DOCTYPE r [<!ENTITY e SYSTEM '" + url_of(entity_name) + "'>]><r>&e;</r>";
+  group.check(text_of(root_of(load_of_file(factory, by_url, resolving).document)), APSTRING("outside"),
+    "root->get_text()", __LINE__, "which may be the URL of a file");
   std::string const missing = "<!DOCTYPE r [<!ENTITY e SYSTEM './load_no_such_file.ent'>]><r>&e;</r>";
   group.check(
     fails(load_of_file(factory, missing, resolving)), "fails", __LINE__, "an external entity that is missing");

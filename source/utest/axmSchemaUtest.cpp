@@ -2404,6 +2404,10 @@ Checked const constraints_9[] = {
 
 Checked const constraints_10[] = {
   {"<r></r>", true},
+  {"<r><n>1</n></r>", false},
+  {"<r><n xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
+   "xsi:nil='true'/></r>",
+    false},
 };
 
 Checked const constraints_11[] = {
