@@ -3,6 +3,7 @@
 #include "axsSchemaDocument.h"
 #include "axsSchemaErrors.h"
 #include "axsSchemaText.h"
+#include "axsTextForm.h"
 #include "axsTextHash.h"
 
 #include <initializer_list>
@@ -54,7 +55,7 @@ bool is_namespace_list(std::string_view text)
   if (text == "##any" || text == "##other")
     return true;
   for (std::string_view item = next_item(text); !item.empty(); item = next_item(text))
-    if (item.substr(0, 2) == "##" && !is_one_of(item, {"##targetNamespace", "##local"}))
+    if (item.substr(0, 2) == "##" ? !is_one_of(item, {"##targetNamespace", "##local"}) : !axsTextForm::is_uri(item))
       return false;
   return true;
 }
@@ -109,6 +110,19 @@ char const* fault_of_count(Field field, Role role, std::string_view text)
   return field == Field::max_occurs ? "a number that is not negative, or 'unbounded'" : "a number that is not negative";
 }
 
+char const* fault_of_uri(std::string_view text)
+{
+  return axsTextForm::is_uri(text) ? nullptr : "a URI reference (RFC 2396)";
+}
+
+char const* fault_of_namespace(Role role, std::string_view text)
+{
+  if (role == Role::import)
+    return fault_of_uri(text);
+  return is_namespace_list(text) ? nullptr
+                                 : "'##any', '##other' or a list of namespaces, '##targetNamespace' and '##local'";
+}
+
 char const* fault_of(Field field, Role role, std::string_view text)
 {
   switch (field)
@@ -148,11 +162,13 @@ char const* fault_of(Field field, Role role, std::string_view text)
   case Field::final_default:
     return fault_of_set(field, role, text);
   case Field::name_space:
-    return role == Role::import || is_namespace_list(text)
-             ? nullptr
-             : "'##any', '##other' or a list of namespaces, '##targetNamespace' and '##local'";
+    return fault_of_namespace(role, text);
   case Field::target_namespace:
-    return text.empty() ? "the name of a namespace; without one, the attribute is left out" : nullptr;
+    return text.empty() ? "the name of a namespace; without one, the attribute is left out" : fault_of_uri(text);
+  case Field::schema_location:
+  case Field::source:
+  case Field::system_id:
+    return fault_of_uri(text);
   default:
     return nullptr;
   }

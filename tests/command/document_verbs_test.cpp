@@ -331,6 +331,35 @@ TEST(axm_set, writes_to_standard_output)
 }
 
 #if !defined(_WIN32)
+TEST(axm_check, validates_standard_input_and_what_is_compressed)
+{
+  TemporaryFile const schema_file("check_stream.xsd", plain_schema);
+  TemporaryFile const good("check_stream_good.xml", "<n>1</n>");
+  TemporaryFile const bad("check_stream_bad.xml", "<n>\none</n>");
+  for (char const* const compress : {"cat", "gzip -c", "xz -c", "zstd -qc"})
+  {
+    if (std::system((std::string("command -v ") + compress + " >/dev/null").c_str()) != 0)
+      continue;
+    for (TemporaryFile const* const file : {&good, &bad})
+    {
+      std::string const packed = "check_stream.packed";
+      ASSERT_EQ(std::system((std::string(compress) + " < " + file->name + " > " + packed).c_str()), 0);
+      bool const is_good = file == &good;
+      ProgramRun const run = run_axm("check_stream", {"check", packed, "--no-namespace-schema", schema_file.name});
+      EXPECT_EQ(run.exit_code, is_good ? 0 : 1) << compress;
+      EXPECT_EQ(run.err.substr(0, 22), is_good ? "" : "check_stream.packed:2:") << compress;
+      std::string const err = "check_stream.in.err";
+      int const status = std::system(
+        ("cat " + packed + " | " AXM_PROGRAM " check - --no-namespace-schema " + schema_file.name + " 2> " + err)
+          .c_str());
+      EXPECT_EQ(WEXITSTATUS(status), is_good ? 0 : 1) << compress;
+      EXPECT_EQ(contents_of(err).substr(0, 17), is_good ? "" : "standard input:2:") << compress;
+      std::filesystem::remove(packed);
+      std::filesystem::remove(err);
+    }
+  }
+}
+
 TEST(axm_check, reports_what_is_wrong_in_a_pipe_and_does_not_open_it_again)
 {
   std::string const name = "check_pipe";

@@ -217,6 +217,20 @@ TEST(axsSchemaGrammar, a_schema_does_not_import_its_own_namespace)
   EXPECT_NE(error_of_schema("", "targetNamespace=''"), "");
 }
 
+// anyURI (Part 2, 3.2.17) in the schema for schemas
+TEST(axsSchemaGrammar, what_names_namespaces_and_files_are_uri_references)
+{
+  EXPECT_EQ(error_of_schema("", "targetNamespace='urn:a b#c'"), "");
+  EXPECT_NE(error_of_schema("", "targetNamespace='a#b#c'"), "");
+  EXPECT_NE(error_of_schema("", "targetNamespace='50%'"), "");
+  EXPECT_NE(error_of_schema("<xs:import namespace='%x'/>"), "");
+  EXPECT_NE(error_of_schema("<xs:notation name='n' system=':x'/>"), "");
+  EXPECT_NE(error_of_schema("<xs:annotation><xs:appinfo source='%'/></xs:annotation>"), "");
+  std::string const open = "<xs:complexType name='t'><xs:anyAttribute namespace='";
+  EXPECT_EQ(error_of_schema(open + "urn:a ##local'/></xs:complexType>"), "");
+  EXPECT_NE(error_of_schema(open + "urn:a %'/></xs:complexType>"), "");
+}
+
 TEST(axsSchemaGrammar, a_use_of_a_global_attribute_is_let_pass_if_it_is_legal)
 {
   EXPECT_EQ(error_of_schema("<xs:attribute name='a' use='required'/>"), "");

@@ -116,12 +116,15 @@ std::vector<Exception> const of_schemas = {
   {"", "which has an 'all' model group in its",
     "Part 1, 3.4.2: an extension that adds nothing has the content of its base"},
   {"", "[facet 'minExclusive']", "Part 2, 4.3.9.4: a minExclusive may be that of the base type"},
+  {"", "[facet 'maxExclusive']", "Part 2, 4.3.8.4: a maxExclusive may be that of the base type"},
   {"", "Internal error", "none: the judge fails by itself"},
 };
 
 std::vector<Exception> const of_documents = {
   {"", " ' is not a valid value of the atomic type",
     "Part 2, 4.3.6: the judge does not take white space off all numbers"},
+  {"", "No precomputed value available",
+    "Part 1, 3.11.4: an empty list is a value of a field, which the judge has lost"},
   {"there is no ID", "", "Part 1, 3.15.4 cvc-id: the judge does not look for the ID that is referred to"},
   {": ID value '", "", "Part 1, 3.15.4 cvc-id: the judge does not compare the IDs that are contents of elements"},
   {"is not of the type", "", "Part 2, 3.3.4: a list of NMTOKENs has one at least, which the judge does not know",
