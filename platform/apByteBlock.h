@@ -68,6 +68,9 @@ public:
   /// Those that are less than a space or no ASCII.
   Found is_control_or_non_ascii() const noexcept { return Found((~((bytes & low) + each * 0x60) | bytes) & high); }
 
+  /// Those that are less than a space.
+  Found is_control() const noexcept { return Found(~((bytes & low) + each * 0x60) & ~bytes & high); }
+
   /// Those that are zero or no ASCII.
   Found is_zero_or_non_ascii() const noexcept { return Found((~((bytes & low) + low) | bytes) & high); }
 
@@ -122,6 +125,8 @@ public:
   // Compared as signed numbers, what is no ASCII is less than 0.
   Found is_control_or_non_ascii() const noexcept { return Found(_mm_cmplt_epi8(bytes, _mm_set1_epi8(0x20))); }
   Found is_zero_or_non_ascii() const noexcept { return Found(_mm_cmplt_epi8(bytes, _mm_set1_epi8(1))); }
+
+  Found is_control() const noexcept { return Found(_mm_cmpeq_epi8(_mm_min_epu8(bytes, _mm_set1_epi8(0x1F)), bytes)); }
 
 private:
   __m128i bytes;

@@ -9,7 +9,7 @@
 class axsDomComment final : public axsDomNode<axmCommentNode, axsLeaf>
 {
 public:
-  explicit axsDomComment(std::uint8_t units) noexcept : axsDomNode(axsKind::comment, units) {}
+  explicit axsDomComment(std::uint8_t units) noexcept : axmNode(axmInPlace()), axsDomNode(axsKind::comment, units) {}
 
   apString getData() const override { return getNodeValue(); }
 };

@@ -9,7 +9,7 @@
 class axsDomElement final : public axsDomNode<axmElement, axsElement>
 {
 public:
-  explicit axsDomElement(axsName const& name) noexcept : axsDomNode(name) {}
+  explicit axsDomElement(axsName const& name) noexcept : axmNode(axmInPlace()), axsDomNode(name) {}
 
   apString getNodeName() const override;
   std::shared_ptr<axmNode> getFirstChild() override;

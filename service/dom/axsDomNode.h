@@ -5,6 +5,8 @@
 #include <axmNamedNodeMap.h>
 #include <axmNodeList.h>
 
+#include <utility>
+
 /// The operations of axmNode over a record of the tree, the same for every kind of node but for those that only elements
 /// have another answer to: what is derived from this is such a record and implements `Interface`. It adds no data.
 template <class Interface, class Record>
@@ -51,5 +53,10 @@ public:
   apString get_xml() const override { return axsDomOperations::xml(*this); }
 
 protected:
-  using Record::Record;
+  template <class... Arguments>
+  explicit axsDomNode(Arguments&&... arguments) noexcept
+    : Interface(axmInPlace()),
+      Record(std::forward<Arguments>(arguments)...)
+  {
+  }
 };

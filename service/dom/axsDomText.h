@@ -9,7 +9,7 @@
 class axsDomText final : public axsDomNode<axmTextNode, axsLeaf>
 {
 public:
-  axsDomText(std::uint8_t units, axsKind kind) noexcept : axsDomNode(kind, units) {}
+  axsDomText(std::uint8_t units, axsKind kind) noexcept : axmNode(axmInPlace()), axsDomNode(kind, units) {}
 
   apString getNodeName() const override;
   std::shared_ptr<axmNode> getNextSibling() override;

@@ -15,13 +15,21 @@
 
 namespace
 {
+// Most texts that are more than white space begin or end with something else.
+bool is_space_only(std::string_view text)
+{
+  using utXmlCharacter::is_space;
+  return text.empty() || (is_space(text.front()) && is_space(text.back()) &&
+                           std::all_of(text.begin(), text.end(), [](char c) { return is_space(c); }));
+}
+
 bool is_dropped(std::string_view text)
 {
-  return text != " " && std::all_of(text.begin(), text.end(), [](char c) { return utXmlCharacter::is_space(c); });
+  return is_space_only(text) && text != " ";
 }
 }
 
-axsTreeBuilder::axsTreeBuilder(axsDomDocument& document) noexcept : built(document), open(&document) {}
+axsTreeBuilder::axsTreeBuilder(axsDomDocument& document) noexcept : built(document), tree(document), open(&document) {}
 
 void axsTreeBuilder::declaration(std::string_view version, std::string_view, std::string_view standalone)
 {
@@ -31,21 +39,24 @@ void axsTreeBuilder::declaration(std::string_view version, std::string_view, std
 
 axsName const& axsTreeBuilder::name(std::string_view text)
 {
-  return built.names().intern(text);
+  axsName const& name = built.names().intern(text);
+  if (text == "xml:space")
+    space_name = &name;
+  return name;
 }
 
 void axsTreeBuilder::start_element(axsStartTag const& tag)
 {
-  axsDomElement* const element = built.make_element(*tag.name);
+  auto* const element = tree.make_element<axsDomElement>(*tag.name);
   open->append_new(*element);
   open = element;
   axsAttribute* last = nullptr;
   for (axsTagAttribute const& attribute : *tag.attributes)
   {
-    axsDomAttribute* const made = built.make_attribute(*attribute.name, attribute.value);
-    element->append_new_attribute(*made, last);
+    auto* const made = tree.make_leaf<axsDomAttribute>(attribute.value, *attribute.name);
+    element->append_unseen_attribute(*made, last);
     last = made;
-    if (attribute.name->utf8() == "xml:space")
+    if (attribute.name == space_name)
       spaces.push_back({element, attribute.value == "preserve"});
   }
 }
@@ -61,7 +72,7 @@ void axsTreeBuilder::text(std::string_view text, bool is_cdata)
 {
   bool const is_preserved = !spaces.empty() && spaces.back().is_preserved;
   if ((is_preserved || !is_dropped(text)) && !open->is_document())
-    open->append_new(*built.make_text(text, is_cdata));
+    open->append_new(*tree.make_leaf<axsDomText>(text, is_cdata ? axsKind::cdata_section : axsKind::text));
 }
 
 void axsTreeBuilder::comment(std::string_view data)

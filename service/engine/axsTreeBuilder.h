@@ -6,7 +6,9 @@
 #include <vector>
 
 class axsDomDocument;
+class axsName;
 class axsParent;
+class axsTree;
 
 /// Builds the tree of a document from the events of a parser. The caller holds the document.
 ///
@@ -36,7 +38,11 @@ private:
   void declare(axsName const& element, axsDtd::Attribute const& attribute);
 
   axsDomDocument& built;
+  // The same: what makes nodes of it in place.
+  axsTree& tree;
   axsParent* open;
+  // That of the attribute xml:space; null as long as there is none.
+  axsName const* space_name = nullptr;
   // What the open elements say with xml:space, the innermost last.
   std::vector<Space> spaces;
 };

@@ -21,13 +21,13 @@ axsAttributeType axsAttributeList::type_of(axsReadName const& name) const
   return found == types.end() ? axsAttributeType::cdata : found->second;
 }
 
-std::uint64_t axsAttributeList::add_missing(std::vector<axsReadAttribute>& attributes, std::uint64_t element) const
+std::uint64_t axsAttributeList::add_missing(axsReadAttributes& attributes, std::uint64_t element) const
 {
   std::uint64_t added = 0;
   for (Default const& missing : defaults)
     if (missing.name->last_element != element)
     {
-      attributes.push_back({missing.name, missing.value, nullptr, missing.type});
+      attributes.add(*missing.name, missing.value, nullptr).type = missing.type;
       added += axsBounds::node_size + missing.value.size();
     }
   return added;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "axsReadName.h"
+#include "axsReadAttributes.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -24,7 +24,7 @@ public:
 
   /// Adds to `attributes`, those of the element of that number, the ones that it lacks and that have a default (3.3.2).
   /// The values live as long as the list. Returns how many bytes that adds.
-  std::uint64_t add_missing(std::vector<axsReadAttribute>& attributes, std::uint64_t element) const;
+  std::uint64_t add_missing(axsReadAttributes& attributes, std::uint64_t element) const;
 
 private:
   struct Default

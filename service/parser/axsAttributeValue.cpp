@@ -1,7 +1,6 @@
 #include "axsAttributeValue.h"
 
 #include "axsEntities.h"
-#include "axsInputStack.h"
 #include "axsMessages.h"
 #include "axsReference.h"
 
@@ -17,7 +16,7 @@ bool is_collapsed(std::string_view value)
 }
 }
 
-std::string_view axsAttributeValue::read_special(char const*& p, std::string_view name)
+std::string_view axsAttributeValue::read(char const*& p, std::string_view name)
 {
   char const quote = *p;
   if (quote != '"' && quote != '\'')
@@ -30,7 +29,7 @@ std::string_view axsAttributeValue::read_special(char const*& p, std::string_vie
   std::size_t const before = normal.size();
   while (true)
   {
-    p = end_of_value(p, quote);
+    p = in.end_of_value(p, quote);
     if (*p == quote && in.depth() == depth)
       break;
     if (*p == '<')

@@ -274,10 +274,8 @@ axsInputStack::Special axsInputStack::pass_special(char const*& p)
   return Special::characters;
 }
 
-void axsInputStack::check_controls(char const* from, char const* to) const
+void axsInputStack::look_for_controls(char const* from, char const* to) const
 {
-  if (!xml_1_1 || internal)
-    return;
   if (void const* const found = std::memchr(from, 0x7F, static_cast<std::size_t>(to - from)))
     fail(static_cast<char const*>(found) + 1, "invalid character 0x7F");
 }

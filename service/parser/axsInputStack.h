@@ -110,6 +110,21 @@ public:
     return p != before;
   }
 
+  /// The first byte at or after `p` that is one of `stops` or one for pass_special(): a control character other than tab
+  /// and line feed, or where characters begin of which some are not what they seem.
+  template <char... stops>
+  char const* end_of_text(char const* p) const
+  {
+    return xml_1_1 ? axsCharacters::end_of_text<apByteBlock, stops...>(p)
+                   : axsCharacters::end_of_utf8_text<apByteBlock, stops...>(p);
+  }
+
+  /// The same in a value in quotes, which ends at `quote`, '<' and '&', too.
+  char const* end_of_value(char const* p, char quote) const
+  {
+    return xml_1_1 ? axsCharacters::end_of_value(p, quote) : axsCharacters::end_of_utf8_value(p, quote);
+  }
+
   /// As many characters as there are at `p` that a scan for ASCII text stops at: beyond ASCII, control characters, line
   /// ends. Moves after them.
   enum class Special
@@ -120,7 +135,11 @@ public:
   Special pass_special(char const*& p);
 
   /// 2.2, in XML 1.1: a text that was passed in blocks may still have the one control character of ASCII beyond the first.
-  void check_controls(char const* from, char const* to) const;
+  void check_controls(char const* from, char const* to) const
+  {
+    if (xml_1_1 && !internal)
+      look_for_controls(from, to);
+  }
 
   /// From now on the rules of XML 1.1 hold, for the document and all its entities.
   void take_xml_1_1() noexcept;
@@ -169,6 +188,7 @@ private:
   void enter(Input&& input);
   void innermost();
   void skip_other_spaces(char const*& p) const;
+  void look_for_controls(char const* from, char const* to) const;
   Input const& file_input() const;
   std::uint64_t bytes_read() const;
 

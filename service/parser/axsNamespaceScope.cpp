@@ -1,8 +1,6 @@
 #include "axsNamespaceScope.h"
 
 #include "axsName.h"
-#include "axsNameCache.h"
-#include "axsPrefix.h"
 
 #include <algorithm>
 #include <functional>
@@ -21,52 +19,44 @@ std::string_view bound_to(axsPrefix const& prefix)
 }
 
 // Whether its prefix stands for a namespace that the document says.
-bool is_prefixed(axsReadAttribute const& attribute)
+bool is_prefixed(axsReadName const& name)
 {
-  return attribute.name->prefix != nullptr && attribute.name->declared == nullptr;
+  return name.prefix != nullptr && name.declared == nullptr;
 }
 }
 
-bool axsNamespaceScope::open(axsReadName const& name, Attributes const& attributes)
+bool axsNamespaceScope::open_with_prefixes(axsReadName const& name, axsReadAttributes& attributes)
 {
-  ++depth;
-  bool has_prefix = name.prefix != nullptr;
-  for (axsReadAttribute const& attribute : attributes)
-  {
-    has_prefix = has_prefix || attribute.name->prefix != nullptr;
-    if (attribute.name->declared != nullptr && !declare(attribute))
-      return false;
-  }
-  if (!has_prefix)
-    return true;
+  for (std::size_t i = 0; i < attributes.size(); ++i)
+    if (axsPrefix* const prefix = attributes.source(i).name->declared)
+      if (!declare(*prefix, attributes[i].value))
+        return false;
 
   if (!check_name(name, false))
     return false;
-  for (axsReadAttribute const& attribute : attributes)
-    if (!check_name(*attribute.name, true))
+  for (std::size_t i = 0; i < attributes.size(); ++i)
+  {
+    axsReadName const& of_attribute_name = *attributes.source(i).name;
+    if (!check_name(of_attribute_name, true))
       return false;
+    attributes[i].name_space = of_attribute(of_attribute_name);
+  }
   return check_repetition(attributes);
 }
 
-void axsNamespaceScope::close()
+void axsNamespaceScope::unbind()
 {
   while (!declared.empty() && declared.back().first == depth)
   {
     declared.back().second->bound.pop_back();
     declared.pop_back();
   }
-  --depth;
 }
 
 std::string_view axsNamespaceScope::namespace_of(std::string_view prefix) const
 {
   axsPrefix const* const known = names.find_prefix(prefix);
   return known == nullptr ? std::string_view() : bound_to(*known);
-}
-
-std::string_view axsNamespaceScope::of_element(axsReadName const& name) const
-{
-  return bound_to(name.prefix != nullptr ? *name.prefix : names.no_prefix());
 }
 
 std::string_view axsNamespaceScope::of_attribute(axsReadName const& name) const
@@ -76,10 +66,8 @@ std::string_view axsNamespaceScope::of_attribute(axsReadName const& name) const
   return name.prefix == nullptr ? std::string_view() : bound_to(*name.prefix);
 }
 
-bool axsNamespaceScope::declare(axsReadAttribute const& attribute)
+bool axsNamespaceScope::declare(axsPrefix& prefix, std::string_view value)
 {
-  axsPrefix& prefix = *attribute.name->declared;
-  std::string_view const value = attribute.value;
   if (prefix.text == "xmlns" || (prefix.text == "xml") != (value == xml_namespace) || value == xmlns_namespace)
     return fail("the prefix " + quoted(prefix.text) + " cannot be bound to the namespace " + quoted(value));
   if (!prefix.text.empty() && value.empty() && !may_undeclare)
@@ -102,18 +90,23 @@ bool axsNamespaceScope::check_name(axsReadName const& name, bool is_attribute)
 }
 
 // Two attributes of one element must not have the same name in the same namespace. With one prefix they have not.
-bool axsNamespaceScope::check_repetition(Attributes const& attributes)
+bool axsNamespaceScope::check_repetition(axsReadAttributes const& attributes)
 {
-  auto const first = std::find_if(attributes.begin(), attributes.end(), is_prefixed);
-  if (std::all_of(first, attributes.end(),
-        [&](axsReadAttribute const& attribute)
-        { return !is_prefixed(attribute) || attribute.name->prefix == first->name->prefix; }))
+  axsPrefix const* first = nullptr;
+  bool has_several = false;
+  for (std::size_t i = 0; i < attributes.size(); ++i)
+    if (axsReadName const& name = *attributes.source(i).name; is_prefixed(name))
+    {
+      has_several = has_several || (first != nullptr && name.prefix != first);
+      first = name.prefix;
+    }
+  if (!has_several)
     return true;
 
   std::vector<std::pair<char const*, std::string_view>> qualified;
-  for (axsReadAttribute const& attribute : attributes)
-    if (is_prefixed(attribute))
-      qualified.emplace_back(bound_to(*attribute.name->prefix).data(), attribute.name->name->local());
+  for (std::size_t i = 0; i < attributes.size(); ++i)
+    if (axsReadName const& name = *attributes.source(i).name; is_prefixed(name))
+      qualified.emplace_back(bound_to(*name.prefix).data(), name.name->local());
   auto const is_before = [](auto const& left, auto const& right)
   { return std::less<>()(left.first, right.first) || (left.first == right.first && left.second < right.second); };
   std::sort(qualified.begin(), qualified.end(), is_before);

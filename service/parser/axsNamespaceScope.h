@@ -1,6 +1,9 @@
 #pragma once
 
+#include "axsNameCache.h"
+#include "axsPrefix.h"
 #include "axsPrefixScope.h"
+#include "axsReadAttributes.h"
 #include "axsReadName.h"
 #include "axsTextHash.h"
 
@@ -10,8 +13,6 @@
 #include <unordered_set>
 #include <utility>
 #include <vector>
-
-class axsNameCache;
 
 /// Follows the namespace declarations of a document and finds what is wrong with them and with the names that need them
 /// (Namespaces in XML 1.0). The names are those of one axsNameCache, in whose prefixes the scope keeps what they are
@@ -25,30 +26,44 @@ public:
   /// Of the names in `all`, which must live longer.
   explicit axsNamespaceScope(axsNameCache const& all) : names(all) {}
 
-  using Attributes = std::vector<axsReadAttribute>;
-
   /// From now on a prefix may be bound to nothing (Namespaces in XML 1.1, 5).
   void allow_undeclaring() noexcept { may_undeclare = true; }
 
-  /// An element begins, of whose attributes no two have the same name. Whether nothing is wrong with it.
-  bool open(axsReadName const& name, Attributes const& attributes);
+  /// An element begins, of whose attributes no two have the same name. Whether nothing is wrong with it; then its
+  /// attributes have their namespaces.
+  bool open(axsReadName const& name, axsReadAttributes& attributes)
+  {
+    ++depth;
+    return (name.prefix == nullptr && !attributes.has_namespaces()) || open_with_prefixes(name, attributes);
+  }
 
   /// The element that began last ends.
-  void close();
+  void close()
+  {
+    if (!declared.empty())
+      unbind();
+    --depth;
+  }
 
   std::string_view namespace_of(std::string_view prefix) const override;
 
-  /// The namespaces of the names of an element that is open, and of an attribute of one; empty for none.
-  std::string_view of_element(axsReadName const& name) const;
-  std::string_view of_attribute(axsReadName const& name) const;
+  /// The namespace of the name of an element that is open; empty for none.
+  std::string_view of_element(axsReadName const& name) const
+  {
+    std::vector<std::string_view> const& bound = (name.prefix != nullptr ? *name.prefix : names.no_prefix()).bound;
+    return bound.empty() ? std::string_view() : bound.back();
+  }
 
   /// What is wrong with the element that did not open.
   std::string const& wrong() const noexcept { return error; }
 
 private:
-  bool declare(axsReadAttribute const& attribute);
+  bool open_with_prefixes(axsReadName const& name, axsReadAttributes& attributes);
+  void unbind();
+  bool declare(axsPrefix& prefix, std::string_view value);
   bool check_name(axsReadName const& name, bool is_attribute);
-  bool check_repetition(Attributes const& attributes);
+  bool check_repetition(axsReadAttributes const& attributes);
+  std::string_view of_attribute(axsReadName const& name) const;
   bool fail(std::string const& text);
 
   axsNameCache const& names;

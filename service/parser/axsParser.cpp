@@ -168,7 +168,7 @@ std::optional<std::uint64_t> axsParser::begin_position() const
 
 axsPlace axsParser::attribute(std::size_t index) const
 {
-  char const* const at = index < attributes.size() ? attributes[index].at : nullptr;
+  char const* const at = index < attributes.size() ? attributes.source(index).at : nullptr;
   return in.place(at == nullptr ? event_begin : at);
 }
 
@@ -250,21 +250,12 @@ void axsParser::start_tag()
   axsReadName const& name = *read;
   ++elements;
   attributes.clear();
-  made.clear();
-  values.clear();
-  while (*p != '>' && *p != '/')
-  {
-    if (!in.skip_spaces(p))
-      fail_start_tag(p, name);
-    if (*p != '>' && *p != '/')
-      read_attribute(p, name);
-  }
+  if (*p != '>')
+    read_attributes(p, name);
   bool const is_empty = *p == '/';
   if (is_empty && p[1] != '>')
     fail_start_tag(p, name);
   p += is_empty ? 2 : 1;
-  if (!made.empty())
-    place_made_values();
   if (in.is_internal())
     in.count_growth((1 + attributes.size()) * axsBounds::node_size, p);
   if (name.attributes != nullptr)
@@ -273,7 +264,7 @@ void axsParser::start_tag()
     in.fail(p, namespaces.wrong());
 
   told(p);
-  tell_start(name);
+  events.start_element({name.name, namespaces.of_element(name), &attributes.told(), &namespaces});
   open.push_back({&name, in.at, 0, in.depth()});
   state = State::content;
   if (is_empty)
@@ -293,6 +284,22 @@ axsReadName* axsParser::read_name(char const*& p)
   return &names.find(between(begin, p));
 }
 
+// Up to what ends the tag.
+void axsParser::read_attributes(char const*& p, axsReadName const& element)
+{
+  made.clear();
+  values.clear();
+  while (*p != '>' && *p != '/')
+  {
+    if (!in.skip_spaces(p))
+      fail_start_tag(p, element);
+    if (*p != '>' && *p != '/')
+      read_attribute(p, element);
+  }
+  if (!made.empty())
+    place_made_values();
+}
+
 void axsParser::fail_start_tag(char const* p, axsReadName const& name) const
 {
   bool const is_attribute = !attributes.empty() && end_of_name(p) != p;
@@ -310,7 +317,9 @@ void axsParser::read_attribute(char const*& p, axsReadName const& element)
     in.unexpected(p, "the start tag of " + axsMessages::quoted(element.name->utf8()) +
                        " is not ended: '>', '/>' or an attribute is expected");
   axsReadName& name = *read;
-  in.skip_spaces(p);
+  // Few have spaces around the sign.
+  if (*p != '=')
+    in.skip_spaces(p);
   if (!skip_character(p, '='))
     in.unexpected(p, axsMessages::attribute_equals);
   // WFC: Unique Att Spec
@@ -318,23 +327,31 @@ void axsParser::read_attribute(char const*& p, axsReadName const& element)
     in.fail(p, "attribute " + axsMessages::quoted(name.name->utf8()) + " is already specified for element " +
                  axsMessages::quoted(element.name->utf8()));
   name.last_element = elements;
-  in.skip_spaces(p);
-  std::string_view value = values.read(p, name.text);
+  if (*p != '"')
+    in.skip_spaces(p);
+  std::string_view value;
+  bool is_made = false;
+  if (!values.read_plain(p, value))
+  {
+    value = values.read(p, name.text);
+    is_made = values.is_made(value);
+  }
   axsAttributeType type = axsAttributeType::cdata;
   if (element.attributes != nullptr)
   {
     type = element.attributes->type_of(name);
-    if (type != axsAttributeType::cdata)
-      value = values.collapsed(value);
+    value = typed(value, type);
+    is_made = values.is_made(value);
   }
-  if (values.is_made(value))
+  if (is_made)
     made.emplace_back(attributes.size(), static_cast<std::size_t>(value.data() - values.made().data()));
-  // Put together in its place: what is written in parts and read as a whole at once keeps the processor waiting.
-  axsReadAttribute& attribute = attributes.emplace_back();
-  attribute.name = &name;
-  attribute.value = value;
-  attribute.at = begin;
-  attribute.type = type;
+  attributes.add(name, value, begin).type = type;
+}
+
+// 3.3.3
+std::string_view axsParser::typed(std::string_view value, axsAttributeType type)
+{
+  return type == axsAttributeType::cdata ? value : values.collapsed(value);
 }
 
 // What was made has moved while more of it was.
@@ -345,22 +362,6 @@ void axsParser::place_made_values()
     std::string_view& value = attributes[index].value;
     value = std::string_view(values.made()).substr(begin, value.size());
   }
-}
-
-void axsParser::tell_start(axsReadName const& name)
-{
-  tag_attributes.clear();
-  for (axsReadAttribute const& attribute : attributes)
-  {
-    axsTagAttribute& told = tag_attributes.emplace_back();
-    told.name = attribute.name->name;
-    told.name_space = namespaces.of_attribute(*attribute.name);
-    told.value = attribute.value;
-    told.type = attribute.type;
-    told.is_specified = attribute.at != nullptr;
-    told.is_declaration = attribute.name->declared != nullptr;
-  }
-  events.start_element({name.name, namespaces.of_element(name), &tag_attributes, &namespaces});
 }
 
 // [42] ETag
@@ -459,7 +460,7 @@ void axsParser::text()
   auto const take = [&] { normal.append(from, static_cast<std::size_t>(p - from)); };
   while (true)
   {
-    p = end_of_text<apByteBlock, '<', '&', ']', '\r'>(p);
+    p = in.end_of_text<'<', '&', ']', '\r'>(p);
     if (*p == '<')
       return end_text(from, p);
     if (*p == ']')

@@ -7,7 +7,7 @@
 #include "axsLocator.h"
 #include "axsNameCache.h"
 #include "axsNamespaceScope.h"
-#include "axsStartTag.h"
+#include "axsReadAttributes.h"
 
 #include <axmLoadOptions.h>
 
@@ -108,9 +108,10 @@ private:
   void content();
   void start_tag();
   axsReadName* read_name(char const*& p);
+  void read_attributes(char const*& p, axsReadName const& element);
   void read_attribute(char const*& p, axsReadName const& element);
+  std::string_view typed(std::string_view value, axsAttributeType type);
   void place_made_values();
-  void tell_start(axsReadName const& name);
   void end_tag();
   void end_element();
   [[noreturn]] void fail_start_tag(char const* p, axsReadName const& name) const;
@@ -136,10 +137,9 @@ private:
   std::unique_ptr<axsDtdParser> dtd;
   State state = State::begin;
   std::vector<OpenElement> open;
-  std::vector<axsReadAttribute> attributes;
+  axsReadAttributes attributes;
   // The attributes whose values were made, and where those begin among what was made.
   std::vector<std::pair<std::size_t, std::size_t>> made;
-  std::vector<axsTagAttribute> tag_attributes;
   // What does not stand in the input as it is: of a text that entities part, what came before.
   std::string normal;
   std::size_t kept = 0;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "axsAttributeType.h"
 #include "axsCharacters.h"
 
 #include <apBits.h>
@@ -62,16 +61,4 @@ private:
   // The first bytes of the name, and which bits of a word they are.
   std::uint64_t words[2] = {};
   std::uint64_t masks[2] = {};
-};
-
-/// An attribute of the element that is being read.
-struct axsReadAttribute
-{
-  axsReadName const* name = nullptr;
-  std::string_view value;
-
-  /// Where its name stands; null of a default.
-  char const* at = nullptr;
-
-  axsAttributeType type = axsAttributeType::cdata;
 };

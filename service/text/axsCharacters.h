@@ -137,6 +137,25 @@ char const* end_of_text(char const* at)
   }
 }
 
+/// With this byte begins what is well-formed UTF-8 but may be no character of XML (2.2, [2] Char): U+FFFE and U+FFFF.
+inline constexpr char lead_of_last_characters = '\xEF';
+
+/// The same in well-formed UTF-8, and beyond ASCII only those that begin with `lead_of_last_characters`.
+template <class Block, char... stops>
+char const* end_of_utf8_text(char const* at)
+{
+  while (true)
+  {
+    Block const block(at);
+    auto const no_text =
+      block.is_control().without(block.is('\t') | block.is('\n')) | block.is(lead_of_last_characters);
+    auto const found = (no_text | ... | block.is(stops));
+    if (found.any())
+      return at + found.first();
+    at += Block::size;
+  }
+}
+
 /// The first byte at or after `at` that is `quote`, '<', '&', not ASCII or a control character.
 template <class Block = apByteBlock>
 char const* end_of_value(char const* at, char quote)
@@ -145,6 +164,21 @@ char const* end_of_value(char const* at, char quote)
   {
     Block const block(at);
     auto const found = block.is_control_or_non_ascii() | block.is(quote) | block.is('<') | block.is('&');
+    if (found.any())
+      return at + found.first();
+    at += Block::size;
+  }
+}
+
+/// The same in well-formed UTF-8, and beyond ASCII only those that begin with `lead_of_last_characters`.
+template <class Block = apByteBlock>
+char const* end_of_utf8_value(char const* at, char quote)
+{
+  while (true)
+  {
+    Block const block(at);
+    auto const found =
+      block.is_control() | block.is(lead_of_last_characters) | block.is(quote) | block.is('<') | block.is('&');
     if (found.any())
       return at + found.first();
     at += Block::size;

@@ -1,24 +1,6 @@
 #include "axsHashKey.h"
 
-#include <chrono>
-#include <exception>
-#include <random>
-
-namespace
-{
-std::uint64_t draw() noexcept
-{
-  try
-  {
-    std::random_device device;
-    return static_cast<std::uint64_t>(device()) << 32 | device();
-  }
-  catch (std::exception const&)
-  {
-    return static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
-  }
-}
-}
+#include <apEntropy.h>
 
 axsHashKey::axsHashKey(std::uint64_t seed_0, std::uint64_t seed_1) noexcept : long_texts(seed_0, seed_1)
 {
@@ -34,6 +16,6 @@ axsHashKey::axsHashKey(std::uint64_t seed_0, std::uint64_t seed_1) noexcept : lo
 
 axsHashKey const& axsHashKey::of_process() noexcept
 {
-  static axsHashKey const key(draw(), draw());
+  static axsHashKey const key(apEntropy::draw(), apEntropy::draw());
   return key;
 }

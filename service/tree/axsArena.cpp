@@ -10,8 +10,11 @@ namespace
 {
 std::size_t const max_pages = 256;
 
-// Of the system. Where pages come in as much at a time, the system gives them at once if they stand at such a place.
-std::size_t const large_page = 2u << 20;
+// The system gives so much at once, which takes half the time of page by page, and is hardly more than is needed.
+std::size_t const filled_at_once = 128 * 1024;
+
+// A document that has taken as much takes large pages, the last of which may be empty for the greater part.
+std::size_t const large_arena = 16u << 20;
 
 std::size_t rounded(std::size_t size, std::size_t unit)
 {
@@ -28,11 +31,6 @@ struct alignas(std::max_align_t) axsArena::LargeBlock
   std::size_t size;
 };
 
-std::align_val_t axsArena::alignment_of(std::size_t size) noexcept
-{
-  return std::align_val_t(size > large_page ? large_page : page_size);
-}
-
 axsArena::axsArena(axsTree& owner) noexcept : tree(&owner) {}
 
 axsArena::~axsArena()
@@ -41,8 +39,9 @@ axsArena::~axsArena()
   {
     Page* const page = newest;
     newest = page->older;
-    axsPoison::remove(page, page->pages * page_size);
-    ::operator delete(page, alignment_of(page->pages * page_size));
+    std::size_t const size = page->pages * page_size;
+    axsPoison::remove(page, size);
+    axsPageStore::give_back(reinterpret_cast<char*>(page), size);
   }
   while (large != nullptr)
     std::free(std::exchange(large, large->next));
@@ -132,7 +131,7 @@ void axsArena::give_empty_pages_back() noexcept
     std::size_t const size = chunk->pages * page_size;
     taken -= size;
     axsPoison::remove(chunk, size);
-    ::operator delete(chunk, alignment_of(size));
+    axsPageStore::give_back(reinterpret_cast<char*>(chunk), size);
   }
 }
 
@@ -162,15 +161,23 @@ void axsArena::release_large(void* block) noexcept
 void axsArena::add_pages()
 {
   std::size_t const size = next_pages * page_size;
-  auto* const memory = static_cast<char*>(::operator new(size, alignment_of(size)));
-  if (size > large_page)
-    apMemory::will_fill(memory, size);
-  newest = new (memory) Page{tree, nullptr, newest, next_pages, 0, nullptr};
-  newest->chunk = newest;
+  auto const [memory, is_fresh] = axsPageStore::take(size);
   untouched = memory;
   untouched_end = memory + size;
+  filled_end = is_fresh ? untouched : untouched_end;
+  if (is_fresh)
+    fill_ahead(taken < large_arena ? filled_at_once : size);
+  newest = new (memory) Page{tree, nullptr, newest, next_pages, 0, nullptr};
+  newest->chunk = newest;
   taken += size;
   next_pages = std::min(next_pages * 2, max_pages);
+}
+
+void axsArena::fill_ahead(std::size_t size) noexcept
+{
+  std::size_t const filled = std::min(size, static_cast<std::size_t>(untouched_end - untouched));
+  apMemory::will_fill(untouched, filled);
+  filled_end = untouched + filled;
 }
 
 // What is left of the page before is for smaller blocks.
@@ -194,6 +201,8 @@ char* axsArena::fresh_page() noexcept
     --page->chunk->empty;
     return reinterpret_cast<char*>(page);
   }
+  if (untouched == filled_end)
+    fill_ahead(filled_at_once);
   char* const page = std::exchange(untouched, untouched + page_size);
   if (page != reinterpret_cast<char*>(newest))
     new (page) Page{tree, newest, nullptr, 0, 0, nullptr};

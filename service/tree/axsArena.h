@@ -1,6 +1,7 @@
 #pragma once
 
 #include "axsFreeBlocks.h"
+#include "axsPageStore.h"
 #include "axsPoison.h"
 
 #include <cstddef>
@@ -84,18 +85,18 @@ private:
   static constexpr std::size_t min_joined = 64 * 1024;
 
   // Pages lie at multiples of their size, so that a node finds its document without a pointer of its own.
-  static constexpr std::size_t page_size = 16 * 1024;
+  static constexpr std::size_t page_size = axsPageStore::unit;
 
   static std::size_t units_for(std::size_t size) noexcept
   {
     std::size_t const min_size = axsFreeBlocks::min_units * granule;
     return (size < min_size ? min_size : size + granule - 1) / granule;
   }
-  static std::align_val_t alignment_of(std::size_t size) noexcept;
   void* allocate_elsewhere(std::size_t size);
   void* allocate_large(std::size_t size);
   void release_large(void* block) noexcept;
   void add_pages();
+  void fill_ahead(std::size_t size) noexcept;
   void next_page() noexcept;
   char* fresh_page() noexcept;
   void add_room(Room room_left) noexcept;
@@ -111,6 +112,8 @@ private:
   Room rest;
   char* untouched = nullptr;
   char* untouched_end = nullptr;
+  // The system has handed out what is untouched up to here.
+  char* filled_end = nullptr;
   Page* newest = nullptr;
   Page* empty_pages = nullptr;
   LargeBlock* large = nullptr;

@@ -9,12 +9,6 @@ namespace
 int const max_walk = 256;
 }
 
-axsElement::axsElement(axsName const& name) noexcept : axsParent(axsKind::element, name.number())
-{
-  if (name.number() == axsName::no_number)
-    new (this + 1) axsName const*(&name);
-}
-
 axsName const& axsElement::element_name() const noexcept
 {
   if (name_number() == axsName::no_number)

@@ -4,6 +4,7 @@
 #include "axsName.h"
 #include "axsParent.h"
 
+#include <new>
 #include <string_view>
 
 class axsAttributeIndex;
@@ -44,6 +45,16 @@ public:
   /// is none, null.
   void append_new_attribute(axsAttribute& attribute, axsAttribute* last) noexcept;
 
+  /// The same of an element that nobody has asked for its attributes, as while a document is read: nobody is told.
+  void append_unseen_attribute(axsAttribute& attribute, axsAttribute* last) noexcept
+  {
+    set_parent(attribute, this);
+    if (last == nullptr)
+      attributes = &attribute;
+    else
+      set_next(*last, &attribute);
+  }
+
   /// Puts a detached attribute that a caller holds, as it does this element, in the place of `replaced`, which a caller
   /// holds as well; after the others if that is null.
   void put_attribute(axsAttribute& attribute, axsAttribute* replaced) noexcept;
@@ -53,7 +64,11 @@ public:
 
 protected:
   /// Takes size_for(name) bytes.
-  explicit axsElement(axsName const& name) noexcept;
+  explicit axsElement(axsName const& name) noexcept : axsParent(axsKind::element, name.number())
+  {
+    if (name.number() == axsName::no_number)
+      new (this + 1) axsName const*(&name);
+  }
   ~axsElement() = default;
 
 private:

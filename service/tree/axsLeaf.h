@@ -28,11 +28,9 @@ public:
   /// Throws std::bad_alloc, with the text as it was, when memory runs out or the text is too long for an apString.
   void set_text(std::string_view text);
 
-  /// The same for a node that has had no text yet, in less time.
-  void set_first_text(std::string_view text)
+  /// The same for a node that has had no text yet, and has room for it, in less time.
+  void set_first_text(std::string_view text) noexcept
   {
-    if (text.size() > room_units * unit)
-      return set_text(text);
     copy(text, room());
     text_length = static_cast<std::uint16_t>(text.size());
   }
@@ -60,12 +58,19 @@ private:
 
   static constexpr std::uint16_t length_of_external = 0xFFFF;
 
-  // Most texts are short: two words that overlap, rather than a call.
+  struct TwoWords
+  {
+    std::uint64_t words[2];
+  };
+
+  // Most texts are short: two pieces that overlap, rather than a call.
   static void copy(std::string_view text, char* to) noexcept
   {
     std::size_t const size = text.size();
-    if (size > 16)
+    if (size > 2 * sizeof(TwoWords))
       std::memcpy(to, text.data(), size);
+    else if (size > sizeof(TwoWords))
+      copy_ends<TwoWords>(text, to);
     else if (size >= 8)
       copy_ends<std::uint64_t>(text, to);
     else if (size >= 4)

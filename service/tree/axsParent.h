@@ -7,7 +7,16 @@ class axsParent : public axsNode
 {
 public:
   /// Links a detached node that nobody holds as the last child. The caller knows that it may stand there.
-  void append_new(axsNode& child) noexcept { link(child, nullptr); }
+  void append_new(axsNode& child) noexcept
+  {
+    if (first == nullptr || watched)
+      return link(child, nullptr);
+    axsNode* const last = previous_of(*first);
+    set_parent(child, this);
+    set_previous(child, last);
+    set_next(*last, &child);
+    set_previous(*first, &child);
+  }
 
   /// Makes `child`, a node of this tree that a caller holds as it does this one, a child before `before`, as the last one
   /// if that is null; it is taken out of where it was. The caller knows that it may stand there.

@@ -109,6 +109,9 @@ private:
   void attribute_linked(axsElement& element, axsAttribute& attribute, axsAttribute* previous) noexcept;
   void drop_attribute_index(axsElement& element) noexcept;
 
+  template <class Leaf, class... Arguments>
+  [[gnu::noinline]] Leaf* make_large_leaf(std::string_view text, Arguments&&... arguments);
+
   void free_node(axsNode& node) noexcept;
   void free_leaf(axsLeaf& leaf) noexcept;
 
@@ -139,14 +142,24 @@ template <class Leaf, class... Arguments>
 Leaf* axsTree::make_leaf(std::string_view text, Arguments&&... arguments)
 {
   static_assert(sizeof(Leaf) == lead + sizeof(axsLeaf));
-  bool const is_within = sizeof(Leaf) + text.size() <= axsArena::small_limit;
-  std::size_t const units = is_within ? axsLeaf::units_for(text.size()) : 1;
-  std::size_t const size = sizeof(Leaf) + units * axsLeaf::unit;
-  void* const block = memory.allocate(size);
+  if (sizeof(Leaf) + text.size() > axsArena::small_limit)
+    return make_large_leaf<Leaf>(text, std::forward<Arguments>(arguments)...);
+  std::size_t const units = axsLeaf::units_for(text.size());
+  void* const block = memory.allocate(sizeof(Leaf) + units * axsLeaf::unit);
   auto* const leaf = new (block) Leaf(static_cast<std::uint8_t>(units), std::forward<Arguments>(arguments)...);
+  static_cast<axsLeaf*>(leaf)->set_first_text(text);
+  return leaf;
+}
+
+template <class Leaf, class... Arguments>
+Leaf* axsTree::make_large_leaf(std::string_view text, Arguments&&... arguments)
+{
+  std::size_t const size = sizeof(Leaf) + axsLeaf::unit;
+  void* const block = memory.allocate(size);
+  auto* const leaf = new (block) Leaf(std::uint8_t{1}, std::forward<Arguments>(arguments)...);
   try
   {
-    static_cast<axsLeaf*>(leaf)->set_first_text(text);
+    static_cast<axsLeaf*>(leaf)->set_text(text);
   }
   catch (...)
   {

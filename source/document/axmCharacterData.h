@@ -12,4 +12,8 @@ public:
 
   /// The characters of the node, exactly as created.
   virtual apString getData() const = 0;
+
+protected:
+  /// See axmInPlace.
+  explicit axmCharacterData(axmInPlace) noexcept {}
 };

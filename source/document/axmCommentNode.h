@@ -9,4 +9,8 @@ class AXM_API axmCommentNode : public axmCharacterData
 public:
   axmCommentNode();
   ~axmCommentNode() override;
+
+protected:
+  /// See axmInPlace.
+  explicit axmCommentNode(axmInPlace in_place) noexcept : axmCharacterData(in_place) {}
 };

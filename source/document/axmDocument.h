@@ -40,4 +40,8 @@ public:
 
   /// Reserved: keeps its place in the order; never called.
   virtual void reserved_document_7() = 0;
+
+protected:
+  /// See axmInPlace.
+  explicit axmDocument(axmInPlace) noexcept {}
 };

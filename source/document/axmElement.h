@@ -36,4 +36,8 @@ public:
   virtual void reserved_element_9() = 0;
   virtual void reserved_element_10() = 0;
   virtual void reserved_element_11() = 0;
+
+protected:
+  /// See axmInPlace.
+  explicit axmElement(axmInPlace) noexcept {}
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "axmExport.h"
+#include "axmInPlace.h"
 #include "axmOverloads.h"
 
 #include <apString.h>
@@ -153,6 +154,9 @@ public:
   }
 
 protected:
+  /// See axmInPlace.
+  explicit axmNode(axmInPlace) noexcept {}
+
   /// Reads a number from the whole of `text`, in the form of the current C locale. False, with `value` as it was, when
   /// any of it is not part of the number.
   bool parse_value_locale(apString const& text, double& value) const;

@@ -13,4 +13,8 @@ public:
   /// Reserved: keep their places in the order; never called.
   virtual void reserved_processing_instruction_33() = 0;
   virtual void reserved_processing_instruction_34() = 0;
+
+protected:
+  /// See axmInPlace.
+  explicit axmProcessingInstruction(axmInPlace in_place) noexcept : axmNode(in_place) {}
 };

@@ -9,4 +9,8 @@ class AXM_API axmTextNode : public axmCharacterData
 public:
   axmTextNode();
   ~axmTextNode() override;
+
+protected:
+  /// See axmInPlace.
+  explicit axmTextNode(axmInPlace in_place) noexcept : axmCharacterData(in_place) {}
 };

@@ -63,6 +63,12 @@ TYPED_TEST(apByteBlock_, finds_controls_and_what_is_no_ascii)
     [](TypeParam const& block) { return block.is_control_or_non_ascii(); }, is_control_or_non_ascii);
 }
 
+TYPED_TEST(apByteBlock_, finds_controls)
+{
+  expect_everywhere<TypeParam>([](TypeParam const& block) { return block.is_control(); },
+    [](char c) { return static_cast<unsigned char>(c) < 0x20; });
+}
+
 TYPED_TEST(apByteBlock_, finds_zeros_and_what_is_no_ascii)
 {
   expect_everywhere<TypeParam>([](TypeParam const& block) { return block.is_zero_or_non_ascii(); },

@@ -11,9 +11,15 @@ namespace
 {
 std::size_t const usual_room = 65536;
 
+// What may be read after the last byte.
+std::size_t const bytes_after = 1 + apByteBlock::size;
+
+// They are not all set: a short document leaves most of them alone.
 std::unique_ptr<char[]> make_bytes(std::size_t room)
 {
-  return std::make_unique<char[]>(axsLineEnds::bytes_before + room + 1 + apByteBlock::size);
+  std::unique_ptr<char[]> bytes(new char[axsLineEnds::bytes_before + room + bytes_after]);
+  std::memset(bytes.get(), 0, axsLineEnds::bytes_before);
+  return bytes;
 }
 }
 
@@ -85,5 +91,5 @@ void axsInputBuffer::fill()
     filled += count;
     last = count == 0 && source.fault().empty();
   }
-  to[filled] = '\0';
+  std::memset(to + filled, 0, bytes_after);
 }

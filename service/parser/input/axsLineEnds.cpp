@@ -1,6 +1,7 @@
 #include "axsLineEnds.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace
 {
@@ -19,6 +20,11 @@ unsigned char is_line_end(char const* at)
   bool const is_nel = (at[0] == '\x85') & (at[-1] == '\xC2') & (at[-2] != '\r');
   bool const is_ls = (at[0] == '\xA8') & (at[-1] == '\x80') & (at[-2] == '\xE2');
   return is_return | is_feed | is_nel | is_ls;
+}
+
+unsigned char is_feed(char const* at)
+{
+  return *at == '\n';
 }
 
 // What is left of a pair counts where a line begins, but is no line of its own.
@@ -55,6 +61,15 @@ std::size_t sum(char const* from, char const* to)
   return total;
 }
 
+// How many lines end; most documents have line feeds only.
+template <Rule rule>
+std::size_t line_ends(char const* from, char const* to)
+{
+  auto const size = static_cast<std::size_t>(to - from);
+  bool const is_simple = rule == Rule::xml_1_0 && from[-1] != '\r' && std::memchr(from, '\r', size) == nullptr;
+  return is_simple ? sum<is_feed>(from, to) : sum<is_line_end<rule>>(from, to);
+}
+
 template <Rule rule>
 char const* begin_of_line(char const* begin, char const* at)
 {
@@ -76,7 +91,7 @@ char const* end_of_half(char const* from, char const* to)
 template <Rule rule>
 axsPlace after(axsPlace start, char const* from, char const* to)
 {
-  std::size_t const lines = sum<is_line_end<rule>>(from, to);
+  std::size_t const lines = line_ends<rule>(from, to);
   char const* const line = lines == 0 ? end_of_half<rule>(from, to) : begin_of_line<rule>(from, to);
   return {start.line + lines, (line == from ? start.column : 1) + sum<units_of_utf16>(line, to)};
 }
@@ -84,7 +99,7 @@ axsPlace after(axsPlace start, char const* from, char const* to)
 template <Rule rule>
 axsPlace before(axsPlace start, char const* begin, axsPlace place, char const* from, char const* to)
 {
-  std::size_t const lines = sum<is_line_end<rule>>(to, from);
+  std::size_t const lines = line_ends<rule>(to, from);
   if (lines == 0 && end_of_half<rule>(to, from) == to)
     return {place.line, place.column - sum<units_of_utf16>(to, from)};
   char const* const line = begin_of_line<rule>(begin, to);

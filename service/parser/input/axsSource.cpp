@@ -9,7 +9,8 @@
 
 namespace
 {
-std::size_t const head_size = 64 * 1024;
+// More than any declaration takes.
+std::size_t const head_size = 8 * 1024;
 
 // What users meet most often.
 wchar_t const* reason(int error)
@@ -30,15 +31,35 @@ wchar_t const* reason(int error)
   throw axsReadError{apString(what) + apString(path.path()) + apString(reason(error)), apString(path.path())};
 }
 
-// How many bytes follow in the file, which may still change; 0 where that cannot be told, as in a pipe.
-std::size_t rest_of(std::FILE* stream)
+// Where the next byte comes from, and going to another one, in files of any size; below 0 and false where there are no
+// places, as in a pipe.
+std::int64_t place_in(std::FILE* stream)
 {
-  long const here = std::ftell(stream);
-  if (here < 0 || std::fseek(stream, 0, SEEK_END) != 0)
+#if defined(_WIN32)
+  return _ftelli64(stream);
+#else
+  return ftello(stream);
+#endif
+}
+
+bool move(std::FILE* stream, std::int64_t to, int from)
+{
+#if defined(_WIN32)
+  return _fseeki64(stream, to, from) == 0;
+#else
+  return fseeko(stream, static_cast<off_t>(to), from) == 0;
+#endif
+}
+
+// How many bytes the file has, which may still change; 0 where that cannot be told.
+std::uint64_t size_of(std::FILE* stream)
+{
+  std::int64_t const here = place_in(stream);
+  if (here < 0 || !move(stream, 0, SEEK_END))
     return 0;
-  long const end = std::ftell(stream);
-  bool const is_back = std::fseek(stream, here, SEEK_SET) == 0;
-  return is_back && end > here ? static_cast<std::size_t>(end - here) : 0;
+  std::int64_t const end = place_in(stream);
+  bool const is_back = move(stream, here, SEEK_SET);
+  return is_back && end > 0 ? static_cast<std::uint64_t>(end) : 0;
 }
 }
 
@@ -60,20 +81,21 @@ axsSource::axsSource(apPath const& file) : path(file)
   {
     // Pieces are large enough as they come.
     std::setvbuf(stream, nullptr, _IONBF, 0);
-    kept.resize(head_size);
-    kept.resize(read_file(kept.data(), kept.size()));
+    read_head();
   }
   catch (...)
   {
     close();
     throw;
   }
-  present = {kept.data(), kept.size()};
-  if (kept.size() < head_size)
-    close();
 }
 
 axsSource::axsSource(axsByteStream& given, apPath const& name) : path(name), bytes(&given)
+{
+  read_head();
+}
+
+void axsSource::read_head()
 {
   kept.resize(head_size);
   kept.resize(read_file(kept.data(), kept.size()));
@@ -95,53 +117,9 @@ void axsSource::close() noexcept
   bytes = nullptr;
 }
 
-std::string_view axsSource::whole()
-{
-  while (is_open())
-  {
-    std::size_t const before = kept.size();
-    // One more than there should be shows the end.
-    std::size_t const rest = stream == nullptr ? 0 : rest_of(stream);
-    std::size_t const room = rest == 0 ? before : rest + 1;
-    kept.resize(before + room);
-    std::size_t const more = read_file(kept.data() + before, room);
-    kept.resize(before + more);
-    if (more < room)
-      close();
-  }
-  if (!kept.empty())
-    present = {kept.data(), kept.size()};
-  return present;
-}
-
 std::uint64_t axsSource::size() const
 {
-  return is_whole() ? present.size() : stream == nullptr ? 0 : kept.size() + rest_of(stream);
-}
-
-std::size_t axsSource::read(char* to, std::size_t size)
-{
-  std::size_t const count = read_next(to, size);
-  zero_seen = zero_seen || (count > 0 && std::memchr(to, '\0', count) != nullptr);
-  return count;
-}
-
-void axsSource::rewind() noexcept
-{
-  if (stream != nullptr)
-    static_cast<void>(std::fseek(stream, static_cast<long>(kept.size()), SEEK_SET));
-  position = 0;
-}
-
-bool axsSource::can_rewind() const noexcept
-{
-  return stream == nullptr || std::fseek(stream, 0, SEEK_CUR) == 0;
-}
-
-bool axsSource::has_stray_zero() const noexcept
-{
-  // Every document begins with a '<' or a byte-order mark, in which such an encoding shows.
-  return zero_seen && present.substr(0, 4).find('\0') == std::string_view::npos;
+  return !is_open() ? present.size() : stream == nullptr ? 0 : size_of(stream);
 }
 
 void axsSource::keep_what_is_read()
@@ -162,16 +140,10 @@ void axsSource::seek(std::uint64_t to)
 // False where there are no places to go to, as in a pipe.
 bool axsSource::move_to(std::uint64_t to)
 {
-  if (bytes != nullptr)
-    return bytes->seek(to);
-#if defined(_WIN32)
-  return _fseeki64(stream, static_cast<std::int64_t>(to), SEEK_SET) == 0;
-#else
-  return fseeko(stream, static_cast<off_t>(to), SEEK_SET) == 0;
-#endif
+  return bytes != nullptr ? bytes->seek(to) : move(stream, static_cast<std::int64_t>(to), SEEK_SET);
 }
 
-std::size_t axsSource::read_next(char* to, std::size_t size)
+std::size_t axsSource::read(char* to, std::size_t size)
 {
   if (position < present.size())
   {

@@ -37,17 +37,11 @@ public:
 
   apPath const& file() const noexcept { return path; }
 
-  /// The beginning: all of it, if it is small or whole() has been called.
+  /// The beginning: all of it, if it is small or in memory.
   std::string_view head() const noexcept { return present; }
-
-  /// Whether head() is everything.
-  bool is_whole() const noexcept { return !is_open(); }
 
   /// How many bytes there are; 0 where that cannot be told, as of a pipe.
   std::uint64_t size() const;
-
-  /// All bytes, in memory from now on.
-  std::string_view whole();
 
   /// Reads on from where the last read() ended, at first from the start. 0 at the end.
   std::size_t read(char* to, std::size_t size);
@@ -65,18 +59,8 @@ public:
 
   static constexpr std::size_t max_kept = std::size_t{32} * 1024 * 1024;
 
-  /// Whether a zero byte was read where the document is in no encoding that has them (XML 1.0, appendix F.1). A parser may
-  /// take it for the end.
-  bool has_stray_zero() const noexcept;
-
-  /// The next read() is at the start again. Only when can_rewind().
-  void rewind() noexcept;
-
-  /// Whether what has been read can be read again: all is in memory, or the file is no pipe.
-  bool can_rewind() const noexcept;
-
 private:
-  std::size_t read_next(char* to, std::size_t size);
+  void read_head();
   std::size_t read_file(char* to, std::size_t size);
   std::size_t read_stream(char* to, std::size_t size);
   bool move_to(std::uint64_t position);
@@ -94,5 +78,4 @@ private:
   std::string recent;
   std::uint64_t before_recent = 0;
   bool keeps = false;
-  bool zero_seen = false;
 };

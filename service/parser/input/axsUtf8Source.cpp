@@ -31,6 +31,27 @@ char const* end_of_ascii(char const* at, char const* end)
   return std::find_if_not(at, end, [](char c) { return c != '\0' && utUtf8::is_ascii(c); });
 }
 
+// Moves past characters of two and three bytes, which are nearly all beyond ASCII. Stops at the latest where a character
+// might not be whole before `end`.
+char const* end_of_usual(char const* at, char const* end)
+{
+  using utUtf8::is_continuation;
+  while (end - at >= 3)
+  {
+    auto const first = static_cast<unsigned char>(at[0]);
+    auto const second = static_cast<unsigned char>(at[1]);
+    if (first >= 0xC2 && first < 0xE0 && is_continuation(at[1]))
+      at += 2;
+    // Second bytes below have a shorter form; those above make a surrogate.
+    else if (first >= 0xE0 && first < 0xF0 && is_continuation(at[1]) && is_continuation(at[2]) &&
+             (first != 0xE0 || second >= 0xA0) && (first != 0xED || second < 0xA0))
+      at += 3;
+    else
+      break;
+  }
+  return at;
+}
+
 // How many bytes at the beginning are whole characters, and no zero bytes.
 std::size_t size_of_text(std::string_view bytes, bool is_ascii)
 {
@@ -39,12 +60,18 @@ std::size_t size_of_text(std::string_view bytes, bool is_ascii)
   char const* at = end_of_ascii(begin, end);
   while (at != end && *at != '\0' && !is_ascii)
   {
+    at = end_of_usual(at, end);
+    if (at == end)
+      break;
+    if (utUtf8::is_ascii(*at))
+    {
+      at = end_of_ascii(at, end);
+      continue;
+    }
     utCodePoint const character = utUtf8::decode(at, end);
     if (!character.is_valid())
       break;
     at += character.length;
-    if (at != end && utUtf8::is_ascii(*at))
-      at = end_of_ascii(at, end);
   }
   return static_cast<std::size_t>(at - begin);
 }

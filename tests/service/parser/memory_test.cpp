@@ -24,7 +24,7 @@ TEST(reading_memory, the_parser_fails_cleanly)
   int const allocations = fails_cleanly(
     [&]
     {
-      source.rewind();
+      source.seek(0);
       if (axsLoader::load(source, axmLoadOptions(axmValidateNone), uri) == nullptr)
         ADD_FAILURE();
     });

@@ -25,7 +25,7 @@ catch (axsReadError const& error)
 TEST(axsLocalFile, is_opened_to_be_read)
 {
   TestFile const file("local_file.ent", "text");
-  EXPECT_EQ(axsLocalFile::open(file.path())->whole(), "text");
+  EXPECT_EQ(axsLocalFile::open(file.path())->head(), "text");
 }
 
 TEST(axsLocalFile, is_no_folder_no_pipe_no_device)

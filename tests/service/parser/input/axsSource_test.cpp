@@ -1,5 +1,7 @@
 #include "axsSource.h"
 
+#include "axsReadError.h"
+
 #include "../../Engine.h"
 
 #include <thread>
@@ -32,67 +34,47 @@ TEST(axsSource, can_be_read_again_from_the_start)
 {
   TestFile const file("source_again.xml", long_text);
   axsSource source(file.path());
-  ASSERT_TRUE(source.can_rewind());
-  EXPECT_FALSE(source.is_whole());
   for (std::size_t const piece : {7u, 65536u, 1000000u})
   {
     EXPECT_EQ(read_all(source, piece), long_text);
-    source.rewind();
+    source.seek(0);
   }
   char few[100000];
-  for (std::size_t const count : {1u, 65536u, 65537u, 100000u})
+  for (std::size_t const count : {1u, 8191u, 8192u, 8193u, 100000u})
   {
     source.read(few, count);
-    source.rewind();
+    source.seek(0);
     EXPECT_EQ(read_all(source, 4096), long_text) << count;
-    source.rewind();
+    source.seek(0);
   }
-  EXPECT_EQ(source.whole(), long_text);
-  EXPECT_EQ(read_all(source, 4096), long_text);
 }
 
-TEST(axsSource, can_be_whole_after_it_was_read)
+TEST(axsSource, can_be_read_again_from_anywhere)
 {
-  TestFile const file("source_whole.xml", long_text);
+  TestFile const file("source_anywhere.xml", long_text);
   axsSource source(file.path());
-  EXPECT_EQ(read_all(source, 10000), long_text);
-  source.rewind();
-  EXPECT_EQ(source.whole(), long_text);
+  read_all(source, 4096);
+  for (std::size_t const at : {1u, 8191u, 8192u, 8193u, 150000u})
+  {
+    source.seek(at);
+    EXPECT_EQ(source.consumed(), at);
+    EXPECT_EQ(read_all(source, 4096), long_text.substr(at)) << at;
+  }
 }
 
-TEST(axsSource, is_whole_at_any_size)
+TEST(axsSource, knows_its_size)
 {
-  for (std::size_t const size : {1u, 65535u, 65536u, 65537u, 131071u, 131072u, 131073u, 200000u})
+  for (std::size_t const size : {0u, 1u, 8191u, 8192u, 8193u, 200000u})
   {
     TestFile const file("source_size.xml", long_text.substr(0, size));
     axsSource source(file.path());
-    EXPECT_EQ(source.whole(), long_text.substr(0, size)) << size;
-    EXPECT_TRUE(source.is_whole());
+    EXPECT_EQ(source.size(), size);
+    EXPECT_EQ(read_all(source, 4096), long_text.substr(0, size));
+    EXPECT_EQ(source.size(), size);
   }
 }
 
 #if !defined(_WIN32)
-TEST(axsSource, is_whole_from_a_pipe)
-{
-  char const* const name = "source_whole_pipe";
-  std::remove(name);
-  ASSERT_EQ(mkfifo(name, 0600), 0);
-  std::string const text = long_text + long_text + long_text;
-  std::thread writer(
-    [&]
-    {
-      std::FILE* const stream = std::fopen(name, "w");
-      std::fwrite(text.data(), 1, text.size(), stream);
-      std::fclose(stream);
-    });
-  {
-    axsSource source{apPath(name)};
-    EXPECT_EQ(source.whole(), text);
-  }
-  writer.join();
-  std::remove(name);
-}
-
 TEST(axsSource, cannot_go_back_in_a_pipe)
 {
   char const* const name = "source_pipe";
@@ -117,8 +99,9 @@ TEST(axsSource, cannot_go_back_in_a_pipe)
     else
     {
       axsSource source{apPath(name)};
-      EXPECT_FALSE(source.can_rewind());
+      EXPECT_EQ(source.size(), 0u);
       EXPECT_EQ(read_all(source, 4096), text);
+      EXPECT_THROW(source.seek(text.size() - 1), axsReadError);
     }
     writer.join();
   }
