@@ -9,18 +9,39 @@
 #include "axsDomText.h"
 #include "axsStartTag.h"
 
+#include <apBits.h>
 #include <utXmlCharacter.h>
 
 #include <algorithm>
+#include <cstdint>
 
 namespace
 {
+// Whether all of `text` is its last character. Most white space is a line end and one character again and again.
+bool is_repetition(std::string_view text)
+{
+  if (text.empty())
+    return true;
+  std::size_t const word_size = sizeof(std::uint64_t);
+  if (text.size() < word_size)
+    return std::all_of(text.begin(), text.end(), [last = text.back()](char c) { return c == last; });
+  std::uint64_t const word = 0x0101010101010101u * static_cast<unsigned char>(text.back());
+  char const* const last_word = text.data() + text.size() - word_size;
+  for (char const* at = text.data(); at < last_word; at += word_size)
+    if (apBits::load(at) != word)
+      return false;
+  return apBits::load(last_word) == word;
+}
+
 // Most texts that are more than white space begin or end with something else.
 bool is_space_only(std::string_view text)
 {
   using utXmlCharacter::is_space;
-  return text.empty() || (is_space(text.front()) && is_space(text.back()) &&
-                           std::all_of(text.begin(), text.end(), [](char c) { return is_space(c); }));
+  if (text.empty())
+    return true;
+  if (!is_space(text.front()) || !is_space(text.back()))
+    return false;
+  return is_repetition(text.substr(1)) || std::all_of(text.begin(), text.end(), [](char c) { return is_space(c); });
 }
 
 bool is_dropped(std::string_view text)

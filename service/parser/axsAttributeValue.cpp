@@ -37,13 +37,7 @@ std::string_view axsAttributeValue::read(char const*& p, std::string_view name)
     if (*p == '&' || (in.is_end(p) && in.depth() > depth))
     {
       take(from, p);
-      if (*p == '&')
-        expand(p);
-      else
-      {
-        in.close();
-        p = in.at;
-      }
+      change_input(p);
       if (in.depth() == depth)
         in.at = piece;
       from = p;
@@ -52,15 +46,7 @@ std::string_view axsAttributeValue::read(char const*& p, std::string_view name)
     if (in.is_end(p))
       in.unexpected(p, "the value of the attribute " + axsMessages::quoted(name) + " is not ended by its quote");
     char const* const special = p;
-    bool const is_space = is(*p, space);
-    if (is_space && *p != '\r')
-      ++p;
-    else if (*p == quote)
-    {
-      ++p;
-      continue;
-    }
-    else if (in.pass_special(p) == axsInputStack::Special::characters && !is_space)
+    if (!pass(p, quote))
       continue;
     take(from, special);
     normal += ' ';
@@ -77,6 +63,27 @@ std::string_view axsAttributeValue::read(char const*& p, std::string_view name)
   in.check_controls(begin, p);
   ++p;
   return value;
+}
+
+// Moves after what is no plain character. Whether it becomes a space.
+bool axsAttributeValue::pass(char const*& p, char quote)
+{
+  bool const is_space = is(*p, space);
+  if (*p == quote || (is_space && *p != '\r'))
+  {
+    ++p;
+    return is_space;
+  }
+  return in.pass_special(p) == axsInputStack::Special::line_end || is_space;
+}
+
+// Reading goes on after a reference, in the entity or with its text made, and after an entity that has been read.
+void axsAttributeValue::change_input(char const*& p)
+{
+  if (*p == '&')
+    return expand(p);
+  in.close();
+  p = in.at;
 }
 
 // A reference (4.4.5).

@@ -52,6 +52,8 @@ public:
   void clear() noexcept { normal.clear(); }
 
 private:
+  bool pass(char const*& p, char quote);
+  void change_input(char const*& p);
   void expand(char const*& p);
   [[noreturn]] void fail_at_less_than(char const* p, std::string_view name) const;
   void take(char const* from, char const* to) { normal.append(from, static_cast<std::size_t>(to - from)); }

@@ -241,33 +241,39 @@ axsInputStack::Special axsInputStack::pass_special(char const*& p)
   }
   if (*p == '\r')
   {
-    if (more && limit - p < look_ahead)
-      throw NeedsMore();
-    p += begins(p, "\r\n") ? 2 : 1;
-    if (xml_1_1 && p[-1] == '\r' && begins(p, "\xC2\x85"))
-      p += 2;
+    pass_return(p);
     return Special::line_end;
   }
   if (is_ascii(*p))
     unexpected(p, "");
+  return pass_multibyte(p);
+}
+
+void axsInputStack::pass_return(char const*& p) const
+{
+  if (more && limit - p < look_ahead)
+    throw NeedsMore();
+  p += begins(p, "\r\n") ? 2 : 1;
+  if (xml_1_1 && p[-1] == '\r' && begins(p, "\xC2\x85"))
+    p += 2;
+}
+
+axsInputStack::Special axsInputStack::pass_multibyte(char const*& p) const
+{
   bool const has_other_rules = xml_1_1 && !internal;
   char const* const begin = p;
   do
   {
-    if (has_other_rules)
+    std::size_t const line_end = has_other_rules ? length_of_other_line_end(p) : 0;
+    if (line_end > 0 && p != begin)
+      return Special::characters;
+    if (line_end > 0)
     {
-      if (std::size_t const length = length_of_other_line_end(p); length > 0)
-      {
-        if (p != begin)
-          return Special::characters;
-        p += length;
-        return Special::line_end;
-      }
-      if (is_restricted(p))
-        unexpected(p, "");
+      p += line_end;
+      return Special::line_end;
     }
     std::size_t const length = character(p).length;
-    if (length == 0)
+    if (length == 0 || (has_other_rules && is_restricted(p)))
       unexpected(p, "");
     p += length;
   } while (!is_ascii(*p));

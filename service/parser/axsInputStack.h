@@ -188,6 +188,8 @@ private:
   void enter(Input&& input);
   void innermost();
   void skip_other_spaces(char const*& p) const;
+  void pass_return(char const*& p) const;
+  Special pass_multibyte(char const*& p) const;
   void look_for_controls(char const* from, char const* to) const;
   Input const& file_input() const;
   std::uint64_t bytes_read() const;

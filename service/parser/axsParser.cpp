@@ -37,9 +37,8 @@ axsParser::~axsParser() = default;
 
 void axsParser::run()
 {
-  while (step())
-  {
-  }
+  while (state != State::end)
+    advance();
 }
 
 bool axsParser::step()
@@ -272,11 +271,8 @@ void axsParser::start_tag()
   in.at = p;
 }
 
-// Null where there is none.
-axsReadName* axsParser::read_name(char const*& p)
+axsReadName* axsParser::find_name(char const*& p)
 {
-  if (axsReadName* const expected = names.expected(p))
-    return expected;
   char const* const begin = p;
   if (!skip_name(p))
     return nullptr;
@@ -452,15 +448,27 @@ void axsParser::processing_instruction()
   in.at = p;
 }
 
-// 2.4, [14] CharData, with the references between (3.1, [43] content)
+// 2.4, [14] CharData. Most texts stand there as they are.
 void axsParser::text()
+{
+  char const* const end = in.end_of_text<'<', '&', ']'>(in.at);
+  if (*end != '<' || is_in_text)
+    return parted_text();
+  in.check_controls(in.at, end);
+  told(end);
+  events.text(between(in.at, end), false);
+  in.at = end;
+}
+
+// The same with references between (3.1, [43] content) and line ends that are not told as they are.
+void axsParser::parted_text()
 {
   char const* from = in.at;
   char const* p = from;
   auto const take = [&] { normal.append(from, static_cast<std::size_t>(p - from)); };
   while (true)
   {
-    p = in.end_of_text<'<', '&', ']', '\r'>(p);
+    p = in.end_of_text<'<', '&', ']'>(p);
     if (*p == '<')
       return end_text(from, p);
     if (*p == ']')

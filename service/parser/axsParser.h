@@ -107,7 +107,13 @@ private:
   void document_type();
   void content();
   void start_tag();
-  axsReadName* read_name(char const*& p);
+  // Null where there is none.
+  axsReadName* read_name(char const*& p)
+  {
+    axsReadName* const expected = names.expected(p);
+    return expected != nullptr ? expected : find_name(p);
+  }
+  axsReadName* find_name(char const*& p);
   void read_attributes(char const*& p, axsReadName const& element);
   void read_attribute(char const*& p, axsReadName const& element);
   std::string_view typed(std::string_view value, axsAttributeType type);
@@ -121,6 +127,7 @@ private:
   void cdata();
   void processing_instruction();
   void text();
+  void parted_text();
   bool reference(char const*& p);
   void keep_text();
   void end_text(char const* from, char const* to);

@@ -33,7 +33,7 @@ std::string_view read(
   char const* from = begin;
   while (true)
   {
-    p = in.end_of_text<first, '\r'>(p);
+    p = in.end_of_text<first>(p);
     if (*p == first)
     {
       if (begins(p, closing))

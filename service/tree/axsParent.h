@@ -9,12 +9,17 @@ public:
   /// Links a detached node that nobody holds as the last child. The caller knows that it may stand there.
   void append_new(axsNode& child) noexcept
   {
-    if (first == nullptr || watched)
+    if (watched)
       return link(child, nullptr);
-    axsNode* const last = previous_of(*first);
     set_parent(child, this);
-    set_previous(child, last);
-    set_next(*last, &child);
+    if (first == nullptr)
+      first = &child;
+    else
+    {
+      axsNode* const last = previous_of(*first);
+      set_previous(child, last);
+      set_next(*last, &child);
+    }
     set_previous(*first, &child);
   }
 

@@ -25,8 +25,12 @@ std::unique_ptr<axsDecoder> make_decoder(std::string const& name)
 char const* end_of_ascii(char const* at, char const* end)
 {
   auto const size = static_cast<std::ptrdiff_t>(apByteBlock::size);
+  auto const special = [](char const* block) { return apByteBlock(block).is_zero_or_non_ascii(); };
+  while (
+    end - at >= 4 * size && !(special(at) | special(at + size) | special(at + 2 * size) | special(at + 3 * size)).any())
+    at += 4 * size;
   for (; end - at >= size; at += size)
-    if (auto const found = apByteBlock(at).is_zero_or_non_ascii(); found.any())
+    if (auto const found = special(at); found.any())
       return at + found.first();
   return std::find_if_not(at, end, [](char c) { return c != '\0' && utUtf8::is_ascii(c); });
 }
