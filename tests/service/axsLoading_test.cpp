@@ -34,6 +34,25 @@ TEST(axsLoading, drops_text_of_white_space_only_except_one_space)
   EXPECT_EQ(children("<root><![CDATA[  ]]></root>"), "");
 }
 
+TEST(axsLoading, white_space_of_any_length_is_told_from_what_holds_one_other_character)
+{
+  for (char const space : {' ', '\t', '\n'})
+    for (std::size_t length = 2; length < 40; ++length)
+    {
+      std::string const spaces(length, space);
+      EXPECT_EQ(children("<r>\n" + spaces + "</r>"), "") << length;
+      for (std::size_t place = 0; place < length; ++place)
+      {
+        std::string with_tab = spaces;
+        with_tab[place] = '\t';
+        EXPECT_EQ(children("<r>\n" + with_tab + "</r>"), "") << length << ' ' << place;
+        std::string with_letter = spaces;
+        with_letter[place] = 'x';
+        EXPECT_EQ(children("<r>\n" + with_letter + "</r>"), "[\n" + with_letter + "]") << length << ' ' << place;
+      }
+    }
+}
+
 TEST(axsLoading, keeps_white_space_where_the_author_asks_for_that)
 {
   EXPECT_EQ(children("<r xml:space='preserve'>  </r>"), "[  ]");

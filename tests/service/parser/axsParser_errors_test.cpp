@@ -406,6 +406,8 @@ TEST(axsParser_errors, xml_1_1_2_2)
   expect_told({
     {"<?xml version='1.1'?><a>\x7F</a>", "1:26 invalid character 0x7F"},
     {"<?xml version='1.1'?><a>\xC2\x80</a>", "1:26 invalid character 0x80"},
+    {"<?xml version='1.1'?><a b='\x7F'/>", "1:29 invalid character 0x7F"},
+    {"<?xml version='1.1'?><a b='\xC2\x80'/>", "1:29 invalid character 0x80"},
     {"<?xml version='1.1'?><a>&#0;</a>", "1:29 this is not the number of a character that XML allows"},
     {"<?xml version='1.1'?><a>\x01</a>", "1:26 invalid character 0x1"},
     {"<?xml version='1.1'?>\xE2\x80\xA8<a></b>",
