@@ -85,7 +85,7 @@ bool Run::take(std::size_t& number)
 
 int Run::do_one(std::size_t number, JobOutput& job) const
 {
-  MessageScope const scope(job.errors);
+  MessageScope const scope(job.errors());
   try
   {
     return work(files[number], job);

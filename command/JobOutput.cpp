@@ -34,6 +34,6 @@ void JobOutput::show_bytes(std::uint64_t bytes)
 void JobOutput::flush()
 {
   write({});
-  std::cerr << errors.str();
-  errors.str(std::string());
+  std::cerr << said.str();
+  said.str(std::string());
 }

@@ -29,8 +29,8 @@ public:
   /// Writes what waits. To be called when it is its turn.
   void flush();
 
-  /// Takes messages where they have to wait.
-  std::ostringstream errors;
+  /// Where messages about the file go, to wait for their turn.
+  std::ostream& errors() { return said; }
 
 private:
   bool is_turn() const noexcept { return current == position; }
@@ -40,4 +40,5 @@ private:
   std::size_t const position;
   Progress* const shown;
   std::string waiting;
+  std::ostringstream said;
 };

@@ -70,8 +70,8 @@ TEST(axsFormatter, white_space_that_the_document_type_preserves_stays)
 {
   std::string const type = "<!DOCTYPE a [\n<!ENTITY e '<b/>'><!ATTLIST b xml:space CDATA 'preserve'>\n]>\n";
   // The element of the entity is not one of the text.
-  EXPECT_EQ(formatted_twice(type + "<a><x>&e;</x><b> <c/></b><c> <d/></c></a>"),
-    type + "<a>\n  <x>&e;</x>\n  <b> <c/></b>\n  <c>\n    <d/>\n  </c>\n</a>\n");
+  EXPECT_EQ(formatted_twice(type + "<a><x>&e;</x><c> <d/></c><b> <c/></b></a>"),
+    type + "<a>\n  <x>&e;</x>\n  <c>\n    <d/>\n  </c>\n  <b> <c/></b>\n</a>\n");
 }
 
 TEST(axsFormatter, comments_and_instructions_stay_as_they_are_written)
