@@ -771,6 +771,8 @@ Edit const edits[] = {
   {with_types, [](axmDocument&, axmElement& r) { r.setAttribute(L"n", L" a  b "); }, false, "what is no tokens"},
   {with_types, [](axmDocument&, axmElement& r) { r.setAttribute(L"d", L" y "); }, false, "a default that is another"},
   {with_types, [](axmDocument&, axmElement& r) { r.removeAttribute(L"d"); }, true, "a default that is taken out"},
+  {"<!--c--><?p?><!DOCTYPE r [<!ATTLIST r d CDATA 'x'>]><r/>",
+    [](axmDocument&, axmElement& r) { r.removeAttribute(L"d"); }, true, "the same after a comment"},
   {with_types, [](axmDocument& d, axmElement& r) { add(d, r, "r"); }, true, "a new element without its default"},
   {with_types, [](axmDocument& d, axmElement& r) { add(d, r, "s"); }, false, "an element without any"},
   {"<r><?t x?></r>", [](axmDocument&, axmElement& r) { set_first(r, L"a?>b"); }, true, "the end of an instruction"},
@@ -858,4 +860,7 @@ void axmLoadUtest::test_refused_saves(Factory const& factory) const
   apPath const full("/dev/full");
   group.check(!full.exists() || !factory->saveDocument(document, full), "!factory->saveDocument(document, full)",
     __LINE__, "a device that takes nothing, where the system has one");
+  auto const large = load_of(factory, "<r>" + many(20000, "<a>a text of some length</a>") + "</r>").document;
+  group.check(!full.exists() || (large != nullptr && !factory->saveDocument(large, full)),
+    "!factory->saveDocument(large, full)", __LINE__, "nor a large document");
 }

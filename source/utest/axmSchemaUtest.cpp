@@ -2505,18 +2505,33 @@ Checked const constraints_18[] = {
 };
 
 Checked const constraints_19[] = {
+  {"<r><i k='1'/><r><i k='2'/><r><i k='3'/></r></r></r>", true},
+  {"<r><i k='1'/><r><i k='1'/></r></r>", false},
+  {"<r><r><i k='1'/></r><r><i k='1'/></r></r>", false},
+  {"<r><r><r><i k='1'/><g><i k='1'/></g></r></r></r>", false},
+  {"<g><r><i k='1'/></r><r><i k='1'/></r><i k='1'/></g>", true},
+  {"<g><r><i k='1'/><g><i k='1'/></g></r></g>", false},
+};
+
+Checked const constraints_20[] = {
+  {"<r><i k='1'/><r><i k='2'/><f to='2'/></r><f to='2'/><f to='1'/></r>", true},
+  {"<r><i k='1'/><r><i k='2'/><f to='1'/></r></r>", false},
+  {"<r><r><i k='2'/></r><f to='3'/></r>", false},
+};
+
+Checked const constraints_21[] = {
   {"<r></r>", true},
   {"<r><i/></r>", false},
   {"<r><i k='1'/></r>", false},
 };
 
-Checked const constraints_20[] = {
+Checked const constraints_22[] = {
   {"<r><i><v>1</v></i></r>", true},
   {"<r><i/></r>", true},
   {"<r><i><v>1</v></i><i><v>2</v></i></r>", false},
 };
 
-Checked const constraints_21[] = {
+Checked const constraints_23[] = {
   {"<r><i k='0'/><i k='1'/><i k='2'/><i k='3'/><i k='4'/><i k='5'/><i k='6'/><i k='7'/><i k='8'/><i k='9'/><i "
    "k='10'/><i k='11'/><i k='12'/><i k='13'/><i k='14'/><i k='15'/><i k='16'/><i k='17'/><i k='18'/><i k='19'/><i "
    "k='20'/><i k='21'/><i k='22'/><i k='23'/><i k='24'/><i k='25'/><i k='26'/><i k='27'/><i k='28'/><i k='29'/><i "
@@ -2587,7 +2602,7 @@ Checked const constraints_21[] = {
     false},
 };
 
-Checked const constraints_22[] = {
+Checked const constraints_24[] = {
   {"<r><e refs='b a'/><e id='a'/><e id='b'/></r>", true},
   {"<r><e id='a' ref='a'/></r>", true},
   {"<r><e id='a'/><e id='a'/></r>", false},
@@ -2596,18 +2611,18 @@ Checked const constraints_22[] = {
   {"<r><e refs=''/></r>", false},
 };
 
-Checked const constraints_23[] = {
+Checked const constraints_25[] = {
   {"<r><e>a</e><e>b</e><f>a</f></r>", true},
   {"<r><e>a</e><e>a</e></r>", false},
   {"<r><e>a</e><f>b</f></r>", false},
 };
 
-Checked const constraints_24[] = {
+Checked const constraints_26[] = {
   {"<r i='x'/>", true},
   {"<r i='x' j='y'/>", false},
 };
 
-Checked const constraints_25[] = {
+Checked const constraints_27[] = {
   {"<r xmlns:p='urn:p'><q>p:a</q><q xmlns:p='urn:q'>p:a</q></r>", true},
   {"<r xmlns:p='urn:p'><q>p:a</q><q xmlns:o='urn:p'>o:a</q></r>", false},
   {"<r><q>p:a</q></r>", false},
@@ -3794,8 +3809,31 @@ void axmSchemaUtest::test_constraints(Factory const& factory) const
       "type='xs:string'/></xs:complexType></xs:element><xs:element name='f'><xs:complexType><xs:attribute name='to' "
       "type='xs:decimal'/></xs:complexType></xs:element><xs:element name='r'><xs:complexType><xs:sequence><xs:any "
       "minOccurs='0' maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:unique name='u'><xs:selector "
-      "xpath='.'/><xs:field xpath='i'/></xs:unique></xs:element>",
+      "xpath='.//i'/><xs:field xpath='@k'/></xs:unique></xs:element><xs:element "
+      "name='g'><xs:complexType><xs:sequence><xs:any minOccurs='0' "
+      "maxOccurs='unbounded'/></xs:sequence></xs:complexType></xs:element>",
       constraints_19),
+    expression, __LINE__, "constraints on all below");
+  group.check(
+    are_right(*tester, *factory,
+      "<xs:element name='i'><xs:complexType><xs:sequence><xs:element name='v' type='xs:decimal' minOccurs='0' "
+      "maxOccurs='3'/></xs:sequence><xs:attribute name='k' type='xs:decimal'/><xs:attribute name='l' "
+      "type='xs:string'/></xs:complexType></xs:element><xs:element name='f'><xs:complexType><xs:attribute name='to' "
+      "type='xs:decimal'/></xs:complexType></xs:element><xs:element name='r'><xs:complexType><xs:sequence><xs:any "
+      "minOccurs='0' maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:key name='k'><xs:selector "
+      "xpath='.//i'/><xs:field xpath='@k'/></xs:key><xs:keyref name='f' refer='k'><xs:selector xpath='.//f'/><xs:field "
+      "xpath='@to'/></xs:keyref></xs:element>",
+      constraints_20),
+    expression, __LINE__, "references to all below");
+  group.check(
+    are_right(*tester, *factory,
+      "<xs:element name='i'><xs:complexType><xs:sequence><xs:element name='v' type='xs:decimal' minOccurs='0' "
+      "maxOccurs='3'/></xs:sequence><xs:attribute name='k' type='xs:decimal'/><xs:attribute name='l' "
+      "type='xs:string'/></xs:complexType></xs:element><xs:element name='f'><xs:complexType><xs:attribute name='to' "
+      "type='xs:decimal'/></xs:complexType></xs:element><xs:element name='r'><xs:complexType><xs:sequence><xs:any "
+      "minOccurs='0' maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:unique name='u'><xs:selector "
+      "xpath='.'/><xs:field xpath='i'/></xs:unique></xs:element>",
+      constraints_21),
     expression, __LINE__, "fields that have no simple type");
   group.check(
     are_right(*tester, *factory,
@@ -3805,7 +3843,7 @@ void axmSchemaUtest::test_constraints(Factory const& factory) const
       "type='xs:decimal'/></xs:complexType></xs:element><xs:element name='r'><xs:complexType><xs:sequence><xs:any "
       "minOccurs='0' maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:unique name='u'><xs:selector "
       "xpath='.'/><xs:field xpath='i/v'/></xs:unique></xs:element>",
-      constraints_20),
+      constraints_22),
     expression, __LINE__, "fields of several steps");
   group.check(
     are_right(*tester, *factory,
@@ -3815,31 +3853,31 @@ void axmSchemaUtest::test_constraints(Factory const& factory) const
       "type='xs:decimal'/></xs:complexType></xs:element><xs:element name='r'><xs:complexType><xs:sequence><xs:any "
       "minOccurs='0' maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:key name='k'><xs:selector "
       "xpath='i'/><xs:field xpath='@k'/></xs:key></xs:element>",
-      constraints_21),
+      constraints_23),
     expression, __LINE__, "many keys");
   group.check(are_right(*tester, *factory,
                 "<xs:element name='r'><xs:complexType><xs:sequence><xs:element name='e' "
                 "maxOccurs='unbounded'><xs:complexType><xs:attribute name='id' type='xs:ID'/><xs:attribute name='ref' "
                 "type='xs:IDREF'/><xs:attribute name='refs' "
                 "type='xs:IDREFS'/></xs:complexType></xs:element></xs:sequence></xs:complexType></xs:element>",
-                constraints_22),
+                constraints_24),
     expression, __LINE__, "IDs");
   group.check(
     are_right(*tester, *factory,
       "<xs:element name='r'><xs:complexType><xs:sequence><xs:element name='e' type='xs:ID' maxOccurs='9'/><xs:element "
       "name='f' type='xs:IDREF' minOccurs='0'/></xs:sequence></xs:complexType></xs:element>",
-      constraints_23),
+      constraints_25),
     expression, __LINE__, "IDs of elements");
   group.check(are_right(*tester, *factory,
                 "<xs:attribute name='i' type='xs:ID'/><xs:attribute name='j' type='xs:ID'/><xs:element "
                 "name='r'><xs:complexType><xs:anyAttribute processContents='lax'/></xs:complexType></xs:element>",
-                constraints_24),
+                constraints_26),
     expression, __LINE__, "IDs by a wildcard");
   group.check(are_right(*tester, *factory,
                 "<xs:element name='q' type='xs:QName'/><xs:element name='r'><xs:complexType><xs:sequence><xs:any "
                 "minOccurs='0' maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:unique name='u'><xs:selector "
                 "xpath='q'/><xs:field xpath='.'/></xs:unique></xs:element>",
-                constraints_25),
+                constraints_27),
     expression, __LINE__, "names with prefixes");
 }
 
