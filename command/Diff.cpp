@@ -29,8 +29,8 @@ second, ! has another value. The order of attributes, prefixes of namespaces, CD
 and references and the encoding do not count. What has moved among its siblings is removed
 and added. Long values are cut to what is around the difference; --full shows them whole.
 
-Both --ignore-layout and --ignore-space count all white space where xml:space="preserve"
-holds, and where a text is beside the elements.
+--ignore-layout still counts white space beside a text. Neither option leaves any out where
+xml:space="preserve" holds.
 
 The exit code is 0 if the documents say the same, 1 if not, 2 if one of them cannot be read
 or for wrong usage, as the command diff has it.)";
@@ -179,7 +179,7 @@ void add_diff(CLI::App& app, int& exit_code)
   verb->add_option("SECOND", request->second, "The other one")->type_name("FILE")->required();
   verb->add_flag("--ignore-layout", request->compare.ignores_layout, "Do not count white space between elements");
   verb->add_flag("-w,--ignore-space", request->compare.ignores_space,
-    "Do not count that, nor white space around texts and how much there is within");
+    "Do not count white space between elements and around texts, nor how much of it is within them");
   verb->add_flag("--ignore-comments", request->compare.ignores_comments, "Do not count comments");
   verb->add_flag("-q,--brief", request->brief, "Say only whether they differ");
   verb->add_flag("-n,--line-number", request->with_line, "Write the lines in both documents");
