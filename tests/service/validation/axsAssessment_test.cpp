@@ -198,6 +198,44 @@ TEST(axsAssessment, types_with_many_attributes_are_assessed)
   EXPECT_EQ(schema.wrong("<r" + given.substr(7) + "/>"), "1: element 'r': missing required attribute 'a0'\n");
 }
 
+TEST(axsAssessment, each_element_is_assessed_by_its_own_attributes_whatever_others_of_its_type_had)
+{
+  Schema const schema(
+    "<xs:element name='r'><xs:complexType><xs:sequence><xs:element name='i' maxOccurs='unbounded'><xs:complexType>"
+    "<xs:attribute name='a' type='xs:int' use='required'/><xs:attribute name='b' type='xs:int'/></xs:complexType>"
+    "</xs:element></xs:sequence></xs:complexType></xs:element>");
+  EXPECT_EQ(schema.wrong("<r><i a='1' b='2'/><i a='3' b='4'/><i b='5' a='6'/><i a='7'/><i a='8'/></r>"), "");
+  EXPECT_EQ(schema.wrong("<r><i a='1' b='2'/>\n<i a='x' b='2'/>\n<i a='1' b='x'/>\n<i b='2'/>\n<i a='1' c='2'/>\n"
+                         "<i a='1' b='2' c='3'/>\n<i c='1' b='2'/>\n<i/></r>"),
+    "2: attribute 'a' of element 'i': \"x\" is not of the type xs:int\n"
+    "3: attribute 'b' of element 'i': \"x\" is not of the type xs:int\n"
+    "4: element 'i': missing required attribute 'a'\n"
+    "5: attribute 'c' is not declared for element 'i'\n"
+    "6: attribute 'c' is not declared for element 'i'\n"
+    "7: attribute 'c' is not declared for element 'i'\n"
+    "7: element 'i': missing required attribute 'a'\n"
+    "8: element 'i': missing required attribute 'a'\n");
+}
+
+TEST(axsAssessment, attributes_of_one_name_in_two_namespaces_are_told_apart)
+{
+  TestFile const file("two_namespaces.xsd",
+    "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' targetNamespace='u' xmlns:u='u'>"
+    "<xs:attribute name='a' type='xs:int'/><xs:element name='r'><xs:complexType><xs:sequence>"
+    "<xs:element name='g' maxOccurs='unbounded'><xs:complexType><xs:sequence><xs:element name='i'><xs:complexType>"
+    "<xs:attribute ref='u:a'/></xs:complexType></xs:element></xs:sequence></xs:complexType></xs:element>"
+    "</xs:sequence></xs:complexType></xs:element></xs:schema>");
+  axmLoadOptions options(axmValidateWithSchemas);
+  options.add_external_schema(wide("u"), file.path());
+  axsValidation const validation(options);
+  ASSERT_TRUE(validation.schema_errors().empty());
+  auto const errors = [&](std::string const& groups)
+  { return validation.check(bytes("<u:r xmlns:u='u'>" + groups + "</u:r>"), 10).errors.size(); };
+  std::string const group = "<i u:a='1'/></g>";
+  EXPECT_EQ(errors("<g>" + group + "<g>" + group), 0U);
+  EXPECT_EQ(errors("<g>" + group + "<g xmlns:u='v'>" + group), 1U);
+}
+
 // cvc-complex-type.5
 TEST(axsAssessment, one_id_at_most_comes_in_by_a_wildcard)
 {
