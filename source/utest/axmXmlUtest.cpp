@@ -171,6 +171,8 @@ char const* const refused_documents[] = {
   "<!DOCTYPE r [<?xml version='1.0'?>]><r/>",
   "<!DOCTYPE r [\xC3\xA4]><r/>",
   "<!DOCTYPE r [\x01]><r/>",
+  "<!DOCTYPE r PUBLIC '\xC3\xA4' 's'><r/>",
+  "<!DOCTYPE r PUBLIC '\xEF\xBB\xBF-//p//' 's'><r/>",
   "<?xml version='1.'?><r/>",
   "<?xml version='1.x'?><r/>",
   "<?xml version=''?><r/>",
