@@ -31,10 +31,10 @@
 /// - An element whose prefix is not declared is in no namespace and matches no name test but '*'.
 /// - The document type declaration is no node. Its internal subset says which attributes are IDs; besides, xml:id is one.
 ///
-/// Limits: parentheses, brackets and calls may lie 100 deep in each other. Time grows with a power of the size of the
-/// document that does not depend on the expression; a path without positions in its predicates takes time linear in it,
-/// but for sorting. The steps of an evaluation are bounded (axsXPathLimits); what selectNodes() gives where that ends it is
-/// an empty list.
+/// Limits: parentheses, brackets and calls may lie 100 deep in each other, for which 128 KB of the thread's stack are
+/// enough. Time grows with a power of the size of the document that does not depend on the expression; a path without
+/// positions in its predicates takes time linear in it, but for sorting. The steps of an evaluation are bounded
+/// (axsXPathLimits); what selectNodes() gives where that ends it is an empty list.
 class AXS_API axsXPath
 {
 public:

@@ -115,30 +115,47 @@ int axsXPathParser::parse_expression()
   if (nesting == nesting_limit)
     return fail(token.position, "parentheses, brackets and calls lie too deep in each other");
   ++nesting;
-  int const term = parse_rank(rank_or);
+  int const term = parse_operations();
   --nesting;
   return term;
 }
 
-int axsXPathParser::parse_rank(Rank rank)
+// Operands and the operators between them, those that bind closer put together first. One function for all ranks, and no
+// function for each: it is part of every level of nesting, and stacks of threads may be small.
+int axsXPathParser::parse_operations()
 {
-  if (rank == rank_unary)
-    return parse_unary();
-  auto const tighter = static_cast<Rank>(rank + 1);
-  int const first = parse_rank(tighter);
-  if (first == failed)
-    return failed;
-
-  std::vector<Expression::Operand> chain{{first, Expression::no_operator}};
-  while (OperatorToken const* const taken = find_operator(rank))
+  std::vector<OpenOperation> open;
+  int operand = parse_unary();
+  while (operand != failed)
   {
+    OperatorToken const* const taken = find_operator();
+    operand = close_tighter(open, operand, taken == nullptr ? nullptr : &taken->rank);
+    if (taken == nullptr)
+      return operand;
+    if (open.empty() || open.back().rank != taken->rank)
+      open.push_back({taken->rank, taken->meaning, {{operand, Expression::no_operator}}});
+    else
+    {
+      open.back().chain.push_back({operand, open.back().last});
+      open.back().last = taken->meaning;
+    }
     advance();
-    int const next = parse_rank(tighter);
-    if (next == failed)
-      return failed;
-    chain.push_back({next, taken->meaning});
+    operand = parse_unary();
   }
-  return chain.size() == 1 ? first : builder.add_operation(kind_of(rank), type_of(rank), chain);
+  return failed;
+}
+
+// Ends the operations that bind closer than the rank or, if that is null, all; what they come to is an operand.
+int axsXPathParser::close_tighter(std::vector<OpenOperation>& open, int operand, Rank const* rank)
+{
+  while (!open.empty() && (rank == nullptr || open.back().rank > *rank))
+  {
+    OpenOperation& ended = open.back();
+    ended.chain.push_back({operand, ended.last});
+    operand = builder.add_operation(kind_of(ended.rank), type_of(ended.rank), ended.chain);
+    open.pop_back();
+  }
+  return operand;
 }
 
 int axsXPathParser::parse_unary()
@@ -437,10 +454,10 @@ int axsXPathParser::parse_predicate()
   return term != failed && expect(Token::right_bracket, "a ']' is missing") ? term : failed;
 }
 
-axsXPathParser::OperatorToken const* axsXPathParser::find_operator(Rank rank) const noexcept
+axsXPathParser::OperatorToken const* axsXPathParser::find_operator() const noexcept
 {
   auto const* const found = std::find_if(std::begin(operators), std::end(operators),
-    [&](OperatorToken const& candidate) { return candidate.rank == rank && candidate.token == token.kind; });
+    [&](OperatorToken const& candidate) { return candidate.token == token.kind; });
   return found == std::end(operators) ? nullptr : found;
 }
 

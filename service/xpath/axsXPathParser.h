@@ -35,8 +35,7 @@ private:
     rank_equality,
     rank_relation,
     rank_sum,
-    rank_product,
-    rank_unary
+    rank_product
   };
 
   struct OperatorToken
@@ -44,6 +43,14 @@ private:
     axsXPathToken::Kind token;
     Rank rank;
     Expression::Operator meaning;
+  };
+
+  /// Operands of operators of one rank, and the operator after the last one.
+  struct OpenOperation
+  {
+    Rank rank;
+    Expression::Operator last;
+    std::vector<Expression::Operand> chain;
   };
 
   struct Call
@@ -62,7 +69,8 @@ private:
   // that the error is told.
   bool parse_whole();
   int parse_expression();
-  int parse_rank(Rank rank);
+  int parse_operations();
+  int close_tighter(std::vector<OpenOperation>& open, int operand, Rank const* rank);
   int parse_unary();
   int parse_union();
   int parse_path();
@@ -84,7 +92,7 @@ private:
   static Expression::Kind kind_of(Rank rank) noexcept;
   static axsXPathType type_of(Rank rank) noexcept;
 
-  OperatorToken const* find_operator(Rank rank) const noexcept;
+  OperatorToken const* find_operator() const noexcept;
   bool starts_step() const noexcept;
   bool starts_primary() const noexcept;
   bool expect(axsXPathToken::Kind kind, char const* problem);
