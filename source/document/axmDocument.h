@@ -25,7 +25,7 @@ public:
   /// A new comment, whatever `data` holds, as for a text.
   virtual std::shared_ptr<axmCommentNode> createComment(apString const& data) = 0;
 
-  /// The root element; empty for a document without one.
+  /// The root element; empty for a document without one. Costs a step for each comment and instruction before it.
   virtual std::shared_ptr<axmElement> getDocumentElement() = 0;
 
   /// The text that identifies the document: where it was loaded from, or as the engine names it.
@@ -34,7 +34,8 @@ public:
   /// Reserved: keeps its place in the order; never called.
   virtual void reserved_document_5() = 0;
 
-  /// Every element of the document with the name `name`, the root included, in document order. Never an empty pointer.
+  /// Every element of the document with the name `name`, the root included, in document order. Never an empty pointer; an
+  /// empty list for a name that is none. Costs a walk over the document.
   /// Whether the list follows later changes is the engine's business.
   virtual std::shared_ptr<axmNodeList> getElementsByTagName(apString const& name) = 0;
 

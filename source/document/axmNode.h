@@ -28,6 +28,8 @@ class axmNodeList;
 /// Misuse is an empty result or false, with the tree unchanged; no operation throws for a wrong argument.
 /// Memory: what hands out a node, list, map or text, makes one or sets a text may throw std::bad_alloc when memory runs out,
 /// with nothing changed. What moves, removes, compares or counts, typed access, and the factory do not throw.
+/// Null: an empty pointer given as a node is misuse, but for `ref_child` of insertBefore().
+/// Costs are those of the default engine, n being the nodes below; where none is said, it is a constant time.
 /// Threads: nothing here locks; whether one tree may be used from several threads is the engine's business.
 /// The order of the virtual operations is a promise to engines that were built separately.
 class AXM_API axmNode
@@ -47,7 +49,8 @@ public:
   /// The node that holds this one as a child. Empty for the document, an attribute, and a node that is not in a tree.
   virtual std::shared_ptr<axmNode> getParentNode() = 0;
 
-  /// The children in document order, live: it follows every later change. Never empty for an element or the document.
+  /// The children in document order, live: it follows every later change. Never empty for an element or the document. See
+  /// axmNodeList for what its operations cost.
   virtual std::shared_ptr<axmNodeList> getChildNodes() = 0;
 
   /// The first and the last child; empty when there are none.
@@ -63,7 +66,8 @@ public:
 
   /// Inserts `new_child` among the children, immediately before `ref_child` or, if that is empty, at the end.
   /// Returns `new_child`; empty, with nothing changed, when `ref_child` is not a child of this node or the new child
-  /// cannot stand here.
+  /// cannot stand here. A new child that has children costs a step for each level above the place, to see that it does not
+  /// go below itself; so it does for the two other operations that put one in.
   virtual std::shared_ptr<axmNode> insertBefore(
     std::shared_ptr<axmNode> new_child, std::shared_ptr<axmNode> ref_child) = 0;
 
@@ -131,14 +135,16 @@ public:
   virtual bool set_attribute_locale(apString const& name, double value);
 
   /// The texts of the node and all its descendants in document order, with nothing between them; of a text or comment
-  /// its data, of an attribute its value. What comments and instructions below the node hold is left out.
+  /// its data, of an attribute its value. What comments and instructions below the node hold is left out. O(n).
   virtual apString get_text() const = 0;
 
   /// Replaces the content by one text child that holds `text`, which may be empty; what was there is out then, and whole.
-  /// Of an attribute, text, comment or instruction it is the value that is replaced.
+  /// Of an attribute, text, comment or instruction it is the value that is replaced; of a document nothing is. Costs O(n)
+  /// for what was there. A text that XML cannot hold is refused when it is saved.
   virtual void set_text(apString const& text) = 0;
 
-  /// The node as XML text; of the document, the whole document with its declaration.
+  /// The node as XML text; of the document, the whole document with its declaration. Empty for what XML cannot hold: a
+  /// control character, a comment with two hyphens in a row, a document without a root. O(n).
   virtual apString get_xml() const = 0;
 
   /// The same for a NUL-terminated text, wide or UTF-8; null is the empty text.
