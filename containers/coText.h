@@ -17,13 +17,13 @@ class coText
 {
 public:
   /// How long a text that needs no allocation may be.
-  static constexpr int most_inside = most;
+  static constexpr int max_inside = most;
 
   /// No storage.
   coText() noexcept { forget(); }
 
   /// A text of `length` characters (0 or more) that `write` puts at the place it is given. There is room for
-  /// most_inside + 1 at least, and those after `length` may be written as well.
+  /// max_inside + 1 at least, and those after `length` may be written as well.
   template <class Write>
   coText(int length, Write const& write)
   {
@@ -92,7 +92,7 @@ public:
   }
 
   /// The characters and the closing NUL; never null. They live as long as this object and stay where they are until it
-  /// takes another text. However short the text is, most_inside + 1 characters can be read there.
+  /// takes another text. However short the text is, max_inside + 1 characters can be read there.
   C const* data() const noexcept { return is_outside() ? shared().data() : inside(); }
 
   /// 0 without storage.

@@ -56,14 +56,14 @@ apString::apString(utString const& utf8) : apString(from_utf8(utf8.view())) {}
 apString apString::from_utf8(std::string_view utf8)
 {
   // Most texts are short: by themselves they take a few instructions.
-  if (utf8.size() > most_inside || !apAscii::is_ascii(utf8.data(), utf8.size()))
+  if (utf8.size() > max_inside || !apAscii::is_ascii(utf8.data(), utf8.size()))
     return from_any_utf8(utf8);
   return apString(utf8.size(), [&](wchar_t* to) { apAscii::widen(utf8.data(), utf8.size(), to); });
 }
 
 void apString::assign_utf8(std::string_view utf8)
 {
-  if (utf8.size() > most_inside || !apAscii::is_ascii(utf8.data(), utf8.size()))
+  if (utf8.size() > max_inside || !apAscii::is_ascii(utf8.data(), utf8.size()))
     *this = from_any_utf8(utf8);
   else
     text.assign(static_cast<int>(utf8.size()), [&](wchar_t* to) { apAscii::widen(utf8.data(), utf8.size(), to); });

@@ -13,7 +13,7 @@
 /// Wide text: Unicode in `wchar_t` (UTF-16 where that has 16 bits, UTF-32 where it has 32), closed by a NUL that does
 /// not count.
 ///
-/// A value type that cannot be changed in place except where an operation says so. A short text, of up to `most_inside`
+/// A value type that cannot be changed in place except where an operation says so. A short text, of up to `max_inside`
 /// characters, lies in the object itself and needs no allocation; of a longer one, copies share the storage, which goes
 /// with the last of them. The count is atomic, so copies may be made, used and dropped by several threads, while one and
 /// the same object belongs to one thread at a time. Lengths and positions are counted in `wchar_t`, positions from 0.
@@ -22,7 +22,7 @@ class AP_API apString
 {
 public:
   /// How long a text that needs no allocation may be.
-  static constexpr int most_inside = 23;
+  static constexpr int max_inside = 23;
 
   /// The empty text.
   AP_KEPT apString() noexcept {}
@@ -93,7 +93,7 @@ public:
   apString& operator+=(apString const& other);
 
 private:
-  using Text = coText<wchar_t, most_inside>;
+  using Text = coText<wchar_t, max_inside>;
 
   friend AP_API apString operator+(apString const& left, apString const& right);
 

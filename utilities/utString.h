@@ -11,7 +11,7 @@
 
 /// Narrow text: bytes with a length, closed by a NUL that does not count.
 ///
-/// A value type that cannot be changed in place. A short text, of up to `most_inside` bytes, lies in the object itself;
+/// A value type that cannot be changed in place. A short text, of up to `max_inside` bytes, lies in the object itself;
 /// of a longer one, copies share the storage, which goes with the last of them. The count is atomic, so copies may be
 /// made, used and dropped by several threads, while one and the same object belongs to one thread at a time. A text may
 /// have no storage at all, which is a state of its own beside the empty text.
@@ -21,7 +21,7 @@ class UT_API utString
 {
 public:
   /// How long a text that needs no allocation may be.
-  static constexpr int most_inside = 23;
+  static constexpr int max_inside = 23;
 
   /// No storage.
   utString() noexcept {}
@@ -33,7 +33,7 @@ public:
   /// as 0.
   utString(char const* bytes, int length);
 
-  /// A text of `length` bytes (0 or more) that `write` puts at the place it is given. There is room for most_inside + 1
+  /// A text of `length` bytes (0 or more) that `write` puts at the place it is given. There is room for max_inside + 1
   /// at least, and those after `length` may be written as well.
   template <class Write>
   static utString written(int length, Write const& write)
@@ -61,7 +61,7 @@ public:
   ~utString() {}
 
   /// The bytes, with a NUL after the last one; never null. They live as long as this object and stay where they are
-  /// until it takes another value. However short the text is, most_inside + 1 bytes can be read there.
+  /// until it takes another value. However short the text is, max_inside + 1 bytes can be read there.
   char const* c_str() const noexcept { return text.data(); }
 
   /// The number of bytes; 0 without storage.
@@ -83,7 +83,7 @@ public:
   int case_compare(utString const& other) const noexcept;
 
 private:
-  using Text = coText<char, most_inside>;
+  using Text = coText<char, max_inside>;
 
   template <class Write>
   utString(int length, Write const& write) : text(length, write)

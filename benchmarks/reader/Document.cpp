@@ -15,7 +15,7 @@
 namespace
 {
 char const spaces[] = " \t\r\n";
-int const most_levels = 200; // elements further down are left out
+int const max_levels = 200; // elements further down are left out
 
 std::string content_of(std::string const& file)
 {
@@ -437,7 +437,7 @@ Document::Document(std::string const& given, std::string const& copy) : file(cop
   std::string text = cleaned(content_of(given), changes);
   text = with_closing_tags(text, *paths_of(text), changes);
   changes.note(notes);
-  task.root = element_of(*paths_of(text)->children.front(), task.fields, most_levels);
+  task.root = element_of(*paths_of(text)->children.front(), task.fields, max_levels);
   find_values(text);
   std::ofstream stream(copy, std::ios::binary);
   stream << text;

@@ -2,18 +2,18 @@
 
 #include "axsBounds.h"
 
-bool axsAttributeList::add(axsReadName& name, axsAttributeType type)
+bool axsAttributeList::add(axsQName& name, axsAttributeType type)
 {
   has_tokens = has_tokens || type != axsAttributeType::cdata;
   return types.emplace(&name, type).second;
 }
 
-void axsAttributeList::set_default(axsReadName& name, axsAttributeType type, std::string_view value)
+void axsAttributeList::set_default(axsQName& name, axsAttributeType type, std::string_view value)
 {
   defaults.push_back({&name, type, std::string(value)});
 }
 
-axsAttributeType axsAttributeList::type_of(axsReadName const& name) const
+axsAttributeType axsAttributeList::type_of(axsQName const& name) const
 {
   if (!has_tokens)
     return axsAttributeType::cdata;

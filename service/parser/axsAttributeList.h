@@ -14,13 +14,13 @@ class axsAttributeList
 {
 public:
   /// An attribute without a default. Whether it was added: it was not declared yet (3.3).
-  bool add(axsReadName& name, axsAttributeType type);
+  bool add(axsQName& name, axsAttributeType type);
 
   /// The default of the attribute that was added last.
-  void set_default(axsReadName& name, axsAttributeType type, std::string_view value);
+  void set_default(axsQName& name, axsAttributeType type, std::string_view value);
 
   /// CDATA, if it is not declared.
-  axsAttributeType type_of(axsReadName const& name) const;
+  axsAttributeType type_of(axsQName const& name) const;
 
   /// Adds to `attributes`, those of the element of that number, the ones that it lacks and that have a default (3.3.2).
   /// The values live as long as the list. Returns how many bytes that adds.
@@ -29,12 +29,12 @@ public:
 private:
   struct Default
   {
-    axsReadName* name;
+    axsQName* name;
     axsAttributeType type;
     std::string value;
   };
 
-  std::unordered_map<axsReadName const*, axsAttributeType> types;
+  std::unordered_map<axsQName const*, axsAttributeType> types;
   std::vector<Default> defaults;
   // Whether some attribute is of another type than CDATA.
   bool has_tokens = false;

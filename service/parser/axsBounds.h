@@ -14,7 +14,7 @@ public:
   /// What a node counts besides its text.
   static constexpr std::uint64_t node_size = 64;
 
-  explicit axsBounds(std::size_t most_expansions) noexcept : limit(most_expansions) {}
+  explicit axsBounds(std::size_t max) noexcept : limit(max) {}
 
   /// One expansion more. Whether it may be.
   bool expand() noexcept { return ++counted.expansions <= limit; }

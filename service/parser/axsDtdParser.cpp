@@ -224,7 +224,7 @@ void axsDtdParser::read_attribute_list()
 }
 
 // 3.3, [53] AttDef
-void axsDtdParser::read_attribute(axsDtd::Element& element, axsReadName& element_name)
+void axsDtdParser::read_attribute(axsDtd::Element& element, axsQName& element_name)
 {
   axsDtd::Attribute attribute;
   attribute.name = reader.name(axsMessages::attribute_declared);
@@ -233,7 +233,7 @@ void axsDtdParser::read_attribute(axsDtd::Element& element, axsReadName& element
   reader.need_spaces();
   read_default(attribute);
   axsAttributeList& list = list_of(element_name);
-  axsReadName& name = all_names.find(attribute.name);
+  axsQName& name = all_names.find(attribute.name);
   if (!list.add(name, attribute.type))
     return;
   if (attribute.kind == axsDtd::Default::fixed || attribute.kind == axsDtd::Default::value)
@@ -353,7 +353,7 @@ void axsDtdParser::check_colon(std::string const& name) const
     in.fail(in.at, axsMessages::name_colon);
 }
 
-axsAttributeList& axsDtdParser::list_of(axsReadName& element)
+axsAttributeList& axsDtdParser::list_of(axsQName& element)
 {
   if (element.attributes == nullptr)
     element.attributes = &lists.emplace_back();

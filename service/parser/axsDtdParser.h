@@ -58,13 +58,13 @@ private:
   void skip_ignored();
   void read_element();
   void read_attribute_list();
-  void read_attribute(axsDtd::Element& element, axsReadName& element_name);
+  void read_attribute(axsDtd::Element& element, axsQName& element_name);
   axsAttributeType read_type(std::vector<std::string>& tokens);
   void read_group(std::vector<std::string>& tokens, bool are_names);
   void read_default(axsDtd::Attribute& attribute);
   void read_entity();
   void read_notation();
-  axsAttributeList& list_of(axsReadName& element);
+  axsAttributeList& list_of(axsQName& element);
   void check_colon(std::string const& name) const;
 
   axsInputStack& in;

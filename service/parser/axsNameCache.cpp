@@ -17,9 +17,9 @@ bool is_qualified(axsName const& name)
 
 axsNameCache::axsNameCache(axsNames& all) : asked(all), empty(&prefix({})), entries(64) {}
 
-axsReadName& axsNameCache::find(std::string_view text)
+axsQName& axsNameCache::find(std::string_view text)
 {
-  axsReadName& found = look_up(text);
+  axsQName& found = look_up(text);
   if (last != nullptr)
     last->following = &found;
   last = &found;
@@ -27,7 +27,7 @@ axsReadName& axsNameCache::find(std::string_view text)
   return found;
 }
 
-axsReadName& axsNameCache::look_up(std::string_view text)
+axsQName& axsNameCache::look_up(std::string_view text)
 {
   std::uint64_t const hash = hash_of(text);
   std::size_t const mask = entries.size() - 1;
@@ -47,10 +47,10 @@ axsPrefix const* axsNameCache::find_prefix(std::string_view text) const
   return found == prefixes.end() ? nullptr : &found->second;
 }
 
-axsReadName& axsNameCache::add(Entry& entry, std::uint64_t hash, std::string_view text)
+axsQName& axsNameCache::add(Entry& entry, std::uint64_t hash, std::string_view text)
 {
   axsName const& name = asked.name(text);
-  axsReadName made(name, name.utf8());
+  axsQName made(name, name.utf8());
   if (name.local().size() != name.utf8().size())
   {
     made.prefix = &prefix(name.prefix());

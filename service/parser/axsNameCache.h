@@ -1,7 +1,7 @@
 #pragma once
 
 #include "axsPrefix.h"
-#include "axsReadName.h"
+#include "axsQName.h"
 #include "axsTextHash.h"
 
 #include <cstddef>
@@ -22,11 +22,11 @@ public:
   explicit axsNameCache(axsNames& all);
 
   /// The name `text`, in UTF-8. It stays where it is.
-  axsReadName& find(std::string_view text);
+  axsQName& find(std::string_view text);
 
   /// Moves after the name at `p`, in memory as axsCharacters wants it, if that is the one that comes where names come in
   /// the same order as before; null otherwise. Costs less than finding it.
-  axsReadName* expected(char const*& p)
+  axsQName* expected(char const*& p)
   {
     if (next == nullptr || !next->stands_at(p))
       return nullptr;
@@ -46,14 +46,14 @@ private:
   struct Entry
   {
     std::uint64_t hash = 0;
-    axsReadName* name = nullptr;
+    axsQName* name = nullptr;
     // Of the name; here, so that comparing takes no way over it.
     std::string_view text;
   };
 
-  axsReadName& look_up(std::string_view text);
+  axsQName& look_up(std::string_view text);
 
-  axsReadName& add(Entry& entry, std::uint64_t hash, std::string_view text);
+  axsQName& add(Entry& entry, std::uint64_t hash, std::string_view text);
   axsPrefix& prefix(std::string_view text);
   void grow();
 
@@ -61,10 +61,10 @@ private:
   axsTextHash const hash_of;
   std::unordered_map<std::string, axsPrefix, axsTextHash> prefixes;
   axsPrefix const* empty;
-  std::deque<axsReadName> names;
+  std::deque<axsQName> names;
   // Of a power of two, at least half of them empty; an entry stands at its hash or after it.
   std::vector<Entry> entries;
   // What was found last, and what came after it the last time.
-  axsReadName* last = nullptr;
-  axsReadName* next = nullptr;
+  axsQName* last = nullptr;
+  axsQName* next = nullptr;
 };

@@ -19,13 +19,13 @@ std::string_view bound_to(axsPrefix const& prefix)
 }
 
 // Whether its prefix stands for a namespace that the document says.
-bool is_prefixed(axsReadName const& name)
+bool is_prefixed(axsQName const& name)
 {
   return name.prefix != nullptr && name.declared == nullptr;
 }
 }
 
-bool axsNamespaceScope::open_with_prefixes(axsReadName const& name, axsReadAttributes& attributes)
+bool axsNamespaceScope::open_with_prefixes(axsQName const& name, axsReadAttributes& attributes)
 {
   for (std::size_t i = 0; i < attributes.size(); ++i)
     if (axsPrefix* const prefix = attributes.source(i).name->declared)
@@ -36,7 +36,7 @@ bool axsNamespaceScope::open_with_prefixes(axsReadName const& name, axsReadAttri
     return false;
   for (std::size_t i = 0; i < attributes.size(); ++i)
   {
-    axsReadName const& of_attribute_name = *attributes.source(i).name;
+    axsQName const& of_attribute_name = *attributes.source(i).name;
     if (!check_name(of_attribute_name, true))
       return false;
     attributes[i].name_space = of_attribute(of_attribute_name);
@@ -59,7 +59,7 @@ std::string_view axsNamespaceScope::namespace_of(std::string_view prefix) const
   return known == nullptr ? std::string_view() : bound_to(*known);
 }
 
-std::string_view axsNamespaceScope::of_attribute(axsReadName const& name) const
+std::string_view axsNamespaceScope::of_attribute(axsQName const& name) const
 {
   if (name.declared != nullptr)
     return xmlns_namespace;
@@ -77,7 +77,7 @@ bool axsNamespaceScope::declare(axsPrefix& prefix, std::string_view value)
   return true;
 }
 
-bool axsNamespaceScope::check_name(axsReadName const& name, bool is_attribute)
+bool axsNamespaceScope::check_name(axsQName const& name, bool is_attribute)
 {
   if (name.prefix == nullptr)
     return true;
@@ -95,7 +95,7 @@ bool axsNamespaceScope::check_repetition(axsReadAttributes const& attributes)
   axsPrefix const* first = nullptr;
   bool has_several = false;
   for (std::size_t i = 0; i < attributes.size(); ++i)
-    if (axsReadName const& name = *attributes.source(i).name; is_prefixed(name))
+    if (axsQName const& name = *attributes.source(i).name; is_prefixed(name))
     {
       has_several = has_several || (first != nullptr && name.prefix != first);
       first = name.prefix;
@@ -105,7 +105,7 @@ bool axsNamespaceScope::check_repetition(axsReadAttributes const& attributes)
 
   std::vector<std::pair<char const*, std::string_view>> qualified;
   for (std::size_t i = 0; i < attributes.size(); ++i)
-    if (axsReadName const& name = *attributes.source(i).name; is_prefixed(name))
+    if (axsQName const& name = *attributes.source(i).name; is_prefixed(name))
       qualified.emplace_back(bound_to(*name.prefix).data(), name.name->local());
   auto const is_before = [](auto const& left, auto const& right)
   { return std::less<>()(left.first, right.first) || (left.first == right.first && left.second < right.second); };

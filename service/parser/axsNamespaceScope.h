@@ -3,8 +3,8 @@
 #include "axsNameCache.h"
 #include "axsPrefix.h"
 #include "axsPrefixScope.h"
+#include "axsQName.h"
 #include "axsReadAttributes.h"
-#include "axsReadName.h"
 #include "axsTextHash.h"
 
 #include <cstddef>
@@ -31,7 +31,7 @@ public:
 
   /// An element begins, of whose attributes no two have the same name. Whether nothing is wrong with it; then its
   /// attributes have their namespaces.
-  bool open(axsReadName const& name, axsReadAttributes& attributes)
+  bool open(axsQName const& name, axsReadAttributes& attributes)
   {
     ++depth;
     return (name.prefix == nullptr && !attributes.has_namespaces()) || open_with_prefixes(name, attributes);
@@ -48,7 +48,7 @@ public:
   std::string_view namespace_of(std::string_view prefix) const override;
 
   /// The namespace of the name of an element that is open; empty for none.
-  std::string_view of_element(axsReadName const& name) const
+  std::string_view of_element(axsQName const& name) const
   {
     std::vector<std::string_view> const& bound = (name.prefix != nullptr ? *name.prefix : names.no_prefix()).bound;
     return bound.empty() ? std::string_view() : bound.back();
@@ -58,12 +58,12 @@ public:
   std::string const& wrong() const noexcept { return error; }
 
 private:
-  bool open_with_prefixes(axsReadName const& name, axsReadAttributes& attributes);
+  bool open_with_prefixes(axsQName const& name, axsReadAttributes& attributes);
   void unbind();
   bool declare(axsPrefix& prefix, std::string_view value);
-  bool check_name(axsReadName const& name, bool is_attribute);
+  bool check_name(axsQName const& name, bool is_attribute);
   bool check_repetition(axsReadAttributes const& attributes);
-  std::string_view of_attribute(axsReadName const& name) const;
+  std::string_view of_attribute(axsQName const& name) const;
   bool fail(std::string const& text);
 
   axsNameCache const& names;

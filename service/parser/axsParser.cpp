@@ -243,10 +243,10 @@ void axsParser::content()
 void axsParser::start_tag()
 {
   char const* p = in.at + 1;
-  axsReadName const* const read = read_name(p);
+  axsQName const* const read = read_name(p);
   if (read == nullptr)
     in.unexpected(p, axsMessages::element_name);
-  axsReadName const& name = *read;
+  axsQName const& name = *read;
   ++elements;
   attributes.clear();
   if (*p != '>')
@@ -271,7 +271,7 @@ void axsParser::start_tag()
   in.at = p;
 }
 
-axsReadName* axsParser::find_name(char const*& p)
+axsQName* axsParser::find_name(char const*& p)
 {
   char const* const begin = p;
   if (!skip_name(p))
@@ -281,7 +281,7 @@ axsReadName* axsParser::find_name(char const*& p)
 }
 
 // Up to what ends the tag.
-void axsParser::read_attributes(char const*& p, axsReadName const& element)
+void axsParser::read_attributes(char const*& p, axsQName const& element)
 {
   made.clear();
   values.clear();
@@ -296,7 +296,7 @@ void axsParser::read_attributes(char const*& p, axsReadName const& element)
     place_made_values();
 }
 
-void axsParser::fail_start_tag(char const* p, axsReadName const& name) const
+void axsParser::fail_start_tag(char const* p, axsQName const& name) const
 {
   bool const is_attribute = !attributes.empty() && end_of_name(p) != p;
   in.unexpected(p, is_attribute ? std::string(axsMessages::attribute_space)
@@ -305,14 +305,14 @@ void axsParser::fail_start_tag(char const* p, axsReadName const& name) const
 }
 
 // [41] Attribute
-void axsParser::read_attribute(char const*& p, axsReadName const& element)
+void axsParser::read_attribute(char const*& p, axsQName const& element)
 {
   char const* const begin = p;
-  axsReadName* const read = read_name(p);
+  axsQName* const read = read_name(p);
   if (read == nullptr)
     in.unexpected(p, "the start tag of " + axsMessages::quoted(element.name->utf8()) +
                        " is not ended: '>', '/>' or an attribute is expected");
-  axsReadName& name = *read;
+  axsQName& name = *read;
   // Few have spaces around the sign.
   if (*p != '=')
     in.skip_spaces(p);

@@ -85,7 +85,7 @@ private:
 
   struct OpenElement
   {
-    axsReadName const* name;
+    axsQName const* name;
     // Where it begins; null once its line is known.
     char const* at;
     std::uint64_t line;
@@ -108,19 +108,19 @@ private:
   void content();
   void start_tag();
   // Null where there is none.
-  axsReadName* read_name(char const*& p)
+  axsQName* read_name(char const*& p)
   {
-    axsReadName* const expected = names.expected(p);
+    axsQName* const expected = names.expected(p);
     return expected != nullptr ? expected : find_name(p);
   }
-  axsReadName* find_name(char const*& p);
-  void read_attributes(char const*& p, axsReadName const& element);
-  void read_attribute(char const*& p, axsReadName const& element);
+  axsQName* find_name(char const*& p);
+  void read_attributes(char const*& p, axsQName const& element);
+  void read_attribute(char const*& p, axsQName const& element);
   std::string_view typed(std::string_view value, axsAttributeType type);
   void place_made_values();
   void end_tag();
   void end_element();
-  [[noreturn]] void fail_start_tag(char const* p, axsReadName const& name) const;
+  [[noreturn]] void fail_start_tag(char const* p, axsQName const& name) const;
   [[noreturn]] void fail_end_tag(char const* p) const;
   void comment();
   void exclamation();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "axsReadName.h"
+#include "axsQName.h"
 #include "axsStartTag.h"
 
 #include <cstddef>
@@ -13,7 +13,7 @@ class axsReadAttributes
 public:
   struct Source
   {
-    axsReadName const* name = nullptr;
+    axsQName const* name = nullptr;
 
     /// Where the name stands; null of a default.
     char const* at = nullptr;
@@ -27,7 +27,7 @@ public:
   }
 
   /// Adds one without a namespace, of character data. What is to be told of it may be changed until the next one comes.
-  axsTagAttribute& add(axsReadName const& name, std::string_view value, char const* at)
+  axsTagAttribute& add(axsQName const& name, std::string_view value, char const* at)
   {
     sources.push_back({&name, at});
     needs_namespaces = needs_namespaces || name.prefix != nullptr || name.declared != nullptr;

@@ -67,7 +67,7 @@ TEST(apString, APSTRING_makes_a_wide_text_of_a_narrow_literal)
 
 TEST(apString, copies_of_long_texts_share_the_storage_and_keep_it_alive)
 {
-  std::wstring const longer(apString::most_inside + 1, L'x');
+  std::wstring const longer(apString::max_inside + 1, L'x');
   apString copy;
   {
     apString const text(longer.c_str());
@@ -86,7 +86,7 @@ TEST(apString, a_short_text_lies_in_the_object)
     auto const* const at = reinterpret_cast<char const*>(text.c_str());
     return at >= object && at < object + sizeof text;
   };
-  for (int length = 0; length <= 2 * apString::most_inside; ++length)
+  for (int length = 0; length <= 2 * apString::max_inside; ++length)
   {
     std::string const given(static_cast<std::size_t>(length), 'x');
     std::wstring const wide(given.begin(), given.end());
@@ -96,7 +96,7 @@ TEST(apString, a_short_text_lies_in_the_object)
       EXPECT_EQ(text.view(), wide);
       EXPECT_EQ(text.length(), length);
       EXPECT_EQ(text.c_str()[length], L'\0');
-      EXPECT_EQ(is_inside(text), length <= apString::most_inside) << length;
+      EXPECT_EQ(is_inside(text), length <= apString::max_inside) << length;
     }
   }
 }

@@ -189,7 +189,7 @@ TEST(apString_utf8, texts_of_any_length_are_read_as_the_model_reads_them)
 
 TEST(apString_utf8, ASCII_of_any_length_is_assigned_as_it_is_read)
 {
-  for (std::size_t length = 0; length <= 2 * apString::most_inside; ++length)
+  for (std::size_t length = 0; length <= 2 * apString::max_inside; ++length)
     for (wchar_t const* const before : {L"", L"short", L"a text of more characters than has room in the object"})
     {
       std::string const bytes(length, 'x');

@@ -20,7 +20,7 @@ char const narrow[] = "a text of more characters than has room in the object";
 TEST(apString_memory, constructors_throw_and_leak_nothing)
 {
   EXPECT_EQ(fails_cleanly([] { apString const text(wide); }), 1);
-  EXPECT_EQ(fails_cleanly([] { apString const text(wide, apString::most_inside + 1); }), 1);
+  EXPECT_EQ(fails_cleanly([] { apString const text(wide, apString::max_inside + 1); }), 1);
   EXPECT_EQ(fails_cleanly([] { apString const text(narrow); }), 1);
   EXPECT_EQ(fails_cleanly([] { apString const text("a text of more characters than has room \xD1\x84\xFF"); }), 1);
   EXPECT_EQ(fails_cleanly([] { apString const text(APSTRING("a text of more characters than has room")); }), 1);
@@ -31,7 +31,7 @@ TEST(apString_memory, a_short_text_needs_none)
   EXPECT_EQ(fails_cleanly(
               []
               {
-                apString const text(wide, apString::most_inside);
+                apString const text(wide, apString::max_inside);
                 apString const converted("abc \xD1\x84\xFF");
                 apString changed = APSTRING("a.b") + APSTRING("c");
                 changed.replace_all(APSTRING("."), APSTRING(","));

@@ -24,7 +24,7 @@ class Clock : public utService
 
 TEST(utString_memory, constructors_throw_and_leak_nothing)
 {
-  std::string const name(utString::most_inside + 1, 'x');
+  std::string const name(utString::max_inside + 1, 'x');
   EXPECT_EQ(fails_cleanly([&] { utString const text(name.c_str()); }), 1);
   EXPECT_EQ(fails_cleanly([&] { utString const text(long_text, 30); }), 1);
   EXPECT_EQ(fails_cleanly([] { utString const text(ut_lit(long_text)); }), 1);
@@ -32,12 +32,12 @@ TEST(utString_memory, constructors_throw_and_leak_nothing)
 
 TEST(utString_memory, a_short_text_needs_none)
 {
-  std::string const name(utString::most_inside, 'x');
+  std::string const name(utString::max_inside, 'x');
   EXPECT_EQ(fails_cleanly(
               [&]
               {
                 utString const text(name.c_str());
-                utString const with_length(long_text, utString::most_inside);
+                utString const with_length(long_text, utString::max_inside);
                 utString const sum = utString("ab") + utString("cd");
                 utString copy(sum);
                 copy = text;

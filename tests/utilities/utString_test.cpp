@@ -111,7 +111,7 @@ TEST(utString, a_text_of_any_length_is_kept_whole)
 
 TEST(utString, a_short_text_lies_in_the_object)
 {
-  std::string const longest(utString::most_inside, 'x');
+  std::string const longest(utString::max_inside, 'x');
   utString const text(longest.c_str());
   char const* const object = reinterpret_cast<char const*>(&text);
   EXPECT_TRUE(text.c_str() >= object && text.c_str() + text.length() < object + sizeof text);

@@ -139,7 +139,7 @@ private:
 };
 
 // So many that the seconds of all of them are far from the largest number.
-std::size_t const most_digits = 12;
+std::size_t const max_digits = 12;
 
 // A span that can be computed with: its months, whole seconds (rounded down) and what it has beyond them.
 struct Span
@@ -149,10 +149,10 @@ struct Span
   std::string fraction; // digits, of the part of a second to be added
 };
 
-// Whether the number is one of at most most_digits digits before the point.
+// Whether the number is one of at most max_digits digits before the point.
 bool to_span_part(axsDecimal::Number const& number, std::int64_t& whole, std::string& fraction)
 {
-  if (number.exponent > static_cast<std::int64_t>(most_digits))
+  if (number.exponent > static_cast<std::int64_t>(max_digits))
     return false;
   std::string digits = number.digits;
   if (number.exponent < 0)

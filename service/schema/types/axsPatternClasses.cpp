@@ -7,7 +7,7 @@
 namespace
 {
 // So many times may intervals be looked at to find those that are alike.
-std::size_t const most_looks = 4000000;
+std::size_t const max_looks = 4000000;
 
 std::vector<char32_t> starts_of(std::vector<axsCharacterSet> const& sets)
 {
@@ -27,7 +27,7 @@ std::vector<char32_t> starts_of(std::vector<axsCharacterSet> const& sets)
 
 axsPatternClasses::axsPatternClasses(std::vector<axsCharacterSet> const& sets) : starts(starts_of(sets))
 {
-  if (sets.size() * starts.size() <= most_looks)
+  if (sets.size() * starts.size() <= max_looks)
     merge_alike(sets);
   else
   {

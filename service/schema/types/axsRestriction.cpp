@@ -15,7 +15,7 @@ using Order = axsValue::Order;
 
 namespace
 {
-std::size_t const most_shown = 12;
+std::size_t const max_shown = 12;
 std::size_t const largest = std::numeric_limits<std::size_t>::max();
 
 constexpr unsigned bits(std::initializer_list<Kind> kinds)
@@ -317,7 +317,7 @@ void axsRestriction::add_enumeration(axsFacet const& facet)
   if (!base.check(facet.value, context, &value))
     return report(facet, "enumeration-valid-restriction", "is wrong: " + base.fault(facet.value, context));
   values->values.insert(value.bytes());
-  if (values->shown.size() < most_shown)
+  if (values->shown.size() < max_shown)
     values->shown.emplace_back(facet.value);
 }
 
@@ -391,7 +391,7 @@ void axsRestriction::finish_patterns()
   {
     if (patterns.size() > 1)
       ((all += i == 0 ? "(" : "|(") += patterns[i]) += ')';
-    if (i < most_shown)
+    if (i < max_shown)
       shown += (i == 0 ? "" : " or ") + quoted(patterns[i]);
   }
   axsPattern::Fault fault;

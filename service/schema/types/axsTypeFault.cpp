@@ -65,14 +65,14 @@ std::string part_of_time(axsCalendar::Fault fault, std::size_t days)
   }
 }
 
-std::size_t const most_listed = 12;
+std::size_t const max_listed = 12;
 
 std::string members_of(axsSimpleType const& type)
 {
   std::string list;
   for (axsSimpleType const* const member : type.members())
   {
-    if (member->name().empty() || type.members().size() > most_listed)
+    if (member->name().empty() || type.members().size() > max_listed)
       return "of its union";
     list += (list.empty() ? "" : ", ") + member->shown_name();
   }

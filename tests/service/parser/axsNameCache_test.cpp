@@ -33,7 +33,7 @@ TEST(axsNameCache, finds_each_name_again_and_asks_for_it_once)
 {
   Names names;
   axsNameCache cache(names);
-  std::vector<axsReadName*> found;
+  std::vector<axsQName*> found;
   int const count = 3000;
   auto const text = [](int i) { return std::string(static_cast<std::size_t>(i % 20 + 1), 'a') + std::to_string(i); };
   for (int i = 0; i < count; ++i)
@@ -64,12 +64,12 @@ TEST(axsNameCache, knows_what_namespaces_make_of_a_name)
 {
   Names names;
   axsNameCache cache(names);
-  axsReadName const& plain = cache.find("a");
+  axsQName const& plain = cache.find("a");
   EXPECT_EQ(plain.prefix, nullptr);
   EXPECT_EQ(plain.declared, nullptr);
   EXPECT_TRUE(plain.is_qualified);
 
-  axsReadName const& prefixed = cache.find("p:a");
+  axsQName const& prefixed = cache.find("p:a");
   ASSERT_NE(prefixed.prefix, nullptr);
   EXPECT_EQ(prefixed.prefix->text, "p");
   EXPECT_EQ(prefixed.prefix, cache.find("p:b").prefix);
@@ -101,11 +101,11 @@ int expected_in(std::string const& name, std::string const& text)
   Names names;
   axsNameCache cache(names);
   cache.find("first");
-  axsReadName const& following = cache.find(name);
+  axsQName const& following = cache.find(name);
   cache.find("first");
   std::string const bytes = padded(text);
   char const* p = bytes.data();
-  axsReadName const* const found = cache.expected(p);
+  axsQName const* const found = cache.expected(p);
   EXPECT_EQ(found == nullptr, p == bytes.data());
   EXPECT_TRUE(found == nullptr || found == &following);
   return found == nullptr ? -1 : static_cast<int>(p - bytes.data());
@@ -141,7 +141,7 @@ TEST(axsNameCache, expects_nothing_at_first_and_learns_another_order)
   std::string const bytes = padded("a=");
   char const* p = bytes.data();
   EXPECT_EQ(cache.expected(p), nullptr);
-  axsReadName const& a = cache.find("a");
+  axsQName const& a = cache.find("a");
   cache.find("b");
   EXPECT_EQ(cache.expected(p), nullptr);
   cache.find("a");

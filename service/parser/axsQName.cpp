@@ -1,9 +1,9 @@
-#include "axsReadName.h"
+#include "axsQName.h"
 
 #include <algorithm>
 #include <cstring>
 
-axsReadName::axsReadName(axsName const& full, std::string_view utf8) noexcept : name(&full), text(utf8)
+axsQName::axsQName(axsName const& full, std::string_view utf8) noexcept : name(&full), text(utf8)
 {
   for (std::size_t i = 0; i < 2; ++i)
   {
@@ -17,7 +17,7 @@ axsReadName::axsReadName(axsName const& full, std::string_view utf8) noexcept : 
   }
 }
 
-bool axsReadName::has_rest_at(char const* p) const noexcept
+bool axsQName::has_rest_at(char const* p) const noexcept
 {
   std::size_t const in_words = 2 * word_size;
   return ((apBits::load(p + word_size) ^ words[1]) & masks[1]) == 0 &&

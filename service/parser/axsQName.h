@@ -13,10 +13,10 @@ class axsName;
 struct axsPrefix;
 
 /// A name of a document as its parser needs it: the name of the tree, and what namespaces make of it.
-struct axsReadName
+struct axsQName
 {
   /// `full` and `text`, the same in UTF-8, must live longer.
-  axsReadName(axsName const& full, std::string_view text) noexcept;
+  axsQName(axsName const& full, std::string_view text) noexcept;
 
   /// Whether the name, and no longer one, stands at `p`, in memory as axsCharacters wants it. False also where the memory
   /// ends with the name, which may go on.
@@ -45,7 +45,7 @@ struct axsReadName
   axsAttributeList* attributes = nullptr;
 
   /// The name that was read after this one the last time: they come in the same order again and again.
-  axsReadName* following = nullptr;
+  axsQName* following = nullptr;
 
 private:
   static constexpr std::size_t word_size = 8;
