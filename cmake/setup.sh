@@ -30,7 +30,8 @@ build_preset() {
 }
 
 packages_to_build=(g++ cmake ninja-build libcli11-dev zlib1g-dev liblzma-dev libzstd-dev nlohmann-json3-dev)
-packages_to_test=(libgtest-dev locales libxml2-dev abigail-tools clang clang-format-14 g++-mingw-w64-x86-64-posix python3 python3-distributed)
+packages_to_test=(libgtest-dev locales libxml2-dev abigail-tools clang clang-format-14 g++-mingw-w64-x86-64-posix python3
+  python3-distributed mandoc zsh fish)
 # Whoever has npm from elsewhere keeps it.
 command -v npm > /dev/null || packages_to_test+=(npm)
 packages_to_benchmark=(libxerces-c-dev libpugixml-dev librapidxml-dev libexpat1-dev libxml2-dev)
