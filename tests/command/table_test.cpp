@@ -130,6 +130,23 @@ TEST_F(Table, data_that_is_compressed_but_cut_off_is_an_error)
 }
 
 #if defined(__linux__)
+TEST_F(Table, rows_before_the_cut_of_compressed_data_are_there)
+{
+  std::string rows = "<r>";
+  for (int i = 0; i < 200; ++i)
+    rows += "<i k='" + std::to_string(i * 7919 % 1000003) + "'/>";
+  TemporaryFile const file(document, rows + "</r>");
+  std::string const packed = name + ".packed";
+  ASSERT_EQ(std::system(("gzip -c < " + std::string(document) + " > " + packed).c_str()), 0);
+  std::string const whole = contents_of(packed);
+  apPath(packed.c_str()).delete_file();
+  ProgramRun const run = table(whole.substr(0, whole.size() - 60), {"r/i", "@k"});
+  EXPECT_EQ(run.exit_code, 1);
+  EXPECT_NE(run.err.find("ends too early"), std::string::npos) << run.err;
+  EXPECT_EQ(run.out.substr(0, 15), "0\r\n7919\r\n15838\r");
+  EXPECT_GT(run.out.size(), 500U);
+}
+
 // The formats' own commands make what is read here.
 TEST_F(Table, compressed_documents_and_standard_input_are_read)
 {

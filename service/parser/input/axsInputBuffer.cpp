@@ -55,12 +55,15 @@ char const* axsInputBuffer::return_to(Mark const& mark)
   known_place = mark.place;
   filled = 0;
   last = false;
+  failure.reset();
   fill();
   return begin();
 }
 
 char const* axsInputBuffer::advance(char const* from)
 {
+  if (failure != nullptr)
+    throw axsReadError(*failure);
   if (!source.fault().empty())
     throw axsReadError::at(source.fault(), url, place(end()));
   begin_place = place(from);
@@ -85,11 +88,22 @@ char const* axsInputBuffer::advance(char const* from)
 void axsInputBuffer::fill()
 {
   char* const to = bytes.get() + axsLineEnds::bytes_before;
-  while (!last && source.fault().empty() && room - filled >= axsUtf8Source::min_room)
+  std::size_t const before = filled;
+  try
   {
-    std::size_t const count = source.read(to + filled, room - filled);
-    filled += count;
-    last = count == 0 && source.fault().empty();
+    while (!last && source.fault().empty() && room - filled >= axsUtf8Source::min_room)
+    {
+      std::size_t const count = source.read(to + filled, room - filled);
+      filled += count;
+      last = count == 0 && source.fault().empty();
+    }
+  }
+  catch (axsReadError const& error)
+  {
+    // What came before is there to be read first.
+    if (filled == before)
+      throw;
+    failure = std::make_unique<axsReadError>(error);
   }
   std::memset(to + filled, 0, bytes_after);
 }

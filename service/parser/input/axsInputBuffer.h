@@ -2,6 +2,7 @@
 
 #include "axsLineEnds.h"
 #include "axsPlace.h"
+#include "axsReadError.h"
 #include "axsUtf8Source.h"
 
 #include <apString.h>
@@ -29,8 +30,8 @@ public:
   /// Whether nothing comes after the end.
   bool is_last() const noexcept { return last; }
 
-  /// Whether something comes after the end that is not in the encoding of the document, which advance() then tells.
-  bool is_stopped() const noexcept { return !source.fault().empty(); }
+  /// Whether what comes after the end cannot be read or is not in the encoding of the document, which advance() then tells.
+  bool is_stopped() const noexcept { return failure != nullptr || !source.fault().empty(); }
 
   /// How many bytes it holds before it grows.
   std::size_t capacity() const noexcept { return room; }
@@ -49,7 +50,7 @@ public:
   void take_xml_1_1_line_ends() noexcept { line_ends = axsLineEnds::Rule::xml_1_1; }
 
   /// Lets go what is before `from`, which points into the buffer, and reads more, if something comes. Returns where that
-  /// byte stands now. Throws axsReadError when the source cannot be read and when what comes after the end is not in the
+  /// byte stands now. Throws axsReadError when the source cannot be read after the end and when what comes after the end is not in the
   /// encoding of the document, std::bad_alloc when memory runs out.
   char const* advance(char const* from);
 
@@ -77,6 +78,8 @@ private:
   // The bytes before the buffer.
   std::uint64_t passed = 0;
   bool last = false;
+  // Why the source could not be read after the end; null if it could.
+  std::unique_ptr<axsReadError> failure;
   axsLineEnds::Rule line_ends = axsLineEnds::Rule::xml_1_0;
   axsPlace begin_place;
   // What was asked for last.

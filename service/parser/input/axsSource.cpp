@@ -100,7 +100,8 @@ void axsSource::read_head()
   kept.resize(head_size);
   kept.resize(read_file(kept.data(), kept.size()));
   present = {kept.data(), kept.size()};
-  if (kept.size() < head_size)
+  bool const is_cut_off = bytes != nullptr && !bytes->fault().empty();
+  if (kept.size() < head_size && !is_cut_off)
     close();
 }
 
@@ -198,11 +199,12 @@ std::size_t axsSource::read_stream(char* to, std::size_t size)
   while (count < size)
   {
     std::size_t const more = bytes->read(to + count, size - count);
-    if (apString const fault = bytes->fault(); !fault.empty())
-      throw axsReadError{fault, url()};
-    if (more == 0)
-      break;
     count += more;
+    // What came before a fault is read first; asked again, the stream tells it again.
+    if (apString const fault = bytes->fault(); !fault.empty() && count == 0)
+      throw axsReadError{fault, url()};
+    if (more == 0 || !bytes->fault().empty())
+      break;
   }
   return count;
 }
