@@ -48,6 +48,8 @@ ROOMS = {
     "service/engine": [
         "service/text", "service/parser", "service/schema", "service/validation", "service/tree", "service/xpath",
         "service/writing", "service/dom", "service/reader"],
+    "service/editing": [
+        "service/text", "service/parser", "service/tree", "service/xpath", "service/dom", "service/engine"],
     "command": [],
 }
 

@@ -1,10 +1,7 @@
-#include "BuiltInEngine.h"
 #include "Complaint.h"
-#include "Loading.h"
-#include "OutputFile.h"
+#include "EditVerb.h"
 
-#include <axmElement.h>
-#include <axmNodeList.h>
+#include <apString.h>
 
 #include <CLI/CLI.hpp>
 
@@ -14,105 +11,72 @@
 
 namespace
 {
-char const description[] = "Set attributes of the elements that an XPath expression selects, and save the document.";
+char const description[] = "Set attributes or values of what an XPath expression selects, and nothing else.";
 
 char const footer[] =
   R"(Examples:
   axm set books.xml "//book[@id='b1']" price=9.50 currency=EUR
   axm set books.xml //book checked=true --output checked.xml
+  axm set *.xml /project/version --value 1.5
+  axm set pom.xml //m:version --ns m=http://maven.apache.org/POM/4.0.0 --value 2.0
+  curl -s https://example.org/feed | axm set - //@lang --value en
 
-The document is saved in UTF-8, without the white space between its elements, whole or not
-at all: in the place of FILE, or to --output.
+NAME=VALUE sets attributes of elements, --value the values of attributes and the text of
+elements with nothing else in them. Every other byte of the document stays as it is. A new
+attribute stands after the others, with the quotes and white space of the last one.
 
-The exit code is 1 if the document cannot be read or saved, or nothing is selected, 2 for
-wrong usage.)";
+Each document is saved whole or not at all: in the place of FILE, compressed as it was, or to
+--output; what comes from standard input goes to standard output. What would not be
+well-formed is not saved. The expression is XPath 1.0, seen from the root element, over the
+document with all its white space.
+
+The exit code is 1 if a document cannot be read or saved, or nothing is selected in any, 2
+for wrong usage.)";
+
+// An expression has more before the sign than what may be taken for a name.
+bool is_setting(std::string const& argument)
+{
+  std::size_t const sign = argument.find('=');
+  return sign != std::string::npos && sign > 0 && argument.find_first_of("/[]()@*|'\" \t\n<>!+,$") >= sign;
+}
+
+axsAttributeSetting setting_of(std::string const& argument)
+{
+  std::size_t const sign = argument.find('=');
+  return {argument.substr(0, sign), argument.substr(sign + 1)};
+}
+
+bool is_utf8(std::string const& text)
+{
+  return apString(text.c_str()).to_utf8() == utString(text.c_str());
+}
 
 struct Request
 {
-  std::string file;
-  std::string xpath;
-  std::vector<std::string> settings;
-  std::string output;
+  EditVerb common;
+  std::string value;
 };
 
-std::string wrong_setting(std::string const& setting)
+int set(Request& request, bool has_value)
 {
-  std::size_t const sign = setting.find('=');
-  if (sign == 0 || sign == std::string::npos)
-    return setting + " is not of the form NAME=VALUE";
-  // What is not would be saved as something else.
-  bool const is_utf8 = apString(setting.c_str()).to_utf8() == utString(setting.c_str());
-  return is_utf8 ? std::string() : setting + " is not UTF-8";
-}
-
-// The first name that the element does not take; empty if it takes all.
-std::string apply(axmElement& element, std::vector<std::string> const& settings)
-{
-  for (std::string const& setting : settings)
+  std::vector<axsAttributeSetting> settings;
+  EditVerb& common = request.common;
+  while (!has_value && !common.arguments.empty() && is_setting(common.arguments.back()))
   {
-    std::size_t const sign = setting.find('=');
-    std::string name = setting.substr(0, sign);
-    apString const wide_name(name.c_str());
-    element.setAttribute(wide_name, apString(setting.substr(sign + 1).c_str()));
-    if (!element.hasAttribute(wide_name))
-      return name;
+    if (!is_utf8(common.arguments.back()))
+      return complain(common.arguments.back(), "is not UTF-8", exit_usage);
+    settings.insert(settings.begin(), setting_of(common.arguments.back()));
+    common.arguments.pop_back();
   }
-  return std::string();
-}
-
-// For an expression that selects no nodes.
-int complain_of_nothing(axmElement& root, std::string const& xpath)
-{
-  XPathAnswer const answer = built_in_answer(root, xpath);
-  if (!answer.fault.empty())
-    return complain(xpath, answer.fault, exit_usage);
-  if (answer.value)
-    return complain(xpath, "gives a value and no nodes", exit_usage);
-  return complain(xpath, "selects nothing", exit_bad_input);
-}
-
-bool write_to_standard_output(apByteArray const& bytes)
-{
-  OutputFile output{std::string()};
-  output.write({bytes.data(), bytes.size()});
-  return output.finish();
-}
-
-int save(axmDocumentFactory& factory, std::shared_ptr<axmDocument> const& document, std::string const& output)
-{
-  bool const is_file = output != "-";
-  if (is_file && factory.saveDocument(document, apPath(output.c_str())))
-    return exit_good;
-  // Whether it is the document or the file shows where no file is needed.
-  apByteArray bytes;
-  bool const can_be_saved = factory.saveDocument(document, bytes);
-  if (!is_file && can_be_saved && write_to_standard_output(bytes))
-    return exit_good;
-  return complain(is_file ? output : "standard output",
-    can_be_saved ? "cannot be written" : "not saved: " + built_in_obstacle(*document), exit_bad_input);
-}
-
-int set(Request const& request)
-{
-  std::shared_ptr<axmDocumentFactory> const factory = engine_or_complain();
-  if (factory == nullptr)
-    return exit_bad_input;
-  std::shared_ptr<axmDocument> const document =
-    load_or_complain(*factory, request.file, axmLoadOptions(axmValidateNone));
-  if (document == nullptr)
-    return exit_bad_input;
-
-  std::shared_ptr<axmElement> const root = document->getDocumentElement();
-  std::shared_ptr<axmNodeList> const found = root->selectNodes(apString(request.xpath.c_str()));
-  if (found->isEmpty())
-    return complain_of_nothing(*root, request.xpath);
-  while (std::shared_ptr<axmElement> const element = found->next_node())
-  {
-    std::string const refused = apply(*element, request.settings);
-    if (!refused.empty())
-      return complain(request.xpath, "a selected node takes no attribute " + refused, exit_bad_input);
-  }
-  return save(*factory, document, request.output.empty() ? request.file : request.output);
+  std::string const xpath = common.take_last();
+  if (xpath.empty())
+    return complain("set", "XPATH is required", exit_usage);
+  if (settings.empty() && !has_value)
+    return complain("set", "NAME=VALUE or --value is required", exit_usage);
+  if (!is_utf8(request.value))
+    return complain(request.value, "is not UTF-8", exit_usage);
+  return common.run(xpath, [&](axsEditor& editor)
+    { return has_value ? editor.set_value(xpath, request.value) : editor.set_attributes(xpath, settings); });
 }
 }
 
@@ -120,11 +84,9 @@ void add_set(CLI::App& app, int& exit_code)
 {
   CLI::App* const verb = app.add_subcommand("set", description);
   auto const request = std::make_shared<Request>();
-  verb->add_option("FILE", request->file, "The document")->required();
-  verb->add_option("XPATH", request->xpath, "The elements")->required();
-  verb->add_option("NAME=VALUE", request->settings, "The attributes to set")->required()->check(wrong_setting);
-  verb->add_option("--output", request->output, "The file to save to, - for standard output; FILE without it")
-    ->check(OutputFile::wrong_name);
+  request->common.add_to(
+    *verb, {{"XPATH", "What to set"}, {"NAME=VALUE", "The attributes to set; any number of them"}});
+  CLI::Option* const value = verb->add_option("--value", request->value, "The value to set")->type_name("TEXT");
   verb->footer(footer);
-  verb->callback([request, &exit_code] { exit_code = set(*request); });
+  verb->callback([request, value, &exit_code] { exit_code = set(*request, value->count() > 0); });
 }

@@ -50,7 +50,14 @@ bool is_dropped(std::string_view text)
 }
 }
 
-axsTreeBuilder::axsTreeBuilder(axsDomDocument& document) noexcept : built(document), tree(document), open(&document) {}
+axsTreeBuilder::axsTreeBuilder(axsDomDocument& document) noexcept : axsTreeBuilder(document, document) {}
+
+axsTreeBuilder::axsTreeBuilder(axsDomDocument& document, axsParent& parent) noexcept
+  : built(document),
+    tree(document),
+    open(&parent)
+{
+}
 
 void axsTreeBuilder::declaration(std::string_view version, std::string_view, std::string_view standalone)
 {
@@ -91,7 +98,7 @@ void axsTreeBuilder::end_element()
 
 void axsTreeBuilder::text(std::string_view text, bool is_cdata)
 {
-  bool const is_preserved = !spaces.empty() && spaces.back().is_preserved;
+  bool const is_preserved = keeps_spaces || (!spaces.empty() && spaces.back().is_preserved);
   if ((is_preserved || !is_dropped(text)) && !open->is_document())
     open->append_new(*tree.make_leaf<axsDomText>(text, is_cdata ? axsKind::cdata_section : axsKind::text));
 }

@@ -19,6 +19,15 @@ class axsTreeBuilder final : public axsParseHandler
 public:
   explicit axsTreeBuilder(axsDomDocument& document) noexcept;
 
+  /// Builds under `parent`, a node of the document that the caller holds, instead.
+  axsTreeBuilder(axsDomDocument& document, axsParent& parent) noexcept;
+
+  /// From now on no text is dropped.
+  void keep_all_spaces() noexcept { keeps_spaces = true; }
+
+  /// The node whose content comes next.
+  axsParent& innermost() const noexcept { return *open; }
+
   void declaration(std::string_view version, std::string_view encoding, std::string_view standalone) override;
   axsName const& name(std::string_view text) override;
   void start_element(axsStartTag const& tag) override;
@@ -43,6 +52,7 @@ private:
   axsParent* open;
   // That of the attribute xml:space; null as long as there is none.
   axsName const* space_name = nullptr;
+  bool keeps_spaces = false;
   // What the open elements say with xml:space, the innermost last.
   std::vector<Space> spaces;
 };

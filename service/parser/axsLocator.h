@@ -27,6 +27,10 @@ public:
   /// How many bytes of the document stand before that; none where it comes out of an entity.
   virtual std::optional<std::uint64_t> begin_position() const { return std::nullopt; }
 
+  /// How many bytes of the document stand before its end, its last character among them; none where it comes out of an
+  /// entity.
+  virtual std::optional<std::uint64_t> end_position() const { return std::nullopt; }
+
   /// The name of the attribute at `index` of the start tag of which the event tells; of one that is not specified there,
   /// begin(). Asked in their order, all of them cost one pass over the tag.
   virtual axsPlace attribute(std::size_t index) const = 0;

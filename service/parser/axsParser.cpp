@@ -165,6 +165,13 @@ std::optional<std::uint64_t> axsParser::begin_position() const
   return in.position(event_begin);
 }
 
+std::optional<std::uint64_t> axsParser::end_position() const
+{
+  if (in.depth() > 0)
+    return std::nullopt;
+  return in.position(event_end);
+}
+
 axsPlace axsParser::attribute(std::size_t index) const
 {
   char const* const at = index < attributes.size() ? attributes.source(index).at : nullptr;

@@ -95,6 +95,7 @@ private:
   apString url() const override { return in.url(); }
   axsPlace begin() const override;
   std::optional<std::uint64_t> begin_position() const override;
+  std::optional<std::uint64_t> end_position() const override;
   axsPlace attribute(std::size_t index) const override;
   axsPlace end() const override { return in.place(event_end); }
 

@@ -245,8 +245,8 @@ TEST(axm_set, sets_attributes_and_saves_elsewhere)
   ProgramRun const run = run_axm("set", {"set", file.name, "//item[2]", "id=7", "x=a=b&", "--output", output.name});
   EXPECT_EQ(run.exit_code, 0) << run.err;
   EXPECT_EQ(contents_of(output.name),
-    "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<list><item id=\"1\">\xC3\xA4 one</item>"
-    "<item id=\"7\" x=\"a=b&amp;\">two</item></list>\n");
+    "<?xml version=\"1.0\"?>\n<list>\n\t<item id=\"1\">\xC3\xA4 one</item>\n  "
+    "<item id=\"7\" x=\"a=b&amp;\">two</item>\n</list>");
   EXPECT_EQ(contents_of(file.name), books);
 }
 
@@ -254,7 +254,7 @@ TEST(axm_set, saves_in_place_without_output)
 {
   TemporaryFile const file("set_in_place.xml", "<a/>");
   EXPECT_EQ(run_axm("set_in_place", {"set", file.name, "/a", "b=c"}).exit_code, 0);
-  EXPECT_EQ(contents_of(file.name), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a b=\"c\"/>\n");
+  EXPECT_EQ(contents_of(file.name), "<a b=\"c\"/>");
 }
 
 TEST(axm_set, leaves_the_file_when_something_is_wrong)
@@ -322,7 +322,7 @@ TEST(axm_set, an_output_without_a_name_is_wrong_usage)
 TEST(axm_set, writes_to_standard_output)
 {
   TemporaryFile const file("set_out.xml", "<a/>");
-  std::string const saved = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a b=\"c\"/>\n";
+  std::string const saved = "<a b=\"c\"/>";
   EXPECT_EQ(run_axm("set_out", {"set", file.name, "/a", "b=c", "--output", "-"}).out, saved);
 #if !defined(_WIN32)
   EXPECT_EQ(run_axm("set_out", {"set", file.name, "/a", "b=c", "--output", "/dev/stdout"}).out, saved);

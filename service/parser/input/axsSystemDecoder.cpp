@@ -2,77 +2,16 @@
 
 #if defined(_WIN32)
 
+#  include "axsCodePage.h"
+
 #  include <utUtf16.h>
 #  include <utUtf8.h>
 
 #  include <windows.h>
 
-#  include <algorithm>
-#  include <iterator>
-#  include <string>
-
 namespace
 {
-struct CodePage
-{
-  std::string_view key;
-  UINT number;
-};
-
-// Names without punctuation, in small letters. Those of the kind "ibm037" and "windows-874" say their number.
-CodePage const code_pages[] = {
-  {"shiftjis", 932},
-  {"sjis", 932},
-  {"csshiftjis", 932},
-  {"mskanji", 932},
-  {"windows31j", 932},
-  {"eucjp", 20932},
-  {"gb2312", 936},
-  {"csgb2312", 936},
-  {"gbk", 936},
-  {"gb18030", 54936},
-  {"big5", 950},
-  {"csbig5", 950},
-  {"euckr", 949},
-  {"cseuckr", 949},
-  {"ksc56011987", 949},
-  {"tis620", 874},
-  {"macintosh", 10000},
-};
-
 UINT const gb18030 = 54936;
-
-std::string key_of(std::string_view name)
-{
-  std::string key;
-  for (char const c : name)
-    if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9'))
-      key += c;
-    else if (c >= 'A' && c <= 'Z')
-      key += static_cast<char>(c - 'A' + 'a');
-  return key;
-}
-
-UINT number_in(std::string_view key)
-{
-  for (std::string_view const start : {"ibm", "cp", "windows"})
-  {
-    std::string_view const digits = key.substr(std::min(start.size(), key.size()));
-    bool const is_number =
-      !digits.empty() && digits.size() < 6 && digits.find_first_not_of("0123456789") == digits.npos;
-    if (key.substr(0, start.size()) == start && is_number)
-      return static_cast<UINT>(std::stoul(std::string(digits)));
-  }
-  return 0;
-}
-
-UINT code_page_of(std::string_view name)
-{
-  std::string const key = key_of(name);
-  CodePage const* const found = std::find_if(
-    std::begin(code_pages), std::end(code_pages), [&key](CodePage const& page) { return page.key == key; });
-  return found == std::end(code_pages) ? number_in(key) : found->number;
-}
 
 // Goes from character to character, so that a piece may end anywhere and what is illegal has its place.
 class Decoder final : public axsDecoder
@@ -137,7 +76,7 @@ private:
 
 std::unique_ptr<axsDecoder> axsSystemDecoder::make(std::string_view name)
 {
-  UINT const number = code_page_of(name);
+  UINT const number = axsCodePage::number_of(name);
   wchar_t unit;
   // Some pages cannot be decoded strictly.
   bool const is_known = number != 0 && MultiByteToWideChar(number, MB_ERR_INVALID_CHARS, "\x4C", 1, &unit, 1) == 1;

@@ -1,0 +1,138 @@
+#include "axsFragment.h"
+
+#include "axsEditFault.h"
+#include "axsEditSession.h"
+#include "axsHandle.h"
+#include "axsMarkupText.h"
+#include "axsMemorySource.h"
+#include "axsParser.h"
+#include "axsTreeBuilder.h"
+
+#include <utUtf8.h>
+
+#include <set>
+#include <string>
+
+namespace
+{
+[[noreturn]] void fail(axmParseError const& error)
+{
+  throw axsEditFault{axsEditFault::Kind::request, error, {}};
+}
+
+bool ends_prefix(char c)
+{
+  std::string_view const others = " \t\r\n<>/='\"&;:";
+  return others.find(c) != others.npos;
+}
+
+// Whatever stands before a colon: all prefixes are among it.
+std::set<std::string> words_before_colons(std::string_view text)
+{
+  std::set<std::string> words;
+  for (std::size_t colon = text.find(':'); colon != text.npos; colon = text.find(':', colon + 1))
+  {
+    std::size_t begin = colon;
+    while (begin > 0 && !ends_prefix(text[begin - 1]))
+      --begin;
+    words.emplace(text.substr(begin, colon - begin));
+  }
+  return words;
+}
+
+// What opens an element around the fragment and has the namespaces.
+std::string opening(axsEditSession& session, axsNode const& parent, std::string_view fragment)
+{
+  bool const is_xml_1_1 = session.tree().is_xml_1_1();
+  std::string tag = is_xml_1_1 ? "<?xml version=\"1.1\"?><fragment" : "<fragment";
+  if (parent.is_element())
+    for (std::string const& prefix : words_before_colons(fragment))
+    {
+      std::string_view const uri = session.scopes().uri(static_cast<axsElement const&>(parent), prefix);
+      if (!prefix.empty() && !uri.empty() && prefix != "xml" && prefix != "xmlns")
+        tag += " xmlns:" + prefix + "=" + axsMarkupText::value(uri, '"', is_xml_1_1);
+    }
+  return tag + ">";
+}
+
+// Builds the nodes, and looks at what prefixes mean.
+class Handler final : public axsParseHandler
+{
+public:
+  Handler(axsEditSession& session, axsParent& parent) : builder(session.tree(), parent), prefixes(session.prefixes())
+  {
+    builder.keep_all_spaces();
+  }
+
+  axsName const& name(std::string_view text) override { return builder.name(text); }
+  void doctype(std::shared_ptr<axsDtd const> const&) override {}
+  void end_element() override { builder.end_element(); }
+  void text(std::string_view text, bool is_cdata) override { builder.text(text, is_cdata); }
+  void comment(std::string_view data) override { builder.comment(data); }
+  void processing_instruction(std::string_view target, std::string_view data) override
+  {
+    builder.processing_instruction(target, data);
+  }
+
+  void start_element(axsStartTag const& tag) override
+  {
+    check(*tag.name, tag.name_space);
+    for (axsTagAttribute const& attribute : *tag.attributes)
+      check(*attribute.name, attribute.name_space);
+    builder.start_element(tag);
+  }
+
+private:
+  void check(axsName const& name, std::string_view uri) const
+  {
+    auto const given = prefixes.find(std::string(name.prefix()));
+    if (name.prefix().empty() || given == prefixes.end() || given->second == uri)
+      return;
+    fail(axmParseError(apString::from_utf8("the fragment's prefix '" + given->first + "' is bound to " +
+                                           std::string(uri) + " there, and not to " + given->second)));
+  }
+
+  axsTreeBuilder builder;
+  axsXPathPrefixes const& prefixes;
+};
+
+// How many columns it takes: units of UTF-16.
+int width_of(std::string_view text)
+{
+  int units = 0;
+  for (char const c : text)
+    units += (utUtf8::is_continuation(c) ? 0 : 1) + (static_cast<unsigned char>(c) >= 0xF0 ? 1 : 0);
+  return units;
+}
+
+axmParseError with_place_in_fragment(axsReadError const& wrong, std::string_view before)
+{
+  axmParseError error(APSTRING("the fragment: ") + wrong.message);
+  error.set_line_number(wrong.line);
+  error.set_column_number(wrong.line == 1 ? wrong.column - width_of(before) : wrong.column);
+  return error;
+}
+}
+
+std::vector<std::shared_ptr<axmNode>> axsFragment::parse(
+  axsEditSession& session, axsNode const& parent, std::string_view fragment)
+{
+  std::string const before = opening(session, parent, fragment);
+  std::string const text = before + std::string(fragment) + "</fragment>";
+  auto const scratch = session.tree().createElement(APSTRING("fragment"));
+  try
+  {
+    axsMemorySource memory(text, {});
+    Handler handler(session, static_cast<axsParent&>(*axsHandle::node_of(*scratch)));
+    axsParser(memory.source(), axmLoadOptions(axmValidateNone), handler).run();
+  }
+  catch (axsReadError const& wrong)
+  {
+    fail(with_place_in_fragment(wrong, before));
+  }
+  std::shared_ptr<axmNode> const around = scratch->getFirstChild();
+  std::vector<std::shared_ptr<axmNode>> nodes;
+  while (auto const child = around->getFirstChild())
+    nodes.push_back(around->removeChild(child));
+  return nodes;
+}

@@ -1,0 +1,27 @@
+#include "axsInsertEdit.h"
+
+#include "axsEditSession.h"
+#include "axsFragment.h"
+#include "axsInsertion.h"
+
+#include <deque>
+
+std::size_t axsInsertEdit::run(
+  axsEditSession& session, std::string_view xpath, axsEditPlace where, std::string_view fragment)
+{
+  axsEditSession::Nodes const targets = session.select(xpath);
+  std::deque<axsInsertion> insertions;
+  for (axsNode* const target : targets)
+    insertions.emplace_back(session, *target, where, std::unordered_set<axsNode const*>());
+  session.find_places();
+
+  std::vector<axsInsertion::Nodes> nodes;
+  for (axsInsertion& insertion : insertions)
+  {
+    nodes.push_back(axsFragment::parse(session, insertion.parent(), fragment));
+    insertion.splice({{session.source().with_line_ends(fragment), {}}});
+  }
+  for (std::size_t i = 0; i < nodes.size(); ++i)
+    insertions[i].apply({nodes[i]});
+  return targets.size();
+}
