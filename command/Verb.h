@@ -14,6 +14,7 @@ enum ExitCode : int
 /// its exit code in `exit_code`. One file a verb.
 using Verb = void (*)(CLI::App& app, int& exit_code);
 
+void add_canon(CLI::App& app, int& exit_code);
 void add_check(CLI::App& app, int& exit_code);
 void add_completion(CLI::App& app, int& exit_code);
 void add_conform(CLI::App& app, int& exit_code);

@@ -22,7 +22,8 @@ namespace
 // In the order in which the help lists them; the last one is for the program itself.
 Verb const verbs[] = {add_check, add_select,
 #if defined(AXM_HAS_ENGINE)
-  add_set, add_delete, add_insert, add_move, add_rename, add_outline, add_diff, add_format, add_convert, add_split,
+  add_set, add_delete, add_insert, add_move, add_rename, add_outline, add_diff, add_format, add_canon, add_convert,
+  add_split,
 #endif
   add_table, add_conform, add_completion, add_conform_worker};
 

@@ -11,8 +11,8 @@
 namespace
 {
 // Those that everyone has.
-std::string const verbs[] = {"check", "delete", "outline", "diff", "format", "convert", "insert", "move", "rename",
-  "select", "set", "split", "table", "conform", "completion"};
+std::string const verbs[] = {"canon", "check", "delete", "outline", "diff", "format", "convert", "insert", "move",
+  "rename", "select", "set", "split", "table", "conform", "completion"};
 
 bool contains(std::string const& text, std::string const& part)
 {
