@@ -77,6 +77,28 @@ constexpr axsSchemaProduction open_content(std::uint64_t fields)
   return {fields, 0, nullptr, 0};
 }
 
+// Of the elements that have a role of their own there.
+Role role_at_top(Tag tag) noexcept
+{
+  switch (tag)
+  {
+  case Tag::element:
+    return Role::global_element;
+  case Tag::attribute:
+    return Role::global_attribute;
+  case Tag::complex_type:
+    return Role::global_complex_type;
+  case Tag::simple_type:
+    return Role::global_simple_type;
+  case Tag::group:
+    return Role::group_definition;
+  case Tag::attribute_group:
+    return Role::attribute_group_definition;
+  default:
+    return Role::none;
+  }
+}
+
 // Of the elements that have the same role wherever they stand.
 Role role_anywhere(Tag tag) noexcept
 {
@@ -228,22 +250,24 @@ axsSchemaRole axsSchemaProduction::role_of(axsSchemaRole parent, axsSchemaTag ch
   bool const is_top = parent == Role::schema || parent == Role::redefine;
   bool const is_simple_content = parent == Role::simple_content;
   bool const is_in_definition = parent == Role::group_definition;
+  if (Role const at_top = is_top ? role_at_top(child) : Role::none; at_top != Role::none)
+    return at_top;
   switch (child)
   {
   case Tag::element:
     if (parent == Role::all || parent == Role::definition_all)
       return Role::all_element;
-    return is_top ? Role::global_element : Role::local_element;
+    return Role::local_element;
   case Tag::attribute:
-    return is_top ? Role::global_attribute : Role::local_attribute;
+    return Role::local_attribute;
   case Tag::complex_type:
-    return is_top ? Role::global_complex_type : Role::local_complex_type;
+    return Role::local_complex_type;
   case Tag::simple_type:
-    return is_top ? Role::global_simple_type : Role::local_simple_type;
+    return Role::local_simple_type;
   case Tag::group:
-    return is_top ? Role::group_definition : Role::group_reference;
+    return Role::group_reference;
   case Tag::attribute_group:
-    return is_top ? Role::attribute_group_definition : Role::attribute_group_reference;
+    return Role::attribute_group_reference;
   case Tag::all:
     return is_in_definition ? Role::definition_all : Role::all;
   case Tag::choice:
