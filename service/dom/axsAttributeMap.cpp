@@ -3,7 +3,7 @@
 #include "axsElement.h"
 #include "axsHandle.h"
 
-axsAttributeMap::axsAttributeMap(axsElement& element) noexcept : owner(element), hold(element) {}
+axsAttributeMap::axsAttributeMap(axsElement& element) noexcept : owner(element), hold(element, axsArena::tree_of(&element)) {}
 
 axsAttributeMap::~axsAttributeMap() = default;
 

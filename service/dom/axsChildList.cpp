@@ -4,42 +4,42 @@
 #include "axsDomDocument.h"
 #include "axsHandle.h"
 
-axsChildList::axsChildList(axsNode& node) : listed(node), hold(node)
+// Lists of one thread only have no lock.
+template <class Work>
+auto axsChildList::while_locked(Work work) const
 {
-  if (!node.is_parent())
-    return;
-  axsDomDocument& document = axsDomDocument::of(node);
-  auto const lock = document.lock();
-  positions = &document.child_positions().acquire(static_cast<axsParent&>(node));
+  if (lock == nullptr)
+    return work();
+  std::lock_guard<std::mutex> const guard(*lock);
+  return work();
+}
+
+axsChildList::axsChildList(axsNode& node) : axsChildList(node, axsDomDocument::of(node)) {}
+
+axsChildList::axsChildList(axsNode& node, axsDomDocument& owner)
+  : document(owner),
+    lock(owner.shared_lock()),
+    hold(node, owner)
+{
+  if (node.is_parent())
+    positions = while_locked([&] { return &document.child_positions().acquire(static_cast<axsParent&>(node)); });
 }
 
 axsChildList::~axsChildList()
 {
-  if (positions == nullptr)
-    return;
-  axsDomDocument& document = axsDomDocument::of(listed);
-  auto const lock = document.lock();
-  document.child_positions().release(*positions);
+  if (positions != nullptr)
+    while_locked([&] { document.child_positions().release(*positions); });
 }
 
 std::shared_ptr<axmElement> axsChildList::at(int index)
 {
-  axsNode* const child = child_at(index);
+  if (positions == nullptr)
+    return nullptr;
+  axsNode* const child = while_locked([&] { return positions->at(index); });
   return child == nullptr ? nullptr : axsHandle::of_item(*child);
 }
 
 int axsChildList::length() const
 {
-  if (positions == nullptr)
-    return 0;
-  auto const lock = axsDomDocument::of(listed).lock();
-  return positions->count();
-}
-
-axsNode* axsChildList::child_at(int index)
-{
-  if (positions == nullptr)
-    return nullptr;
-  auto const lock = axsDomDocument::of(listed).lock();
-  return positions->at(index);
+  return positions == nullptr ? 0 : while_locked([&] { return positions->count(); });
 }

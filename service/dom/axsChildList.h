@@ -4,7 +4,10 @@
 
 #include <axmNodeList.h>
 
+#include <mutex>
+
 class axsChildPositions;
+class axsDomDocument;
 class axsNode;
 
 /// The children of one node, live. Holds the node.
@@ -20,9 +23,14 @@ public:
   int length() const override;
 
 private:
-  axsNode* child_at(int index);
+  axsChildList(axsNode& node, axsDomDocument& owner);
 
-  axsNode& listed;
+  template <class Work>
+  auto while_locked(Work work) const;
+
+  axsDomDocument& document;
+  // Null where the document is not shared.
+  std::mutex* const lock;
   axsHold const hold;
   // Null for a node that cannot have children.
   axsChildPositions* positions = nullptr;

@@ -55,11 +55,8 @@ public:
   /// The name of texts other than CDATA sections, made once (DOM Core, nodeName).
   apString const& name_of_texts() const noexcept { return text_name; }
 
-  /// Where the document is shared, the lock that goes with what its threads change together.
-  std::unique_lock<std::mutex> lock() noexcept
-  {
-    return state == nullptr ? std::unique_lock<std::mutex>() : std::unique_lock(state->lock);
-  }
+  /// Where the document is shared, the lock that goes with what its threads change together; null otherwise.
+  std::mutex* shared_lock() noexcept { return state == nullptr ? nullptr : &state->lock; }
 
   /// Whether a single pointer is all that is held of the document.
   bool is_held_by_one() noexcept

@@ -6,19 +6,20 @@
 class axsHold
 {
 public:
-  explicit axsHold(axsNode& node) noexcept : held(node)
+  /// Of a node of `tree`.
+  axsHold(axsNode& node, axsTree const& tree) noexcept : held(tree.is_shared() ? nullptr : &node)
   {
-    if (!node.tree().is_shared())
-      node.acquire();
+    if (held != nullptr)
+      held->acquire();
   }
   axsHold(axsHold const&) = delete;
   axsHold& operator=(axsHold const&) = delete;
   ~axsHold()
   {
-    if (!held.tree().is_shared())
-      held.release();
+    if (held != nullptr)
+      held->release();
   }
 
 private:
-  axsNode& held;
+  axsNode* const held;
 };
