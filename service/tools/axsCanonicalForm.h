@@ -1,10 +1,10 @@
 #pragma once
 
+#include "axsByteStream.h"
 #include "axsCanonicalOptions.h"
 #include "axsExport.h"
 #include <apByteArray.h>
 #include <axmParseError.h>
-#include <axsByteStream.h>
 
 #include <functional>
 #include <string_view>

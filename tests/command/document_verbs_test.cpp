@@ -244,9 +244,8 @@ TEST(axm_set, sets_attributes_and_saves_elsewhere)
   TemporaryFile const output("set_output.xml", "old");
   ProgramRun const run = run_axm("set", {"set", file.name, "//item[2]", "id=7", "x=a=b&", "--output", output.name});
   EXPECT_EQ(run.exit_code, 0) << run.err;
-  EXPECT_EQ(contents_of(output.name),
-    "<?xml version=\"1.0\"?>\n<list>\n\t<item id=\"1\">\xC3\xA4 one</item>\n  "
-    "<item id=\"7\" x=\"a=b&amp;\">two</item>\n</list>");
+  EXPECT_EQ(contents_of(output.name), "<?xml version=\"1.0\"?>\n<list>\n\t<item id=\"1\">\xC3\xA4 one</item>\n  "
+                                      "<item id=\"7\" x=\"a=b&amp;\">two</item>\n</list>");
   EXPECT_EQ(contents_of(file.name), books);
 }
 
