@@ -3,7 +3,11 @@
 #include "axsElement.h"
 #include "axsHandle.h"
 
-axsAttributeMap::axsAttributeMap(axsElement& element) noexcept : owner(element), hold(element, axsArena::tree_of(&element)) {}
+axsAttributeMap::axsAttributeMap(axsElement& element) noexcept
+  : owner(element),
+    hold(element, axsArena::tree_of(&element))
+{
+}
 
 axsAttributeMap::~axsAttributeMap() = default;
 

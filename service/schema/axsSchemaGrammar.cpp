@@ -165,7 +165,7 @@ char const* fault_of(Field field, Role role, std::string_view text)
     return fault_of_namespace(role, text);
   case Field::target_namespace:
     return text.empty() ? "the name of a namespace; without one, the attribute is left out" : fault_of_uri(text);
-  case Field::schema_location:
+  // Of schemaLocation, the file counts that has that very name, whatever a URI may hold.
   case Field::source:
   case Field::system_id:
     return fault_of_uri(text);
