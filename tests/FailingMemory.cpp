@@ -169,3 +169,32 @@ void operator delete[](void* block, std::size_t) noexcept
 {
   std::free(block);
 }
+
+// A sanitizer has these of its own, which ask none of the functions above.
+void* operator new(std::size_t size, std::align_val_t alignment)
+{
+  void* const block = aligned_alloc(static_cast<std::size_t>(alignment), size);
+  if (block == nullptr)
+    throw std::bad_alloc();
+  return block;
+}
+
+void* operator new(std::size_t size, std::align_val_t alignment, std::nothrow_t const&) noexcept
+{
+  return aligned_alloc(static_cast<std::size_t>(alignment), size);
+}
+
+void operator delete(void* block, std::align_val_t) noexcept
+{
+  std::free(block);
+}
+
+void operator delete(void* block, std::size_t, std::align_val_t) noexcept
+{
+  std::free(block);
+}
+
+void operator delete(void* block, std::align_val_t, std::nothrow_t const&) noexcept
+{
+  std::free(block);
+}
