@@ -9,11 +9,11 @@
 class axsXPathMeter
 {
 public:
-  /// How an evaluation ends early. Thrown by spend(), and never leaves axsXPathQuery.
-  enum class End
+  /// Thrown by spend() where an evaluation ends early; never leaves axsXPathQuery.
+  struct End
   {
-    too_many_steps,
-    stopped
+    /// Whether somebody stopped it; otherwise there were too many steps.
+    bool is_stopped;
   };
 
   explicit axsXPathMeter(axsXPathLimits const& given) noexcept : limits(given), left(given.max_steps) {}
@@ -31,10 +31,10 @@ private:
   void spend_beyond(std::uint64_t steps)
   {
     if (limits.stop != nullptr && limits.stop->load(std::memory_order_relaxed))
-      throw End::stopped;
+      throw End{true};
     left += at_hand;
     if (steps > left)
-      throw End::too_many_steps;
+      throw End{false};
     left -= steps;
     at_hand = std::min<std::uint64_t>(left, 4096);
     left -= at_hand;

@@ -62,9 +62,7 @@ std::vector<axsXPathNode> select_nodes(axsXPathEvaluator& evaluator, axsXPathExp
 
 axsXPathError error_of(axsXPathMeter::End end)
 {
-  return {end == axsXPathMeter::End::stopped ? "the evaluation was stopped"
-                                             : "the evaluation takes more steps than are allowed",
-    1};
+  return {end.is_stopped ? "the evaluation was stopped" : "the evaluation takes more steps than are allowed", 1};
 }
 }
 
