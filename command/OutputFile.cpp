@@ -31,7 +31,7 @@ bool OutputFile::good() const
 
 void OutputFile::write(std::string_view bytes)
 {
-  if (stream != nullptr)
+  if (stream != nullptr && !bytes.empty())
     std::fwrite(bytes.data(), 1, bytes.size(), stream);
 }
 
