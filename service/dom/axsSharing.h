@@ -15,7 +15,7 @@
 ///
 /// What it costs: a shared document has one count of all that is held of it, which the threads share; it goes, with all
 /// its nodes, when that is nothing. Lists of children and the compiled forms of expressions are behind a lock, for the time
-/// of a step. Documents that are not shared pay nothing.
+/// of a step. Documents that are not shared take no lock.
 class AXS_API axsSharing
 {
 public:
