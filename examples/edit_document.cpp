@@ -1,8 +1,7 @@
-// Loads a document, checked against a schema, reads and changes typed attributes, and saves it as another file:
+// edit_document.cpp: loads a document, checked against a schema, changes typed attributes, and saves it as another file:
 // edit_document stations.xml stations.xsd OUTPUT
 
-#include <axmDocumentFactory.h>
-#include <axmNodeList.h>
+#include <axm.h>
 #include <axsRegister.h>
 
 #include <iostream>
@@ -18,28 +17,25 @@ int main(int argc, char** argv)
   // The one line that names an engine. Everything below works with whatever is registered.
   axs_register();
 
-  utServiceName resolved;
-  auto const factory = utService::locate_service<axmDocumentFactory>(utServiceName(ut_lit("XMLService")), resolved);
-
   axmLoadOptions options(axmValidateWithSchemas);
-  options.set_no_namespace_schema(apPath(argv[2]));
-  axmParseError error;
-  auto const document = factory->loadDocument(apPath(argv[1]), options, error);
-  if (document == nullptr)
+  options.set_no_namespace_schema(axm::path(argv[2]));
+  auto const document = axm::load_file(argv[1], options);
+  if (!document)
   {
-    std::cerr << error.url().to_utf8() << ':' << error.line_number() << ':' << error.column_number() << ": "
-              << error.message().to_utf8() << '\n';
+    std::cerr << document.error() << '\n';
     return 1;
   }
 
-  auto const stations = document->getDocumentElement()->selectNodes(APSTRING("station[@lat > 50]"));
-  while (auto const station = stations->next_node())
+  for (auto const& station : axm::select(*document, "station[@lat > 50]"))
   {
-    double lat = 0;
-    if (station->get_attribute(APSTRING("lat"), lat))
-      station->set_attribute(APSTRING("lat"), lat + 0.5);
-    station->set_attribute(APSTRING("moved"), true);
-    std::cout << station->get_xml().to_utf8() << '\n';
+    if (auto const lat = axm::attribute<double>(station, "lat"))
+      axm::set_attribute(station, "lat", *lat + 0.5);
+    axm::set_attribute(station, "moved", true);
+    std::cout << axm::utf8(station->get_xml()) << '\n';
   }
-  return factory->saveDocument(document, apPath(argv[3])) ? 0 : 1;
+
+  auto const saved = axm::save_file(*document, argv[3]);
+  if (!saved)
+    std::cerr << saved.error() << '\n';
+  return saved ? 0 : 1;
 }

@@ -1,4 +1,4 @@
-// Takes fields out of an XML file with the streaming reader: read_fields books.xml
+// read_fields.cpp: takes fields out of an XML file with the streaming reader: read_fields books.xml
 
 #include <axm.h>
 

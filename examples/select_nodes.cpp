@@ -1,7 +1,6 @@
-// Shows what an XPath expression selects in an XML file: select_nodes books.xml "//book[year > 1890]/title"
+// select_nodes.cpp: shows what an XPath expression selects in an XML file: select_nodes books.xml "//book[year > 1890]/title"
 
-#include <axmDocumentFactory.h>
-#include <axmNodeList.h>
+#include <axm.h>
 #include <axsRegister.h>
 #include <axsXPath.h>
 
@@ -16,31 +15,24 @@ int main(int argc, char** argv)
   }
 
   axs_register();
-  utServiceName resolved;
-  auto const factory = utService::locate_service<axmDocumentFactory>(utServiceName(ut_lit("XMLService")), resolved);
-  axmParseError parse_error;
-  auto const document = factory->loadDocument(apPath(argv[1]), axmLoadOptions(axmValidateNone), parse_error);
-  if (document == nullptr)
+  auto const document = axm::load_file(argv[1]);
+  if (!document)
   {
-    std::cerr << parse_error.message().to_utf8() << '\n';
+    std::cerr << document.error() << '\n';
     return 1;
   }
 
-  // Every engine selects nodes; what was wrong with an expression, or what gives no nodes, is asked of this engine.
-  auto const nodes = document->getDocumentElement()->selectNodes(apString(argv[2]));
-  while (auto const node = nodes->next_node())
-    std::cout << node->getNodeName().to_utf8() << ": " << node->get_text().to_utf8() << '\n';
-  if (!nodes->isEmpty())
-    return 0;
-
+  // Every engine selects nodes; values, and what is wrong with an expression, are asked of this engine.
   axsXPath::Value value;
   axsXPathError error;
-  if (!axsXPath::evaluate(*document->getDocumentElement(), apString(argv[2]), value, error))
+  if (!axsXPath::evaluate(*(*document)->getDocumentElement(), axm::wide(argv[2]), value, error))
   {
     std::cerr << "character " << error.position << ": " << error.message << '\n';
     return 1;
   }
+  for (auto const& node : value.nodes)
+    std::cout << axm::utf8(node->getNodeName()) << ": " << axm::text(node) << '\n';
   if (value.type != axsXPathType::node_set)
-    std::cout << value.text.to_utf8() << '\n';
+    std::cout << axm::utf8(value.text) << '\n';
   return 0;
 }
