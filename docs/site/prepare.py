@@ -61,9 +61,8 @@ def manual_page(axm, verb):
     manual = subprocess.run([axm, '--man', verb], check=True, capture_output=True).stdout
     html = subprocess.run(['mandoc', '-T', 'html', '-O', 'fragment'], input=manual, check=True,
                           capture_output=True).stdout.decode('utf-8')
-    # The head and the name are those of the page; a heading becomes one of it, and no heading links to itself twice.
-    body = html[html.index('<section class="Sh">'):html.index('<table class="foot">')]
-    body = re.sub(r'<h1 class="Sh" id="NAME">.*?</h1>', '', body, flags=re.S)
+    # What stands before the synopsis is the title of the page; headings become those of it.
+    body = html[html.index('<section class="Sh">', html.index('id="NAME"')):html.index('<table class="foot">')]
     body = re.sub(r'<h1 class="Sh" id="(\w+)"><a.*?>(.*?)</a></h1>', lambda heading: '<h2 id="{}">{}</h2>'.format(
         heading.group(1).lower(), heading.group(2).capitalize()), body, flags=re.S)
     return f'# axm {verb}\n\n<div class="manual">\n{body.rsplit("</div>", 1)[0]}\n</div>\n'

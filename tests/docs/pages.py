@@ -99,8 +99,12 @@ def write_programs(folder, pages):
             print('page', page, *programs_of(page))
 
 
+def example_of(name):
+    return pathlib.Path(__file__).parents[2] / 'examples' / f'{name}.cpp'
+
+
 def check_example(page, name, block):
-    example = pathlib.Path(__file__).parents[2] / 'examples' / f'{name}.cpp'
+    example = example_of(name)
     if example.exists() and example.read_text(encoding='utf-8') != block.text:
         sys.exit(f'{page}:{block.line}: this is not {example.name} as it stands in examples/')
 
@@ -194,7 +198,8 @@ def furnish(folder, arguments):
         if block.file_name and block.language != 'console':
             (folder / block.file_name).write_text(block.text, encoding='utf-8')
     for name in programs_of(arguments.page):
-        os.symlink(arguments.programs / name, folder / name)
+        built = arguments.axm.parent if example_of(name).exists() else arguments.programs
+        os.symlink(built / name, folder / name)
     if getattr(arguments, 'engine', None):
         os.symlink(arguments.engine, folder / 'libmy_engine.so')
 
