@@ -36,7 +36,7 @@ function(axm_export_instances name sources_variable)
   list(REMOVE_ITEM ${sources_variable} ${instances})
 
   set(objects ${name}_instances)
-  add_library(${objects} OBJECT ${instances})
+  add_library(${objects} OBJECT EXCLUDE_FROM_ALL ${instances})
   target_link_libraries(${objects} PRIVATE axm_options)
   target_compile_definitions(${objects} PRIVATE AXM_STATIC)
   target_include_directories(${objects} PRIVATE $<TARGET_PROPERTY:${name},INCLUDE_DIRECTORIES>)
@@ -50,11 +50,37 @@ function(axm_export_instances name sources_variable)
   set(${sources_variable} ${${sources_variable}} $<TARGET_OBJECTS:${objects}> ${definition} PARENT_SCOPE)
 endfunction()
 
-# axm_add_library(NAME HEADERS ... SOURCES ... [PUBLIC ...] [PRIVATE ...] [PRIVATE_INCLUDES ...])
+# axm_install_library(NAME DESCRIPTION PUBLIC HEADERS)
+# For programs that use the library: the targets of the package axm, and a file for pkg-config, axm.pc and axs.pc, and
+# axm-NAME.pc for a support library.
+function(axm_install_library name description public headers)
+  install(FILES ${headers} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/axm/${name} COMPONENT axm_development)
+  install(TARGETS ${name} EXPORT axmTargets
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT axm_runtime
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT axm_runtime NAMELINK_COMPONENT axm_development
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT axm_development)
+
+  set(AXM_PC_NAME ${name})
+  set(AXM_PC_DESCRIPTION ${description})
+  list(TRANSFORM public REPLACE "^(co|ut|ap)$" "axm-\\1")
+  list(JOIN public " " AXM_PC_REQUIRES)
+  set(AXM_PC_DEFINITIONS "")
+  if(NOT BUILD_SHARED_LIBS)
+    set(AXM_PC_DEFINITIONS " -DAXM_STATIC")
+  endif()
+  # From where the file lies, wherever the installation is moved to.
+  file(RELATIVE_PATH AXM_PC_INCLUDES ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_FULL_INCLUDEDIR})
+  string(REGEX REPLACE "^(co|ut|ap)$" "axm-\\1" package ${name})
+  configure_file(${AXM_CMAKE_FOLDER}/library.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${package}.pc @ONLY)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${package}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+    COMPONENT axm_development)
+endfunction()
+
+# axm_add_library(NAME DESCRIPTION ... HEADERS ... SOURCES ... [PUBLIC ...] [PRIVATE ...] [PRIVATE_INCLUDES ...])
 # One library of the house, as target NAME and axm::NAME. Headers are found by their bare name in the build tree and,
-# installed, in one flat folder a library.
+# installed, in one flat folder a library. Inside another project it is built when something there links it.
 function(axm_add_library name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "HEADERS;SOURCES;PUBLIC;PRIVATE;PRIVATE_INCLUDES")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESCRIPTION" "HEADERS;SOURCES;PUBLIC;PRIVATE;PRIVATE_INCLUDES")
   string(TOUPPER ${name} upper)
 
   if(MINGW AND BUILD_SHARED_LIBS)
@@ -73,6 +99,9 @@ function(axm_add_library name)
     # Installed anywhere, a library finds those below it beside itself.
     INSTALL_RPATH $ORIGIN
     DEFINE_SYMBOL ${upper}_BUILDING)
+  if(NOT PROJECT_IS_TOP_LEVEL AND NOT AXM_INSTALL)
+    set_target_properties(${name} PROPERTIES EXCLUDE_FROM_ALL ON)
+  endif()
   # Nothing is meant to take the place of a function of ours in a program, so ours may be inlined within their library.
   target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-semantic-interposition>)
   if(NOT BUILD_SHARED_LIBS)
@@ -97,11 +126,9 @@ function(axm_add_library name)
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/axm/${name}>
     PRIVATE ${arg_PRIVATE_INCLUDES})
 
-  install(FILES ${arg_HEADERS} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/axm/${name})
-  install(TARGETS ${name} EXPORT axmTargets
-    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+  if(AXM_INSTALL)
+    axm_install_library(${name} "${arg_DESCRIPTION}" "${arg_PUBLIC}" "${arg_HEADERS}")
+  endif()
 endfunction()
 
 # axm_use_inside(TARGET LIBRARY): TARGET gets the objects of LIBRARY and its include folders, so that it can use what the
