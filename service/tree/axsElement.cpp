@@ -18,7 +18,7 @@ axsName const& axsElement::element_name() const noexcept
 
 axsAttribute* axsElement::find_attribute(std::wstring_view name) const noexcept
 {
-  if (name.empty())
+  if (attributes == nullptr || name.empty())
     return nullptr;
   if (is_indexed())
     try

@@ -37,7 +37,7 @@ public:
 
   /// The last attribute, null if there is none, how many there are, and the one at a position, null beyond the last. Cost:
   /// as find_attribute().
-  axsAttribute* last_attribute() noexcept { return attribute_before(nullptr); }
+  axsAttribute* last_attribute() noexcept { return attributes == nullptr ? nullptr : attribute_before(nullptr); }
   int count_attributes() noexcept;
   axsAttribute* attribute_at(int position) noexcept;
 

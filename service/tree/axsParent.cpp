@@ -6,7 +6,7 @@ void axsParent::insert(axsNode& child, axsNode* before) noexcept
 {
   axsNode& held_by = child.parent() != nullptr ? *child.parent() : child.tree();
   if (child.parent() != nullptr)
-    static_cast<axsParent*>(child.parent())->unlink(child);
+    static_cast<axsParent*>(child.parent())->unlink(child, tree());
   link(child, before);
   acquire();
   held_by.release();
@@ -14,8 +14,8 @@ void axsParent::insert(axsNode& child, axsNode* before) noexcept
 
 void axsParent::remove(axsNode& child) noexcept
 {
-  unlink(child);
-  axsTree& tree = child.tree();
+  axsTree& tree = this->tree();
+  unlink(child, tree);
   if (!child.is_held())
   {
     tree.free_subtree(child);
@@ -55,9 +55,8 @@ void axsParent::link(axsNode& child, axsNode* before) noexcept
     tree().child_linked(*this, child);
 }
 
-void axsParent::unlink(axsNode& child) noexcept
+void axsParent::unlink(axsNode& child, axsTree& tree) noexcept
 {
-  axsTree& tree = child.tree();
   tree.nodes_leave();
   if (watched)
     tree.child_unlinking(*this, child);

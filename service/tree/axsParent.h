@@ -53,7 +53,8 @@ private:
   friend class axsNode;
 
   void link(axsNode& child, axsNode* before) noexcept;
-  void unlink(axsNode& child) noexcept;
+  // Of a child and its parent the tree is the same.
+  void unlink(axsNode& child, axsTree& tree) noexcept;
 
   bool watched : 1;
   // Of an element: whether its attributes have an index.
