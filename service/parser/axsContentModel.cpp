@@ -74,7 +74,7 @@ void Reading::read_mixed()
     if (!take('|'))
       reader.unexpected(axsMessages::mixed_end);
     reader.spaces();
-    model += reader.name(axsMessages::content_name);
+    model += reader.qualified_name(axsMessages::content_name);
     has_names = true;
   }
 }
@@ -91,7 +91,7 @@ void Reading::read_children()
       separators.push_back(0);
       continue;
     }
-    model += reader.name(axsMessages::content_name);
+    model += reader.qualified_name(axsMessages::content_name);
     read_occurrence();
     if (end_groups())
       return;

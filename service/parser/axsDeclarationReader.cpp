@@ -3,6 +3,7 @@
 #include "axsEntities.h"
 #include "axsMessages.h"
 #include "axsReference.h"
+#include "axsXmlName.h"
 
 #include <algorithm>
 
@@ -75,6 +76,22 @@ std::string axsDeclarationReader::name(char const* missing)
     unexpected(missing);
   in.need(in.at);
   return std::string(begin, in.at);
+}
+
+std::string axsDeclarationReader::qualified_name(char const* missing)
+{
+  std::string found = name(missing);
+  if (!axsXmlName::is_qualified(found))
+    in.fail(in.at, axsMessages::quoted(found) + " is not a name with a prefix");
+  return found;
+}
+
+std::string axsDeclarationReader::plain_name(char const* missing)
+{
+  std::string found = name(missing);
+  if (found.find(':') != std::string::npos)
+    in.fail(in.at, axsMessages::name_colon);
+  return found;
 }
 
 std::string axsDeclarationReader::name_token(char const* missing)
@@ -164,6 +181,8 @@ void axsDeclarationReader::read_entity_reference(std::string& value)
     unexpected(axsMessages::reference_name);
   if (!is_at(';'))
     unexpected("the reference '" + std::string(begin, in.at) + "' is not ended by ';'; a plain '&' is written &amp;");
+  if (std::find(begin, in.at, ':') != in.at)
+    in.fail(begin, axsMessages::name_colon);
   value.append(begin, ++in.at);
 }
 

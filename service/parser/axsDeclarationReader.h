@@ -40,6 +40,12 @@ public:
 
   std::string name(char const* missing);
 
+  /// The name of an element or an attribute (Namespaces in XML, 4, [7] QName).
+  std::string qualified_name(char const* missing);
+
+  /// The name of an entity or a notation, which has no colon (Namespaces in XML 1.0, 7).
+  std::string plain_name(char const* missing);
+
   /// 2.3, [7] Nmtoken
   std::string name_token(char const* missing);
 

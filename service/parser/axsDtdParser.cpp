@@ -76,7 +76,7 @@ void axsDtdParser::read_begin()
 {
   reader.take("<!DOCTYPE");
   reader.need_spaces();
-  model->name = reader.name(axsMessages::doctype_name);
+  model->name = reader.qualified_name(axsMessages::doctype_name);
   if (reader.spaces())
     reader.external_id(model->external, false);
   reader.spaces();
@@ -198,7 +198,7 @@ void axsDtdParser::skip_ignored()
 void axsDtdParser::read_element()
 {
   reader.need_spaces();
-  std::string const name = reader.name(axsMessages::element_declared);
+  std::string const name = reader.qualified_name(axsMessages::element_declared);
   reader.need_spaces();
   std::string content = axsContentModel::read(reader);
   reader.end("an element");
@@ -211,7 +211,7 @@ void axsDtdParser::read_element()
 void axsDtdParser::read_attribute_list()
 {
   reader.need_spaces();
-  std::string const name = reader.name(axsMessages::element_declared);
+  std::string const name = reader.qualified_name(axsMessages::element_declared);
   while (true)
   {
     bool const is_spaced = reader.spaces();
@@ -227,7 +227,7 @@ void axsDtdParser::read_attribute_list()
 void axsDtdParser::read_attribute(axsDtd::Element& element, axsQName& element_name)
 {
   axsDtd::Attribute attribute;
-  attribute.name = reader.name(axsMessages::attribute_declared);
+  attribute.name = reader.qualified_name(axsMessages::attribute_declared);
   reader.need_spaces();
   attribute.type = read_type(attribute.tokens);
   reader.need_spaces();
@@ -271,7 +271,8 @@ void axsDtdParser::read_group(std::vector<std::string>& tokens, bool are_names)
   do
   {
     reader.spaces();
-    tokens.push_back(are_names ? reader.name(axsMessages::group_token) : reader.name_token(axsMessages::group_token));
+    tokens.push_back(
+      are_names ? reader.plain_name(axsMessages::group_token) : reader.name_token(axsMessages::group_token));
     reader.spaces();
   } while (reader.take("|"));
   if (!reader.take(")"))
@@ -306,8 +307,7 @@ void axsDtdParser::read_entity()
   bool const is_parameter = reader.take("%");
   if (is_parameter)
     reader.need_spaces();
-  std::string const name = reader.name(axsMessages::entity_name);
-  check_colon(name);
+  std::string const name = reader.plain_name(axsMessages::entity_name);
   reader.need_spaces();
   axsDtd::Entity entity;
   if (reader.is_at_quote())
@@ -322,7 +322,7 @@ void axsDtdParser::read_entity()
     if (!is_parameter && is_spaced && reader.take("NDATA"))
     {
       reader.need_spaces();
-      entity.notation = reader.name(axsMessages::notation_name);
+      entity.notation = reader.plain_name(axsMessages::notation_name);
     }
   }
   reader.end("an entity");
@@ -336,21 +336,13 @@ void axsDtdParser::read_entity()
 void axsDtdParser::read_notation()
 {
   reader.need_spaces();
-  std::string const name = reader.name(axsMessages::notation_name);
-  check_colon(name);
+  std::string const name = reader.plain_name(axsMessages::notation_name);
   reader.need_spaces();
   axsDtd::Notation notation;
   if (!reader.external_id(notation.external, true))
     reader.unexpected(axsMessages::notation_definition);
   reader.end("a notation");
   model->notations.emplace(name, std::move(notation));
-}
-
-// Namespaces in XML 1.0, 7
-void axsDtdParser::check_colon(std::string const& name) const
-{
-  if (name.find(':') != std::string::npos)
-    in.fail(in.at, axsMessages::name_colon);
 }
 
 axsAttributeList& axsDtdParser::list_of(axsQName& element)

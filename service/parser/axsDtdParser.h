@@ -65,7 +65,6 @@ private:
   void read_entity();
   void read_notation();
   axsAttributeList& list_of(axsQName& element);
-  void check_colon(std::string const& name) const;
 
   axsInputStack& in;
   axsNameCache& all_names;

@@ -5,16 +5,6 @@
 #include "axsNamespaceScope.h"
 #include "axsXmlName.h"
 
-namespace
-{
-// Whether it is prefix, colon, local part, each without a colon.
-bool is_qualified(axsName const& name)
-{
-  return !name.prefix().empty() && name.local().find(':') == std::string_view::npos &&
-         axsXmlName::is_name(apString::from_utf8(name.local()));
-}
-}
-
 axsNameCache::axsNameCache(axsNames& all) : asked(all), empty(&prefix({})), entries(64) {}
 
 axsQName& axsNameCache::find(std::string_view text)
@@ -54,7 +44,7 @@ axsQName& axsNameCache::add(Entry& entry, std::uint64_t hash, std::string_view t
   if (name.local().size() != name.utf8().size())
   {
     made.prefix = &prefix(name.prefix());
-    made.is_qualified = is_qualified(name);
+    made.is_qualified = axsXmlName::is_qualified(name.utf8());
     if (name.prefix() == "xmlns")
       made.declared = &prefix(name.local());
   }

@@ -18,3 +18,12 @@ bool axsXmlName::is_name(apString const& text) noexcept
   }
   return !text.empty();
 }
+
+bool axsXmlName::is_qualified(std::string_view name)
+{
+  std::size_t const colon = name.find(':');
+  if (colon == std::string_view::npos)
+    return true;
+  std::string_view const local = name.substr(colon + 1);
+  return colon > 0 && local.find(':') == std::string_view::npos && is_name(apString::from_utf8(local));
+}

@@ -1,7 +1,6 @@
 #include "BothRoads.h"
 
 #include "EventText.h"
-#include "Xml2Judge.h"
 
 #include <apByteArray.h>
 #include <axsParser.h>
@@ -47,14 +46,16 @@ std::string difference_of(std::string const& ours, std::string const& judged)
 }
 }
 
-BothRoads::BothRoads(std::string_view document, axmLoadOptions const& options)
+BothRoads::BothRoads(std::string_view document, axmLoadOptions const& options, Judge judge)
 {
   std::string ours;
   std::string judged;
   was_scanned = read(document, options, ours);
-  was_parsed = Xml2Judge::read(document, judged);
+  was_parsed = judge(document, judged);
   if (was_scanned && was_parsed)
     found = difference_of(ours, judged);
   else if (was_scanned)
     found = "only our parser takes it; the judge says: " + judged;
+  else if (was_parsed)
+    refused = ours;
 }

@@ -400,6 +400,25 @@ TEST(axsParser_errors, rule_4_7_82_notationdecl)
   });
 }
 
+// Namespaces in XML 1.0, 5, [16] doctypedecl to [21] AttDef, and 7
+TEST(axsParser_errors, names_in_declarations_are_qualified)
+{
+  expect_told({
+    {"<!DOCTYPE :a><a/>", "1:13 ':a' is not a name with a prefix"},
+    {"<!DOCTYPE a: SYSTEM 's'><a/>", "1:13 'a:' is not a name with a prefix"},
+    {"<!DOCTYPE a [<!ELEMENT a:b:c ANY>]><a/>", "1:29 'a:b:c' is not a name with a prefix"},
+    {"<!DOCTYPE a [<!ELEMENT a (b:)>]><a/>", "1:29 'b:' is not a name with a prefix"},
+    {"<!DOCTYPE a [<!ELEMENT a (#PCDATA|b:1)*>]><a/>", "1:38 'b:1' is not a name with a prefix"},
+    {"<!DOCTYPE a [<!ATTLIST a: b CDATA ''>]><a/>", "1:26 'a:' is not a name with a prefix"},
+    {"<!DOCTYPE a [<!ATTLIST a :b CDATA ''>]><a/>", "1:28 ':b' is not a name with a prefix"},
+    {"<!DOCTYPE a [<!ENTITY e '&f:g;'>]><a/>", "1:26 the name of an entity or a notation cannot have a colon"},
+    {"<!DOCTYPE a [<!ATTLIST a b NOTATION (n:m) ''>]><a/>",
+      "1:41 the name of an entity or a notation cannot have a colon"},
+    {"<!DOCTYPE a [<!ENTITY e SYSTEM 'x' NDATA n:m>]><a/>",
+      "1:45 the name of an entity or a notation cannot have a colon"},
+  });
+}
+
 // XML 1.1, 2.2
 TEST(axsParser_errors, xml_1_1_2_2)
 {
