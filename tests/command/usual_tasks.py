@@ -109,19 +109,18 @@ def best_time(command, folder, environment, runs):
 def compare(heading, commands, shown, run_command):
     """What is wrong with a task, in lines."""
     form = COMPARED.get(heading, as_lines)
-    output, status = run_command(commands[0][1])
-    wrong = []
-    if output.rstrip('\n') != shown.rstrip('\n'):
-        wrong.append(f'{heading}: axm writes\n{output}')
-    expected = form(output, status)
-    for tool, command in commands[1:]:
+    wrong, answers = [], []
+    for tool, command in commands:
         output, status = run_command(command)
+        if not answers and output.rstrip('\n') != shown.rstrip('\n'):
+            wrong.append(f'{heading}: axm writes\n{output}')
         try:
-            answer = form(output, status)
+            answers.append(form(output, status))
         except (ValueError, AttributeError, xml.etree.ElementTree.ParseError) as error:
-            answer = f'{error}: {output}'
-        if answer != expected:
-            wrong.append(f'{heading}: {tool} gives\n{answer}\nand not\n{expected}')
+            wrong.append(f'{heading}: {tool}: {error}: {output}')
+            return wrong
+        if answers[-1] != answers[0]:
+            wrong.append(f'{heading}: {tool} gives\n{answers[-1]}\nand not\n{answers[0]}')
     return wrong
 
 

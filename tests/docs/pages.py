@@ -178,12 +178,12 @@ def matches(expected, got):
 
 def environment_of(arguments):
     environment = dict(os.environ, LC_ALL='C.UTF-8', NO_COLOR='1', TZ='UTC')
-    commands = arguments.axm.parent
+    commands = arguments.axm.resolve().parent
     if getattr(arguments, 'installed', None):
-        commands = arguments.installed / 'bin'
-        library = arguments.installed / arguments.library_folder
+        commands = arguments.installed.resolve() / 'bin'
+        library = arguments.installed.resolve() / arguments.library_folder
         environment['PKG_CONFIG_PATH'] = str(library / 'pkgconfig')
-        environment['CMAKE_PREFIX_PATH'] = str(arguments.installed)
+        environment['CMAKE_PREFIX_PATH'] = str(arguments.installed.resolve())
         environment['LD_LIBRARY_PATH'] = str(library)
     environment['PATH'] = os.pathsep.join([str(commands), environment['PATH']])
     return environment
@@ -199,9 +199,9 @@ def furnish(folder, arguments):
             (folder / block.file_name).write_text(block.text, encoding='utf-8')
     for name in programs_of(arguments.page):
         built = arguments.axm.parent if example_of(name).exists() else arguments.programs
-        os.symlink(built / name, folder / name)
+        os.symlink(built.resolve() / name, folder / name)
     if getattr(arguments, 'engine', None):
-        os.symlink(arguments.engine, folder / 'libmy_engine.so')
+        os.symlink(arguments.engine.resolve(), folder / 'libmy_engine.so')
 
 
 def run_page(arguments):
