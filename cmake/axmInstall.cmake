@@ -12,6 +12,8 @@ install(FILES ${PROJECT_BINARY_DIR}/axmConfig.cmake ${PROJECT_BINARY_DIR}/axmCon
   DESTINATION ${axm_package_folder} COMPONENT axm_development)
 install(EXPORT axmTargets NAMESPACE axm:: DESTINATION ${axm_package_folder} COMPONENT axm_development)
 
-install(FILES README.md CHANGELOG.md SECURITY.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT axm_documentation)
-install(DIRECTORY docs examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT axm_documentation
-  FILES_MATCHING PATTERN "*.md" PATTERN "*.cpp" PATTERN "*.h" PATTERN "*.xml" PATTERN "*.xsd")
+install(FILES README.md CHANGELOG.md NOTICE SECURITY.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT axm_documentation)
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT axm_documentation
+  FILES_MATCHING PATTERN "*.md" PATTERN site EXCLUDE)
+install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT axm_documentation USE_SOURCE_PERMISSIONS
+  FILES_MATCHING REGEX "\\.(cpp|h|xml|xsd|py|sh)$")

@@ -1,5 +1,8 @@
 # What every target of the house has in common: the standard, the warnings, where its outputs lie.
 
+if(AXM_DEBIAN_PACKAGES)
+  set(CMAKE_INSTALL_LIBDIR lib/${CMAKE_LIBRARY_ARCHITECTURE})
+endif()
 include(GNUInstallDirs)
 
 if(PROJECT_IS_TOP_LEVEL)

@@ -30,12 +30,12 @@ build_preset() {
 }
 
 packages_to_build=(g++ cmake ninja-build libcli11-dev zlib1g-dev liblzma-dev libzstd-dev nlohmann-json3-dev)
-packages_to_test=(libgtest-dev locales libxml2-dev libexpat1-dev libxerces-c-dev abigail-tools clang clang-format-14 g++-mingw-w64-x86-64-posix python3
-  python3-distributed mandoc zsh fish)
+packages_to_test=(libgtest-dev locales libxml2-dev libexpat1-dev libxerces-c-dev abigail-tools clang clang-format-14
+  g++-mingw-w64-x86-64-posix python3 python3-distributed mandoc zsh fish lintian pkg-config)
 # The manual's programs and commands of other libraries and tools.
 packages_to_test+=(libpugixml-dev libxerces-c-dev libtinyxml2-dev qtbase5-dev libxml2-utils xmlstarlet xq yq)
 # Whoever has npm from elsewhere keeps it.
 command -v npm > /dev/null || packages_to_test+=(npm)
 # For docs/build.sh.
 packages_for_site=(mkdocs mkdocs-material doxygen mandoc python3)
-packages_to_benchmark=(libxerces-c-dev libpugixml-dev librapidxml-dev libexpat1-dev libxml2-dev)
+packages_to_benchmark=(libxerces-c-dev libpugixml-dev librapidxml-dev libexpat1-dev libxml2-dev libxml2-utils)
