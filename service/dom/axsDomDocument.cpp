@@ -93,12 +93,16 @@ std::shared_ptr<axmNodeList> axsDomDocument::getElementsByTagName(apString const
 
 axsDomElement* axsDomDocument::make_element(axsName const& name)
 {
-  return axsTree::make_element<axsDomElement>(name);
+  auto* const made = axsTree::make_element<axsDomElement>(name);
+  names().add_user(name);
+  return made;
 }
 
 axsDomAttribute* axsDomDocument::make_attribute(axsName const& name, std::string_view value)
 {
-  return make_leaf<axsDomAttribute>(value, name);
+  auto* const made = make_leaf<axsDomAttribute>(value, name);
+  names().add_user(name);
+  return made;
 }
 
 axsDomText* axsDomDocument::make_text(std::string_view data, bool is_cdata)

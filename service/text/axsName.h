@@ -2,12 +2,13 @@
 
 #include <apString.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 /// The name of elements and attributes of one document, kept once for all of them: two nodes of a document have the same
-/// name exactly if they point to the same object. Lives as long as the document.
+/// name exactly if they point to the same object. How long it lives, its table says (axsNameTable).
 class axsName
 {
 public:
@@ -40,9 +41,15 @@ public:
   std::string_view local() const noexcept { return colon == std::string::npos ? utf8() : utf8().substr(colon + 1); }
 
 private:
+  friend class axsNameTable;
+
   apString wide_text;
   std::wstring_view wide_characters;
   std::string narrow_text;
   std::size_t colon;
   std::uint16_t place;
+
+  // What the table keeps of it: whether it lives as long as the table, and otherwise how many nodes have it.
+  mutable bool stays = true;
+  mutable std::size_t users = 0;
 };

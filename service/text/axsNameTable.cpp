@@ -2,22 +2,26 @@
 
 #include "axsXmlName.h"
 
+#include <algorithm>
 #include <iterator>
+#include <utility>
+
+namespace
+{
+// Fewer that nobody uses are not worth the look.
+std::size_t const max_unused = 256;
+}
 
 axsName const& axsNameTable::intern(std::string_view text)
 {
-  if (axsName const* const known = find(text))
-    return *known;
-  bool const has_number = by_number.size() < axsName::no_number;
-  auto made = std::make_unique<axsName const>(
-    text, has_number ? static_cast<std::uint16_t>(by_number.size()) : axsName::no_number);
-  if (by_number.size() == by_number.capacity())
-    by_number.reserve(by_number.size() * 2 + 8);
-  std::string_view const key = made->utf8();
-  axsName const& name = *names.emplace(key, std::move(made)).first->second;
-  if (has_number)
-    by_number.push_back(&name);
-  namespaces = namespaces || text == "xmlns" || text.find(':') != std::string_view::npos;
+  axsName const* const known = find(text);
+  axsName const& name = known != nullptr ? *known : add(text);
+  if (!name.stays)
+  {
+    name.stays = true;
+    if (name.users == 0)
+      --unused;
+  }
   return name;
 }
 
@@ -39,6 +43,55 @@ axsName const* axsNameTable::intern_checked(apString const& text)
     return place;
   if (!axsXmlName::is_name(text))
     return nullptr;
-  place = &intern(text.to_utf8().view());
-  return place;
+  utString const utf8 = text.to_utf8();
+  axsName const* known = find(utf8.view());
+  if (known == nullptr)
+  {
+    if (unused > max_unused && unused > names.size() / 2)
+      remove_unused();
+    known = &add(utf8.view());
+    known->stays = false;
+    ++unused;
+  }
+  place = known;
+  return known;
+}
+
+axsName const& axsNameTable::add(std::string_view text)
+{
+  std::uint16_t const number = free_number();
+  auto made = std::make_unique<axsName const>(text, number);
+  std::string_view const key = made->utf8();
+  axsName const& name = *names.emplace(key, std::move(made)).first->second;
+  if (number != axsName::no_number)
+    by_number[number] = &name;
+  namespaces = namespaces || text == "xmlns" || text.find(':') != std::string_view::npos;
+  return name;
+}
+
+// One that no name has, with a place for it.
+std::uint16_t axsNameTable::free_number()
+{
+  while (first_to_look_at < by_number.size() && by_number[first_to_look_at] != nullptr)
+    ++first_to_look_at;
+  if (first_to_look_at == axsName::no_number)
+    return axsName::no_number;
+  if (first_to_look_at == by_number.size())
+    by_number.push_back(nullptr);
+  return static_cast<std::uint16_t>(first_to_look_at);
+}
+
+void axsNameTable::remove_unused() noexcept
+{
+  for (auto at = names.begin(); at != names.end();)
+  {
+    axsName const& name = *at->second;
+    bool const goes = !name.stays && name.users == 0;
+    if (goes && name.number() != axsName::no_number)
+      by_number[name.number()] = nullptr;
+    at = goes ? names.erase(at) : std::next(at);
+  }
+  std::fill(std::begin(recent), std::end(recent), nullptr);
+  first_to_look_at = 0;
+  unused = 0;
 }

@@ -53,12 +53,15 @@ void axsTree::free_node(axsNode& node) noexcept
     drop_attribute_index(element);
   for (axsAttribute* at = element.first_attribute(); at != nullptr;)
     free_leaf(*std::exchange(at, at->next_attribute()));
+  name_table.remove_user(element.element_name());
   memory.release(reinterpret_cast<char*>(&element) - lead, lead + element.size());
 }
 
 void axsTree::free_leaf(axsLeaf& leaf) noexcept
 {
   leaf.free_text();
+  if (leaf.is_attribute())
+    name_table.remove_user(static_cast<axsAttribute&>(leaf).full_name());
   memory.release(reinterpret_cast<char*>(&leaf) - lead, lead + leaf.size());
 }
 

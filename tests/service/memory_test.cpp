@@ -501,3 +501,23 @@ TEST(axsMemory, a_document_whose_attributes_were_moved_goes_with_all_its_memory)
   }
   EXPECT_EQ(memory.blocks_held(), 0);
 }
+
+// Ever new names, for nodes that go: attributes, elements, and elements with attributes below them.
+TEST(axsMemory, names_of_nodes_that_have_gone_do_not_fill_the_memory)
+{
+  auto const document = load("<r/>");
+  auto const root = document->getDocumentElement();
+  root->appendChild(document->createElement(APSTRING("first")));
+  FailingMemory const memory(100000000);
+  for (int i = 0; i < 20000; ++i)
+  {
+    apString const name = wide("name-" + std::to_string(i));
+    root->setAttribute(name, name);
+    root->removeAttribute(name);
+    auto const element = document->createElement(wide("element-" + std::to_string(i)));
+    element->setAttribute(wide("inside-" + std::to_string(i)), name);
+    element->appendChild(document->createElement(wide("below-" + std::to_string(i))));
+    root->replaceChild(element, root->getFirstChild());
+  }
+  EXPECT_LT(memory.blocks_held(), 4000);
+}
