@@ -73,8 +73,8 @@ bool axsXPathCoreLibrary::boolean_call(Term const& term, Context const& context)
   case Function::contains:
   {
     std::string_view const text = evaluator.text_of(expression.operand(term, 0).term, context, first_scratch);
-    return text.find(evaluator.text_of(expression.operand(term, 1).term, context, second_scratch)) !=
-           std::string_view::npos;
+    std::string_view const wanted = evaluator.text_of(expression.operand(term, 1).term, context, second_scratch);
+    return axsXPathText::find(text, wanted) != std::string_view::npos;
   }
   default:
     return false;
@@ -137,14 +137,14 @@ std::string_view axsXPathCoreLibrary::text_call(Term const& term, Context const&
   case Function::substring_before:
   {
     std::string_view const text = text_at(0, scratch);
-    std::size_t const found = text.find(text_at(1, second_scratch));
+    std::size_t const found = axsXPathText::find(text, text_at(1, second_scratch));
     return found == std::string_view::npos ? std::string_view() : text.substr(0, found);
   }
   case Function::substring_after:
   {
     std::string_view const text = text_at(0, scratch);
     std::string_view const wanted = text_at(1, second_scratch);
-    std::size_t const found = text.find(wanted);
+    std::size_t const found = axsXPathText::find(text, wanted);
     return found == std::string_view::npos ? std::string_view() : text.substr(found + wanted.size());
   }
   case Function::normalize_space:

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <limits>
 #include <unordered_map>
+#include <vector>
 
 namespace
 {
@@ -23,6 +24,24 @@ std::string_view between(std::string_view text, double first, double past) noexc
   for (; end < text.size() && position < past; ++position)
     end += utUtf8::length_from_first(text[end]);
   return text.substr(begin, end - begin);
+}
+
+// Up to this length, what is looked at twice is not worth a table.
+std::size_t const short_length = 32;
+
+// For each beginning of `text`, the length of the longest shorter beginning that it ends with.
+std::vector<std::size_t> borders_of(std::string_view text)
+{
+  std::vector<std::size_t> borders(text.size() + 1);
+  std::size_t border = 0;
+  for (std::size_t i = 1; i < text.size(); ++i)
+  {
+    while (border > 0 && text[border] != text[i])
+      border = borders[border];
+    border += text[border] == text[i] ? 1 : 0;
+    borders[i + 1] = border;
+  }
+  return borders;
 }
 }
 
@@ -66,6 +85,30 @@ std::string_view axsXPathText::substring(std::string_view text, double start, do
 {
   double const first = axsXPathNumber::round(start);
   return between(text, first, first + axsXPathNumber::round(length));
+}
+
+// By Knuth, Morris and Pratt: no character of the text is looked at again.
+std::size_t axsXPathText::find(std::string_view text, std::string_view wanted)
+{
+  if (wanted.size() <= short_length || wanted.size() > text.size())
+    return text.find(wanted);
+  std::vector<std::size_t> const borders = borders_of(wanted);
+  std::size_t matched = 0;
+  for (std::size_t at = 0; at < text.size(); ++at)
+  {
+    if (matched == 0)
+    {
+      at = text.find(wanted.front(), at);
+      if (at == std::string_view::npos)
+        return at;
+    }
+    while (matched > 0 && wanted[matched] != text[at])
+      matched = borders[matched];
+    matched += wanted[matched] == text[at] ? 1 : 0;
+    if (matched == wanted.size())
+      return at + 1 - matched;
+  }
+  return std::string_view::npos;
 }
 
 std::string axsXPathText::translate(std::string_view text, std::string_view from, std::string_view to)

@@ -23,6 +23,10 @@ std::string normalize_space(std::string_view text);
 std::string_view substring(std::string_view text, double start) noexcept;
 std::string_view substring(std::string_view text, double start, double length) noexcept;
 
+/// Where `wanted` stands in `text` first, std::string_view::npos if nowhere. Costs O(text + wanted), whatever the texts are.
+/// Throws std::bad_alloc when memory runs out.
+std::size_t find(std::string_view text, std::string_view wanted);
+
 /// Each character of `text` that occurs in `from` replaced by the one at the same place in `to`, or taken away where
 /// `to` is shorter; the first occurrence in `from` counts (XPath 1.0, translate).
 std::string translate(std::string_view text, std::string_view from, std::string_view to);

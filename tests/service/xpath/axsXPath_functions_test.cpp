@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+#include <string>
+
 namespace
 {
 using subject::nodes;
@@ -148,6 +151,46 @@ TEST_F(XPathFunction, starts_with_compares_the_beginning)
   EXPECT_EQ(ask("starts-with('abc', 'bc')"), "boolean false");
   EXPECT_EQ(ask("starts-with('abc', '')"), "boolean true");
   EXPECT_EQ(ask("starts-with('ab', 'abc')"), "boolean false");
+}
+
+// Texts of two letters, so that what is looked for nearly stands in many places.
+TEST_F(XPathFunction, contains_and_substrings_find_what_stands_first_at_every_length)
+{
+  std::mt19937 dice(7);
+  auto const letters = [&](std::size_t count)
+  {
+    std::string text;
+    while (text.size() < count)
+      text.append(dice() % 40 == 0 ? "b" : "a");
+    return text;
+  };
+  auto const root = document->getDocumentElement();
+  for (int i = 0; i < 2000; ++i)
+  {
+    std::string const text = letters(dice() % 200);
+    std::size_t const begin = dice() % (text.size() + 1);
+    std::string const wanted = i % 2 == 0 ? text.substr(begin, dice() % 80) : letters(dice() % 80);
+    SCOPED_TRACE(text + " " + wanted);
+    root->setAttribute(APSTRING("text"), apString(text.c_str()));
+    root->setAttribute(APSTRING("wanted"), apString(wanted.c_str()));
+    std::size_t const at = text.find(wanted);
+    bool const is_there = at != std::string::npos;
+    ASSERT_EQ(ask("contains(/r/@text, /r/@wanted)"), is_there ? "boolean true" : "boolean false");
+    ASSERT_EQ(ask("substring-before(/r/@text, /r/@wanted)"), "string " + (is_there ? text.substr(0, at) : ""));
+    ASSERT_EQ(
+      ask("substring-after(/r/@text, /r/@wanted)"), "string " + (is_there ? text.substr(at + wanted.size()) : ""));
+  }
+}
+
+// A search that begins again at each character would take a trillion steps.
+TEST_F(XPathFunction, contains_reads_long_texts_once)
+{
+  auto const root = document->getDocumentElement();
+  root->setAttribute(APSTRING("text"), apString(std::string(4000000, 'a').c_str()));
+  root->setAttribute(APSTRING("wanted"), apString((std::string(2000000, 'a') + "b").c_str()));
+  EXPECT_EQ(ask("contains(/r/@text, /r/@wanted)"), "boolean false");
+  root->setAttribute(APSTRING("wanted"), apString(("b" + std::string(2000000, 'a')).c_str()));
+  EXPECT_EQ(ask("contains(/r/@text, /r/@wanted)"), "boolean false");
 }
 
 TEST_F(XPathFunction, contains_looks_everywhere)
