@@ -20,6 +20,9 @@ public:
 
   int depth() const { return taken.count(); }
 
+  // The one at that depth, 0 being the outermost one.
+  Level& operator[](int depth) { return levels[depth]; }
+
   // The innermost one; there must be one.
   Level& top() { return levels[depth() - 1]; }
 

@@ -7,6 +7,7 @@
 
 #include <apBits.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstring>
 
@@ -33,6 +34,28 @@ axmElementWalk::axmElementWalk(
     stack(cursors),
     attributes(text_end)
 {
+}
+
+std::vector<axmElementWalk::Entered> axmElementWalk::entered()
+{
+  std::vector<Entered> result;
+  for (int level = 0; level < depth(); ++level)
+  {
+    axmPositionX& cursor = *stack[level].cursor;
+    result.push_back({place_of(axmCursor::start(cursor)), place_of(place(cursor))});
+  }
+  return result;
+}
+
+// What the index knows begins with a root element that is found: here the cursor takes its own steps.
+void axmElementWalk::enter_again(Entered const& element)
+{
+  Level& again = stack.upcoming();
+  axmCursor::start(*again.cursor) = text + std::min(element.start, size);
+  place(*again.cursor) = text + std::min(element.place, size);
+  again.state = axmCursorState();
+  tag = axmCursor::start(*again.cursor);
+  stack.push();
 }
 
 bool axmElementWalk::down_to(utString const& name)

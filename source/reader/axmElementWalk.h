@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 // Moves the cursors of a reader as they would move themselves, with the help of an index of the elements: an element that
 // has been passed once is never scanned again. Where the index does not tell, the cursors take their own steps.
@@ -29,6 +30,20 @@ public:
 
   // Adds a cursor, which must stay where it is. Throws std::bad_alloc when memory runs out.
   void add_cursor(axmPositionX& cursor) { stack.add(cursor); }
+
+  // Where the cursor of an element that is entered stands, and where the element begins.
+  struct Entered
+  {
+    std::uint32_t start;
+    std::uint32_t place;
+  };
+
+  // All of them, the outermost first. Throws std::bad_alloc when memory runs out.
+  std::vector<Entered> entered();
+
+  // Enters an element as the walk over another text had entered it: at those places in this one, or at its end. Needs a
+  // cursor as down_to() does.
+  void enter_again(Entered const& element);
 
   // Enters the next child element of that name, the next root element where none is entered. False if there is none.
   bool down_to(utString const& name);

@@ -10,6 +10,7 @@
 #include <utXmlCharacter.h>
 
 #include <memory>
+#include <utility>
 
 namespace
 {
@@ -273,6 +274,26 @@ bool axmPositionX::find_sub_tag(utString const& name)
     return true;
   return_to_start();
   return false;
+}
+
+utString axmPositionX::make_string_from(char const* from)
+{
+  return std::as_const(*this).make_string_from(from);
+}
+
+void axmPositionX::throw_char_error_x(char c)
+{
+  std::as_const(*this).throw_char_error_x(c);
+}
+
+void axmPositionX::throw_end_error_x()
+{
+  std::as_const(*this).throw_end_error_x();
+}
+
+void axmPositionX::throw_tag_error_x(utString const& text)
+{
+  std::as_const(*this).throw_tag_error_x(text);
 }
 
 utString axmPositionX::make_string_from(char const* from) const

@@ -119,8 +119,14 @@ protected:
   bool find_sub_tag(utString const& name);
 
   /// The text from `from` up to here.
-  utString make_string_from(char const* from) const;
+  utString make_string_from(char const* from);
 
+  [[noreturn]] void throw_char_error_x(char c);
+  [[noreturn]] void throw_end_error_x();
+  [[noreturn]] void throw_tag_error_x(utString const& text);
+
+  /// The same for operations that do not move.
+  utString make_string_from(char const* from) const;
   [[noreturn]] void throw_char_error_x(char c) const;
   [[noreturn]] void throw_end_error_x() const;
   [[noreturn]] void throw_tag_error_x(utString const& text) const;

@@ -8,6 +8,7 @@
 #include <climits>
 #include <new>
 #include <ostream>
+#include <vector>
 
 axmSimpleXmlReader::axmSimpleXmlReader(apITarnFilecoPrf const& given)
   : encoding_name(axmAbstractXmlReader::encoding()),
@@ -20,7 +21,17 @@ axmSimpleXmlReader::~axmSimpleXmlReader() = default;
 bool axmSimpleXmlReader::read_file()
 {
   int const size = file_size();
-  return size >= 0 && read_bytes(size) && read_declaration();
+  if (size < 0)
+    return false;
+  auto const entered = walk == nullptr ? std::vector<axmElementWalk::Entered>() : walk->entered();
+  if (!read_bytes(size) || !read_declaration())
+    return false;
+  for (axmElementWalk::Entered const& element : entered)
+  {
+    add_cursor(positions.count());
+    walk->enter_again(element);
+  }
+  return true;
 }
 
 utString axmSimpleXmlReader::encoding()

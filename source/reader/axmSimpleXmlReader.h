@@ -26,8 +26,10 @@ public:
 
   /// Reads the whole file, and the encoding from its declaration. False without an error in the list when the file
   /// cannot be read whole, has 2 GiB or more, or declares "utf-16" (in any case of letters); false with one when the
-  /// declaration is not as axmInitialPositionX needs it. A further call reads the file again and begins a new walk; the
-  /// errors stay.
+  /// declaration is not as axmInitialPositionX needs it; then there is nothing to walk.
+  /// A further call reads the file as it is by then. The errors stay, and so do the elements that are entered: their
+  /// cursors stand as many bytes from the beginning of the text as they stood before, at its end if it has become too
+  /// short for that. Where no element is entered, a new walk begins.
   bool read_file() override;
 
   /// "Unknown" until a declaration has been read; then what axmInitialPositionX::encoding() says.

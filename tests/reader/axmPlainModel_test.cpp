@@ -375,8 +375,13 @@ void walk_reader(DocumentMaker& maker, std::string const& document, bool read)
   {
     std::string const name = maker.element_name();
     std::string const attribute = maker.attribute_name();
-    switch (maker.below(8))
+    switch (maker.below(9))
     {
+    case 8:
+      // The file again, which has not changed.
+      ASSERT_EQ(ours->read_file(), plain.read_file());
+      ASSERT_EQ(text(ours->encoding()), plain.encoding());
+      break;
     case 0:
     case 1:
       ASSERT_EQ(text(ours->attribute(ut(attribute), ut(absent))), plain.attribute(attribute, absent)) << attribute;

@@ -150,17 +150,64 @@ TEST(axmSimpleXmlReader, read_file_without_a_file_is_false)
   EXPECT_FALSE(reader->has_error_occurred());
 }
 
-TEST(axmSimpleXmlReader, read_file_again_reads_the_file_as_it_is_now_and_begins_a_new_walk)
+TEST(axmSimpleXmlReader, read_file_again_outside_any_element_begins_a_new_walk_over_the_file_as_it_is_now)
 {
   Reader reader = Reader::of("<r><a>1</a></r>");
   ASSERT_TRUE(reader.down("r"));
   ASSERT_TRUE(reader.down("a"));
+  reader->up();
+  reader->up();
   reader.file->bytes = "<?xml version='1.0' encoding='x'?><r>" + std::string(100000, ' ') + "<b>2</b></r>\n";
   EXPECT_TRUE(reader->read_file());
   EXPECT_STREQ(reader->encoding().c_str(), "x");
   EXPECT_TRUE(reader.down("r"));
   EXPECT_TRUE(reader.down("b"));
   EXPECT_EQ(reader.text(), "2");
+}
+
+TEST(axmSimpleXmlReader, read_file_again_within_elements_goes_on_there_in_the_text_as_it_is_now)
+{
+  Reader reader = Reader::of("<r><a n='1'><x/></a><b>2</b></r>");
+  ASSERT_TRUE(reader.down("r"));
+  ASSERT_TRUE(reader.down("a"));
+  // The text moves, and its elements stay where they are.
+  reader.file->bytes =
+    "<?xml version='1.0'?>\n<r><a n='3'><y/></a><b>4</b>" + std::string(100000, ' ') + "<c>5</c></r>\n";
+  EXPECT_TRUE(reader->read_file());
+  EXPECT_EQ(reader.attribute("n"), "3");
+  EXPECT_FALSE(reader.down("x"));
+  EXPECT_TRUE(reader.down("y"));
+  reader->up();
+  reader->up();
+  EXPECT_TRUE(reader.down("b"));
+  EXPECT_EQ(reader.text(), "4");
+  reader->up();
+  EXPECT_TRUE(reader.down("c"));
+  EXPECT_EQ(reader.text(), "5");
+  reader->up();
+  reader->up();
+  EXPECT_TRUE(reader.down("r"));
+  EXPECT_EQ(reader.errors(), "");
+}
+
+TEST(axmSimpleXmlReader, read_file_again_of_a_file_that_has_become_short_leaves_the_elements_at_its_end)
+{
+  auto const with = [](auto ask)
+  {
+    Reader reader = Reader::of("<r><a n='1'>" + std::string(1000, ' ') + "<b m='1'><c/></b></a></r>");
+    EXPECT_TRUE(reader.down("r"));
+    EXPECT_TRUE(reader.down("a"));
+    EXPECT_TRUE(reader.down("b"));
+    reader.file->bytes = "<?xml version='1.0'?>\n<r></r>\n";
+    EXPECT_TRUE(reader->read_file());
+    EXPECT_EQ(reader.errors(), "");
+    ask(reader);
+    return reader.errors();
+  };
+  EXPECT_EQ(with([](Reader& reader) { EXPECT_FALSE(reader.down("c")); }), end_error);
+  EXPECT_EQ(with([](Reader& reader) { EXPECT_EQ(reader.attribute("m"), "none"); }), end_error);
+  EXPECT_EQ(with([](Reader& reader) { EXPECT_EQ(reader.text(), ""); }), end_error);
+  EXPECT_NE(with([](Reader& reader) { reader->up(); }), "");
 }
 
 TEST(axmSimpleXmlReader, read_file_runs_in_error_and_leaves_the_error)
