@@ -59,7 +59,7 @@ int canon(Request const& request)
     return exit_bad_input;
   }
   std::string const name = request.output.empty() ? "standard output" : request.output;
-  return output.finish() ? exit_good : complain(name, "cannot be written", exit_bad_input);
+  return output.finish() ? exit_good : complain(name, output.fault(), exit_bad_input);
 }
 }
 

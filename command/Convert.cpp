@@ -62,7 +62,7 @@ int finish(OutputFile& output, Request const& request)
 {
   if (output.finish())
     return exit_good;
-  return complain(request.output.empty() ? "standard output" : request.output, "cannot be written", exit_bad_input);
+  return complain(request.output.empty() ? "standard output" : request.output, output.fault(), exit_bad_input);
 }
 
 int to_json(Request const& request, apByteArray const& bytes)

@@ -166,7 +166,7 @@ int diff(Request const& request)
   if (request.brief && !is_same)
     output.write("the documents " + shown(request.first) + " and " + shown(request.second) + " differ\n");
   if (!output.finish())
-    return complain("standard output", "cannot be written", static_cast<ExitCode>(exit_trouble));
+    return complain("standard output", output.fault(), static_cast<ExitCode>(exit_trouble));
   return is_same ? exit_good : exit_bad_input;
 }
 }

@@ -64,8 +64,7 @@ int write_to(std::string const& file, Compression compression, std::string const
       return complain(file, wrong, exit_bad_input);
   OutputFile output(file);
   output.write(compression == Compression::none ? bytes : compressed);
-  return output.finish() ? exit_good
-                         : complain(file == "-" ? "standard output" : file, "cannot be written", exit_bad_input);
+  return output.finish() ? exit_good : complain(file == "-" ? "standard output" : file, output.fault(), exit_bad_input);
 }
 
 std::string place_in_fragment(axmParseError const& error)
@@ -162,7 +161,7 @@ int EditVerb::run(std::string const& about, Edit const& edit)
   std::vector<int> const codes = FileJobs(jobs).run(arguments, output, work);
   int const worst = FileJobs::worst(codes);
   if (!output.finish())
-    return complain("standard output", "cannot be written", exit_bad_input);
+    return complain("standard output", output.fault(), exit_bad_input);
   bool const is_found = std::find(codes.begin(), codes.end(), exit_good) != codes.end();
   if (worst > exit_good || is_found)
     return worst;

@@ -82,7 +82,7 @@ int replace(std::string const& file, apByteArray const& bytes, std::string const
     return complain(file, "is left as it is: laid out, it would not say the same", exit_bad_input);
   OutputFile target(file);
   target.write(text);
-  return target.finish() ? exit_good : complain(file, "cannot be written", exit_bad_input);
+  return target.finish() ? exit_good : complain(file, target.fault(), exit_bad_input);
 }
 
 int format_one(std::string const& file, Request const& request, JobOutput& output)
@@ -125,7 +125,7 @@ int format(Request const& request)
   if (result != exit_good && !request.output.empty())
     return result;
   std::string const name = request.output.empty() ? "standard output" : request.output;
-  return output.finish() ? result : complain(name, "cannot be written", exit_bad_input);
+  return output.finish() ? result : complain(name, output.fault(), exit_bad_input);
 }
 }
 

@@ -34,6 +34,8 @@ void JobOutput::show_bytes(std::uint64_t bytes)
 void JobOutput::flush()
 {
   write({});
-  std::cerr << said.str();
+  // Standard output would be flushed first, and where that fails, nobody would know why.
+  if (std::string const text = said.str(); !text.empty())
+    std::cerr << text;
   said.str(std::string());
 }

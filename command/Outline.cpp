@@ -141,7 +141,7 @@ int show_outline(Request const& request)
     std::cerr << "axm: elements left out, for which --depth or --paths is too small: " << outline.left_out() << '\n';
   if (output.finish())
     return result;
-  return complain(request.output.empty() ? "standard output" : request.output, "cannot be written", exit_bad_input);
+  return complain(request.output.empty() ? "standard output" : request.output, output.fault(), exit_bad_input);
 }
 }
 

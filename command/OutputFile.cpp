@@ -1,5 +1,8 @@
 #include "OutputFile.h"
 
+#include <cerrno>
+#include <cstring>
+
 #if defined(_WIN32)
 #  include <fcntl.h>
 #  include <io.h>
@@ -18,10 +21,13 @@ std::FILE* standard_output()
 
 OutputFile::OutputFile(std::string const& target)
 {
+  errno = 0;
   if (target.empty() || target == "-")
     stream = standard_output();
   else
     stream = file.emplace(apPath(target.c_str())).stream();
+  if (stream == nullptr)
+    reason = errno;
 }
 
 bool OutputFile::good() const
@@ -31,15 +37,27 @@ bool OutputFile::good() const
 
 void OutputFile::write(std::string_view bytes)
 {
-  if (stream != nullptr && !bytes.empty())
-    std::fwrite(bytes.data(), 1, bytes.size(), stream);
+  if (stream == nullptr || bytes.empty())
+    return;
+  errno = 0;
+  std::fwrite(bytes.data(), 1, bytes.size(), stream);
+  // A whole count may hide that a line could not be passed on.
+  if (reason == 0 && !good())
+    reason = errno;
 }
 
 bool OutputFile::finish()
 {
-  if (file.has_value())
-    return file->commit();
-  return std::fflush(stream) == 0 && good();
+  errno = 0;
+  bool const is_done = file.has_value() ? file->commit() : std::fflush(stream) == 0 && good();
+  if (!is_done && reason == 0)
+    reason = errno;
+  return is_done;
+}
+
+std::string OutputFile::fault() const
+{
+  return reason == 0 ? "cannot be written" : std::string("cannot be written: ") + std::strerror(reason);
 }
 
 std::string OutputFile::wrong_name(std::string const& target)

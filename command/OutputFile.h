@@ -23,6 +23,9 @@ public:
   /// Puts the file in its place. False if not everything could be written; what was there before is unchanged then.
   bool finish();
 
+  /// What to say of it where finish() is false: that it cannot be written and, where the system has told, why.
+  std::string fault() const;
+
   /// For the check of an option: what is wrong with the name of a file that was given; empty if nothing is. An empty one,
   /// as an unset variable of a script leaves it, must not pass for one that was not given.
   static std::string wrong_name(std::string const& target);
@@ -30,4 +33,5 @@ public:
 private:
   std::optional<apAtomicFile> file; // none for standard output
   std::FILE* stream;
+  int reason = 0; // of the first failure, as the system numbers it
 };

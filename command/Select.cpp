@@ -248,7 +248,7 @@ int select(Request const& request)
   auto const work = [&](std::string const& file, JobOutput& job) { return select_in(file, request, reason, job); };
   std::vector<int> const codes = FileJobs(request.jobs).run(request.files, output, work);
   int const result = result_of(codes, request, reason);
-  return output.finish() ? result : complain("standard output", "cannot be written", exit_bad_input);
+  return output.finish() ? result : complain("standard output", output.fault(), exit_bad_input);
 }
 
 // The last of the arguments is the expression: with the files before it, patterns of the shell can name them.

@@ -59,7 +59,7 @@ int split(Request const& request)
   OutputFile output(request.output);
   output.write(index.to_json());
   if (!output.finish())
-    return complain(request.output.empty() ? "standard output" : request.output, "cannot be written", exit_bad_input);
+    return complain(request.output.empty() ? "standard output" : request.output, output.fault(), exit_bad_input);
   return exit_good;
 }
 }

@@ -103,7 +103,7 @@ int table(TableRequest const& request, std::string const& reader)
   if (result == exit_bad_input && output.rows() == 0 && output.good())
     return result;
   if (!output.finish())
-    return complain(request.output.empty() ? "standard output" : request.output, "cannot be written", exit_bad_input);
+    return complain(request.output.empty() ? "standard output" : request.output, output.fault(), exit_bad_input);
   return result;
 }
 }

@@ -26,6 +26,9 @@ public:
   /// Writes what is left. False if not everything could be written.
   bool finish();
 
+  /// Why it is false; see OutputFile.
+  std::string fault() const { return file.fault(); }
+
 private:
   void flush();
 

@@ -4,6 +4,7 @@
 #include "apNativeFile.h"
 
 #include <array>
+#include <cerrno>
 #include <chrono>
 #include <cstdint>
 #include <exception>
@@ -122,9 +123,11 @@ bool write_in_place(std::FILE* file, apPath const& place)
     return false;
   if (copy(file, target.get()) && apNativeFile::sync(target.get()))
     return true;
+  int const reason = errno;
   // The old bytes need no room that the file did not have.
   std::clearerr(target.get());
   static_cast<void>(copy(old.get(), target.get()) && apNativeFile::sync(target.get()));
+  errno = reason;
   return false;
 }
 }
@@ -179,7 +182,10 @@ try
   bool const done =
     is_written(file) &&
     (straight || (apNativeFile::sync(file) && (take_place(file, place, temporary) || write_in_place(file, place))));
+  int const reason = errno;
   bool const is_closed = file == nullptr || std::fclose(std::exchange(file, nullptr)) == 0;
+  if (!done)
+    errno = reason;
   return is_closed && done;
 }
 catch (...)

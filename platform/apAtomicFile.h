@@ -37,11 +37,13 @@ public:
   apAtomicFile& operator=(apAtomicFile const&) = delete;
   ~apAtomicFile();
 
-  /// What is to be written to; owned by this object. Null when the file could not be opened, and after commit().
+  /// What is to be written to; owned by this object. Null when the file could not be opened (errno has the system's reason
+  /// after the constructor), and after commit().
   std::FILE* stream() const noexcept;
 
   /// Puts the file in its place when all of it is on the disk. False when it cannot be, or something could not be
-  /// written; what was at the target is as it was then. To be called once.
+  /// written; what was at the target is as it was then, and errno has the reason, if the system gave one after the bytes
+  /// were written. To be called once.
   bool commit() noexcept;
 
 private:

@@ -286,7 +286,10 @@ apNativeFile::Made apNativeFile::give_name(std::FILE* file, utString const& name
 bool apNativeFile::has_further_names(utString const& name)
 {
   struct stat found;
-  return stat(name.c_str(), &found) == 0 && found.st_nlink > 1;
+  if (stat(name.c_str(), &found) == 0)
+    return found.st_nlink > 1;
+  // Where that cannot be told, there may be.
+  return errno != ENOENT;
 }
 
 bool apNativeFile::take_permissions(std::FILE* file, utString const& from)

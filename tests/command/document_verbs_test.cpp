@@ -234,7 +234,7 @@ TEST(axm_select, says_so_when_its_output_is_lost)
     std::string("\"") + AXM_PROGRAM + "\" select " + file.name + " //item > /dev/full 2> select_full.err";
   EXPECT_EQ(WEXITSTATUS(std::system(command.c_str())), 1);
   TemporaryFile const errors("select_full.err", contents_of("select_full.err"));
-  EXPECT_EQ(contents_of(errors.name), "axm: standard output: cannot be written\n");
+  EXPECT_EQ(contents_of(errors.name), "axm: standard output: cannot be written: No space left on device\n");
 }
 #endif
 
@@ -278,7 +278,8 @@ TEST(axm_set, says_why_it_does_not_save)
   EXPECT_EQ(set("//item[", "a=b", "set_why_2.xml").exit_code, 2);
   EXPECT_EQ(set("count(//item)", "a=b", "set_why_2.xml").exit_code, 2);
   EXPECT_NE(set("//item", "p:a=b", "set_why_2.xml").err.find("prefix"), std::string::npos);
-  EXPECT_EQ(set("//item", "a=b", "no/such/folder.xml").err, "axm: no/such/folder.xml: cannot be written\n");
+  EXPECT_EQ(set("//item", "a=b", "no/such/folder.xml").err,
+    "axm: no/such/folder.xml: cannot be written: No such file or directory\n");
 #if !defined(_WIN32)
   EXPECT_NE(set("//item", "a=\x01", "set_why_2.xml").err.find("character"), std::string::npos);
   EXPECT_EQ(set("//item", "a=\xFF", "set_why_2.xml").exit_code, 2);
@@ -304,7 +305,7 @@ TEST(axm_set, leaves_nothing_behind_when_files_may_not_become_so_large)
   int const status = std::system(command.c_str());
   TemporaryFile const errors("set_large.err", contents_of("set_large.err"));
   EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 1) << status;
-  EXPECT_EQ(contents_of(errors.name), "axm: set_large/x.xml: cannot be written\n");
+  EXPECT_EQ(contents_of(errors.name), "axm: set_large/x.xml: cannot be written: File too large\n");
   EXPECT_TRUE(std::filesystem::is_empty("set_large"));
   std::filesystem::remove_all("set_large");
 }

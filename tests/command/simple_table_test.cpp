@@ -214,7 +214,7 @@ TEST_F(SimpleTable, output_that_cannot_be_written_is_an_error)
 {
   ProgramRun const run = table(books, {"books/book", "@id", "--output", "no such folder/x.csv"});
   EXPECT_EQ(run.exit_code, 1);
-  EXPECT_EQ(run.err, "axm: no such folder/x.csv: cannot be written\n");
+  EXPECT_EQ(run.err, "axm: no such folder/x.csv: cannot be written: No such file or directory\n");
 }
 
 #if defined(__linux__)
@@ -222,7 +222,7 @@ TEST_F(SimpleTable, output_to_a_full_device_is_an_error)
 {
   ProgramRun const run = table(books, {"books/book", "@id", "--output", "/dev/full"});
   EXPECT_EQ(run.exit_code, 1);
-  EXPECT_EQ(run.err, "axm: /dev/full: cannot be written\n");
+  EXPECT_EQ(run.err, "axm: /dev/full: cannot be written: No space left on device\n");
 }
 
 TEST_F(SimpleTable, output_to_a_device_leaves_the_device_in_place)

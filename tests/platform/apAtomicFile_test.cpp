@@ -2,6 +2,7 @@
 
 #include "Scratch.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -370,5 +371,21 @@ TEST(apAtomicFile, leaves_the_target_when_the_disk_is_full)
   EXPECT_FALSE(done);
   EXPECT_EQ(read_file(path), "old");
   EXPECT_EQ(folder.entries(), 1);
+}
+
+TEST(apAtomicFile, leaves_the_reason_in_errno_where_it_cannot_write)
+{
+  Folder const folder;
+  apPath const nowhere = folder.file("not/there.xml");
+  errno = 0;
+  EXPECT_EQ(apAtomicFile(nowhere).stream(), nullptr);
+  EXPECT_EQ(errno, ENOENT);
+
+  apAtomicFile full(apPath("/dev/full"));
+  ASSERT_NE(full.stream(), nullptr);
+  EXPECT_GE(std::fputs("new", full.stream()), 0);
+  errno = 0;
+  EXPECT_FALSE(full.commit());
+  EXPECT_EQ(errno, ENOSPC);
 }
 #endif
