@@ -1,6 +1,7 @@
 // Loaded before the C library (LD_PRELOAD), it makes one call of a program to the system fail, or ends the program there.
 // AXM_FAULT says which: CALL NUMBER FAULT, as in "fsync 2 EIO", "any 7 kill", "fread 1 short". The calls of one name are
-// counted from 1, those of "any" all together. What has been done is written to the file AXM_FAULT_DONE.
+// counted from 1, those of "any" all together. "shrink" and "grow" fail nothing: before that call somebody else cuts the
+// file AXM_FAULT_FILE to its half, or adds a comment to it. That it has been done is told by the file AXM_FAULT_DONE.
 
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -42,6 +43,23 @@ void note_done()
     open_file(file, O_CREAT | O_WRONLY | O_CLOEXEC, 0600);
 }
 
+void change_file(bool grows)
+{
+  char const* const file = std::getenv("AXM_FAULT_FILE");
+  static auto* const open_file = real<int(char const*, int, ...)>("open");
+  static auto* const write_file = real<ssize_t(int, void const*, std::size_t)>("write");
+  static auto* const cut_file = real<int(int, off_t)>("ftruncate");
+  static auto* const close_file = real<int(int)>("close");
+  int const number = file == nullptr ? -1 : open_file(file, O_WRONLY | O_APPEND | O_CLOEXEC);
+  if (number < 0)
+    return;
+  char const more[] = "<!-- more -->\n";
+  off_t const size = lseek(number, 0, SEEK_END);
+  if (grows ? write_file(number, more, sizeof more - 1) < 0 : cut_file(number, size / 2) != 0)
+    std::abort();
+  close_file(number);
+}
+
 // What is to become of a call of that name.
 Fault fault_of(char const* call)
 {
@@ -65,6 +83,12 @@ Fault fault_of(char const* call)
   }
   if (std::strcmp(fault, "short") == 0)
     return Fault::shortened;
+  bool const grows = std::strcmp(fault, "grow") == 0;
+  if (grows || std::strcmp(fault, "shrink") == 0)
+  {
+    change_file(grows);
+    return Fault::none;
+  }
   errno = std::strcmp(fault, "ENOSPC") == 0 ? ENOSPC : EIO;
   return Fault::failure;
 }
@@ -81,7 +105,12 @@ std::FILE* const no_stream = nullptr;
 template <class Result, class... Arguments>
 Result called(char const* name, Result failed, Arguments... arguments)
 {
-  return fault_of(name) == Fault::none ? real<Result(Arguments...)>(name)(arguments...) : failed;
+  Fault const fault = fault_of(name);
+  if (fault == Fault::none)
+    return real<Result(Arguments...)>(name)(arguments...);
+  if (fault == Fault::shortened) // which there is not of these
+    errno = EIO;
+  return failed;
 }
 }
 
@@ -123,6 +152,31 @@ extern "C" int linkat(int from_folder, char const* from, int to_folder, char con
 extern "C" int fstat(int file, struct stat* found) noexcept
 {
   return called("fstat", -1, file, found);
+}
+
+extern "C" int stat(char const* name, struct stat* found) noexcept
+{
+  return called("stat", -1, name, found);
+}
+
+extern "C" int access(char const* name, int mode) noexcept
+{
+  return called("access", -1, name, mode);
+}
+
+extern "C" ssize_t readlink(char const* name, char* text, std::size_t size) noexcept
+{
+  return called("readlink", ssize_t{-1}, name, text, size);
+}
+
+extern "C" int fseeko(std::FILE* stream, off_t to, int from)
+{
+  return called("fseeko", -1, stream, to, from);
+}
+
+extern "C" off_t ftello(std::FILE* stream)
+{
+  return called("ftello", off_t{-1}, stream);
 }
 
 extern "C" std::FILE* fopen(char const* name, char const* mode)
@@ -204,6 +258,17 @@ extern "C" int fflush(std::FILE* stream)
 }
 
 // Closed it is all the same.
+extern "C" int close(int file)
+{
+  static auto* const call = real<int(int)>("close");
+  bool const fails = fault_of("close") != Fault::none;
+  int const result = call(file);
+  if (!fails)
+    return result;
+  errno = EIO;
+  return -1;
+}
+
 extern "C" int fclose(std::FILE* stream)
 {
   static auto* const call = real<int(std::FILE*)>("fclose");
