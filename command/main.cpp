@@ -1,98 +1,19 @@
-#include "Arguments.h"
+#include "CommandLine.h"
 #include "Complaint.h"
-#include "HelpFormatter.h"
-#include "ManualPage.h"
-#include "OptionRow.h"
 #include "Utf8Console.h"
-#include "Version.h"
+#include "Verb.h"
 
-#include <CLI/CLI.hpp>
-
-#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <exception>
 #include <iostream>
-#include <memory>
-#include <string>
-#include <vector>
 
 namespace
 {
-// In the order in which the help lists them; the last one is for the program itself.
-Verb const verbs[] = {add_check, add_select,
-#if defined(AXM_HAS_ENGINE)
-  add_set, add_delete, add_insert, add_move, add_rename, add_outline, add_diff, add_format, add_canon, add_convert,
-  add_split,
-#endif
-  add_table, add_conform, add_completion, add_conform_worker};
-
-char const footer[] = "axm VERB --help explains a verb; axm --man VERB writes its manual page.";
-
-std::string wrong_page(CLI::App const& app, std::string const& name)
-{
-  std::vector<CLI::App const*> const all = shown_verbs(app);
-  bool const is_verb =
-    std::any_of(all.begin(), all.end(), [&](CLI::App const* verb) { return verb->get_name() == name; });
-  return is_verb || name == "axm" ? std::string() : "there is no verb " + name;
-}
-
-// The page of "axm" or of a verb.
-std::string manual_page(CLI::App const& app, std::string const& name)
-{
-  std::string page = name == "axm" ? ManualPage::of_program(app) : ManualPage::of_verb(*app.get_subcommand(name));
-  page.pop_back(); // the line end comes with what is shown
-  return page;
-}
-
-bool names_no_verb(CLI::App& app, Arguments const& arguments)
-{
-  if (arguments.count() < 2)
-    return false;
-  std::string const first = arguments.values()[1];
-  auto const named = [&](CLI::App const* verb) { return verb->check_name(first); };
-  return first.substr(0, 1) != "-" && app.get_subcommands(named).empty();
-}
-
 // Whether all that was written to standard output has reached the system.
 bool is_written(std::ostream& stream, std::FILE* file)
 {
   return stream.flush().good() && std::fflush(file) == 0 && std::ferror(file) == 0;
-}
-
-int run(Arguments const& arguments)
-{
-  CLI::App app("Work with XML documents through axm.", "axm");
-  // A slash begins a path or an XPath expression on every system, never an option.
-  app.allow_windows_style_options(false);
-  app.require_subcommand(1);
-  app.formatter(std::make_shared<HelpFormatter>());
-  app.set_version_flag("--version", version_text(), "Say the version and how the program was built");
-  app.set_help_flag("-h,--help", "Explain the program or a verb");
-  app.footer(footer);
-  app
-    .add_option_function<std::string>(
-      "--man", [&app](std::string const& name) { throw CLI::CallForVersion(manual_page(app, name), 0); },
-      "Write the manual page of a verb, or that of axm")
-    ->type_name("VERB")
-    ->check([&app](std::string const& name) { return wrong_page(app, name); });
-  int exit_code = exit_good;
-  for (Verb const verb : verbs)
-    verb(app, exit_code);
-  for (CLI::App* const verb : app.get_subcommands([](CLI::App const* each) { return !each->get_group().empty(); }))
-    verb->group("Verbs");
-
-  if (names_no_verb(app, arguments))
-    return complain(arguments.values()[1], "there is no such verb; axm --help lists them", exit_usage);
-  try
-  {
-    app.parse(arguments.count(), arguments.values());
-  }
-  catch (CLI::ParseError const& error)
-  {
-    return app.exit(error) == 0 ? exit_good : exit_usage;
-  }
-  return exit_code;
 }
 }
 
@@ -105,7 +26,7 @@ int main(int argc, char** argv)
 #endif
   try
   {
-    int const exit_code = run(Arguments(argc, argv));
+    int const exit_code = run_command_line(Arguments(argc, argv));
     // A verb that has met it has said so.
     if (exit_code == exit_good && !is_written(std::cout, stdout))
       return complain("standard output", "cannot be written", exit_bad_input);

@@ -75,7 +75,12 @@ int weight_of(Weight const& row, Topic topic)
 }
 }
 
-axmModelDraw::axmModelDraw(Topic given, std::uint64_t seed) : topic(given), random(seed), steps(10 + random.below(50))
+axmModelDraw::axmModelDraw(Topic given, std::uint64_t seed) : axmModelDraw(given, axmModelRandom(seed)) {}
+
+axmModelDraw::axmModelDraw(Topic given, axmModelRandom const& numbers)
+  : topic(given),
+    random(numbers),
+    steps(10 + random.below(50))
 {
 }
 

@@ -20,6 +20,7 @@ class axmModelDraw
 {
 public:
   axmModelDraw(axmModelTopic topic, std::uint64_t seed);
+  axmModelDraw(axmModelTopic topic, axmModelRandom const& random);
 
   // The next step for `run`, which has done all those before.
   axmModelStep next(axmModelRun const& run);

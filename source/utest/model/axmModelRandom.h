@@ -10,8 +10,13 @@ class axmModelRandom
 public:
   explicit axmModelRandom(std::uint64_t seed) : state(seed) {}
 
+  // The numbers that two bytes each say, as long as there are such; those of a seed after them.
+  axmModelRandom(std::uint8_t const* given, std::size_t size) : state(size), bytes(given), pairs(size / 2) {}
+
   std::uint64_t next()
   {
+    if (pairs > 0)
+      return next_pair();
     state += 0x9E3779B97F4A7C15U;
     std::uint64_t mixed = state;
     mixed = (mixed ^ mixed >> 30U) * 0xBF58476D1CE4E5B9U;
@@ -32,5 +37,15 @@ public:
   }
 
 private:
+  std::uint64_t next_pair()
+  {
+    --pairs;
+    unsigned const low = *bytes++;
+    unsigned const high = *bytes++;
+    return high << 8U | low;
+  }
+
   std::uint64_t state;
+  std::uint8_t const* bytes = nullptr;
+  std::size_t pairs = 0;
 };
