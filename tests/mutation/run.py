@@ -150,4 +150,5 @@ def main():
     Runs(pathlib.Path(service), pathlib.Path(results), axm, libraries, programs).run()
 
 
-main()
+if __name__ == "__main__":
+    main()

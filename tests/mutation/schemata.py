@@ -1,7 +1,10 @@
-"""One-line changes to the engine, all compiled into one library, each behind a number.
+"""One-line changes to sources, all compiled into their libraries, each behind a number.
 
-schemata.py draw SERVICE COUNT SEED ROOM...   draws changes of the rooms and writes them into the sources of the folder SERVICE
-schemata.py mend SERVICE BUILD_LOG            takes out what the compiler refused; prints how many changes that were
+schemata.py draw FOLDER COUNT SEED ROOM...   draws changes of the rooms and writes them into the sources of the folder FOLDER
+schemata.py mend FOLDER BUILD_LOG            takes out what the compiler refused; prints how many changes that were
+
+A room is a folder there, such as dom in service; where it has hardly any source file, as templates have, it is given as
+its headers: containers/*.h.
 
 A change becomes `(axm_mutant(7) ? (a <= b) : (a < b))`: an expression has its changed form where the change 7 is chosen, and
 its own otherwise. The sources as they were are kept beside them as FILE.original, the changes in mutants.json there.
@@ -111,7 +114,7 @@ def region_of(code, start, end, kind):
 
 def draw(service, count, seed, rooms):
     dice = random.Random(seed)
-    paths = sorted(path for room in rooms for path in (service / room).rglob("*.cpp"))
+    paths = sorted(path for room in rooms for path in (service.glob(room) if "*" in room else (service / room).rglob("*.cpp")))
     texts = {path: path.read_text() for path in paths}
     codes = {path: masked(text) for path, text in texts.items()}
     places = []
@@ -250,7 +253,7 @@ def write_all(service, mutants, only=None):
 def mend(service, log):
     mutants = json.loads((service / "mutants.json").read_text())
     refused, files = set(), set()
-    pattern = re.compile(r"(\S+?service/(\S+?\.(?:cpp))):(\d+):(\d+): (?:fatal )?error: ")
+    pattern = re.compile(f"({re.escape(str(service.resolve()))}/(\\S+?\\.(?:cpp|h))):(\\d+):(\\d+): (?:fatal )?error: ")
     unplaced = {}
     for found in pattern.finditer(pathlib.Path(log).read_text(errors="replace")):
         name, line, column = found[2], int(found[3]), int(found[4])
