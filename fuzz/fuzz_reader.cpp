@@ -48,8 +48,8 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
   for (int i = 0; i < steps; ++i)
   {
     unsigned const choice = data[static_cast<std::size_t>(i) % size];
-    utString const name(names[choice / 5 % 6]);
-    switch (choice % 5)
+    utString const name(names[choice / 6 % 6]);
+    switch (choice % 6)
     {
     case 0:
     case 1:
@@ -60,6 +60,9 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
       break;
     case 3:
       reader->attribute(name, ut_lit("none"));
+      break;
+    case 4:
+      reader->read_file();
       break;
     default:
       reader->text_node();
