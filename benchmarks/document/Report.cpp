@@ -7,6 +7,12 @@
 #include <fstream>
 #include <iostream>
 
+Report::Report(std::vector<std::string> const& lines) : conditions(lines)
+{
+  for (std::string const& condition : conditions)
+    line(condition);
+}
+
 void Report::line(std::string const& line_text)
 {
   std::cout << line_text << std::endl;
@@ -18,13 +24,13 @@ void Report::add(
 {
   documents.push_back({title, results, like_records});
   line("");
-  std::string heading = padded(title, 30);
+  std::string heading = fitted(title, 28);
   for (char const* const name : library_names)
     heading += aligned_right(name, 14);
   line(heading + aligned_right("libxml2 : axs", 16));
   for (std::size_t i = 0; i < measure_count; ++i)
   {
-    std::string row = padded(measure_names[i], 30);
+    std::string row = padded(measure_names[i], 28);
     for (Numbers const& numbers : results)
       row += aligned_right(numbers.best[i] > 0 ? number(numbers.best[i], 1) : "-", 14);
     double const axs = results[library_axs].best[i];
@@ -39,7 +45,7 @@ void Report::add(
 void Report::add_limits()
 {
   line("");
-  line(padded("what axs is to reach", 62) + aligned_right("is", 8) + aligned_right("at least", 10));
+  line(padded("what axs is to reach", 66) + aligned_right("is", 8) + aligned_right("at least", 10));
   for (Document const& document : documents)
   {
     if (document.like_records)
@@ -57,7 +63,7 @@ void Report::limit(Document const& document, Measure measure, Library other, dou
 {
   double const axs = document.results[library_axs].best[measure];
   double const ratio = axs > 0 ? document.results[other].best[measure] / axs : 0;
-  line(padded(document.title + ": " + measure_names[measure] + ", " + library_names[other] + " : axs", 62) +
+  line(fitted(document.title + ": " + measure_names[measure] + ", " + library_names[other] + " : axs", 66) +
        aligned_right(number(ratio, 2), 8) + aligned_right(number(least, 2), 10) +
        (ratio >= least ? "  met" : "  MISSED"));
 }
@@ -77,7 +83,7 @@ bool Report::write(std::string const& prefix) const
 // a scale of powers of two.
 std::string Report::plot() const
 {
-  char const* const colours[library_count] = {"", "#4477aa", "#ccbb44", "#ee6677"};
+  std::vector<std::string> const colours = fills({library_names.begin(), library_names.end()});
   int const bar = 8;
   int const row = bar * (library_count - 1) + 8;
   int const origin = 420;
@@ -103,14 +109,14 @@ std::string Report::plot() const
       {
         double const ratio = axs > 0 ? document.results[library].best[i] / axs : 0;
         if (ratio > 0)
-          rows += "<path stroke=\"" + std::string(colours[library]) + "\" stroke-width=\"" + std::to_string(bar - 1) +
-                  "\" d=\"M" + x(1) + " " + std::to_string(y + bar * static_cast<int>(library) - bar / 2) + "H" +
-                  x(ratio) + "\"/>\n";
+          rows += "<path " + colours[library] + " d=\"M" + x(1) + " " +
+                  std::to_string(y + bar * static_cast<int>(library - 1)) + "H" + x(ratio) + "v" +
+                  std::to_string(bar - 1) + "H" + x(1) + "z\"/>\n";
       }
     }
   }
 
-  int const height = y + 10;
+  int const height = y + 20 + 13 * static_cast<int>(conditions.size());
   std::string svg =
     svg_begin(1260, height, 12) +
     "<text x=\"10\" y=\"20\" font-size=\"14\">Time and memory of others in times of axs (right of 1: axs "
@@ -118,12 +124,12 @@ std::string Report::plot() const
   for (std::size_t library = library_libxml2; library < library_count; ++library)
   {
     int const at = 480 + 150 * static_cast<int>(library);
-    svg += "<rect x=\"" + std::to_string(at) + "\" y=\"10\" width=\"10\" height=\"10\" fill=\"" + colours[library] +
-           "\"/><text x=\"" + std::to_string(at + 15) + "\" y=\"20\">" + library_names[library] + "</text>\n";
+    svg += "<rect x=\"" + std::to_string(at) + "\" y=\"10\" width=\"10\" height=\"10\" " + colours[library] +
+           "/><text x=\"" + std::to_string(at + 15) + "\" y=\"20\">" + library_names[library] + "</text>\n";
   }
   for (double ratio = least; ratio <= most; ratio *= 2)
     svg += "<path stroke=\"" + std::string(ratio == 1 ? "black" : "#dddddd") + "\" d=\"M" + x(ratio) + " 56V" +
-           std::to_string(height) + "\"/><text text-anchor=\"middle\" x=\"" + x(ratio) + "\" y=\"50\">" +
+           std::to_string(y) + "\"/><text text-anchor=\"middle\" x=\"" + x(ratio) + "\" y=\"50\">" +
            (ratio < 1 ? "1/" + number(1 / ratio, 0) : number(ratio, 0)) + "</text>\n";
-  return svg + rows + "</svg>\n";
+  return svg + rows + svg_lines(conditions, y + 15) + "</svg>\n";
 }

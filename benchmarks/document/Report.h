@@ -9,6 +9,9 @@
 class Report
 {
 public:
+  /// What the figures hold for, in lines, comes first.
+  explicit Report(std::vector<std::string> const& lines);
+
   /// A document, with what the libraries do not agree on. Of documents like records loading has a further limit.
   void add(
     std::string const& title, Results const& results, std::vector<std::string> const& disagreements, bool like_records);
@@ -33,6 +36,7 @@ private:
   void limit(Document const& document, Measure measure, Library other, double least);
   std::string plot() const;
 
+  std::vector<std::string> conditions;
   std::string text;
   std::vector<Document> documents;
   bool agree = true;

@@ -8,6 +8,8 @@
 #include <axmDocumentFactory.h>
 #include <axsRegister.h>
 
+#include "conditions.h"
+
 #include <libxml/parser.h>
 #include <pugixml.hpp>
 
@@ -194,8 +196,10 @@ int main(int argc, char** argv)
 
   Ratios alone;
   Ratios repeated;
-  std::printf("%-30s %44s %44s %26s\n", "", "alone, and axs times faster", "over and over, and axs times faster",
-    "peak memory, MB");
+  for (std::string const& line : conditions({pugixml_name(PUGIXML_VERSION), "libxml2 " LIBXML_DOTTED_VERSION}))
+    std::printf("%s\n", line.c_str());
+  std::printf(
+    "\n%-44s%26s  %16s\n", "milliseconds: alone; over and over", "axs   pugixml   libxml2", "axs times faster");
   for (int i = first; i < argc; ++i)
   {
     Times once;
@@ -219,9 +223,11 @@ int main(int argc, char** argv)
         often[library].push_back(apart([&] { return load_often(libraries[library], argv[i], rounds); }).milliseconds);
     alone.add(once);
     repeated.add(often);
-    std::printf("%-30s", base_name(argv[i]).c_str());
+    std::printf("%-44.44s", base_name(argv[i]).c_str());
     print(once, alone);
+    std::printf("\n%-44s", "");
     print(often, repeated);
+    std::printf("\n%-44s", "  peak memory, MB");
     for (std::vector<double> const& of_library : memory)
       std::printf(" %8.1f", median(of_library));
     std::printf("\n");

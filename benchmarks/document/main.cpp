@@ -11,7 +11,12 @@
 
 #include "Measuring.h"
 #include "Report.h"
+#include "conditions.h"
 #include "documents.h"
+
+#include <libxml/xmlversion.h>
+#include <pugixml.hpp>
+#include <xercesc/util/XercesVersion.hpp>
 
 #include <unistd.h>
 
@@ -90,7 +95,8 @@ int main(int argc, char** argv)
     std::cerr << "usage: document_benchmark [--megabytes N] [--rounds N] [--output PREFIX] [FILE...]\n";
     return 2;
   }
-  Report report;
+  Report report(
+    conditions({"libxml2 " LIBXML_DOTTED_VERSION, "Xerces-C " XERCES_FULLVERSIONDOT, pugixml_name(PUGIXML_VERSION)}));
   for (std::string const& file : options.files)
   {
     Results const results = measure(file, options.rounds);

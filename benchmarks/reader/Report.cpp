@@ -4,14 +4,21 @@
 
 #include <algorithm>
 #include <cmath>
+#include <fstream>
 #include <iostream>
+#include <sstream>
 
-Report::Report(std::string const& given) : prefix(given), text(given + ".txt") {}
+Report::Report(std::string const& given, std::vector<std::string> const& lines) : prefix(given), conditions(lines)
+{
+  for (std::string const& condition : conditions)
+    line(condition);
+  line("");
+}
 
 void Report::line(std::string const& line_text)
 {
   std::cout << line_text << std::endl;
-  text << line_text << '\n';
+  text += line_text + '\n';
 }
 
 void Report::ratios(std::string const& what, std::vector<double> const& values)
@@ -22,40 +29,47 @@ void Report::ratios(std::string const& what, std::vector<double> const& values)
 void Report::target(std::string const& what, double value, double limit, bool at_most)
 {
   bool const reached = at_most ? value <= limit : value >= limit;
-  line(padded(what, 79) + " " + padded(number(value, 3), 10) + padded(at_most ? "at most" : "at least", 9) +
+  line(fitted(what, 65) + " " + padded(number(value, 3), 10) + padded(at_most ? "at most" : "at least", 9) +
        padded(number(limit, 2), 7) + (reached ? "met" : "MISSED"));
 }
 
 void Report::finish()
 {
-  plot();
-  text.close();
-  written = written && text.good();
+  if (prefix.empty())
+    return;
+  std::ofstream table(prefix + ".txt", std::ios::binary);
+  table << text;
+  table.close();
+  std::ofstream picture(prefix + ".svg", std::ios::binary);
+  picture << plot();
+  picture.close();
+  written = table.good() && picture.good();
   std::cout << "Written: " << prefix << ".txt, " << prefix << ".svg\n";
 }
 
 // A bar for each contender and row, as long as the time of the contender is in times of the reader, on a scale of powers
 // of two.
-void Report::plot()
+std::string Report::plot() const
 {
-  char const* const colours[] = {"#4477aa", "#66ccee", "#228833", "#ccbb44", "#ee6677", "#aa3377", "#777777"};
+  std::vector<std::string> const colours = fills(contenders);
   int const bar = 9;
   int const left = 330;
   int const unit = 110;
   int const group = bar * static_cast<int>(contenders.size()) + 14;
-  int const height = 70 + group * static_cast<int>(rows.size());
+  int const bottom = 70 + group * static_cast<int>(rows.size());
+  int const height = bottom + 10 + 13 * static_cast<int>(conditions.size());
   auto const x = [&](double ratio) { return left + unit * (std::log2(std::clamp(ratio, 0.25, 32.0)) + 2); };
 
-  std::ofstream svg(prefix + ".svg");
+  std::ostringstream svg;
   svg << svg_begin(1180, height, 11)
       << "<text x=\"10\" y=\"18\" font-size=\"13\">Time of each library in times of the reader (right of 1: the reader "
          "is "
          "faster)</text>\n";
   for (std::size_t i = 0; i < contenders.size(); ++i)
-    svg << "<rect x=\"" << 10 + 150 * i << "\" y=\"28\" width=\"9\" height=\"9\" fill=\"" << colours[i % 7]
-        << "\"/><text x=\"" << 23 + 150 * i << "\" y=\"37\">" << escaped(contenders[i]) << "</text>\n";
+    svg << "<rect x=\"" << 10 + 150 * i << "\" y=\"28\" width=\"9\" height=\"9\" " << colours[i] << "/><text x=\""
+        << 23 + 150 * i << "\" y=\"37\">" << escaped(contenders[i]) << "</text>\n";
   for (double ratio = 0.25; ratio <= 32; ratio *= 2)
-    svg << "<line x1=\"" << x(ratio) << "\" x2=\"" << x(ratio) << "\" y1=\"58\" y2=\"" << height - 6 << "\" stroke=\""
+    svg << "<line x1=\"" << x(ratio) << "\" x2=\"" << x(ratio) << "\" y1=\"58\" y2=\"" << bottom - 6 << "\" stroke=\""
         << (ratio == 1 ? "black" : "#cccccc") << "\"/><text x=\"" << x(ratio) << "\" y=\"55\" text-anchor=\"middle\">"
         << ratio << "</text>\n";
   int y = 64;
@@ -68,12 +82,10 @@ void Report::plot()
       double const from = std::min(x(1), x(row.values[i]));
       if (row.values[i] > 0)
         svg << "<rect x=\"" << from << "\" y=\"" << y + bar * static_cast<int>(i) << "\" width=\""
-            << std::abs(x(row.values[i]) - x(1)) + 1 << "\" height=\"" << bar - 2 << "\" fill=\"" << colours[i % 7]
-            << "\"/>\n";
+            << std::abs(x(row.values[i]) - x(1)) + 1 << "\" height=\"" << bar - 2 << "\" " << colours[i] << "/>\n";
     }
     y += group;
   }
-  svg << "</svg>\n";
-  svg.close();
-  written = written && svg.good();
+  svg << svg_lines(conditions, bottom + 10) << "</svg>\n";
+  return svg.str();
 }

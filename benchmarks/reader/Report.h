@@ -1,6 +1,5 @@
 #pragma once
 
-#include <fstream>
 #include <string>
 #include <vector>
 
@@ -8,7 +7,8 @@
 class Report
 {
 public:
-  explicit Report(std::string const& prefix);
+  // What the figures hold for, in lines, comes first. Without a prefix no files are written.
+  Report(std::string const& prefix, std::vector<std::string> const& conditions);
 
   void line(std::string const& text);
 
@@ -33,10 +33,11 @@ private:
     std::vector<double> values;
   };
 
-  void plot();
+  std::string plot() const;
 
   std::string prefix;
-  std::ofstream text;
+  std::vector<std::string> conditions;
+  std::string text;
   std::vector<Row> rows;
   bool written = true;
 };

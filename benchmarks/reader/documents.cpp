@@ -42,7 +42,7 @@ struct Least
 
 std::string cell(double value, int digits)
 {
-  return padded(number(value, digits), 17);
+  return aligned_right(number(value, digits), 9);
 }
 }
 
@@ -63,15 +63,12 @@ void measure_documents(
   TemporaryFolder const& folder, std::vector<std::string> const& files, Extent const& extent, Report& report)
 {
   std::size_t const count = extent.only_pugixml ? pugixml + 1 : std::size(contenders);
-  report.line("Extraction of all fields: the time of each library in times of the reader's, and the peak of memory");
-  std::string heading = padded("document", 34) + padded("MB", 7) + padded("values", 10) + padded("of all", 8);
-  for (std::size_t i = 0; i < count; ++i)
-  {
-    heading += padded(i == 0 ? "reader, ms" : contenders[i].name, 17);
-    if (i > 0)
-      report.contenders.push_back(contenders[i].name);
-  }
-  report.line(heading);
+  report.line("Extraction of all fields: the time of each library in times of the reader's, and peak memory");
+  for (std::size_t i = 1; i < count; ++i)
+    report.contenders.push_back(contenders[i].name);
+  std::vector<std::string> columns = {"reader ms"};
+  columns.insert(columns.end(), report.contenders.begin(), report.contenders.end());
+  report.line(headings(columns, 28, 9));
 
   Document const sample(write_document(folder, "sample.xml", records(200)), folder.file("sample_copy.xml"));
   std::vector<double> of_pugixml;
@@ -88,12 +85,12 @@ void measure_documents(
     }
     catch (std::runtime_error const& error)
     {
-      report.line(padded(name, 34) + "not measured: " + error.what());
+      report.line(shortened(name + " not measured: " + error.what(), line_width));
       continue;
     }
     if (document->values_taken == 0)
     {
-      report.line(padded(name, 34) + "not measured: the reader can take nothing out of it");
+      report.line(shortened(name + " not measured: the reader can take nothing out of it", line_width));
       continue;
     }
     std::vector<Run> runs;
@@ -105,12 +102,11 @@ void measure_documents(
     for (std::size_t i = 1; i < count; ++i)
       ratios.push_back(costs[i].seconds / costs[0].seconds);
     double const all = static_cast<double>(document->values_taken + document->values_left_out);
-    std::string line = padded(name, 34) +
-                       padded(number(static_cast<double>(std::filesystem::file_size(document->file)) / 1e6, 1), 7) +
-                       padded(std::to_string(document->values_taken), 10) +
-                       padded(number(100 * static_cast<double>(document->values_taken) / all, 0) + " %", 8) +
-                       cell(costs[0].seconds * 1e3, 2);
-    std::string memory = padded("  memory, MB", 59);
+    double const megabytes = static_cast<double>(std::filesystem::file_size(document->file)) / 1e6;
+    std::string line = fitted(name, 22) + aligned_right(number(megabytes, 1), 6) + cell(costs[0].seconds * 1e3, 2);
+    std::string const taken = std::to_string(document->values_taken) + " values, " +
+                              number(100 * static_cast<double>(document->values_taken) / all, 0) + " %";
+    std::string memory = fitted("  " + taken, 25) + "MB:";
     for (std::size_t i = 0; i < count; ++i)
     {
       if (i > 0)
@@ -120,7 +116,7 @@ void measure_documents(
     report.line(line);
     report.line(memory);
     for (std::string const& note : document->notes)
-      report.line("  changed in the copy that all get: " + note);
+      report.line(shortened("  changed for all: " + note, line_width));
     report.ratios(name, ratios);
 
     of_pugixml.push_back(ratios[pugixml - 1]);
@@ -135,8 +131,7 @@ void measure_documents(
     "extraction, geometric mean over the files, against pugixml", geometric_mean(of_pugixml), extent.least_mean, false);
   if (extent.only_pugixml)
     return;
-  report.target("least of any file, against pugixml: " + least_pugixml.file, least_pugixml.value, 1, false);
-  report.target(
-    "least of any file, against rapidxml's faster mode: " + least_rapidxml.file, least_rapidxml.value, 1, false);
-  report.target("least of any file, against expat: " + least_expat.file, least_expat.value, 4, false);
+  report.target("least of any, against pugixml: " + least_pugixml.file, least_pugixml.value, 1, false);
+  report.target("least of any, against rapidxml's faster mode: " + least_rapidxml.file, least_rapidxml.value, 1, false);
+  report.target("least of any, against expat: " + least_expat.file, least_expat.value, 4, false);
 }

@@ -48,7 +48,7 @@ void measure_size(TemporaryFolder const& folder, int runs, Report& report)
     extraction_costs(documents_of(folder, {records(1000000), records(10000000), records(100000000)}), runs);
   for (std::size_t i = 0; i < megabytes.size(); ++i)
     report.line(
-      padded("  " + number(megabytes[i], 0) + " MB, ms a MB", 80) + number(costs[i].seconds * 1e3 / megabytes[i], 3));
+      padded("  " + number(megabytes[i], 0) + " MB, ms a MB", 70) + number(costs[i].seconds * 1e3 / megabytes[i], 3));
   report.target("100 MB against 1 MB, per byte", costs[2].seconds / costs[0].seconds / 100, 1.3, true);
 }
 
@@ -60,7 +60,7 @@ void measure_depth(TemporaryFolder const& folder, int runs, Report& report)
     roots.push_back(nested_records(10000000, depth));
   std::vector<Cost> const costs = extraction_costs(documents_of(folder, roots), runs);
   for (std::size_t i = 0; i < depths.size(); ++i)
-    report.line(padded("  depth " + std::to_string(depths[i]) + ", ms", 80) + number(costs[i].seconds * 1e3, 2));
+    report.line(padded("  depth " + std::to_string(depths[i]) + ", ms", 70) + number(costs[i].seconds * 1e3, 2));
   report.target("depth 64 against depth 2, same size", costs.back().seconds / costs.front().seconds, 1.25, true);
 }
 
@@ -110,7 +110,7 @@ void measure_siblings(TemporaryFolder const& folder, int runs, Report& report)
       std::min(runs, 3));
     double const reader_seconds = costs[1].seconds - costs[0].seconds;
     double const pugixml_seconds = costs[3].seconds - costs[2].seconds;
-    report.line(padded("  " + std::to_string(siblings) + " siblings, ms, reader and pugixml", 80) +
+    report.line(padded("  " + std::to_string(siblings) + " siblings, ms, reader and pugixml", 70) +
                 padded(number(reader_seconds * 1e3, 2), 10) + number(pugixml_seconds * 1e3, 2));
     if (siblings == 100000)
       report.target(
@@ -144,7 +144,7 @@ void measure_absent_attributes(TemporaryFolder const& folder, int runs, Report& 
   }
   std::vector<Cost> const costs = interleaved(calls, runs);
   for (std::size_t i = 0; i < counts.size(); ++i)
-    report.line(padded("  absent attributes of " + std::to_string(counts[i]) + " self-closing siblings, ms", 80) +
+    report.line(padded("  absent attributes of " + std::to_string(counts[i]) + " self-closing siblings, ms", 70) +
                 number(costs[i].seconds * 1e3, 3));
   report.target("absent attributes, 16,000 against 1,000", costs.back().seconds / costs.front().seconds, 20, true);
 }
@@ -165,7 +165,7 @@ void measure_first_record(TemporaryFolder const& folder, int runs, Report& repor
       throw std::runtime_error("no first record");
   };
   std::vector<Cost> const costs = interleaved({{{}, plainly}, {{}, first_record}}, std::max(runs, 9));
-  report.line(padded("  first record of 10 MB, ms, and reading the file alone", 80) +
+  report.line(padded("  first record of 10 MB, ms, and reading the file alone", 70) +
               padded(number(costs[1].seconds * 1e3, 3), 10) + number(costs[0].seconds * 1e3, 3));
   report.target("first record of 10 MB against reading the file", costs[1].seconds / costs[0].seconds, 1.2, true);
 }
@@ -183,7 +183,7 @@ void measure_memory(TemporaryFolder const& folder, Report& report)
       reader->down_to("none");
     }});
   double const mega = 1024 * 1024;
-  report.line(padded("  kB of memory beside the file before anything is passed", 80) +
+  report.line(padded("  kB of memory beside the file before anything is passed", 70) +
               number((entered.megabytes - only_read.megabytes) * 1024, 0));
   report.target("bytes of memory for each element passed",
     (passed.megabytes - entered.megabytes) * mega / static_cast<double>(elements), 16, true);
@@ -207,7 +207,7 @@ void measure_allocations(TemporaryFolder const& folder, Report& report)
       more = is_long ? allocations - values : allocations;
       report.line(padded("  allocations for " + std::to_string(values) + (is_long ? " long" : " short") +
                            " values that are not empty",
-                    80) +
+                    70) +
                   std::to_string(allocations));
     }
     report.target(

@@ -1,8 +1,13 @@
 // Takes the same fields out of the same documents with the streaming reader and with other libraries.
 
 #include "Report.h"
+#include "conditions.h"
 #include "made.h"
 #include "measures.h"
+
+#include <expat.h>
+#include <libxml/xmlversion.h>
+#include <pugixml.hpp>
 
 #include <malloc.h>
 
@@ -17,13 +22,13 @@ namespace
 struct Options
 {
   std::string folder;
-  std::string output = "bench-reader";
+  std::string output;
   Extent extent;
 };
 
 char const usage[] =
   "usage: bench_reader [FOLDER] [--output PREFIX] [--runs N] [--only-pugixml]\n"
-  "Measures on the documents in FOLDER and on generated ones, and writes PREFIX.txt and PREFIX.svg.\n"
+  "Measures on the documents in FOLDER and on generated ones; with --output, writes PREFIX.txt and PREFIX.svg.\n"
   "With --only-pugixml, only the extraction, and against pugixml alone.\n";
 
 bool parse(int argc, char** argv, Options& options)
@@ -70,7 +75,8 @@ int main(int argc, char** argv)
   try
   {
     TemporaryFolder const folder;
-    Report report(options.output);
+    Report report(options.output, conditions({pugixml_name(PUGIXML_VERSION), "libxml2 " LIBXML_DOTTED_VERSION,
+                                    std::string("expat ") + (XML_ExpatVersion() + 6), "rapidxml (has no version)"}));
     std::vector<std::string> files = write_documents(folder);
     if (!options.folder.empty())
     {

@@ -4,8 +4,13 @@
 #include "Report.h"
 #include "RowContender.h"
 #include "Timing.h"
+#include "conditions.h"
 #include "made.h"
 #include "writing.h"
+
+#include <expat.h>
+#include <libxml/xmlversion.h>
+#include <pugixml.hpp>
 
 #include <malloc.h>
 
@@ -71,7 +76,7 @@ Run extraction(RowContender const& contender, RowTask const& sample, RowTask con
 
 std::string cell(double value)
 {
-  return padded(number(value, 2), 16);
+  return aligned_right(number(value, 2), 8);
 }
 
 // The geometric means of what was measured on the tasks of one document.
@@ -92,7 +97,7 @@ void target_of_all(Report& report, std::string const& what, Ratios const& ratios
     }
   }
   report.target("rows, geometric mean over the documents, against " + what, geometric_mean(means), mean, false);
-  report.target("least of any document, against " + what + ": " + least_name, least_mean, least, false);
+  report.target("least of any, against " + what + ": " + least_name, least_mean, least, false);
 }
 
 RowTask task_of(std::string const& file, std::string const& path)
@@ -104,13 +109,11 @@ void measure_tasks(TemporaryFolder const& folder, std::vector<RowTask> const& ta
 {
   RowTask const sample = task_of(write_document(folder, "sample.xml", records(2000)), "r/item");
   report.line("Rows: the time of each in times of the record reader's");
-  std::string heading = padded("document, path, first column", 64) + padded("rows", 9) + padded("ms", 9);
   for (std::size_t i = 1; i < std::size(contenders); ++i)
-  {
-    heading += padded(contenders[i].name, 16);
     report.contenders.push_back(contenders[i].name);
-  }
-  report.line(heading);
+  std::vector<std::string> columns = {"rows", "ms"};
+  columns.insert(columns.end(), report.contenders.begin(), report.contenders.end());
+  report.line(headings(columns, 43, 8));
   Ratios of_pugixml;
   Ratios of_expat;
   std::vector<double> of_command;
@@ -122,8 +125,8 @@ void measure_tasks(TemporaryFolder const& folder, std::vector<RowTask> const& ta
       all.push_back(extraction(contender, sample, task, wanted));
     std::vector<Cost> const costs = interleaved(all, runs);
     std::string const name = name_of(task);
-    std::string line = padded(name + ' ' + task.path.back() + ' ' + task.columns.front(), 64) +
-                       padded(std::to_string(wanted.rows), 9) + padded(number(costs[0].seconds * 1e3, 2), 9);
+    std::string const what = name + ' ' + task.path.back() + ' ' + task.columns.front();
+    std::string line = fitted(what, 43) + aligned_right(std::to_string(wanted.rows), 8) + cell(costs[0].seconds * 1e3);
     std::vector<double> ratios;
     for (std::size_t i = 1; i < costs.size(); ++i)
     {
@@ -131,7 +134,7 @@ void measure_tasks(TemporaryFolder const& folder, std::vector<RowTask> const& ta
       line += cell(ratios.back());
     }
     report.line(line);
-    report.ratios(name + ' ' + task.path.back() + ' ' + task.columns.front(), ratios);
+    report.ratios(what, ratios);
     of_pugixml[name].push_back(ratios[pugixml - 1]);
     of_expat[name].push_back(ratios[expat - 1]);
     if (std::filesystem::file_size(task.file) >= least_size_for_command)
@@ -183,14 +186,14 @@ void measure_growth(TemporaryFolder const& folder, int runs, Report& report)
 char const usage[] = "usage: bench_rows FOLDER [--tasks FILE] [--output PREFIX] [--runs N]\n"
                      "Takes the rows that FILE asks for (one line each: document, path, columns, with tabs between) "
                      "out of the documents in\n"
-                     "FOLDER, and writes PREFIX.txt and PREFIX.svg.\n";
+                     "FOLDER; with --output, writes PREFIX.txt and PREFIX.svg.\n";
 }
 
 int main(int argc, char** argv)
 {
   std::string folder_name;
   std::string tasks = ROW_TASKS;
-  std::string output = "bench-rows";
+  std::string output;
   int runs = 9;
   for (int i = 1; i < argc; ++i)
   {
@@ -213,7 +216,8 @@ int main(int argc, char** argv)
   try
   {
     TemporaryFolder const folder;
-    Report report(output);
+    Report report(output, conditions({pugixml_name(PUGIXML_VERSION), "libxml2 " LIBXML_DOTTED_VERSION,
+                            std::string("expat ") + (XML_ExpatVersion() + 6)}));
     measure_tasks(folder, read_row_tasks(tasks, folder_name), runs, report);
     measure_growth(folder, runs, report);
     report.finish();

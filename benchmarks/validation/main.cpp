@@ -10,8 +10,12 @@
 #include "Contender.h"
 #include "Timing.h"
 #include "commands.h"
+#include "conditions.h"
 #include "documents.h"
 #include "growth.h"
+
+#include <libxml/xmlversion.h>
+#include <xercesc/util/XercesVersion.hpp>
 
 #include <algorithm>
 #include <cstdio>
@@ -55,6 +59,7 @@ bool measure(Made const& made, int rounds)
   for (std::size_t i = 0; i < count; ++i)
     std::printf("  %-22s %12.2f %12.2f %8.2f\n", ways[i].name, compile[i].front(), Timing::median(run[i]),
       Timing::median(run[i]) / ours);
+  std::fflush(stdout);
   if (!all_agree)
     std::printf("  not all of them take the document for valid\n");
   return all_agree;
@@ -119,6 +124,9 @@ int main(int argc, char** argv)
     else
       files.push_back(argument);
   }
+  for (std::string const& line : conditions({"libxml2 " LIBXML_DOTTED_VERSION, "Xerces-C " XERCES_FULLVERSIONDOT}))
+    std::printf("%s\n", line.c_str());
+  std::printf("\n");
   bool all_agree = true;
   if (is_compiling)
     for (std::string const& file : files)
