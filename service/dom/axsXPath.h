@@ -16,7 +16,8 @@
 /// expressions of every type and tells what is wrong with one.
 ///
 /// What the recommendation leaves to the host: the context node is any node of a document of this engine, context
-/// position and size are 1. There are no variables and no functions but those of the core library. Prefixes are taken
+/// position and size are 1. There are no functions but those of the core library, and no variables but in expressions that
+/// are compiled with them (axsCompiledXPath). Prefixes are taken
 /// from the scope of the context node; for what is outside of the root element, the document itself too, from that of
 /// the root element.
 ///

@@ -1,9 +1,10 @@
 #pragma once
 
 #include <axmDocumentFactory.h>
+#include <axmSaveObstacles.h>
 
 /// The factory of the default engine. It has no state: its operations may be called from many threads at once.
-class axsDocumentFactory final : public axmDocumentFactory
+class axsDocumentFactory final : public axmDocumentFactory, public axmSaveObstacles
 {
 public:
   axsDocumentFactory();
@@ -16,4 +17,5 @@ public:
     apByteArray const& data, axmLoadOptions const& options, axmParseError& error) const override;
   bool saveDocument(std::shared_ptr<axmDocument> document, apByteArray& output) override;
   bool saveDocument(std::shared_ptr<axmDocument> document, apPath const& path) override;
+  apString obstacle(axmDocument const& document) const override;
 };

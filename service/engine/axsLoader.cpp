@@ -24,15 +24,30 @@ void read_valid(axsSource& source, axmLoadOptions const& options, axsTreeBuilder
   axsAssessment assessment(*schema, &builder, errors, has_assessed);
   axsParser(source, options, assessment).run();
 }
+
+void read(axsSource& source, axmLoadOptions const& options, axsTreeBuilder& builder)
+{
+  if (axsSchemas::are_wanted(options))
+    read_valid(source, options, builder);
+  else
+    axsParser(source, options, builder).run();
+}
 }
 
 std::shared_ptr<axmDocument> axsLoader::load(axsSource& source, axmLoadOptions const& options, apString const& uri)
 {
   std::shared_ptr<axmDocument> document = axsDomDocument::make(uri);
   axsTreeBuilder builder(tree_of(*document));
-  if (axsSchemas::are_wanted(options))
-    read_valid(source, options, builder);
-  else
-    axsParser(source, options, builder).run();
+  read(source, options, builder);
+  return document;
+}
+
+std::shared_ptr<axmDocument> axsLoader::load_with_spaces(
+  axsSource& source, axmLoadOptions const& options, apString const& uri)
+{
+  std::shared_ptr<axmDocument> document = axsDomDocument::make(uri);
+  axsTreeBuilder builder(tree_of(*document));
+  builder.keep_all_spaces();
+  read(source, options, builder);
   return document;
 }

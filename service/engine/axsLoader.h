@@ -15,4 +15,7 @@ namespace axsLoader
 /// axsReadError when it is not well-formed, not valid or cannot be read, or its schemas cannot be used; std::bad_alloc when
 /// memory runs out.
 std::shared_ptr<axmDocument> load(axsSource& source, axmLoadOptions const& options, apString const& uri);
+
+/// The same with all white space in the tree.
+std::shared_ptr<axmDocument> load_with_spaces(axsSource& source, axmLoadOptions const& options, apString const& uri);
 }

@@ -18,7 +18,7 @@ std::shared_ptr<axsXPathExpression const> axsXPathCache::compile(std::string_vie
     return entries.back().expression;
   }
 
-  std::optional<axsXPathExpression> parsed = axsXPathParser::parse(text, error);
+  std::optional<axsXPathExpression> parsed = axsXPathParser::parse(text, {}, error);
   if (!parsed)
     return nullptr;
   auto expression = std::make_shared<axsXPathExpression const>(std::move(*parsed));

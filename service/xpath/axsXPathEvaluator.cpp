@@ -108,6 +108,25 @@ bool axsXPathEvaluator::bind_step(
   return !test.uri.empty();
 }
 
+bool axsXPathEvaluator::bind(
+  axsXPathVariables const& given, axsXPathVariables const& usual, axsXPathError& error, std::size_t& place)
+{
+  for (Expression::Variable const& variable : expression.variables)
+  {
+    auto const found = given.find(variable.name);
+    axsXPathVariable const& value = found == given.end() ? usual.at(variable.name) : found->second;
+    if (value.type != variable.type)
+    {
+      error.message =
+        "the value of the variable '" + variable.name + "' is of another type than the expression was made for";
+      place = variable.position;
+      return false;
+    }
+    variables.push_back(&value);
+  }
+  return true;
+}
+
 axsXPathValue axsXPathEvaluator::evaluate()
 {
   return compute_value(expression.whole(), initial_context);
@@ -248,6 +267,8 @@ bool axsXPathEvaluator::compute_boolean(Term const& term, Context const& context
     return true;
   case Expression::comparison:
     return comparisons.compare(term, context);
+  case Expression::variable:
+    return is_true(variable_of(term).number);
   default:
     return core_library.boolean_call(term, context);
   }
@@ -259,6 +280,8 @@ double axsXPathEvaluator::compute_number(Term const& term, Context const& contex
   {
   case Expression::constant:
     return term.number;
+  case Expression::variable:
+    return variable_of(term).number;
   case Expression::arithmetic:
     return arithmetic(term, context);
   case Expression::negation:
@@ -274,6 +297,8 @@ std::string_view axsXPathEvaluator::compute_text(Term const& term, Context const
 {
   if (term.kind == Expression::literal)
     return expression.literal_of(term);
+  if (term.kind == Expression::variable)
+    return variable_of(term).text;
   return core_library.text_call(term, context, scratch);
 }
 

@@ -10,6 +10,7 @@
 #include "axsXPathPathEvaluator.h"
 #include "axsXPathPrefixes.h"
 #include "axsXPathValue.h"
+#include "axsXPathVariables.h"
 
 #include <cstddef>
 #include <optional>
@@ -40,6 +41,11 @@ public:
   /// scope of the context node. False, with the error filled but for its position, and that in bytes in `place`, where one
   /// is not declared or the context is no node of the data model. To be called first.
   bool bind(axsXPathPrefixes const& prefixes, axsXPathError& error, std::size_t& place);
+
+  /// Takes the values of the variables from `given` and, of those that are not there, from `usual`, which has all of them;
+  /// both must live as long. False, with the error as above, where a value is not of the type that the expression was made for.
+  /// To be called before the evaluation of an expression that has variables.
+  bool bind(axsXPathVariables const& given, axsXPathVariables const& usual, axsXPathError& error, std::size_t& place);
 
   /// The value of the whole expression.
   axsXPathValue evaluate();
@@ -103,6 +109,11 @@ private:
   bool bind_step(
     Expression::Step const& step, axsXPathPrefixes const& prefixes, axsElement const* scope, axsXPathNodeTest& test);
 
+  axsXPathVariable const& variable_of(Term const& term) const noexcept
+  {
+    return *variables[static_cast<std::size_t>(term.first)];
+  }
+
   // The value of a term, without a look at the cache, as the type that the term has.
   axsXPathValue compute_value(int term, Context const& context);
   bool compute_boolean(Term const& term, Context const& context);
@@ -122,6 +133,8 @@ private:
   axsXPathModel data_model;
   // One for each step.
   std::vector<axsXPathNodeTest> tests;
+  // One for each variable.
+  std::vector<axsXPathVariable const*> variables;
   axsXPathPathEvaluator path_evaluator;
   axsXPathComparison comparisons;
   axsXPathCoreLibrary core_library;

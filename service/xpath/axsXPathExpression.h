@@ -53,6 +53,7 @@ public:
   {
     literal,
     constant,
+    variable,
     call,
     or_,
     and_,
@@ -71,7 +72,8 @@ public:
     unsigned uses = uses_nothing;
     double number = 0;
     axsXPathFunction::Id function = axsXPathFunction::last;
-    /// The operands or arguments; of a literal `first` is its index in `literals`, of a path its index in `paths`.
+    /// The operands or arguments; of a literal `first` is its index in `literals`, of a variable that in `variables`, of a
+    /// path that in `paths`.
     int first = 0;
     int count = 0;
     /// The number of predicates around the term.
@@ -110,6 +112,14 @@ public:
     std::string prefix;
     std::string local;
     /// Where the name stands in the expression, counted in bytes.
+    std::size_t position;
+  };
+
+  struct Variable
+  {
+    std::string name;
+    axsXPathType type;
+    /// Where it stands first in the expression, counted in bytes.
     std::size_t position;
   };
 
@@ -178,6 +188,8 @@ public:
   std::vector<Predicate> predicates;
   std::vector<std::string> literals;
   std::vector<Name> names;
+  /// Those that the expression has, each once.
+  std::vector<Variable> variables;
   int value_slots = 0;
   int node_set_slots = 0;
 };

@@ -1,5 +1,6 @@
 #include "axsXPathExpressionBuilder.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace
@@ -46,6 +47,19 @@ int axsXPathExpressionBuilder::add_constant(double number)
   term.kind = Expression::constant;
   term.type = axsXPathType::number;
   term.number = number;
+  return add_term(term);
+}
+
+int axsXPathExpressionBuilder::add_variable(std::string_view name, axsXPathType type, std::size_t position)
+{
+  auto const known = std::find_if(made.variables.begin(), made.variables.end(),
+    [name](Expression::Variable const& variable) { return variable.name == name; });
+  Expression::Term term;
+  term.kind = Expression::variable;
+  term.type = type;
+  term.first = static_cast<int>(known - made.variables.begin());
+  if (known == made.variables.end())
+    made.variables.push_back({std::string(name), type, position});
   return add_term(term);
 }
 

@@ -17,6 +17,7 @@ public:
   // All that add a term return its index.
   int add_literal(std::string_view text);
   int add_constant(double number);
+  int add_variable(std::string_view name, axsXPathType type, std::size_t position);
   int add_operation(Expression::Kind kind, axsXPathType type, std::vector<Expression::Operand> const& operands);
   int add_call(axsXPathFunction const& function, std::vector<Expression::Operand> const& arguments);
   int add_path(Expression::Path path, std::vector<Expression::Step> const& steps);

@@ -82,17 +82,19 @@ axsXPathType axsXPathParser::type_of(Rank rank) noexcept
   return kind_of(rank) == Expression::arithmetic ? axsXPathType::number : axsXPathType::boolean;
 }
 
-std::optional<axsXPathExpression> axsXPathParser::parse(std::string_view text, axsXPathError& error)
+std::optional<axsXPathExpression> axsXPathParser::parse(
+  std::string_view text, axsXPathVariables const& variables, axsXPathError& error)
 {
   error = axsXPathError();
-  axsXPathParser parser(text, error);
+  axsXPathParser parser(text, variables, error);
   if (!parser.parse_whole())
     return std::nullopt;
   return parser.builder.take();
 }
 
-axsXPathParser::axsXPathParser(std::string_view expression, axsXPathError& failure)
+axsXPathParser::axsXPathParser(std::string_view expression, axsXPathVariables const& given, axsXPathError& failure)
   : text(expression),
+    variables(given),
     error(failure),
     lexer(expression)
 {
@@ -275,8 +277,23 @@ int axsXPathParser::parse_primary()
     return term;
   }
   default:
-    return fail(token.position, "there are no variables, so " + quoted(token.local) + " has no value");
+    return parse_variable();
   }
+}
+
+int axsXPathParser::parse_variable()
+{
+  if (variables.empty())
+    return fail(token.position, "there are no variables, so " + quoted(token.local) + " has no value");
+  auto const given = token.prefix.empty() ? variables.find(std::string(token.local)) : variables.end();
+  if (given == variables.end())
+  {
+    std::string const prefix = token.prefix.empty() ? std::string() : std::string(token.prefix) + ":";
+    return fail(token.position, "the variable " + quoted(prefix + std::string(token.local)) + " has no value");
+  }
+  int const term = builder.add_variable(token.local, given->second.type, token.position);
+  advance();
+  return term;
 }
 
 int axsXPathParser::parse_parenthesised()

@@ -4,6 +4,7 @@
 #include "axsXPathExpression.h"
 #include "axsXPathExpressionBuilder.h"
 #include "axsXPathLexer.h"
+#include "axsXPathVariables.h"
 
 #include <optional>
 #include <string>
@@ -13,7 +14,7 @@
 /// Compiles the text of an XPath expression (XPath 1.0, section 3).
 ///
 /// All that can be wrong with an expression is found here, but for prefixes, which belong to the context node: syntax,
-/// functions that do not exist, the number and types of their arguments, variables (there are none), what has to be a
+/// functions that do not exist, the number and types of their arguments, variables that are not given, what has to be a
 /// node-set and is none. One object compiles one expression, in one thread.
 class axsXPathParser
 {
@@ -22,7 +23,9 @@ public:
   static constexpr int nesting_limit = 100;
 
   /// The compiled form of `text`, UTF-8; none, with the reason in `error`, where it is not an expression.
-  static std::optional<axsXPathExpression> parse(std::string_view text, axsXPathError& error);
+  /// `variables` are those that it may have, and their types.
+  static std::optional<axsXPathExpression> parse(
+    std::string_view text, axsXPathVariables const& variables, axsXPathError& error);
 
 private:
   using Expression = axsXPathExpression;
@@ -63,7 +66,7 @@ private:
 
   static constexpr int failed = -1;
 
-  axsXPathParser(std::string_view expression, axsXPathError& failure);
+  axsXPathParser(std::string_view expression, axsXPathVariables const& given, axsXPathError& failure);
 
   // Those that parse a term return its index, those that parse a part of one whether it is there; failed and false mean
   // that the error is told.
@@ -77,6 +80,7 @@ private:
   int parse_absolute_path();
   int parse_filter_path();
   int parse_primary();
+  int parse_variable();
   int parse_parenthesised();
   int parse_call();
   bool parse_arguments(Call& call);
@@ -104,6 +108,7 @@ private:
   static OperatorToken const operators[];
 
   std::string_view text;
+  axsXPathVariables const& variables;
   axsXPathError& error;
   axsXPathLexer lexer;
   axsXPathToken token;

@@ -37,12 +37,28 @@ std::vector<axsXPathNode> handed_out(std::vector<axsXPathNode> nodes)
   return nodes;
 }
 
+// The place in characters, that of the beginning being 1.
+int position_of(std::size_t place, std::string_view text)
+{
+  return static_cast<int>(utUtf8::count(text.substr(0, place))) + 1;
+}
+
 bool bind(axsXPathEvaluator& evaluator, axsXPathPrefixes const& prefixes, std::string_view text, axsXPathError& error)
 {
   std::size_t place = 0;
   if (evaluator.bind(prefixes, error, place))
     return true;
-  error.position = static_cast<int>(utUtf8::count(text.substr(0, place))) + 1;
+  error.position = position_of(place, text);
+  return false;
+}
+
+bool bind(axsXPathEvaluator& evaluator, axsXPathVariables const& variables, axsXPathQuery::Compiled const& compiled,
+  axsXPathError& error)
+{
+  std::size_t place = 0;
+  if (evaluator.bind(variables, compiled.variables, error, place))
+    return true;
+  error.position = position_of(place, compiled.text);
   return false;
 }
 
@@ -109,13 +125,18 @@ catch (axsXPathMeter::End const end)
 
 bool axsXPathQuery::evaluate(axsXPathCache& cache, axsNode& context, std::string_view text,
   axsXPathPrefixes const& prefixes, axsXPathLimits const& limits, Value& value, axsXPathError& error)
-try
 {
   auto const expression = cache.compile(text, error);
-  if (expression == nullptr)
-    return false;
-  axsXPathEvaluator evaluator(*expression, context, limits);
-  if (!bind(evaluator, prefixes, text, error))
+  return expression != nullptr && evaluate({*expression, text, prefixes, {}}, context, {}, limits, value, error);
+}
+
+bool axsXPathQuery::evaluate(Compiled const& compiled, axsNode& context, axsXPathVariables const& variables,
+  axsXPathLimits const& limits, Value& value, axsXPathError& error)
+try
+{
+  error = axsXPathError();
+  axsXPathEvaluator evaluator(compiled.expression, context, limits);
+  if (!bind(evaluator, compiled.prefixes, compiled.text, error) || !bind(evaluator, variables, compiled, error))
     return false;
   axsXPathValue const found = evaluator.evaluate();
   value = Value();

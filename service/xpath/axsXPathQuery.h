@@ -5,6 +5,7 @@
 #include "axsXPathNode.h"
 #include "axsXPathPrefixes.h"
 #include "axsXPathType.h"
+#include "axsXPathVariables.h"
 
 #include <string>
 #include <string_view>
@@ -12,6 +13,7 @@
 
 class axsNode;
 class axsXPathCache;
+class axsXPathExpression;
 
 /// Evaluates the text of an expression over a tree, by way of a cache of compiled expressions; see axsXPath.
 ///
@@ -42,5 +44,20 @@ axsNode* select_first(axsXPathCache& cache, axsNode& context, std::string_view e
 /// The value of `expression`, whatever its type, with `prefixes` before those in scope. False, with the reason in `error`,
 /// where it is wrong.
 bool evaluate(axsXPathCache& cache, axsNode& context, std::string_view expression, axsXPathPrefixes const& prefixes,
+  axsXPathLimits const& limits, Value& value, axsXPathError& error);
+
+/// An expression that is compiled, and what it is evaluated with.
+struct Compiled
+{
+  axsXPathExpression const& expression;
+  /// What it was compiled from.
+  std::string_view text;
+  axsXPathPrefixes const& prefixes;
+  /// The variables for which it was compiled, with the values that those have which are not given.
+  axsXPathVariables const& variables;
+};
+
+/// The same of an expression that is compiled already.
+bool evaluate(Compiled const& compiled, axsNode& context, axsXPathVariables const& variables,
   axsXPathLimits const& limits, Value& value, axsXPathError& error);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-/// The types of XPath 1.0. Without variables, every expression shows its type before it is evaluated.
+/// The types of XPath 1.0. As a variable keeps its type, every expression shows its own before it is evaluated.
 enum class axsXPathType
 {
   node_set,

@@ -280,7 +280,7 @@ TEST(axsEditor_insert, prefixes_have_to_be_bound_in_the_fragment_or_where_it_is_
   EXPECT_EQ(inserted("<a/>", "/a", into, "<p:c xmlns:p='v'/>", {{"p", "v"}}), "<a><p:c xmlns:p='v'/></a>");
   EXPECT_NE(inserted("<a/>", "/a", into, "<p:c/>").find("the prefix 'p'"), std::string::npos);
   EXPECT_EQ(inserted("<a xmlns:p='u'/>", "/a", into, "<p:c/>", {{"p", "v"}}),
-    "!the fragment's prefix 'p' is bound to u there, and not to v");
+    "!the fragment: the prefix 'p' is bound to u there, and not to v");
 }
 
 TEST(axsEditor_insert, only_what_may_stand_there_is_put_beside_the_root_element)

@@ -3,6 +3,7 @@
 #include "../../FailingMemory.h"
 #include "Subject.h"
 
+#include <axsCompiledXPath.h>
 #include <axsXPath.h>
 
 #include <gtest/gtest.h>
@@ -59,4 +60,22 @@ TEST(XPathMemory, a_failed_evaluation_leaves_nothing_wrong_behind)
       }
     },
     [&](bool, long) { EXPECT_EQ(subject::value(*document, "count(//b/preceding::a|//a)"), "number 2"); });
+}
+
+TEST(XPathMemory, a_compiled_expression_that_cannot_be_made_or_evaluated_leaks_nothing)
+{
+  auto const document = subject::load("<r xmlns='urn:a-namespace-of-some-length'><a>one</a></r>");
+  axsXPathPrefixes const prefixes = {{"p", "urn:a-namespace-of-some-length"}};
+  axsXPathVariables const variables = {{"name-of-some-length", std::string(100, 'x')}, {"n", 1}};
+  auto const evaluate = [&]
+  {
+    axsCompiledXPath const made("//p:a[. != $name-of-some-length][$n]", prefixes, variables);
+    axsXPath::Value found;
+    axsXPathError told;
+    made.evaluate(*document, {{"n", 2}}, found, told);
+    axsCompiledXPath const wrong("//p:a[$name-of-another-length]", prefixes, variables);
+    wrong.evaluate(*document, found, told);
+  };
+  evaluate();
+  EXPECT_GT(fails_cleanly(evaluate), 10);
 }

@@ -1,12 +1,15 @@
 #include "axsFragment.h"
 
-#include "axsEditFault.h"
-#include "axsEditSession.h"
 #include "axsHandle.h"
 #include "axsMarkupText.h"
-#include "axsMemorySource.h"
 #include "axsParser.h"
+#include "axsReadError.h"
+#include "axsSource.h"
+#include "axsStartTag.h"
 #include "axsTreeBuilder.h"
+#include "axsXPathScopes.h"
+
+#include <apByteArray.h>
 
 #include <utUtf8.h>
 
@@ -15,11 +18,6 @@
 
 namespace
 {
-[[noreturn]] void fail(axmParseError const& error)
-{
-  throw axsEditFault{axsEditFault::Kind::request, error, {}};
-}
-
 bool ends_prefix(char c)
 {
   std::string_view const others = " \t\r\n<>/='\"&;:";
@@ -41,14 +39,14 @@ std::set<std::string> words_before_colons(std::string_view text)
 }
 
 // What opens an element around the fragment and has the namespaces.
-std::string opening(axsEditSession& session, axsNode const& parent, std::string_view fragment)
+std::string opening(axsNode const& parent, axsXPathScopes& scopes, std::string_view fragment)
 {
-  bool const is_xml_1_1 = session.tree().is_xml_1_1();
+  bool const is_xml_1_1 = parent.tree().is_xml_1_1();
   std::string tag = is_xml_1_1 ? "<?xml version=\"1.1\"?><fragment" : "<fragment";
   if (parent.is_element())
     for (std::string const& prefix : words_before_colons(fragment))
     {
-      std::string_view const uri = session.scopes().uri(static_cast<axsElement const&>(parent), prefix);
+      std::string_view const uri = scopes.uri(static_cast<axsElement const&>(parent), prefix);
       if (!prefix.empty() && !uri.empty() && prefix != "xml" && prefix != "xmlns")
         tag += " xmlns:" + prefix + "=" + axsMarkupText::value(uri, '"', is_xml_1_1);
     }
@@ -59,7 +57,9 @@ std::string opening(axsEditSession& session, axsNode const& parent, std::string_
 class Handler final : public axsParseHandler
 {
 public:
-  Handler(axsEditSession& session, axsParent& parent) : builder(session.tree(), parent), prefixes(session.prefixes())
+  Handler(axsParent& parent, axsXPathPrefixes const& expected)
+    : builder(axsDomDocument::of(parent), parent),
+      prefixes(expected)
   {
     builder.keep_all_spaces();
   }
@@ -88,8 +88,10 @@ private:
     auto const given = prefixes.find(std::string(name.prefix()));
     if (name.prefix().empty() || given == prefixes.end() || given->second == uri)
       return;
-    fail(axmParseError(apString::from_utf8("the fragment's prefix '" + given->first + "' is bound to " +
-                                           std::string(uri) + " there, and not to " + given->second)));
+    axsReadError wrong;
+    wrong.message = apString::from_utf8(
+      "the prefix '" + given->first + "' is bound to " + std::string(uri) + " there, and not to " + given->second);
+    throw wrong;
   }
 
   axsTreeBuilder builder;
@@ -104,31 +106,26 @@ int width_of(std::string_view text)
     units += (utUtf8::is_continuation(c) ? 0 : 1) + (static_cast<unsigned char>(c) >= 0xF0 ? 1 : 0);
   return units;
 }
-
-axmParseError with_place_in_fragment(axsReadError const& wrong, std::string_view before)
-{
-  axmParseError error(APSTRING("the fragment: ") + wrong.message);
-  error.set_line_number(wrong.line);
-  error.set_column_number(wrong.line == 1 ? wrong.column - width_of(before) : wrong.column);
-  return error;
-}
 }
 
 std::vector<std::shared_ptr<axmNode>> axsFragment::parse(
-  axsEditSession& session, axsNode const& parent, std::string_view fragment)
+  axsNode const& parent, axsXPathScopes& scopes, axsXPathPrefixes const& expected, std::string_view fragment)
 {
-  std::string const before = opening(session, parent, fragment);
+  std::string const before = opening(parent, scopes, fragment);
   std::string const text = before + std::string(fragment) + "</fragment>";
-  auto const scratch = session.tree().createElement(APSTRING("fragment"));
+  auto const scratch = axsDomDocument::of(parent).createElement(APSTRING("fragment"));
   try
   {
-    axsMemorySource memory(text, {});
-    Handler handler(session, static_cast<axsParent&>(*axsHandle::node_of(*scratch)));
-    axsParser(memory.source(), axmLoadOptions(axmValidateNone), handler).run();
+    apByteArray const bytes(text.data(), text.size());
+    axsSource source(bytes);
+    Handler handler(static_cast<axsParent&>(*axsHandle::node_of(*scratch)), expected);
+    axsParser(source, axmLoadOptions(axmValidateNone), handler).run();
   }
-  catch (axsReadError const& wrong)
+  catch (axsReadError& wrong)
   {
-    fail(with_place_in_fragment(wrong, before));
+    if (wrong.line == 1)
+      wrong.column -= width_of(before);
+    throw;
   }
   std::shared_ptr<axmNode> const around = scratch->getFirstChild();
   std::vector<std::shared_ptr<axmNode>> nodes;

@@ -1,0 +1,4 @@
+#include "axmSaveObstacles.h"
+
+axmSaveObstacles::axmSaveObstacles() = default;
+axmSaveObstacles::~axmSaveObstacles() = default;
