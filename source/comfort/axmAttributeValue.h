@@ -4,6 +4,7 @@
 #include "axmUtf8.h"
 
 #include <charconv>
+#include <cstddef>
 #include <initializer_list>
 #include <memory>
 #include <optional>
@@ -36,7 +37,7 @@ std::optional<T> value_of(std::string_view text)
   }
   else
   {
-    static_assert(std::is_arithmetic_v<T>, "attributes are read as bool, numbers, std::string or apString; an "
+    static_assert(std::is_arithmetic_v<T>, "values are read as bool, numbers, std::string or apString; an "
                                            "enumeration needs the names of its values as a third argument");
     if (!text.empty() && text.front() == '+')
       text.remove_prefix(1);
@@ -85,30 +86,48 @@ std::optional<Enum> attribute(std::shared_ptr<Node> const& node, std::string_vie
   return node == nullptr ? std::nullopt : attribute<Enum>(*node, name, names);
 }
 
-/// Sets the attribute `name` of an element. False, with nothing changed, where `node` is none. A double is written so
-/// that it comes back as itself.
-inline bool set_attribute(axmNode& node, std::string_view name, std::string_view value)
+/// Sets the attribute `name` of an element. False, with nothing changed, where `node` is none. A text is UTF-8 or an
+/// apString; a double is written so that it comes back as itself.
+template <class T>
+bool set_attribute(axmNode& node, std::string_view name, T const& value)
 {
-  return node.set_attribute(wide(name), wide(value));
-}
-
-template <class T, std::enable_if_t<std::is_arithmetic_v<T>, int> = 0>
-bool set_attribute(axmNode& node, std::string_view name, T value)
-{
-  if constexpr (std::is_same_v<T, bool>)
-    return set_attribute(node, name, std::string_view(value ? "true" : "false"));
+  if constexpr (std::is_same_v<T, apString>)
+    return node.set_attribute(wide(name), value);
+  else if constexpr (std::is_convertible_v<T const&, std::string_view>)
+    return node.set_attribute(wide(name), wide(value));
+  else if constexpr (std::is_same_v<T, bool>)
+    return node.set_attribute(wide(name), value);
   else
   {
+    static_assert(std::is_arithmetic_v<T>,
+      "attributes are set to texts, bool and numbers; an enumeration needs the names "
+      "of its values as a fourth argument");
     char text[64];
     auto const [end, error] = std::to_chars(text, text + sizeof text, value);
-    return error == std::errc() &&
-           set_attribute(node, name, std::string_view(text, static_cast<std::size_t>(end - text)));
+    return error == std::errc() && node.set_attribute(wide(name), wide({text, static_cast<std::size_t>(end - text)}));
   }
 }
 
+/// The same of an enumeration, by the names of its values; false as well for a value that has none.
+template <class Enum>
+bool set_attribute(axmNode& node, std::string_view name, Enum value, enum_names<Enum> names)
+{
+  for (auto const& [spelling, named] : names)
+    if (named == value)
+      return node.set_attribute(wide(name), wide(spelling));
+  return false;
+}
+
+/// The same of a node that is held; false of an empty pointer.
 template <class Node, class T>
 bool set_attribute(std::shared_ptr<Node> const& node, std::string_view name, T const& value)
 {
   return node != nullptr && set_attribute(*node, name, value);
+}
+
+template <class Node, class Enum>
+bool set_attribute(std::shared_ptr<Node> const& node, std::string_view name, Enum value, enum_names<Enum> names)
+{
+  return node != nullptr && set_attribute(*node, name, value, names);
 }
 }

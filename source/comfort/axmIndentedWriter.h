@@ -4,6 +4,7 @@
 #include "axmRanges.h"
 #include "axmUtf8.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <memory>
 #include <string>
@@ -15,7 +16,8 @@ namespace axm
 {
 /// Writes a document with one node a line and two spaces a level. White space is added only where it means nothing:
 /// between the children of an element that holds no text of its own and for which xml:space does not say "preserve"
-/// (XML 1.0, 2.10). Cost: O(length of what is written).
+/// (XML 1.0, 2.10). No line is indented by more than 100 levels, so that what is written of a deep document stays in
+/// proportion to it. Cost: O(length of what is written).
 class indented_writer
 {
 public:
@@ -48,7 +50,7 @@ private:
     if (node == nullptr)
       return close();
     open.back().next = node->getNextSibling();
-    text.append(2 * (open.size() - 1), ' ');
+    indent();
     if (may_be_indented(*node))
       begin(*node);
     else
@@ -70,9 +72,13 @@ private:
   {
     std::string const name = std::move(open.back().name);
     open.pop_back();
-    if (!name.empty())
-      text += std::string(2 * (open.size() - 1), ' ') + "</" + name + ">\n";
+    if (name.empty())
+      return;
+    indent();
+    text += "</" + name + ">\n";
   }
+
+  void indent() { text.append(2 * std::min<std::size_t>(open.size() - 1, 100), ' '); }
 
   void write_attribute(axmNode const& attribute)
   {

@@ -8,6 +8,7 @@
 
 #include <apByteArray.h>
 
+#include <cstddef>
 #include <istream>
 #include <iterator>
 #include <memory>
@@ -44,6 +45,11 @@ inline loaded load_string(std::string_view document_text, axmLoadOptions const& 
   if (document == nullptr)
     return to_error(failure);
   return document;
+}
+
+inline loaded load_bytes(void const* bytes, std::size_t size, axmLoadOptions const& options = axmLoadOptions())
+{
+  return load_string({static_cast<char const*>(bytes), size}, options);
 }
 
 inline loaded load_stream(std::istream& in, axmLoadOptions const& options = axmLoadOptions())

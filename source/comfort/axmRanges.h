@@ -1,5 +1,6 @@
 #pragma once
 
+#include "axmNamedNodeMap.h"
 #include "axmNodeKind.h"
 #include "axmNodeList.h"
 #include "axmUtf8.h"
@@ -9,6 +10,7 @@
 #include <memory>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace axm
 {
@@ -143,8 +145,7 @@ private:
   bool is_any = true;
 };
 
-/// The items of a list or a map of attributes, by index; a list is followed as it stands.
-template <class Items, class Item>
+/// The items of a list, by index; it is followed as it stands.
 class item_range
 {
 public:
@@ -152,13 +153,13 @@ public:
   {
   public:
     using iterator_category = std::input_iterator_tag;
-    using value_type = std::shared_ptr<Item>;
+    using value_type = std::shared_ptr<axmElement>;
     using difference_type = std::ptrdiff_t;
     using pointer = value_type const*;
     using reference = value_type const&;
 
     iterator() = default;
-    explicit iterator(std::shared_ptr<Items> of) : items(std::move(of)) { find(); }
+    explicit iterator(std::shared_ptr<axmNodeList> of) : list(std::move(of)) { find(); }
 
     reference operator*() const { return current; }
     pointer operator->() const { return &current; }
@@ -174,25 +175,20 @@ public:
     bool operator!=(iterator const& other) const { return !(*this == other); }
 
   private:
-    void find() { current = items == nullptr || index >= count(*items) ? nullptr : item(*items, index); }
+    void find() { current = list == nullptr || index >= list->length() ? nullptr : list->at(index); }
 
-    static int count(axmNodeList& list) { return list.length(); }
-    static int count(axmNamedNodeMap& map) { return map.getLength(); }
-    static std::shared_ptr<Item> item(axmNodeList& list, int at) { return list.at(at); }
-    static std::shared_ptr<Item> item(axmNamedNodeMap& map, int at) { return map.item(at); }
-
-    std::shared_ptr<Items> items;
-    std::shared_ptr<Item> current;
+    std::shared_ptr<axmNodeList> list;
+    std::shared_ptr<axmElement> current;
     int index = 0;
   };
 
-  explicit item_range(std::shared_ptr<Items> of) : items(std::move(of)) {}
+  explicit item_range(std::shared_ptr<axmNodeList> of) : list(std::move(of)) {}
 
-  iterator begin() const { return iterator(items); }
+  iterator begin() const { return iterator(list); }
   iterator end() const { return {}; }
 
 private:
-  std::shared_ptr<Items> items;
+  std::shared_ptr<axmNodeList> list;
 };
 
 /// All children of `node`, which may be empty.
@@ -213,15 +209,19 @@ inline element_range elements(std::shared_ptr<axmNode> node, std::string_view na
   return {std::move(node), wide(name)};
 }
 
-/// Its attributes, as nodes with name and value. Do not add or remove any in the loop.
-inline item_range<axmNamedNodeMap, axmNode> attributes(std::shared_ptr<axmNode> const& node)
+/// Its attributes, as nodes with name and value: those that it has now, so that the loop's body may add and remove some.
+inline std::vector<std::shared_ptr<axmNode>> attributes(std::shared_ptr<axmNode> const& node)
 {
-  return item_range<axmNamedNodeMap, axmNode>(node == nullptr ? nullptr : node->getAttributes());
+  std::vector<std::shared_ptr<axmNode>> all;
+  if (std::shared_ptr<axmNamedNodeMap> const map = node == nullptr ? nullptr : node->getAttributes())
+    for (int i = 0; i < map->getLength(); ++i)
+      all.push_back(map->item(i));
+  return all;
 }
 
-/// The items of a list, such as what selectNodes() found.
-inline item_range<axmNodeList, axmElement> items(std::shared_ptr<axmNodeList> list)
+/// The items of a list, such as what selectNodes() found; of a result the loop's body may take out the node that it has.
+inline item_range items(std::shared_ptr<axmNodeList> list)
 {
-  return item_range<axmNodeList, axmElement>(std::move(list));
+  return item_range(std::move(list));
 }
 }

@@ -3,6 +3,7 @@
 #include "axmParseError.h"
 #include "axmUtf8.h"
 
+#include <ostream>
 #include <string>
 #include <utility>
 
@@ -16,12 +17,13 @@ struct error
   int line = 0;
   int column = 0;
 
-  /// In one line, as compilers have it: "file:line:column: message".
+  /// In one line, as compilers have it: "file:line:column: message", without what is not known.
   std::string to_string() const
   {
     std::string place = file;
-    if (line > 0)
-      place += ':' + std::to_string(line) + (column > 0 ? ':' + std::to_string(column) : std::string());
+    for (int const number : {line, column})
+      if (number > 0)
+        place += (place.empty() ? "" : ":") + std::to_string(number);
     return place.empty() ? message : place + ": " + message;
   }
 };

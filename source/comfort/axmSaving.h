@@ -4,6 +4,7 @@
 #include "axmEngineAccess.h"
 #include "axmIndentedWriter.h"
 #include "axmResult.h"
+#include "axmSaveObstacles.h"
 #include "axmUtf8.h"
 
 #include <apAtomicFile.h>
@@ -29,6 +30,16 @@ enum class layout
   indented // two spaces a level; mixed content and what xml:space preserves stay as they are
 };
 
+/// Why an engine did not save it: in its own words, if it has any.
+inline error save_error(axmDocumentFactory& factory, axmDocument const& document)
+{
+  auto const* const obstacles = dynamic_cast<axmSaveObstacles const*>(&factory);
+  apString const reason = obstacles == nullptr ? apString() : obstacles->obstacle(document);
+  if (reason.empty())
+    return error{"the document holds a name, a character or a prefix that XML cannot hold there"};
+  return error{"the document cannot be saved: " + utf8(reason)};
+}
+
 /// The document as UTF-8 text with its declaration. An error where it holds what XML cannot.
 inline result<std::string> to_string(std::shared_ptr<axmDocument> const& document, layout as = layout::as_it_is)
 {
@@ -39,7 +50,7 @@ inline result<std::string> to_string(std::shared_ptr<axmDocument> const& documen
     return error{"there is no document to save"};
   apByteArray bytes;
   if (!factory->saveDocument(document, bytes))
-    return error{"the document holds a name, a character or a prefix that XML cannot hold there"};
+    return save_error(*factory, *document);
   std::string text(bytes.data(), bytes.size());
   if (as == layout::indented)
     return indented_writer::text_of(*document, text.substr(0, text.find("?>") + 2));

@@ -1,10 +1,12 @@
 #pragma once
 
+// What a document makes is passed on as nodes, for which the compiler has to know the classes.
+#include "axmCommentNode.h"
 #include "axmElement.h"
+#include "axmNamedNodeMap.h"
 #include "axmNode.h"
-
-class axmCommentNode;
-class axmTextNode;
+#include "axmNodeList.h"
+#include "axmTextNode.h"
 
 /// A document: the root of its tree and the maker of its nodes (DOM Core, interface Document).
 /// Interface; see axmNode for ownership, threads and order of operations. New nodes belong to this document, are in no

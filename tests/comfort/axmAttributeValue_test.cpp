@@ -58,6 +58,12 @@ TEST(axmAttributeValue, what_is_set_comes_back)
   EXPECT_TRUE(axm::set_attribute(root, "s", "text"));
   EXPECT_TRUE(axm::set_attribute(root, "t", std::string("text")));
   EXPECT_EQ("text", axm::attribute<std::string>(root, "t"));
+  EXPECT_TRUE(axm::set_attribute(root, "w", APSTRING("wide")));
+  EXPECT_EQ("wide", axm::attribute<std::string>(root, "w"));
+  EXPECT_TRUE(axm::set_attribute(root, "c", Colour::blue, colours));
+  EXPECT_EQ(Colour::blue, axm::attribute<Colour>(root, "c", colours));
+  EXPECT_FALSE(axm::set_attribute(root, "c", Colour::blue, {{"red", Colour::red}}));
+  EXPECT_EQ(Colour::blue, axm::attribute<Colour>(root, "c", colours));
   EXPECT_FALSE(axm::set_attribute(std::shared_ptr<axmElement>(), "s", "text"));
   EXPECT_FALSE(axm::set_attribute(*root->getOwnerDocument(), "s", "text"));
 }

@@ -12,6 +12,12 @@ TEST(axmLoading, loads_from_text_and_streams)
   ASSERT_TRUE(document) << document.error();
   EXPECT_EQ("x", axm::child_text((*document)->getDocumentElement(), "a"));
   EXPECT_EQ(std::nullopt, axm::child_text((*document)->getDocumentElement(), "b"));
+  unsigned char const bytes[] = {'<', 'r', '/', '>', 'x'};
+  EXPECT_TRUE(axm::load_bytes(bytes, 4));
+  EXPECT_FALSE(axm::load_bytes(bytes, 5));
+  EXPECT_FALSE(axm::load_bytes(nullptr, 0));
+  in.setstate(std::ios::badbit);
+  EXPECT_EQ("the stream cannot be read", axm::load_stream(in).error().message);
 }
 
 TEST(axmLoading, an_error_says_file_line_column_and_reason)
@@ -25,7 +31,11 @@ TEST(axmLoading, an_error_says_file_line_column_and_reason)
   ASSERT_FALSE(wrong);
   EXPECT_EQ(2, wrong.error().line);
   EXPECT_LT(0, wrong.error().column);
-  EXPECT_NE(std::string::npos, wrong.error().to_string().find("2:")) << wrong.error();
+  EXPECT_EQ("2:6: ", wrong.error().to_string().substr(0, 5)) << wrong.error();
+  EXPECT_EQ("f:2:3: m", (axm::error{"m", "f", 2, 3}.to_string()));
+  EXPECT_EQ("f:2: m", (axm::error{"m", "f", 2}.to_string()));
+  EXPECT_EQ("f: m", (axm::error{"m", "f"}.to_string()));
+  EXPECT_EQ("m", axm::error{"m"}.to_string());
 }
 
 TEST(axmLoading, without_an_engine_it_says_how_to_register_one)

@@ -74,3 +74,25 @@ TEST(axmRanges, attributes_come_with_name_and_value)
     all += axm::utf8(attribute->getNodeName()) + axm::utf8(attribute->getNodeValue());
   EXPECT_EQ("a1b2", all);
 }
+
+TEST(axmRanges, the_current_attribute_may_be_taken_away)
+{
+  auto const root = document_of("<r a='1' b='2' c='3'/>")->getDocumentElement();
+  for (auto const& attribute : axm::attributes(root))
+    if (attribute->getNodeValue() != APSTRING("2"))
+      root->removeAttribute(attribute->getNodeName());
+  EXPECT_EQ("<r b=\"2\"/>", axm::utf8(root->get_xml()));
+}
+
+TEST(axmRanges, the_current_node_of_a_result_may_be_taken_out)
+{
+  auto const document = document_of("<r><a><b/></a><a/><c/><a/></r>");
+  int number = 0;
+  for (auto const& found : axm::select(document, "//a | //b"))
+  {
+    axm::detach(found);
+    ++number;
+  }
+  EXPECT_EQ(4, number);
+  EXPECT_EQ("<r><c/></r>", axm::utf8(document->getDocumentElement()->get_xml()));
+}

@@ -1,5 +1,7 @@
 #include "Document.h"
 
+#include <axsSaving.h>
+
 #include <cstdio>
 #include <sstream>
 #include <string>
@@ -81,10 +83,25 @@ TEST(axmSaving, a_failure_says_why)
   document->getDocumentElement()->set_text(apString(L"\x01"));
   auto const wrong = axm::to_string(document);
   ASSERT_FALSE(wrong);
-  EXPECT_NE(std::string::npos, wrong.error().message.find("XML cannot hold"));
+  EXPECT_EQ("the document cannot be saved: " + axm::utf8(axsSaving::obstacle(*document)), wrong.error().message);
+  EXPECT_EQ(wrong.error().message, axm::save_file(document, "unsaved.xml").error().message);
   EXPECT_FALSE(axm::to_string(nullptr));
 
   std::ostringstream broken;
   broken.setstate(std::ios::badbit);
   EXPECT_FALSE(axm::save_stream(document_of("<r/>"), broken));
+}
+
+TEST(axmSaving, deep_documents_are_not_indented_without_end)
+{
+  int const depth = 1000;
+  std::string text;
+  for (int i = 0; i < depth; ++i)
+    text += "<a>";
+  text += "<b/>";
+  for (int i = 0; i < depth; ++i)
+    text += "</a>";
+  std::string const lines = indented(text);
+  EXPECT_NE(std::string::npos, lines.find("\n" + std::string(200, ' ') + "<b/>\n"));
+  EXPECT_GT(2u * 1000 * 210, lines.size());
 }

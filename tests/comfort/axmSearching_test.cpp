@@ -14,3 +14,13 @@ TEST(axmSearching, selects_nodes_and_values)
   EXPECT_EQ(nullptr, axm::select_one(document, "//absent"));
   EXPECT_EQ(1.5, axm::attribute<double>(axm::select_one(document, "//b"), "p"));
 }
+
+TEST(axmSearching, the_context_may_be_any_element_or_document)
+{
+  auto const document = document_of("<r><b><c/></b>text</r>");
+  std::shared_ptr<axmNode> const b = document->getDocumentElement()->getFirstChild();
+  EXPECT_NE(nullptr, axm::select_one(b, "c"));
+  EXPECT_NE(nullptr, axm::select_one(std::shared_ptr<axmNode>(document), "b"));
+  EXPECT_EQ(nullptr, axm::select_one(b->getNextSibling(), ".."));
+  EXPECT_EQ(nullptr, axm::select_one(nullptr, ".."));
+}
