@@ -4,6 +4,7 @@
 #include "axsEditSession.h"
 #include "axsHandle.h"
 #include "axsTagText.h"
+#include "axsTokens.h"
 #include "axsXmlName.h"
 
 #include <string>
@@ -39,6 +40,30 @@ void splice(axsEditSession& session, axsNode const& node, std::string const& nam
   session.splice({tag.name(), {{name, {}}}, true});
   if (!tag.is_empty())
     session.splice({axsTagText(text, place.last).name(), {{name, {}}}, true});
+}
+
+// A value that is not one of tokens may be declared to be one under another name.
+void check_value(axsEditSession& session, axsName const& element, axsName const& attribute, axsNode const& node)
+{
+  axsDeclaredAttributes::Element const* const declared = session.tree().declared_attributes().of(element);
+  if (declared == nullptr)
+    return;
+  auto const found = declared->kinds.find(&attribute);
+  if (found != declared->kinds.end() && found->second.has_tokens && !axsTokens::is_collapsed(node.value()))
+    session.refuse_at(
+      *node.parent(), "would have a value of '" + std::string(attribute.utf8()) +
+                        "' that consists of tokens by its declaration, and is read without some spaces");
+}
+
+// What the attributes of an element, or one attribute, would be read as.
+void check_values(axsEditSession& session, axsNode const& node, axsName const& name)
+{
+  if (node.is_attribute())
+    return check_value(session, static_cast<axsElement const&>(*node.parent()).element_name(), name, node);
+  auto const& element = static_cast<axsElement const&>(node);
+  for (axsAttribute const* at = element.first_attribute(); at != nullptr; at = at->next_attribute())
+    if (!session.is_default(*at))
+      check_value(session, name, at->full_name(), *at);
 }
 
 // The tree has no other way than to put an element of that name in the place of the old one. Defaults are those of a name.
@@ -84,13 +109,14 @@ std::size_t axsRenameEdit::run(axsEditSession& session, std::string_view xpath, 
     else
       axsEditSession::refuse("a selected node has no name that can be changed");
   session.find_places();
+  axsName const& known = session.tree().names().intern(name);
   for (axsNode const* const node : nodes)
   {
     check_prefix(session, *node, name);
+    check_values(session, *node, known);
     splice(session, *node, std::string(name));
   }
 
-  axsName const& known = session.tree().names().intern(name);
   for (axsNode* const node : nodes)
     if (node->is_attribute())
       rename_attribute(*node, name);

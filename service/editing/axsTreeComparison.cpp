@@ -2,26 +2,15 @@
 
 #include "axsDtd.h"
 #include "axsStartTag.h"
+#include "axsTokens.h"
 #include "axsTree.h"
 
 namespace
 {
-// A value as one of tokens is read (XML 1.0, 3.3.3).
-std::string collapsed(std::string_view value)
-{
-  std::string made;
-  for (char const c : value)
-    if (c != ' ' || (!made.empty() && made.back() != ' '))
-      made += c;
-  if (!made.empty() && made.back() == ' ')
-    made.pop_back();
-  return made;
-}
-
 bool has_value(axsAttribute const& attribute, axsTagAttribute const& read)
 {
   return attribute.text() == read.value ||
-         (read.type != axsAttributeType::cdata && collapsed(attribute.text()) == read.value);
+         (read.type != axsAttributeType::cdata && axsTokens::collapsed(attribute.text()) == read.value);
 }
 
 bool has_attributes(

@@ -1,15 +1,11 @@
 #include "axsDocumentTypeCheck.h"
 
 #include "axsSaveFault.h"
+#include "axsTokens.h"
 #include "axsTree.h"
 
 namespace
 {
-bool is_collapsed(std::string_view value)
-{
-  return value.empty() || (value.front() != ' ' && value.back() != ' ' && value.find("  ") == std::string_view::npos);
-}
-
 bool holds_element(axsElement const& element, axsDeclaredAttributes::Element const& declared, axsSaveFault& fault)
 {
   std::size_t defaults = 0;
@@ -19,7 +15,7 @@ bool holds_element(axsElement const& element, axsDeclaredAttributes::Element con
     if (found == declared.kinds.end())
       continue;
     defaults += found->second.has_default ? 1 : 0;
-    if (found->second.has_tokens && !is_collapsed(at->text()))
+    if (found->second.has_tokens && !axsTokens::is_collapsed(at->text()))
       return fault.note(*at, "consists of tokens by its declaration, and its value has spaces that a reader takes out");
   }
   return defaults == declared.defaults.size() ||

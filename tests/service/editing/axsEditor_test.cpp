@@ -239,6 +239,21 @@ TEST(axsEditor_rename, defaults_are_those_of_the_new_name)
   EXPECT_EQ(renamed(type + "<a><b z='0'/></a>", "//b", "c"), type + "<a><c z='0'/></a>");
 }
 
+TEST(axsEditor_rename, a_name_under_which_a_value_would_be_read_as_another_is_refused)
+{
+  std::string const type =
+    "<!DOCTYPE a [<!ATTLIST a tokens NMTOKENS #IMPLIED plain CDATA #IMPLIED><!ATTLIST b plain NMTOKENS #IMPLIED>]>";
+  EXPECT_EQ(renamed(type + "<a plain=' x  y '/>", "//@plain", "tokens"),
+    "!'a' would have a value of 'tokens' that consists of tokens by its declaration, and is read without some spaces");
+  EXPECT_EQ(renamed(type + "<a plain='x '/>", "/a", "b"),
+    "!'a' would have a value of 'plain' that consists of tokens by its declaration, and is read without some spaces");
+  EXPECT_EQ(renamed(type + "<a plain='x y'/>", "//@plain", "tokens"), type + "<a tokens='x y'/>");
+  EXPECT_EQ(renamed(type + "<a plain='x y'/>", "/a", "b"), type + "<b plain='x y'/>");
+  EXPECT_EQ(renamed(type + "<a tokens=' x  y '/>", "//@tokens", "plain"),
+    "!read again, the edited document would not have the values or texts that the edit is to leave it with");
+  EXPECT_EQ(renamed(type + "<a tokens='x y'/>", "//@tokens", "plain"), type + "<a plain='x y'/>");
+}
+
 TEST(axsEditor_insert, a_fragment_comes_to_each_place)
 {
   EXPECT_EQ(inserted("<a><b/>x<b></b></a>", "//b", before, "<c/>t"), "<a><c/>t<b/>x<c/>t<b></b></a>");
