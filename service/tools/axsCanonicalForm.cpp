@@ -6,16 +6,37 @@
 #include "axsReadError.h"
 #include "axsSource.h"
 
-#include <axmLoadOptions.h>
+namespace
+{
+void write_whole(axsSource& source, axmLoadOptions const& reading, axsCanonicalOptions const& options,
+  axsCanonicalForm::Write const& write)
+{
+  axsCanonicalWriter writer(options, write);
+  axsParser(source, reading, writer).run();
+  writer.finish();
+}
+}
 
 bool axsCanonicalForm::write(
   axsByteStream& stream, axsCanonicalOptions const& options, axmParseError& error, Write const& write)
 try
 {
   axsSource source(stream, apPath());
-  axsCanonicalWriter writer(options, write);
-  axsParser(source, axmLoadOptions(axmValidateNone), writer).run();
-  writer.finish();
+  write_whole(source, axmLoadOptions(axmValidateNone), options, write);
+  return true;
+}
+catch (axsReadError const& wrong)
+{
+  error = wrong.record();
+  return false;
+}
+
+bool axsCanonicalForm::write(apPath const& path, axmLoadOptions const& reading, axsCanonicalOptions const& options,
+  axmParseError& error, Write const& write)
+try
+{
+  axsSource source(path);
+  write_whole(source, reading, options, write);
   return true;
 }
 catch (axsReadError const& wrong)

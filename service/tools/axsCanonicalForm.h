@@ -3,7 +3,8 @@
 #include "axsByteStream.h"
 #include "axsCanonicalOptions.h"
 #include "axsExport.h"
-#include <apByteArray.h>
+#include <apPath.h>
+#include <axmLoadOptions.h>
 #include <axmParseError.h>
 
 #include <functional>
@@ -23,4 +24,10 @@ public:
   /// threads at once.
   static bool write(
     axsByteStream& source, axsCanonicalOptions const& options, axmParseError& error, Write const& write);
+
+  /// The same of the file at `path`. Where `reading` enables the resolution of entities, the external subset and external
+  /// entities are read from local files: what they declare is in the canonical form, and without them an entity of theirs is
+  /// not declared. It also says how many expansions there may be; nothing is validated.
+  static bool write(apPath const& path, axmLoadOptions const& reading, axsCanonicalOptions const& options,
+    axmParseError& error, Write const& write);
 };
