@@ -71,10 +71,18 @@ std::string bash_values(OptionRow const& row)
   return "        " + names + ") COMPREPLY=($(compgen -W \"" + words_of(row.choices) + "\" -- \"$cur\")); return ;;\n";
 }
 
+std::string zsh_action(OptionRow const& row)
+{
+  if (!row.choices.empty())
+    return "(" + words_of(row.choices) + ")";
+  if (row.takes_file_of_something())
+    return R"({ compset -P "*="; _files })";
+  return row.takes_file() ? "_files" : "";
+}
+
 std::string zsh_option(OptionRow const& row)
 {
-  std::string const action =
-    row.choices.empty() ? (row.takes_file() ? "_files" : "") : "(" + words_of(row.choices) + ")";
+  std::string const action = zsh_action(row);
   std::string text;
   if (row.is_positional)
     return " \\\n        " + in_quotes("*:" + row.names.front() + ":" + (row.choices.empty() ? "_files" : action));
@@ -156,7 +164,12 @@ _axm()
   for (CLI::App const* const verb : shown_verbs(app))
     text += "    " + in_quotes(verb->get_name() + ":" + with_backslashes(verb->get_description(), ":\\")) + "\n";
   text += R"(  )
-  if (( CURRENT == 2 )); then
+  # As in "axm --man select", options may stand before the verb.
+  local i=2
+  while (( i < CURRENT )) && [[ "$words[i]" == -* ]]; do
+    (( ++i ))
+  done
+  if (( i == CURRENT )); then
     _describe -t verbs verb verbs
     _arguments)";
   for (OptionRow const& row : OptionRow::all_of(app))
@@ -164,9 +177,9 @@ _axm()
   text += R"(
     return
   fi
-  local verb="$words[2]"
-  shift words
-  (( CURRENT-- ))
+  local verb="$words[i]"
+  shift $(( i - 1 )) words
+  (( CURRENT -= i - 1 ))
   case "$verb" in
 )";
   for (CLI::App const* const verb : shown_verbs(app))

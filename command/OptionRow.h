@@ -29,8 +29,9 @@ struct OptionRow
   /// In the order in which they were added.
   static std::vector<OptionRow> all_of(CLI::App const& verb);
 
-  /// Whether its value names a file.
-  bool takes_file() const { return value == "FILE"; }
+  /// Whether its value names a file, and whether a file is named after what ends with '='.
+  bool takes_file() const { return value == "FILE" || value == "LIBRARY"; }
+  bool takes_file_of_something() const { return value == "NS=XSD"; }
 
   /// The names with the value, as the help shows them.
   std::string shown() const;

@@ -1,9 +1,9 @@
 #include "CommonOptions.h"
 #include "Complaint.h"
+#include "FileJobs.h"
 #include "InputStream.h"
 #include "Loading.h"
 #include "OutputFile.h"
-#include "Progress.h"
 #include "RowFormat.h"
 #include "SourceLine.h"
 
@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <iostream>
 #include <memory>
+#include <mutex>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -24,7 +26,7 @@ char const description[] = "Show which elements documents have in which, how man
 char const footer[] =
   R"(Examples:
   axm outline books.xml
-  axm outline *.xml --depth 3
+  axm outline *.xml --depth 3 --jobs 0
   axm outline map.osm.xz --format csv --output paths.csv
 
 A line for each path from the root, as axm table takes it: how deep it lies, how many
@@ -34,7 +36,8 @@ are as they are written. csv (RFC 4180) and jsonl have the same in columns, one 
 the number of elements with text.
 
 A document is read in one pass. Memory grows with the number of different paths, of which
-up to --paths are told apart; a message says how many elements that leaves out.
+up to --paths are told apart, in each document as in all; a message says how many elements
+that leaves out.
 
 The exit code is 1 if a document cannot be read to its end, 2 for wrong usage.)";
 
@@ -45,6 +48,7 @@ struct Request
   std::string format = "text";
   std::size_t depth = 100;
   std::size_t paths = 10000;
+  unsigned jobs = 1;
 };
 
 std::string attributes_of(axsOutlinePath const& path)
@@ -104,35 +108,79 @@ void write_rows(std::vector<axsOutlinePath> const& paths, std::string const& for
   output.write(text);
 }
 
-bool read_or_complain(axsOutline& outline, std::string const& file)
+// One outline of several documents, which are read at the same time, and added in their order all the same.
+class WholeOutline
 {
-  axmParseError error;
-  InputStream input(file);
-  bool const is_plain = input.is_plain_file();
-  bool is_read = false;
+public:
+  explicit WholeOutline(Request const& given)
+    : request(given),
+      whole(given.paths, given.depth),
+      read(given.files.size())
   {
-    Progress shown_progress;
-    auto const progress = [&](std::uint64_t bytes) { shown_progress.show_bytes(static_cast<long long>(bytes)); };
-    is_read = is_plain ? outline.read(apPath(file.c_str()), error, progress) : outline.read(input, error, progress);
   }
-  if (!is_read && is_plain)
-    complain_about(error, file);
-  else if (!is_read)
-    complain_in_one_line(error, shown_name(file), {});
-  return is_read;
-}
+
+  /// To be called for each of the files that were given. Whether it could be read to its end.
+  bool add(std::string const& file, JobOutput& output)
+  {
+    auto one = std::make_unique<axsOutline>(request.paths, request.depth);
+    bool is_read = false;
+    try
+    {
+      is_read = read_or_complain(*one, file, output);
+    }
+    catch (std::bad_alloc const&)
+    {
+      // What came up to there counts, as with any other error.
+      complain(shown_name(file), "memory ran out", exit_bad_input);
+    }
+    std::unique_lock<std::mutex> const lock(mutex);
+    // The files are those of the request itself.
+    read[static_cast<std::size_t>(&file - request.files.data())] = std::move(one);
+    for (; next < read.size() && read[next] != nullptr; ++next)
+    {
+      whole.add(*read[next]);
+      read[next].reset();
+    }
+    return is_read;
+  }
+
+  axsOutline const& outline() const { return whole; }
+
+private:
+  static bool read_or_complain(axsOutline& outline, std::string const& file, JobOutput& output)
+  {
+    axmParseError error;
+    InputStream input(file);
+    bool const is_plain = input.is_plain_file();
+    auto const progress = [&](std::uint64_t bytes) { output.show_bytes(bytes); };
+    bool const is_read =
+      is_plain ? outline.read(apPath(file.c_str()), error, progress) : outline.read(input, error, progress);
+    if (!is_read && is_plain)
+      complain_about(error, file);
+    else if (!is_read)
+      complain_in_one_line(error, shown_name(file), {});
+    return is_read;
+  }
+
+  Request const& request;
+  std::mutex mutex;
+  axsOutline whole;
+  // Those that wait for one before them.
+  std::vector<std::unique_ptr<axsOutline>> read;
+  std::size_t next = 0;
+};
 
 int show_outline(Request const& request)
 {
-  axsOutline outline(request.paths, request.depth);
-  int result = exit_good;
-  for (std::string const& file : request.files)
-    if (!read_or_complain(outline, file))
-      result = exit_bad_input;
+  WholeOutline sum(request);
+  OutputFile output(request.output);
+  auto const work = [&](std::string const& file, JobOutput& job)
+  { return sum.add(file, job) ? exit_good : exit_bad_input; };
+  int const result = FileJobs::worst(FileJobs(request.jobs).run(request.files, output, work));
+  axsOutline const& outline = sum.outline();
   std::vector<axsOutlinePath> const paths = outline.paths();
   if (paths.empty())
     return result;
-  OutputFile output(request.output);
   if (request.format == "text")
     write_table(paths, output);
   else
@@ -159,6 +207,7 @@ void add_outline(CLI::App& app, int& exit_code)
   verb->add_option("--format", request->format, "text (the default), csv or jsonl")
     ->check(CLI::IsMember({"text", "csv", "jsonl"}));
   CommonOptions::add_output(*verb, request->output);
+  CommonOptions::add_jobs(*verb, request->jobs);
   verb->footer(footer);
   verb->callback([request, &exit_code] { exit_code = show_outline(*request); });
 }

@@ -52,6 +52,11 @@ bool axsOutline::read(axsByteStream& stream, axmParseError& error, Progress cons
     *handler, [&] { return std::make_unique<axsSource>(stream, apPath()); }, error, progress);
 }
 
+void axsOutline::add(axsOutline const& other)
+{
+  handler->add(*other.handler);
+}
+
 std::vector<axsOutlinePath> axsOutline::paths() const
 {
   return handler->paths();

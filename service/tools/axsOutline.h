@@ -36,6 +36,9 @@ public:
   bool read(apPath const& file, axmParseError& error, Progress const& progress = {});
   bool read(axsByteStream& stream, axmParseError& error, Progress const& progress = {});
 
+  /// Adds what another one has, as far as there is room for it. Throws std::bad_alloc when memory runs out.
+  void add(axsOutline const& other);
+
   /// The paths, each after that which it goes on from, otherwise in the order in which they came.
   std::vector<axsOutlinePath> paths() const;
 

@@ -11,7 +11,8 @@ void axsOutlineHandler::begin()
 
 void axsOutlineHandler::start_element(axsStartTag const& tag)
 {
-  std::size_t const path = open_without_path > 0 ? none : find_path(*tag.name);
+  std::size_t const parent = open.empty() ? none : open.back().path;
+  std::size_t const path = open_without_path > 0 ? none : find_path(parent, *tag.name);
   if (path == none)
   {
     ++open_without_path;
@@ -20,7 +21,7 @@ void axsOutlineHandler::start_element(axsStartTag const& tag)
   }
   ++all[path].count;
   for (axsTagAttribute const& attribute : *tag.attributes)
-    count_attribute(path, *attribute.name);
+    count_attribute(path, *attribute.name, 1);
   open.push_back({path, false});
 }
 
@@ -42,13 +43,36 @@ void axsOutlineHandler::text(std::string_view text, bool)
     open.back().has_text = true;
 }
 
-std::size_t axsOutlineHandler::find_path(axsName const& name)
+void axsOutlineHandler::add(axsOutlineHandler const& other)
 {
-  std::size_t const parent = open.empty() ? none : open.back().path;
+  // Where the paths of the other one are here; a path comes after that which it goes on from.
+  std::vector<std::size_t> found;
+  found.reserve(other.all.size());
+  for (Path const& path : other.all)
+  {
+    std::size_t const parent = path.parent == none ? none : found[path.parent];
+    bool const is_outside = path.parent != none && parent == none;
+    std::size_t const place = is_outside ? none : find_path(parent, names.intern(path.name->utf8()));
+    found.push_back(place);
+    if (place == none)
+    {
+      passed += path.count;
+      continue;
+    }
+    all[place].count += path.count;
+    all[place].texts += path.texts;
+    for (Attribute const& attribute : path.attributes)
+      count_attribute(place, names.intern(attribute.name->utf8()), attribute.count);
+  }
+  passed += other.passed;
+}
+
+std::size_t axsOutlineHandler::find_path(std::size_t parent, axsName const& name)
+{
   auto const found = places.find({parent, &name});
   if (found != places.end())
     return found->second;
-  std::size_t const depth = open.size() + 1;
+  std::size_t const depth = parent == none ? 1 : all[parent].depth + 1;
   if (all.size() == max_paths || depth > max_depth)
     return none;
   std::size_t const place = all.size();
@@ -58,16 +82,16 @@ std::size_t axsOutlineHandler::find_path(axsName const& name)
   return place;
 }
 
-void axsOutlineHandler::count_attribute(std::size_t path, axsName const& name)
+void axsOutlineHandler::count_attribute(std::size_t path, axsName const& name, std::uint64_t count)
 {
   std::vector<Attribute>& attributes = all[path].attributes;
   auto const found = attribute_places.find({path, &name});
   if (found != attribute_places.end())
-    ++attributes[found->second].count;
+    attributes[found->second].count += count;
   else if (attributes.size() < max_paths)
   {
     attribute_places.emplace(Key{path, &name}, attributes.size());
-    attributes.push_back({&name, 1});
+    attributes.push_back({&name, count});
   }
 }
 

@@ -18,6 +18,9 @@ public:
   /// To be called before each document.
   void begin();
 
+  /// What another one has counted counts here, too.
+  void add(axsOutlineHandler const& other);
+
   axsName const& name(std::string_view text) override { return names.intern(text); }
   void doctype(std::shared_ptr<axsDtd const> const&) override {}
   void start_element(axsStartTag const& tag) override;
@@ -71,8 +74,8 @@ private:
 
   using Places = std::unordered_map<Key, std::size_t, KeyHash>;
 
-  std::size_t find_path(axsName const& name);
-  void count_attribute(std::size_t path, axsName const& name);
+  std::size_t find_path(std::size_t parent, axsName const& name);
+  void count_attribute(std::size_t path, axsName const& name, std::uint64_t count);
 
   std::size_t const max_paths;
   std::size_t const max_depth;

@@ -191,7 +191,34 @@ TEST(axm_completion, gives_the_functions_of_zsh_verbs_options_and_values)
     return output_of("zsh -f complete.zsh");
   };
   EXPECT_TRUE(contains(complete("axm ''", 2), "\ncompletion:Write a script")) << complete("axm ''", 2);
+  EXPECT_TRUE(contains(complete("axm --man sel", 3), "\nselect:Write")) << complete("axm --man sel", 3);
   EXPECT_TRUE(contains(complete("axm table ''", 3), ":value:(csv tsv jsonl)\n"));
+  EXPECT_TRUE(contains(complete("axm --help table ''", 4), ":value:(csv tsv jsonl)\n"));
+  EXPECT_TRUE(contains(complete("axm check ''", 3), ":value:{ compset -P \"*=\"; _files }\n"));
   EXPECT_TRUE(contains(complete("axm check ''", 3), "*--no-namespace-schema=["));
+}
+
+// In an interactive shell: the lines as they stand after the tabulator.
+TEST(axm_completion, completes_lines_as_they_are_typed_in_zsh)
+{
+  if (!is_installed("zsh"))
+    return;
+  TemporaryFile const script("_axm", run_axm("completion", {"completion", "zsh"}).out);
+  TemporaryFile const schema("other.xsd", "");
+  std::string program = R"sh(
+zmodload zsh/zpty
+zpty shell zsh -f -i
+zpty -w shell 'PS1= RPS1=; fpath=($PWD $fpath); autoload -Uz compinit; compinit -D -u'
+zpty -w shell 'show() { print -r -- "<$BUFFER>"; BUFFER= }; zle -N show; bindkey "^X" show; print R""EADY'
+zpty -r -m shell said '*READY*'
+)sh";
+  for (char const* const line :
+    {"axm ch", "axm --man sel", "axm check --schemas", "axm check --schema urn:x=oth", "axm table --format j"})
+    program += "zpty -w -n shell $'" + std::string(line) +
+               "\\t\\x18'\nzpty -r -m shell said '*<*>*'\nprint -r -- \"${${said##*<}%%>*}|\"\n";
+  TemporaryFile const typing("type.zsh", program);
+  EXPECT_EQ(output_of("TERM=vt100 zsh -f type.zsh"),
+    "axm check |\naxm --man select |\naxm check --schemas-only |\naxm check --schema urn:x=other.xsd |\n"
+    "axm table --format jsonl |\n");
 }
 #endif

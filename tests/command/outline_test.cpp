@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <string>
+#include <vector>
+
 namespace
 {
 std::string const books =
@@ -27,6 +31,30 @@ TEST(axm_outline, makes_one_outline_of_several_documents)
   TemporaryFile const two("outline_2.xml", "<a><c/><b x='1'/></a>");
   EXPECT_EQ(run_axm("outline_more", {"outline", one.name, two.name, "--format", "csv"}).out,
     "depth,count,path,attributes,texts\r\n1,2,a,,0\r\n2,2,a/b,@x(1),0\r\n2,1,a/c,,0\r\n");
+}
+
+TEST(axm_outline, is_the_same_however_many_documents_are_read_at_a_time)
+{
+  std::vector<std::unique_ptr<TemporaryFile>> files;
+  std::vector<std::string> arguments = {"outline", "--format", "jsonl", "--paths", "12"};
+  for (int i = 0; i < 20; ++i)
+  {
+    std::string const name = std::string(1, static_cast<char>('a' + i % 15));
+    std::string const end = i == 7 ? "" : "</r>";
+    files.push_back(std::make_unique<TemporaryFile>("outline_job_" + std::to_string(i) + ".xml",
+      "<r><" + name + " x" + std::to_string(i % 4) + "='1'>text<in/></" + name + "><r/>" + end));
+    arguments.push_back(files.back()->name);
+  }
+  ProgramRun const alone = run_axm("outline_jobs", arguments);
+  EXPECT_EQ(alone.exit_code, 1);
+  EXPECT_EQ(alone.out.find("{\"depth\":\"1\",\"count\":\"20\",\"path\":\"r\""), 0u) << alone.out;
+  EXPECT_NE(alone.err.find("outline_job_7.xml:"), std::string::npos);
+  EXPECT_NE(alone.err.find("elements left out"), std::string::npos);
+  arguments.insert(arguments.end(), {"--jobs", "4"});
+  ProgramRun const together = run_axm("outline_jobs", arguments);
+  EXPECT_EQ(together.exit_code, 1);
+  EXPECT_EQ(together.out, alone.out);
+  EXPECT_EQ(together.err, alone.err);
 }
 
 TEST(axm_outline, says_how_many_elements_its_bounds_leave_out)
