@@ -19,9 +19,12 @@ public:
     std::function<void(std::uint64_t bytes)> const& progress) const override
   {
     InputStream input(file);
-    axsValidation::Result result = input.is_plain_file() ? validation.check(apPath(file.c_str()), max_errors, progress)
-                                                         : validation.check(input, max_errors, progress);
-    return {std::move(result.errors), result.is_whole, result.has_assessed, input.is_plain_file()};
+    apPath const path(file == "-" ? "" : file.c_str());
+    // What cannot be opened is left to the engine, which says why.
+    axsValidation::Result result = input.is_open() ? validation.check(input, path, max_errors, progress)
+                                                   : validation.check(path, max_errors, progress);
+    bool const has_lines = result.errors.empty() || input.is_plain_file();
+    return {std::move(result.errors), result.is_whole, result.has_assessed, has_lines};
   }
 
 private:

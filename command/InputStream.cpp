@@ -15,6 +15,9 @@ namespace
 {
 std::size_t const piece = 64 * 1024;
 
+// Most documents are short.
+std::size_t const first_piece = 8 * 1024;
+
 std::FILE* standard_input()
 {
 #if defined(_WIN32)
@@ -29,16 +32,19 @@ InputStream::InputStream(std::string const& name) : is_standard_input(name == "-
   file = is_standard_input ? standard_input() : apPath(name.c_str()).file_open(apPath::read_mode());
   if (file == nullptr)
     return;
-  // A pipe is not opened a second time: what it gives is lost then.
-  bool const can_be_opened_again = !is_standard_input && std::fseek(file, 0, SEEK_CUR) == 0;
-  pending.resize(piece);
+  // Pieces are large enough as they come.
+  if (!is_standard_input)
+    std::setvbuf(file, nullptr, _IONBF, 0);
+  pending.resize(first_piece);
   pending.resize(read_bytes(pending.data(), pending.size()));
   decompressor = Decompressor::of({pending.data(), pending.size()}, wrong);
-  if (decompressor == nullptr && wrong.empty() && can_be_opened_again)
-  {
-    std::fclose(file);
-    file = nullptr;
-  }
+}
+
+// A pipe gives nothing twice.
+bool InputStream::is_plain_file() const
+{
+  return file == nullptr ||
+         (!is_standard_input && decompressor == nullptr && wrong.empty() && std::fseek(file, 0, SEEK_CUR) == 0);
 }
 
 InputStream::~InputStream()

@@ -18,8 +18,11 @@ public:
   explicit InputStream(std::string const& name);
   ~InputStream() override;
 
-  /// Whether it is a file that the engine may as well read by itself.
-  bool is_plain_file() const noexcept { return file == nullptr; }
+  /// Whether it is a file that the engine may as well read by itself, as what it has is not compressed and comes again.
+  bool is_plain_file() const;
+
+  /// Whether it could be opened.
+  bool is_open() const noexcept { return file != nullptr; }
 
   std::size_t read(char* to, std::size_t size) override;
   apString fault() const override { return apString::from_utf8(wrong); }

@@ -79,7 +79,13 @@ axsValidation::Result axsValidation::check(
 axsValidation::Result axsValidation::check(
   axsByteStream& stream, std::size_t max_errors, Progress const& progress) const
 {
-  return run([&] { return std::make_unique<axsSource>(stream, apPath()); }, max_errors, progress);
+  return check(stream, apPath(), max_errors, progress);
+}
+
+axsValidation::Result axsValidation::check(
+  axsByteStream& stream, apPath const& name, std::size_t max_errors, Progress const& progress) const
+{
+  return run([&] { return std::make_unique<axsSource>(stream, name); }, max_errors, progress);
 }
 
 template <class Open>

@@ -63,6 +63,11 @@ public:
     apByteArray const& data, std::size_t max_errors = default_max_errors, Progress const& progress = {}) const;
   Result check(axsByteStream& stream, std::size_t max_errors = default_max_errors, Progress const& progress = {}) const;
 
+  /// The same of a stream that has the bytes of a file: errors name it, and what the document refers to is looked for from
+  /// there.
+  Result check(axsByteStream& stream, apPath const& name, std::size_t max_errors = default_max_errors,
+    Progress const& progress = {}) const;
+
   /// What is wrong with the schema document in a file and those that it refers to, for whatever namespace it is.
   static std::vector<axmParseError> check_schema(apPath const& file, std::size_t max_errors = default_max_errors);
 

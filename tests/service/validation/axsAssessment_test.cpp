@@ -1,5 +1,7 @@
 #include "Schema.h"
 
+#include <axsByteStream.h>
+
 #include <gtest/gtest.h>
 
 namespace
@@ -250,4 +252,31 @@ TEST(axsAssessment, a_wrong_schema_is_told_by_each_check)
   Schema const schema("<xs:element name='r' type='none'/>");
   EXPECT_EQ(schema.fault(), "there is no declaration of 'none' in no namespace\n");
   EXPECT_NE(schema.wrong("<r/>").find("there is no declaration of 'none'"), std::string::npos);
+}
+
+TEST(axsAssessment, errors_in_a_stream_have_the_name_that_it_is_given)
+{
+  class Stream final : public axsByteStream
+  {
+  public:
+    explicit Stream(std::string given) : text(std::move(given)) {}
+    std::size_t read(char* to, std::size_t size) override
+    {
+      std::size_t const count = text.copy(to, size, at);
+      at += count;
+      return count;
+    }
+    apString fault() const override { return {}; }
+
+  private:
+    std::string text;
+    std::size_t at = 0;
+  };
+  Schema const schema("<xs:element name='r' type='xs:int'/>");
+  Stream named("<r>x</r>");
+  axsValidation::Result const result = schema.validation().check(named, apPath("named.xml"));
+  ASSERT_EQ(result.errors.size(), 1U);
+  EXPECT_EQ(narrow(result.errors.front().url()), "named.xml");
+  Stream unnamed("<r>x</r>");
+  EXPECT_EQ(narrow(schema.validation().check(unnamed).errors.front().url()), "");
 }
