@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -42,13 +43,29 @@ std::string manual_page(CLI::App const& app, std::string const& name)
   return page;
 }
 
-bool names_no_verb(CLI::App& app, Arguments const& arguments)
+// None where an option comes first, or nothing.
+std::optional<std::string> wanted_verb(Arguments const& arguments)
 {
-  if (arguments.count() < 2)
-    return false;
-  std::string const first = arguments.values()[1];
-  auto const named = [&](CLI::App const* verb) { return verb->check_name(first); };
-  return first.substr(0, 1) != "-" && app.get_subcommands(named).empty();
+  if (arguments.count() < 2 || arguments.values()[1][0] == '-')
+    return std::nullopt;
+  return arguments.values()[1];
+}
+
+bool has_verb(CLI::App& app, std::string const& name)
+{
+  return !app.get_subcommands([&](CLI::App const* verb) { return verb->check_name(name); }).empty();
+}
+
+// All of them, or as many as it takes to have the one that is asked for: each has many options, which take longer to be
+// made than a short document to be read. Only completion has to know those of the others.
+void add_verbs(CLI::App& app, std::optional<std::string> const& wanted, int& exit_code)
+{
+  for (Verb const verb : verbs)
+  {
+    verb(app, exit_code);
+    if (wanted && wanted != "completion" && has_verb(app, *wanted))
+      return;
+  }
 }
 }
 
@@ -69,13 +86,13 @@ int run_command_line(Arguments const& arguments)
     ->type_name("VERB")
     ->check([&app](std::string const& name) { return wrong_page(app, name); });
   int exit_code = exit_good;
-  for (Verb const verb : verbs)
-    verb(app, exit_code);
+  std::optional<std::string> const wanted = wanted_verb(arguments);
+  add_verbs(app, wanted, exit_code);
   for (CLI::App* const verb : app.get_subcommands([](CLI::App const* each) { return !each->get_group().empty(); }))
     verb->group("Verbs");
 
-  if (names_no_verb(app, arguments))
-    return complain(arguments.values()[1], "there is no such verb; axm --help lists them", exit_usage);
+  if (wanted && !has_verb(app, *wanted))
+    return complain(*wanted, "there is no such verb; axm --help lists them", exit_usage);
   try
   {
     app.parse(arguments.count(), arguments.values());
