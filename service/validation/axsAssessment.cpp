@@ -295,7 +295,7 @@ void axsAssessment::open(Element& element)
   }
   if (element.has_run)
     contents.open(*type->automaton);
-  element.collects_text = collects_text(element);
+  element.text = text_of(element);
   value.clear();
   elements.push_back(element);
 }
@@ -328,14 +328,36 @@ void axsAssessment::pass_on_with_defaults(axsStartTag const& tag)
   next->start_element(longer);
 }
 
-// Whether what is in the element has to be known as a whole: not where any text is right and nobody asks for the value.
-bool axsAssessment::collects_text(Element const& element) const
+axsAssessment::Text axsAssessment::text_of(Element const& element) const
 {
-  bool const has_constraint = element.decl != nullptr && element.decl->constraint.kind != Kind::none;
-  if (element.content != Content::simple)
-    return element.content == Content::mixed && has_constraint;
+  if (element.is_nil)
+    return Text::refused;
+  switch (element.content)
+  {
+  case Content::empty:
+    return Text::refused;
+  case Content::elements:
+    return Text::white;
+  case Content::mixed:
+    return has_constraint(element) ? Text::collected : Text::ignored;
+  case Content::simple:
+    return simple_text_of(element);
+  default:
+    return Text::ignored;
+  }
+}
+
+// Where any text is right and nobody asks for the value, none of it is looked at.
+axsAssessment::Text axsAssessment::simple_text_of(Element const& element) const
+{
   axsSimpleType const* const type = simple_type_of(element);
-  return has_constraint || is_field() || type == nullptr || !type->takes_all();
+  bool const takes_all = type != nullptr && type->takes_all() && !has_constraint(element) && !is_field();
+  return takes_all ? Text::ignored : Text::collected;
+}
+
+bool axsAssessment::has_constraint(Element const& element) noexcept
+{
+  return element.decl != nullptr && element.decl->constraint.kind != Kind::none;
 }
 
 bool axsAssessment::is_field() const
@@ -345,19 +367,18 @@ bool axsAssessment::is_field() const
 
 void axsAssessment::text(std::string_view text, bool is_cdata)
 {
-  if (!elements.empty() && !text.empty())
-    take_text(elements.back(), text);
+  Element& element = elements.back();
+  if (element.text == Text::collected)
+    value += text;
+  else if (element.text == Text::white ? !is_white(text) : element.text == Text::refused && !text.empty())
+    refuse_text(element);
   if (next != nullptr)
     next->text(text, is_cdata);
 }
 
-void axsAssessment::take_text(Element& element, std::string_view text)
+void axsAssessment::refuse_text(Element& element)
 {
-  if (element.collects_text)
-    value += text;
-  bool const is_refused =
-    element.is_nil || element.content == Content::empty || (element.content == Content::elements && !is_white(text));
-  if (!is_refused || element.is_wrong)
+  if (element.is_wrong)
     return;
   element.is_wrong = true;
   bool const is_misplaced = element.content == Content::elements && !element.is_nil;
@@ -412,12 +433,12 @@ void axsAssessment::tell_identity(Element const& element)
 void axsAssessment::end_simple(Element& element)
 {
   axsSimpleType const* const type = simple_type_of(element);
-  if (type == nullptr || element.is_wrong || !element.collects_text)
+  if (type == nullptr || element.is_wrong || element.text != Text::collected)
     return;
-  bool const has_constraint = element.decl != nullptr && element.decl->constraint.kind != Kind::none;
-  if (has_constraint && value.empty())
+  bool const is_constrained = has_constraint(element);
+  if (is_constrained && value.empty())
     return end_with_default(element, *type);
-  bool const is_fixed = has_constraint && element.decl->constraint.kind == Kind::fixed;
+  bool const is_fixed = is_constrained && element.decl->constraint.kind == Kind::fixed;
   bool const is_asked_for = is_field();
   bool const wants_value = is_fixed || is_asked_for || type->has_references();
   if (!type->check(value, findings.context, wants_value ? &findings.value : nullptr))

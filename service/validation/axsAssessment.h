@@ -56,17 +56,26 @@ private:
     mixed
   };
 
+  // What becomes of the text in an element.
+  enum class Text : unsigned char
+  {
+    ignored,
+    collected, // and looked at when the element ends
+    white,     // no other is allowed
+    refused
+  };
+
   struct Element
   {
     axsKnownName const* name = nullptr;
     axsElementDecl const* decl = nullptr;
     axsTypeDefinition type;
     Content content = Content::unknown;
+    Text text = Text::ignored;
     bool is_nil = false;
     bool has_run = false;  // of the automaton of its content
     bool is_wrong = false; // something is wrong with what is in it, and has been said
     bool has_children = false;
-    bool collects_text = false; // which is looked at when it ends
   };
 
   // What the attributes of the namespace of schema instances say.
@@ -91,13 +100,15 @@ private:
   void assess_attributes(axsStartTag const& tag, Element const& element);
   void pass_on(axsStartTag const& tag);
   void pass_on_with_defaults(axsStartTag const& tag);
-  bool collects_text(Element const& element) const;
-  void take_text(Element& element, std::string_view text);
+  Text text_of(Element const& element) const;
+  Text simple_text_of(Element const& element) const;
+  void refuse_text(Element& element);
   void end_content(Element& element);
   void end_simple(Element& element);
   void end_with_default(Element const& element, axsSimpleType const& type);
   void end_mixed(Element& element);
   void tell_identity(Element const& element);
+  static bool has_constraint(Element const& element) noexcept;
   bool is_field() const;
   static axsSimpleType const* simple_type_of(Element const& element);
 

@@ -46,23 +46,35 @@ void axsAttributeAssessment::assess(axsStartTag const& tag, axsComplexType const
 {
   start = &tag;
   added.clear();
-  std::vector<Usual>& usual = usual_of(type);
-  if (!assess_usual(usual))
-    assess_each(type, usual);
+  Known& known = known_of(type);
+  if (!assess_usual(known))
+    assess_each(type, known);
 }
 
-std::vector<axsAttributeAssessment::Usual>& axsAttributeAssessment::usual_of(axsComplexType const& type)
+axsAttributeAssessment::Known& axsAttributeAssessment::known_of(axsComplexType const& type)
 {
-  if (type.number >= usuals.size())
-    usuals.resize(type.number + std::size_t{1});
-  return usuals[type.number];
+  if (type.number >= known_types.size())
+    known_types.resize(type.number + std::size_t{1});
+  Known& known = known_types[type.number];
+  if (known.is_looked_up)
+    return known;
+  std::size_t number = 0;
+  for (axsAttributeUse const& use : type.attributes)
+  {
+    if (use.is_required || constraint_of(use).kind != Kind::none)
+      known.awaited.push_back(number);
+    ++number;
+  }
+  known.is_looked_up = true;
+  return known;
 }
 
 // Whether the element has exactly these attributes.
-bool axsAttributeAssessment::assess_usual(std::vector<Usual> const& usual)
+bool axsAttributeAssessment::assess_usual(Known const& known)
 {
+  std::vector<Usual> const& usual = known.usual;
   std::vector<axsTagAttribute> const& attributes = *start->attributes;
-  if (usual.empty() || usual.size() != attributes.size())
+  if (!known.has_usual || usual.size() != attributes.size())
     return false;
   for (std::size_t i = 0; i < usual.size(); ++i)
     if (attributes[i].name != usual[i].name || attributes[i].name_space != usual[i].use->decl->name.name_space)
@@ -72,9 +84,9 @@ bool axsAttributeAssessment::assess_usual(std::vector<Usual> const& usual)
   return true;
 }
 
-void axsAttributeAssessment::assess_each(axsComplexType const& type, std::vector<Usual>& usual)
+void axsAttributeAssessment::assess_each(axsComplexType const& type, Known& known)
 {
-  usual.clear();
+  known.usual.clear();
   wild_ids = 0;
   is_seen.assign(type.attributes.size(), 0);
   for (axsTagAttribute const& attribute : *start->attributes)
@@ -92,11 +104,11 @@ void axsAttributeAssessment::assess_each(axsComplexType const& type, std::vector
     }
     is_seen[number] = 1;
     axsAttributeUse const& use = type.attributes[number];
-    usual.push_back({attribute.name, &use});
+    known.usual.push_back({attribute.name, &use});
     assess_use(attribute, use);
   }
-  if (add_missing(type) || usual.size() != start->attributes->size())
-    usual.clear();
+  bool const is_any_missing = add_missing(type, known);
+  known.has_usual = !is_any_missing && known.usual.size() == start->attributes->size();
 }
 
 void axsAttributeAssessment::assess_simple(axsStartTag const& tag)
@@ -208,14 +220,14 @@ void axsAttributeAssessment::tell_identity(axsTagAttribute const& attribute)
 }
 
 // cvc-complex-type.4; and the attributes with defaults (3.4.5, attribute default). Whether there are any of either.
-bool axsAttributeAssessment::add_missing(axsComplexType const& type)
+bool axsAttributeAssessment::add_missing(axsComplexType const& type, Known const& known)
 {
   bool is_any_missing = false;
-  for (std::size_t i = 0; i < is_seen.size(); ++i)
+  for (std::size_t const number : known.awaited)
   {
-    axsAttributeUse const& use = type.attributes[i];
-    if (is_seen[i] != 0)
+    if (is_seen[number] != 0)
       continue;
+    axsAttributeUse const& use = type.attributes[number];
     axsValueConstraint const& constraint = constraint_of(use);
     if (use.is_required)
     {

@@ -35,22 +35,30 @@ public:
   std::vector<axsAttributeUse const*> const& defaults() const noexcept { return added; }
 
 private:
-  // The attributes of an element in which each was declared and none was missing.
   struct Usual
   {
     axsName const* name;
     axsAttributeUse const* use;
   };
 
+  // Of the elements of one type, which mostly have the same attributes in the same order.
+  struct Known
+  {
+    bool is_looked_up = false;
+    std::vector<std::size_t> awaited; // the numbers of the uses that are required or have a default
+    bool has_usual = false;
+    std::vector<Usual> usual; // those of an element in which each was declared and none was missing
+  };
+
   static bool is_exempt(axsTagAttribute const& attribute) noexcept;
-  std::vector<Usual>& usual_of(axsComplexType const& type);
-  bool assess_usual(std::vector<Usual> const& usual);
-  void assess_each(axsComplexType const& type, std::vector<Usual>& usual);
+  Known& known_of(axsComplexType const& type);
+  bool assess_usual(Known const& known);
+  void assess_each(axsComplexType const& type, Known& known);
   void assess_use(axsTagAttribute const& attribute, axsAttributeUse const& use);
   void assess_wild(axsTagAttribute const& attribute, axsComplexType const& type);
   bool check_value(axsTagAttribute const& attribute, axsSimpleType const& type, std::string const* fixed,
     std::string const& shown_fixed);
-  bool add_missing(axsComplexType const& type);
+  bool add_missing(axsComplexType const& type, Known const& known);
   void add_references(axsAttributeUse const& use, std::string const& value);
   void tell_identity(axsTagAttribute const& attribute);
   std::string subject(axsTagAttribute const& attribute) const;
@@ -61,6 +69,5 @@ private:
   std::vector<char> is_seen; // by the number of the use
   std::size_t wild_ids = 0;
   std::vector<axsAttributeUse const*> added;
-  // By the number of the type: elements of one type have mostly the same attributes in the same order.
-  std::vector<std::vector<Usual>> usuals;
+  std::vector<Known> known_types; // by the number of the type
 };

@@ -1,16 +1,12 @@
 #include "axsKnownNames.h"
 
 #include "axsContentModels.h"
-#include "axsName.h"
 #include "axsSchemaComponents.h"
 
-axsKnownName const& axsKnownNames::find(axsName const& name, std::string_view name_space)
+axsKnownName const& axsKnownNames::look_up(axsName const& name, std::string_view name_space)
 {
-  std::size_t const number = name.number();
-  if (number < latest.size() && latest[number] != nullptr && latest[number]->name == &name &&
-      latest[number]->name_space == name_space)
-    return *latest[number];
   axsKnownName const& found = add(name, name_space);
+  std::size_t const number = name.number();
   if (number == axsName::no_number)
     return found;
   if (number >= latest.size())
@@ -21,12 +17,12 @@ axsKnownName const& axsKnownNames::find(axsName const& name, std::string_view na
 
 axsKnownName const& axsKnownNames::add(axsName const& name, std::string_view name_space)
 {
-  BySpace& same = by_name[&name];
-  if (auto const known = same.find(name_space); known != same.end())
+  if (auto const known = by_key.find({&name, name_space}); known != by_key.end())
     return *known->second;
   axsSymbols const& symbols = schema.content_models().symbols();
-  all.push_back({&name, std::string(name_space), symbols.find(name_space, name.local()), symbols.find_space(name_space),
-    schema.element(name_space, name.local())});
-  same.emplace(all.back().name_space, &all.back());
+  std::uint32_t const symbol = symbols.find(name_space, name.local());
+  std::uint32_t const space = symbol != axsSymbols::none ? symbols.space_of(symbol) : symbols.find_space(name_space);
+  all.push_back({&name, std::string(name_space), symbol, space, symbols.global(symbol)});
+  by_key.emplace(Key{&name, all.back().name_space}, &all.back());
   return all.back();
 }

@@ -10,7 +10,7 @@ class axsContentAutomaton
 public:
   axsContentAutomaton(axsContentGroup const& given, axsSymbols const& known) noexcept : top(given), names(known) {}
 
-  /// The content's only item, or none.
+  /// What the children are matched with.
   axsContentGroup const& content() const noexcept { return top; }
 
   axsSymbols const& symbols() const noexcept { return names; }

@@ -37,6 +37,16 @@ void set_occurrence(axsContentItem& item, std::uint64_t min, std::uint64_t max, 
   item.nullable = item.min == 0;
 }
 
+// A sequence that occurs once needs no group around it in which that is counted.
+axsContentGroup const& without_wrapping(axsContentGroup const& top) noexcept
+{
+  if (top.items.empty() || top.items.front().group == nullptr)
+    return top;
+  axsContentItem const& only = top.items.front();
+  bool const occurs_once = only.max == 1 && (only.min == 1 || only.group->nullable);
+  return occurs_once && only.group->is_sequence() ? *only.group : top;
+}
+
 bool allows_global(axsElementDecl const& head, axsElementDecl const& member) noexcept
 {
   return &head == &member || axsSubstitution::is_allowed(member, head);
@@ -66,7 +76,7 @@ std::shared_ptr<axsContentAutomaton const> axsContentModels::compile(
   add_item(particle, tops.back());
   complete(tops.back(), problem);
   sets.erase(&tops.back());
-  return std::make_shared<axsContentAutomaton const>(tops.back(), names);
+  return std::make_shared<axsContentAutomaton const>(without_wrapping(tops.back()), names);
 }
 
 // Groups that refer to themselves (mg-props-correct.2) are left out of themselves.

@@ -96,7 +96,7 @@ axsQuickCheck::axsQuickCheck(axsSimpleType const& type)
     take_text_facets(type);
   else
     take_number_facets(type);
-  bool const is_free = pattern == nullptr && listed == nullptr && !has_lengths;
+  is_free = pattern == nullptr && listed == nullptr && !has_lengths;
   if (form == Form::text && is_free)
     form = Form::any;
 }

@@ -28,7 +28,7 @@ public:
   /// Whether `text` is recognised as a value of the type. Linear in its length; allocates nothing but what a pattern does.
   bool takes(std::string_view text) const
   {
-    return form == Form::any || (form != Form::unknown && has_form(text) && has_facets(text));
+    return form == Form::any || (form != Form::unknown && has_form(text) && (is_free || has_facets(text)));
   }
 
 private:
@@ -64,6 +64,7 @@ private:
 
   Form form = Form::unknown;
   axsWhiteSpace white_space = axsWhiteSpace::preserve;
+  bool is_free = true; // of facets that has_facets() looks at
   bool has_lengths = false;
   char first_byte = 0; // of values that are listed
   std::size_t min_length = 0;
