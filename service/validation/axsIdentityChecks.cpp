@@ -102,7 +102,6 @@ void axsIdentityChecks::open_scope(Plan& plan, axsKnownName const& name)
   }
   if (plan.key == nullptr)
     return;
-  plan.key->levels.push_back(level);
   if (!plan.is_reference())
     plan.key->scopes.push_back(scopes.size() - 1);
 }
@@ -354,7 +353,6 @@ void axsIdentityChecks::close_scope()
   }
   if (plan.key != nullptr)
   {
-    plan.key->levels.pop_back();
     if (plan.is_reference())
       --plan.key->references;
     else
@@ -373,12 +371,13 @@ std::unique_ptr<axsIdentityTable> axsIdentityChecks::take_inherited(std::size_t 
   return table;
 }
 
-// Keys are known in the elements around that refer to them.
+// Keys are known in the elements around, up to one that refers to them. Each of those on the way has them too: equal values
+// of two of its children are in conflict there, and not further out (Part 1, 3.11.5).
 void axsIdentityChecks::hand_up(Key const& key, std::unique_ptr<axsIdentityTable> table)
 {
   if (table->size() == 0 || key.references == 0)
     return;
-  std::size_t const level = key.levels.back();
+  std::size_t const level = open.size() - 1;
   std::unique_ptr<axsIdentityTable>& known = inherited[{level, key.number}];
   if (known == nullptr)
     known = std::make_unique<axsIdentityTable>(level);

@@ -68,8 +68,7 @@ private:
   {
     std::size_t number;
     std::vector<std::size_t> scopes; // its own, by their numbers
-    std::vector<std::size_t> levels; // of these, and of those that refer to it
-    std::size_t references = 0;      // how many of the latter there are
+    std::size_t references = 0;      // how many scopes refer to it
   };
 
   struct Plan

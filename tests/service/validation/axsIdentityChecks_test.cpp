@@ -187,6 +187,24 @@ TEST(axsIdentityChecks, keys_within_conflict_with_each_other_only)
   EXPECT_NE(schema.wrong("<r><r>" + one + two + "</r>" + one + one + reference + "</r>"), "");
 }
 
+// Equal keys are in conflict in the innermost element that has both, whether it has a constraint itself or not.
+TEST(axsIdentityChecks, keys_are_in_conflict_in_elements_without_constraints_too)
+{
+  Schema const schema(items + root("", "x") + root(constraint("key", "k", "i", {"@k"}), "g") +
+                      root(constraint("keyref", "f", "f", {"@to"}, "k")));
+  ASSERT_EQ(schema.fault(), "");
+  std::string const one = "<g><i k='1'/></g>";
+  std::string const many = "<g><i k='1'/><i k='2'/><i k='3'/></g>";
+  std::string const reference = "<f to='1'/>";
+  EXPECT_EQ(schema.wrong("<r><x>" + one + "</x>" + reference + "</r>"), "");
+  EXPECT_NE(schema.wrong("<r><x>" + one + one + "</x>" + reference + "</r>"), "");
+  EXPECT_NE(schema.wrong("<r><x>" + one + "</x><x>" + one + "</x>" + reference + "</r>"), "");
+  EXPECT_EQ(schema.wrong("<r><x>" + one + one + "</x>" + one + reference + "</r>"), "");
+  EXPECT_EQ(schema.wrong("<r>" + one + "<x>" + many + many + "</x>" + reference + "</r>"), "");
+  EXPECT_EQ(schema.wrong("<r><x><x>" + one + many + "</x>" + one + "</x>" + reference + "</r>"), "");
+  EXPECT_NE(schema.wrong("<r><x><x>" + one + many + "</x>" + one + "</x>" + one + reference + "</r>"), "");
+}
+
 TEST(axsIdentityChecks, two_thousand_keys_at_once_are_checked)
 {
   std::string constraints;
