@@ -6,6 +6,7 @@
 #include <axmElement.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <ostream>
 #include <sstream>
@@ -47,18 +48,63 @@ apString target_namespace(apPath const& schema)
   return end == std::string::npos ? apString() : apString::from_utf8(text.substr(begin, end + 1 - begin));
 }
 
-axmLoadOptions options_for(std::vector<std::string> const& schemas)
+void add_schema(apString const& name_space, apPath const& path, axmLoadOptions& options)
+{
+  if (name_space.empty() && options.no_namespace_schema().empty())
+    options.set_no_namespace_schema(path);
+  else
+    options.add_external_schema(name_space, path);
+}
+
+bool has_schema_for(apString const& name_space, axmLoadOptions const& options)
+{
+  if (name_space.empty())
+    return !options.no_namespace_schema().empty();
+  for (int i = 0; i < options.num_external_schemas(); ++i)
+    if (options.external_namespace(i) == name_space)
+      return true;
+  return false;
+}
+
+/// The suite is made for processors that follow what a document says of its schemas. The engine does not; to a user, who
+/// gives it all of them, these are further schemas to give.
+void add_named_schemas(std::string const& instance, axmLoadOptions& options)
+{
+  axmParseError error;
+  auto const document = engine()->loadDocument(apPath(instance.c_str()), axmLoadOptions(axmValidateNone), error);
+  if (document == nullptr)
+    return;
+  auto const words_of = [&](apString const& attribute)
+  {
+    apString value;
+    document->getDocumentElement()->get_attribute(attribute, value);
+    std::istringstream words(value.to_utf8().c_str());
+    return words;
+  };
+  auto const add = [&](std::string const& name_space, std::string const& location)
+  {
+    std::filesystem::path const file = std::filesystem::path(instance).parent_path() / location;
+    if (!has_schema_for(apString(name_space.c_str()), options) && std::filesystem::is_regular_file(file))
+      add_schema(apString(name_space.c_str()), apPath(file.string().c_str()), options);
+  };
+  std::istringstream pairs = words_of(APSTRING("xsi:schemaLocation"));
+  for (std::string name_space, location; pairs >> name_space >> location;)
+    add(name_space, location);
+  std::istringstream single = words_of(APSTRING("xsi:noNamespaceSchemaLocation"));
+  if (std::string location; single >> location)
+    add({}, location);
+}
+
+axmLoadOptions options_for(SchemaTest const& test)
 {
   axmLoadOptions options(axmValidateWithSchemas);
-  for (std::string const& schema : schemas)
+  for (std::string const& schema : test.schemas)
   {
     apPath const path(schema.c_str());
-    apString const name_space = target_namespace(path);
-    if (name_space.empty() && options.no_namespace_schema().empty())
-      options.set_no_namespace_schema(path);
-    else
-      options.add_external_schema(name_space, path);
+    add_schema(target_namespace(path), path, options);
   }
+  if (!test.instance.empty())
+    add_named_schemas(test.instance, options);
   return options;
 }
 
@@ -72,7 +118,7 @@ std::string joined(std::vector<std::string> const& schemas)
 
 std::shared_ptr<axmDocument> load(SchemaTest const& test, axmParseError& error)
 {
-  axmLoadOptions const options = options_for(test.schemas);
+  axmLoadOptions const options = options_for(test);
   if (!test.instance.empty())
     return engine()->loadDocument(apPath(test.instance.c_str()), options, error);
   std::string const unrelated = "<unrelated xmlns='urn:in-no-schema'/>";

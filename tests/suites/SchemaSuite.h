@@ -15,7 +15,8 @@ struct SchemaTest
   /// The schema documents, one or several.
   std::vector<std::string> schemas;
 
-  /// Empty when the test is about the schema.
+  /// Empty when the test is about the schema. What it names as its schemas itself is given to the engine, too, where no
+  /// schema of that namespace is among the documents.
   std::string instance;
 };
 

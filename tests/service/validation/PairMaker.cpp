@@ -1,6 +1,11 @@
 #include "PairMaker.h"
 
+#include <libxml/parser.h>
+#include <libxml/tree.h>
+
 #include <algorithm>
+#include <memory>
+#include <utility>
 
 namespace
 {
@@ -15,6 +20,14 @@ std::string text_of(unsigned number)
 std::size_t number_of(std::string const& name)
 {
   return static_cast<std::size_t>(name.front() - 'a');
+}
+
+// As a content oracle has it.
+std::string name_of(xmlNode const* element)
+{
+  bool const is_other =
+    element->ns != nullptr && std::string(reinterpret_cast<char const*>(element->ns->href)) == "urn:o";
+  return is_other ? ContentOracle::other() : reinterpret_cast<char const*>(element->name);
 }
 }
 
@@ -270,6 +283,54 @@ std::string PairMaker::document()
   for (unsigned count = chance(40) ? 1 + pick(2) : 0; count > 0; --count)
     damage(text);
   return text;
+}
+
+ContentOracle PairMaker::content_of(ComplexType const& type) const
+{
+  std::vector<DrawnParticle const*> content{&type.content};
+  for (ComplexType const* base = &type; base->base != none;)
+  {
+    base = &complex_types[base->base];
+    content.insert(content.begin(), &base->content);
+  }
+  return ContentOracle(content);
+}
+
+bool PairMaker::is_ambiguous() const
+{
+  return std::any_of(complex_types.begin(), complex_types.end(),
+    [this](ComplexType const& type) { return !type.is_simple && content_of(type).is_ambiguous(); });
+}
+
+bool PairMaker::has_right_contents(std::string const& document) const
+{
+  std::unique_ptr<xmlDoc, void (*)(xmlDoc*)> const read(
+    xmlReadMemory(document.data(), static_cast<int>(document.size()), nullptr, nullptr,
+      XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_NONET),
+    xmlFreeDoc);
+  if (read == nullptr)
+    return false;
+  std::vector<std::pair<xmlNode const*, ComplexType const*>> waiting{
+    {xmlDocGetRootElement(read.get()), &complex_types.front()}};
+  while (!waiting.empty())
+  {
+    auto const [parent, type] = waiting.back();
+    waiting.pop_back();
+    std::vector<std::string> children;
+    for (xmlNode const* child = parent->children; child != nullptr; child = child->next)
+    {
+      if (child->type != XML_ELEMENT_NODE)
+        continue;
+      children.push_back(name_of(child));
+      bool const is_local = children.back().front() >= 'a' && children.back().front() <= 'g';
+      std::size_t const of = is_local ? type->types_of_names[number_of(children.back())] : 0;
+      if (of >= simple_types.size() && !complex_types[of - simple_types.size()].is_simple)
+        waiting.emplace_back(child, &complex_types[of - simple_types.size()]);
+    }
+    if (!content_of(*type).takes(children))
+      return false;
+  }
+  return true;
 }
 
 void PairMaker::add_content(ComplexType const& type, std::string& text, int depth)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ContentOracle.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
@@ -20,6 +22,13 @@ public:
   /// A document for the schema made last.
   std::string document();
 
+  /// Whether a content model of that schema is ambiguous (Part 1, 3.8.6 cos-nonambig).
+  bool is_ambiguous() const;
+
+  /// Whether, in such a document, the children of each element are what its content model takes. Of the elements that it
+  /// does not take, nothing is said.
+  bool has_right_contents(std::string const& document) const;
+
 private:
   struct SimpleType
   {
@@ -27,24 +36,7 @@ private:
     std::string primitive;
   };
 
-  struct Particle
-  {
-    enum class Kind
-    {
-      element,
-      head, // of the substitution group
-      sequence,
-      choice,
-      all,
-      any
-    };
-
-    Kind kind = Kind::element;
-    unsigned min = 1;
-    unsigned max = 1; // `many` for unbounded
-    std::string name;
-    std::vector<Particle> parts;
-  };
+  using Particle = DrawnParticle;
 
   struct Attribute
   {
@@ -66,7 +58,7 @@ private:
     unsigned names_used = 0;
   };
 
-  static constexpr unsigned many = 1000;
+  static constexpr unsigned many = DrawnParticle::many;
   static constexpr std::size_t none = static_cast<std::size_t>(-1);
 
   unsigned pick(unsigned below) noexcept;
@@ -79,6 +71,7 @@ private:
   std::string derived_type(std::size_t number, std::string const& open);
   Particle particle(int depth, ComplexType& type);
   std::string element_name(ComplexType& type);
+  ContentOracle content_of(ComplexType const& type) const;
   std::string written(Particle const& particle, ComplexType const& type);
   std::string attributes(ComplexType& type, std::initializer_list<char const*> of_names);
   std::string constraints();

@@ -1,6 +1,7 @@
 #include "SchemaJudge.h"
 
 #include <libxml/parser.h>
+#include <libxml/xmlIO.h>
 #include <libxml/xmlerror.h>
 #include <libxml/xmlschemas.h>
 
@@ -27,8 +28,18 @@ struct SchemaJudge::Schema
 
 SchemaJudge::SchemaJudge(std::string const& text)
 {
+  parse(xmlSchemaNewMemParserCtxt(text.data(), static_cast<int>(text.size())));
+}
+
+SchemaJudge::SchemaJudge(std::filesystem::path const& file)
+{
+  parse(xmlSchemaNewParserCtxt(file.string().c_str()));
+}
+
+void SchemaJudge::parse(xmlSchemaParserCtxt* parser)
+{
   xmlSetGenericErrorFunc(nullptr, say_nothing);
-  xmlSchemaParserCtxt* const parser = xmlSchemaNewMemParserCtxt(text.data(), static_cast<int>(text.size()));
+  xmlSetExternalEntityLoader(xmlNoNetExternalEntityLoader);
   xmlSchemaSetParserStructuredErrors(parser, note, &said);
   schema = std::make_unique<Schema>(xmlSchemaParse(parser));
   xmlSchemaFreeParserCtxt(parser);

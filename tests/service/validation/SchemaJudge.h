@@ -1,13 +1,18 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <string>
 
-/// libxml2, another validator by XML Schema 1.0, as a judge of ours. It reads nothing outside of what it is given.
+struct _xmlSchemaParserCtxt;
+
+/// libxml2, another validator by XML Schema 1.0, as a judge of ours. It reads nothing from a network.
 class SchemaJudge
 {
 public:
   explicit SchemaJudge(std::string const& schema);
+  /// Of a file, which may refer to other ones.
+  explicit SchemaJudge(std::filesystem::path const& file);
   SchemaJudge(SchemaJudge const&) = delete;
   SchemaJudge& operator=(SchemaJudge const&) = delete;
   ~SchemaJudge();
@@ -20,6 +25,8 @@ public:
 
 private:
   struct Schema;
+
+  void parse(_xmlSchemaParserCtxt* parser);
 
   std::string said;
   std::unique_ptr<Schema> schema;
