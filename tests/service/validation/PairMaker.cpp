@@ -26,7 +26,7 @@ std::size_t number_of(std::string const& name)
 std::string name_of(xmlNode const* element)
 {
   bool const is_other =
-    element->ns != nullptr && std::string(reinterpret_cast<char const*>(element->ns->href)) == "urn:o";
+    element->ns != nullptr && std::string(reinterpret_cast<char const*>(element->ns->href)) != "urn:t";
   return is_other ? ContentOracle::other() : reinterpret_cast<char const*>(element->name);
 }
 }
