@@ -111,7 +111,11 @@ std::string axsDeclarationReader::literal(char const* missing)
   char const quote = *in.at++;
   std::string text;
   char const* from = in.at;
-  auto const take_to = [&](char const* to) { text.append(from, static_cast<std::size_t>(to - from)); };
+  auto const take_to = [&](char const* to)
+  {
+    in.check_controls(from, to);
+    text.append(from, static_cast<std::size_t>(to - from));
+  };
   while (true)
   {
     in.at = end_of_text<apByteBlock, '"', '\'', '\r'>(in.at);
@@ -130,7 +134,6 @@ std::string axsDeclarationReader::literal(char const* missing)
     }
   }
   take_to(in.at++);
-  in.check_controls(text.data(), text.data() + text.size());
   return text;
 }
 

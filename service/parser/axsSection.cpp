@@ -48,6 +48,7 @@ std::string_view read(
     char const* const special = p;
     if (in.pass_special(p) == axsInputStack::Special::characters)
       continue;
+    in.check_controls(from, special);
     normal += between(from, special);
     normal += '\n';
     from = p;
@@ -57,7 +58,6 @@ std::string_view read(
   if (from != begin)
   {
     normal += between(from, p);
-    in.check_controls(normal.data(), normal.data() + normal.size());
     data = normal;
   }
   p += closing.size();
