@@ -46,7 +46,7 @@ protected:
   static int rounds()
   {
     char const* const wanted = std::getenv("AXM_KILLS");
-    return wanted == nullptr ? 150 : std::atoi(wanted);
+    return wanted == nullptr ? 60 : std::atoi(wanted);
   }
 
   bool is_whole(std::string const& text) const { return text == old_document || text == new_document; }
