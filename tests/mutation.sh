@@ -37,9 +37,9 @@ run_on_libraries() {
     rm -rf "$copy"
     mkdir -p "$copy"
     git -C "$root" archive HEAD | tar -x -C "$copy"
-    cp "$root/tests/mutation/axmMutant.h" "$copy/containers/"
     cmake -S "$copy" --preset developer > "$folder/configure.log"
     python3 "$root/tests/mutation/schemata.py" draw "$copy" "$count" "$seed" platform utilities source/reader 'containers/*.h'
+    cp "$root/tests/mutation/axmMutant.h" "$copy/containers/"
     build_changes "$copy" "${programs[@]}"
   fi
   LOCPATH=$build/locales python3 "$root/tests/mutation/run_own.py" "$copy" "$folder/results" "${programs[@]/#/$build/bin/}"
