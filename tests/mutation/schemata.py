@@ -253,10 +253,14 @@ def write_all(service, mutants, only=None):
 def mend(service, log):
     mutants = json.loads((service / "mutants.json").read_text())
     refused, files = set(), set()
-    pattern = re.compile(f"({re.escape(str(service.resolve()))}/(\\S+?\\.(?:cpp|h))):(\\d+):(\\d+): (?:fatal )?error: ")
+    pattern = re.compile(r"(\S+):(\d+):(\d+): (?:fatal )?error: ")
     unplaced = {}
     for found in pattern.finditer(pathlib.Path(log).read_text(errors="replace")):
-        name, line, column = found[2], int(found[3]), int(found[4])
+        # The compiler may have been given paths that are relative to somewhere.
+        names = [name for name in {mutant["file"] for mutant in mutants} if found[1].endswith("/" + name)]
+        if not names:
+            continue
+        name, line, column = max(names, key=len), int(found[2]), int(found[3])
         files.add(name)
         here = [mutant for mutant in mutants if mutant["file"] == name and not mutant["is_refused"]]
         guilty = [mutant for mutant in here if in_place(mutant["place"], line, column)]
