@@ -1,3 +1,4 @@
+#include "CommonOptions.h"
 #include "Complaint.h"
 #include "Loading.h"
 #include "Namespaces.h"
@@ -68,13 +69,14 @@ void add_split(CLI::App& app, int& exit_code)
 {
   CLI::App* const verb = app.add_subcommand("split", description);
   auto const request = std::make_shared<Request>();
-  verb->add_option("FILE", request->file, "The document")->required();
+  verb->add_option("FILE", request->file, "The document")->type_name("FILE")->required();
   verb->add_option("PATH", request->path, "The names from the root to the record, as in osm/node")->required();
-  verb->add_option("--parts", request->count, "How many parts (2 without it)")->check(CLI::Range(1, 1000000));
-  verb->add_option("--ns", request->spaces, "P=URI: a prefix in PATH; may be given again")
-    ->check(wrong_namespace)
-    ->allow_extra_args(false);
-  verb->add_option("--output", request->output, "The index, written whole or not at all; standard output without it");
+  verb->add_option("--parts", request->count, "How many parts (2 without it)")
+    ->type_name("N")
+    ->check(CLI::Range(1, 1000000));
+  CommonOptions::add_namespaces(*verb, request->spaces);
+  verb->add_option("--output", request->output, "The index, written whole or not at all; standard output without it")
+    ->type_name("FILE");
   verb->footer(footer);
   verb->callback([request, &exit_code] { exit_code = split(*request); });
 }

@@ -1,3 +1,4 @@
+#include "CommonOptions.h"
 #include "Complaint.h"
 #include "Namespaces.h"
 #include "SimpleTable.h"
@@ -115,26 +116,30 @@ void add_table(CLI::App& app, int& exit_code)
   auto const first_file = std::make_shared<std::string>();
   auto const spaces = std::make_shared<std::vector<std::string>>();
   auto const reader = std::make_shared<std::string>("exact");
-  verb->add_option("FILE", *first_file, "The document")->required();
+  verb->add_option("FILE", *first_file, "The document; - is standard input, and .gz, .xz and .zst are decompressed")
+    ->type_name("FILE")
+    ->required();
   verb->add_option("PATH", request->path, "The names from the root to the record, as in osm/node")->required();
   verb->add_option("COLUMN", request->columns, "What to write of each record")->required();
-  verb->add_option("--more", request->files, "Further documents, whose rows follow in the same table");
+  verb->add_option("--more", request->files, "Further documents, whose rows follow in the same table")
+    ->type_name("FILE");
   verb->add_option("--format", request->format, "csv (the default), tsv or jsonl")
     ->check(CLI::IsMember({"csv", "tsv", "jsonl"}));
-  verb->add_option("--output", request->output, "The file to write, whole or not at all; standard output without it")
-    ->check(OutputFile::wrong_name);
+  CommonOptions::add_output(*verb, request->output);
   verb->add_flag("--header", request->header, "Write the columns' names first (csv, tsv)");
   verb
     ->add_option("--repeat", request->repeat,
       "What becomes of a column that a record has several values of: first (the default) takes the first, join=SEP all "
       "with SEP between them, rows makes a row of each")
+    ->type_name("HOW")
     ->check(is_repeat);
   verb->add_option("--missing", request->missing, "What stands where a record has no such value");
-  verb->add_option("--ns", *spaces, "P=URI: a prefix in PATH and columns; may be given again")
-    ->check(wrong_namespace)
-    ->allow_extra_args(false);
-  verb->add_option("--index", request->index, "The index that axm split wrote: take the rows of one part of FILE only");
-  verb->add_option("--part", request->part, "Which part, counted from 0")->check(CLI::NonNegativeNumber);
+  CommonOptions::add_namespaces(*verb, *spaces);
+  verb->add_option("--index", request->index, "The index that axm split wrote: take the rows of one part of FILE only")
+    ->type_name("FILE");
+  verb->add_option("--part", request->part, "Which part, counted from 0")
+    ->type_name("K")
+    ->check(CLI::NonNegativeNumber);
   verb->add_option("--reader", *reader, "exact (the default) or simple")->check(CLI::IsMember({"exact", "simple"}));
   verb->footer(footer);
   verb->callback(
