@@ -17,9 +17,8 @@
 ///
 /// What the recommendation leaves to the host: the context node is any node of a document of this engine, context
 /// position and size are 1. There are no functions but those of the core library, and no variables but in expressions that
-/// are compiled with them (axsCompiledXPath). Prefixes are taken
-/// from the scope of the context node; for what is outside of the root element, the document itself too, from that of
-/// the root element.
+/// are compiled with them (axsCompiledXPath). Prefixes are taken from the scope of the context node; for what is outside of
+/// the root element, the document itself too, from that of the root element.
 ///
 /// How a document is seen:
 /// - An absolute path leads through the tree that the context is in: from the document or, in a tree that is not part of

@@ -1,5 +1,8 @@
 #include "Engine.h"
 
+#include <axsCompiledXPath.h>
+#include <axsSharing.h>
+
 #include <atomic>
 #include <thread>
 #include <vector>
@@ -41,4 +44,30 @@ TEST(axsThreads, one_factory_serves_many_threads_at_once)
   for (std::thread& thread : threads)
     thread.join();
   EXPECT_EQ(wrong, 0);
+}
+
+TEST(axsThreads, many_evaluate_one_compiled_expression)
+{
+  std::shared_ptr<axmDocument> shared = load("<books><book year='1990'/><book year='2010'/></books>");
+  ASSERT_TRUE(axsSharing::share(shared));
+  axsCompiledXPath const later("count(//book[@year > $year])", {}, {{"year", 0}});
+  std::atomic<int> right{0};
+  auto const evaluate = [&](int year, double expected)
+  {
+    std::shared_ptr<axmDocument> const own = load("<books><book year='2000'/></books>");
+    for (int round = 0; round < 100; ++round)
+    {
+      axsXPath::Value found;
+      axsXPathError error;
+      if (later.evaluate(*shared, {{"year", year}}, found, error) && found.number == expected &&
+          later.evaluate(*own, found, error) && found.number == 1)
+        ++right;
+    }
+  };
+  std::vector<std::thread> threads;
+  for (int i = 0; i < 4; ++i)
+    threads.emplace_back(evaluate, i % 2 == 0 ? 1980 : 2000, i % 2 == 0 ? 2 : 1);
+  for (std::thread& thread : threads)
+    thread.join();
+  EXPECT_EQ(right, 400);
 }

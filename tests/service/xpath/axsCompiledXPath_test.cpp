@@ -1,14 +1,10 @@
 #include "Subject.h"
 
 #include <axsCompiledXPath.h>
-#include <axsSharing.h>
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <string>
-#include <thread>
-#include <vector>
 
 namespace
 {
@@ -129,28 +125,4 @@ TEST(axsCompiledXPath, limits_end_an_evaluation)
   axsXPathError error;
   EXPECT_FALSE(axsCompiledXPath("//*").evaluate(*books(), {}, limits, found, error));
   EXPECT_EQ(error.message, "the evaluation takes more steps than are allowed");
-}
-
-TEST(axsCompiledXPath, many_threads_evaluate_one)
-{
-  auto document = books();
-  ASSERT_TRUE(axsSharing::share(document));
-  axsCompiledXPath const later("count(//b:book[@year > $year])", b, {{"year", 0}});
-  std::atomic<int> right{0};
-  std::vector<std::thread> threads;
-  for (int i = 0; i < 4; ++i)
-    threads.emplace_back(
-      [&, i]
-      {
-        for (int round = 0; round < 100; ++round)
-        {
-          axsXPath::Value found;
-          axsXPathError error;
-          if (later.evaluate(*document, {{"year", 1980 + 20 * (i % 2)}}, found, error) && found.number == 2 - i % 2)
-            ++right;
-        }
-      });
-  for (std::thread& thread : threads)
-    thread.join();
-  EXPECT_EQ(right, 400);
 }
