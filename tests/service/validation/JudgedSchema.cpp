@@ -7,7 +7,7 @@ namespace
 // That of the schema's root element, which is the only one that has it; empty without one.
 std::string target_namespace(std::string const& schema)
 {
-  std::string const attribute = " targetNamespace=";
+  std::string const attribute = "targetNamespace=";
   std::size_t const at = schema.find(attribute);
   if (at == std::string::npos)
     return {};

@@ -10,7 +10,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <map>
 #include <set>
 #include <sstream>
@@ -90,6 +89,9 @@ private:
   std::set<std::string> brought;
 };
 
+// Schemas of others may be long.
+std::size_t const max_shown = 5000;
+
 // A message without what is particular to one schema.
 std::string general(std::string const& words)
 {
@@ -105,43 +107,68 @@ std::string general(std::string const& words)
   return text.substr(0, 160);
 }
 
-// Where the two differ by a rule: what each of them says who refuses.
+// Where the two differ by a rule: what each of them says who refuses, and what the schema has then.
 struct Exception
 {
   char const* ours;
   char const* judge;
   char const* rule;
+  char const* in_schema = "";
 };
 
-Exception const of_schemas[] = {
+std::vector<Exception> const of_schemas = {
   {"", "attribute': The attribute 'use' is not allowed", "a global attribute may say its use, which many do"},
   {"", "attribute 'schemaLocation'", "a location is the name of a file, which may have what a URI reference may not"},
   {"(element declarations consistent)", "", "Part 1, 3.8.6 cos-element-consistent: the judge does not look for it"},
+  {"(unique particle attribution)", "", "Part 1, 3.8.6 cos-nonambig: the judge lets particles of one name compete"},
+  {"the content is no restriction of that of", "", "Part 1, 3.9.6: the judge does not compare particles"},
+  {"(src-single-facet-value)", "", "Part 2, 4.3: each facet is given once, which the judge does not look for"},
+  {"'group' lacks its 'all' or 'choice' or 'sequence'", "",
+    "Part 1, 3.7.2: a group has a content, which the judge lets be missing"},
 };
 
-bool is_explained(Verdict const& ours, Verdict const& judge)
+std::vector<Exception> const of_documents = {
+  {"", "No matching global declaration available for the validation root",
+    "a root of which nothing is known is not assessed"},
+  {"", "No precomputed value available", "Part 1, 3.11.4: the value of a field, which the judge has lost"},
+  {"", "because the content type is empty",
+    "Part 1, 3.4.2: what a reference to an empty group makes is not empty, and may have white space", "group ref="},
+  {"there is no ID '", "", "Part 1, 3.15.4 cvc-id: the judge does not look for the ID that is referred to"},
+};
+
+bool is_explained(
+  std::vector<Exception> const& exceptions, Verdict const& ours, Verdict const& judge, std::string const& pair)
 {
-  return std::any_of(std::begin(of_schemas), std::end(of_schemas),
-    [&](Exception const& exception) { return says(ours, exception.ours) && says(judge, exception.judge); });
+  return std::any_of(exceptions.begin(), exceptions.end(),
+    [&](Exception const& exception)
+    {
+      return says(ours, exception.ours) && says(judge, exception.judge) &&
+             pair.find(exception.in_schema) != std::string::npos;
+    });
 }
 
 class Differences
 {
 public:
+  explicit Differences(std::vector<Exception> const& explained) : exceptions(explained) {}
+
   void compare(Verdict const& ours, Verdict const& judge, std::string const& where)
   {
     ++compared;
-    if (ours.is_good == judge.is_good || is_explained(ours, judge))
+    if (ours.is_good == judge.is_good || is_explained(exceptions, ours, judge, where))
       return;
     std::string const kind = "ours: " + (ours.is_good ? "good" : general(ours.words)) +
                              "\n    judge: " + (judge.is_good ? "good" : general(judge.words));
     auto& [count, example] = kinds[kind];
     if (++count == 1)
-      example = where + "\n    ours: " + ours.words + "\n    judge: " + judge.words;
+      example = where.substr(0, max_shown) + "\n    ours: " + ours.words + "\n    judge: " + judge.words;
   }
 
   int compared = 0;
   std::map<std::string, std::pair<int, std::string>> kinds;
+
+private:
+  std::vector<Exception> const& exceptions;
 };
 }
 
@@ -149,8 +176,8 @@ TEST(axsAssessment_mutants, changed_schemas_are_taken_that_the_judge_takes)
 {
   int const mutants = number_of("AXM_MUTANTS", 100);
   auto const seed = static_cast<std::uint32_t>(number_of("AXM_JUDGED_SEED", 1));
-  Differences schemas;
-  Differences documents;
+  Differences schemas(of_schemas);
+  Differences documents(of_documents);
   for (Pair const& pair : pairs())
   {
     Scratch scratch;
@@ -163,7 +190,8 @@ TEST(axsAssessment_mutants, changed_schemas_are_taken_that_the_judge_takes)
       std::ofstream(file, std::ios::binary) << schema;
       JudgedSchema const ours(file, schema);
       SchemaJudge judge(file);
-      std::string const where = pair.schema.string() + ", " + std::to_string(seed + static_cast<std::uint32_t>(i));
+      std::string const where =
+        pair.schema.string() + ", " + std::to_string(seed + static_cast<std::uint32_t>(i)) + ":\n" + schema;
       schemas.compare(ours.schema(), {judge.takes_schema(), judge.words()}, where);
       if (!ours.schema().is_good || !judge.takes_schema() || pair.document.empty())
         continue;
@@ -173,8 +201,7 @@ TEST(axsAssessment_mutants, changed_schemas_are_taken_that_the_judge_takes)
         if (number > 0)
           document = SchemaMutator(document, seed + static_cast<std::uint32_t>(i) * 5 + number).mutate();
         bool const is_taken = judge.takes(document);
-        documents.compare(
-          ours.document(document), {is_taken, judge.words()}, where + ", document " + std::to_string(number));
+        documents.compare(ours.document(document), {is_taken, judge.words()}, where + "\n" + document);
       }
     }
   }
