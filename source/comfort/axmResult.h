@@ -3,6 +3,7 @@
 #include "axmParseError.h"
 #include "axmUtf8.h"
 
+#include <memory>
 #include <ostream>
 #include <string>
 #include <utility>
@@ -46,7 +47,7 @@ inline error to_error(axmParseError const& failure)
 ///     else
 ///       std::cerr << document.error() << '\n';
 template <class T>
-class result
+class [[nodiscard]] result
 {
 public:
   result(T given) : held(std::move(given)), good(true) {}
@@ -59,6 +60,15 @@ public:
   T const& value() const noexcept { return held; }
   T const& operator*() const noexcept { return held; }
   T const* operator->() const noexcept { return &held; }
+
+  /// Refused: a document that could not be loaded would go on as none.
+  template <class U>
+  operator std::shared_ptr<U>() const
+  {
+    static_assert(
+      sizeof(U*) == 0, "a result is asked first, as in if (document), and gives what it holds with *document");
+    return nullptr;
+  }
 
   /// Empty where there is a value.
   axm::error const& error() const noexcept { return failure; }

@@ -28,6 +28,8 @@ void make_mistakes(std::shared_ptr<axmElement> const& element)
   axm::set_attribute(element, "a", Colour::red);
   // attributes are set to texts, bool and numbers
   axm::set_attribute(*element, "a", &number);
+  // a result is asked first, as in if (document), and gives what it holds with *document
+  axm::select(axm::load_file("books.xml"), "//a");
   // values are read as bool, numbers, std::string or apString
   axm::attribute<char const*>(element, "a");
   // values are read as bool, numbers, std::string or apString
