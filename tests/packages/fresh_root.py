@@ -63,7 +63,9 @@ def real_name(file):
 
 
 def copy(files, root):
-    names = "\0".join(sorted({real_name(file).lstrip("/") for file in files if os.path.lexists(file)}))
+    """What may be read here; the rest is the system's own, such as passwords."""
+    found = {real_name(file) for file in files if os.path.islink(file) or os.access(file, os.R_OK)}
+    names = "\0".join(sorted(name.lstrip("/") for name in found))
     packed = subprocess.Popen(["tar", "-C", "/", "--no-recursion", "--null", "-T", "-", "-c"], stdin=subprocess.PIPE,
                               stdout=subprocess.PIPE)
     unpacked = subprocess.Popen(["tar", "-C", root, "-x"], stdin=packed.stdout)
