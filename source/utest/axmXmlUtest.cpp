@@ -237,6 +237,10 @@ char const* const refused_names[] = {
   "<r xmlns:p='u' xmlns:p='v'/>",
   "<r xmlns='u' xmlns='u'/>",
   "<r xmlns:p='u'></r><p:a/>",
+  "<p:r xmlns:q='u'/>",
+  "<p:r q:a='1' xmlns:q='u'/>",
+  "<r xmlns:q='u'><p:a q:b='1'/></r>",
+  "<r p:a='1' q:b='2' xmlns:q='u'/>",
 };
 
 Taken const taken_attributes[] = {
@@ -256,6 +260,7 @@ Taken const taken_attributes[] = {
   {"<r a='\r\n'/>", "<r a=' '></r>"},
   {"<r a='\r\r\n\n'/>", "<r a='   '></r>"},
   {"<r a=' x  y '/>", "<r a=' x  y '></r>"},
+  {"<r a='b\xEF\xBF\xBD\xED\x9F\xBF'/>", "<r a='b\xEF\xBF\xBD\xED\x9F\xBF'></r>"},
   {"<r a='&#9;&#10;&#13;&#32;'/>", "<r a='\t\n\r '></r>"},
   {"<r a='x\ty\nz\rq' b='\t' c='plain' d='&lt;\n'/>", "<r a='x y z q' b=' ' c='plain' d='< '></r>"},
   {"<r a='&#xD;\n'/>", "<r a='\r '></r>"},
@@ -355,6 +360,7 @@ Taken const taken_texts[] = {
   {"<r>\ta\n</r>", "<r>\ta\n</r>"},
   {"<r>]</r>", "<r>]</r>"},
   {"<r>]]</r>", "<r>]]</r>"},
+  {"<r>a\xEF\xBF\xBD\xED\x9F\xBF</r>", "<r>a\xEF\xBF\xBD\xED\x9F\xBF</r>"},
   {"<r>] ]></r>", "<r>] ]></r>"},
   {"<r>]&gt;</r>", "<r>]></r>"},
   {"<r>]]&gt;</r>", "<r>]]></r>"},
@@ -448,6 +454,7 @@ Taken const taken_comments[] = {
   {"<r><!--->a--></r>", "<r><!--->a--></r>"},
   {"<r><!---a--></r>", "<r><!---a--></r>"},
   {"<r><!--\xC3\xA4\n\t--></r>", "<r><!--\xC3\xA4\n\t--></r>"},
+  {"<r><!--a\xEF\xBF\xBD\xED\x9F\xBF--></r>", "<r><!--a\xEF\xBF\xBD\xED\x9F\xBF--></r>"},
   {"<r>a<!--b-->c</r>", "<r>a<!--b-->c</r>"},
   {"<r> <!--b--> </r>", "<r> <!--b--> </r>"},
   {"<r><?a?></r>", "<r><?a ?></r>"},
@@ -461,6 +468,7 @@ Taken const taken_comments[] = {
   {"<r><?xml-stylesheet a='b'?></r>", "<r><?xml-stylesheet a='b'?></r>"},
   {"<?xmla?><r/>", "<?xmla ?><r></r>"},
   {"<r><?a \xC3\xA4?></r>", "<r><?a \xC3\xA4?></r>"},
+  {"<r><?a b\xEF\xBF\xBD\xED\x9F\xBF?></r>", "<r><?a b\xEF\xBF\xBD\xED\x9F\xBF?></r>"},
   {"<?a?><?b?><r/><?c?>", "<?a ?><?b ?><r></r><?c ?>"},
   {"<r><?a b ?\t?></r>", "<r><?a b ?\t?></r>"},
   {"<!DOCTYPE r [<!---->]><r/>", "<r></r>"},
@@ -669,6 +677,9 @@ char const* const refused_constraints[] = {
   "<!DOCTYPE a [<!NOTATION>]><a/>",
   "<!DOCTYPE a [<!NOTATION n>]><a/>",
   "<!DOCTYPE a [<!NOTATION n PUBLIC>]><a/>",
+  "<!DOCTYPE :a><a/>",
+  "<!DOCTYPE a [<!ELEMENT a (b:)>]><a/>",
+  "<!DOCTYPE a [<!ATTLIST a :b CDATA ''>]><a/>",
 };
 
 }
