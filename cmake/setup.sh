@@ -32,6 +32,9 @@ build_preset() {
 packages_to_build=(g++ cmake ninja-build libcli11-dev zlib1g-dev liblzma-dev libzstd-dev nlohmann-json3-dev)
 packages_to_test=(libgtest-dev locales libxml2-dev libexpat1-dev libxerces-c-dev abigail-tools clang clang-format-14
   g++-mingw-w64-x86-64-posix python3 python3-distributed mandoc zsh fish lintian pkg-config)
+# For cpack.
+packages_to_pack=(dpkg-dev file)
+packages_to_test+=("${packages_to_pack[@]}")
 # The manual's programs and commands of other libraries and tools.
 packages_to_test+=(libpugixml-dev libxerces-c-dev libtinyxml2-dev qtbase5-dev libxml2-utils xmlstarlet xq yq)
 # Whoever has npm from elsewhere keeps it.

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Runs the recipe with classes in place of Conan's that do what matters here: conan_test.py SOURCE VERSION WORK COMPILER"""
+"""Runs the recipe with classes in place of Conan's that do what matters here: conan_test.py SOURCE VERSION WORK COMPILER GENERATOR"""
 
 import fnmatch
 import importlib.util
@@ -11,7 +11,7 @@ import types
 import unittest
 from pathlib import Path
 
-SOURCE, VERSION, WORK, COMPILER = sys.argv[1:5]
+SOURCE, VERSION, WORK, COMPILER, GENERATOR = sys.argv[1:6]
 EXPORTED = Path(WORK, "exported")
 
 
@@ -73,7 +73,7 @@ class ConanRecipe(unittest.TestCase):
     def test_exports_what_is_configured_with_its_options(self):
         options = [f"-D{name}={'ON' if value else 'OFF'}" for name, value in self.toolchains[0].cache_variables.items()]
         self.assertTrue(options)
-        done = subprocess.run(["cmake", "-S", EXPORTED, "-B", Path(WORK, "build"), f"-DCMAKE_CXX_COMPILER={COMPILER}",
+        done = subprocess.run(["cmake", "-G", GENERATOR, "-S", EXPORTED, "-B", Path(WORK, "build"), f"-DCMAKE_CXX_COMPILER={COMPILER}",
                                *options], stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True)
         self.assertEqual((done.returncode, done.stderr), (0, ""))
 
