@@ -9,6 +9,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <utility>
 
 namespace
 {
@@ -59,13 +60,23 @@ bool holds_zero(apByteArray const& data)
   return !is_wide && data.size() > 0 && std::memchr(data.data(), 0, data.size()) != nullptr;
 }
 
+// The library gives the document all the same. That a namespace has a name which is no URI breaks no rule.
+bool breaks_namespaces(xmlParserCtxt& context)
+{
+  xmlError const* const last = xmlCtxtGetLastError(&context);
+  return context.nsWellFormed == 0 && (last == nullptr || last->code != XML_WAR_NS_URI);
+}
+
 xmlDoc* tree_of(apByteArray const& data, apString const& url, int options, axmParseError& error)
 {
   xmlParserCtxt* const context = xmlNewParserCtxt();
-  xmlDoc* const document = xmlCtxtReadMemory(context, data.data(), static_cast<int>(data.size()), url.to_utf8().c_str(),
+  xmlDoc* document = xmlCtxtReadMemory(context, data.data(), static_cast<int>(data.size()), url.to_utf8().c_str(),
     nullptr, XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | options);
-  if (document == nullptr)
+  if (document == nullptr || breaks_namespaces(*context))
+  {
     error = parser_error(*context, url);
+    xmlFreeDoc(std::exchange(document, nullptr));
+  }
   xmlFreeParserCtxt(context);
   return document;
 }
