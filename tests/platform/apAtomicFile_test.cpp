@@ -373,6 +373,21 @@ TEST(apAtomicFile, leaves_the_target_when_the_disk_is_full)
   EXPECT_EQ(folder.entries(), 1);
 }
 
+TEST(apAtomicFile, whoever_reads_the_old_file_still_reads_it_whole)
+{
+  Folder const folder;
+  apPath const path = folder.file("a.xml");
+  write_file(path, "old");
+  std::FILE* const reader = path.file_open(apPath::read_mode());
+  ASSERT_NE(reader, nullptr);
+  EXPECT_TRUE(put(path, "new and longer"));
+  char bytes[20] = {};
+  EXPECT_EQ(std::fread(bytes, 1, sizeof bytes, reader), 3u);
+  EXPECT_STREQ(bytes, "old");
+  std::fclose(reader);
+  EXPECT_EQ(read_file(path), "new and longer");
+}
+
 TEST(apAtomicFile, leaves_the_reason_in_errno_where_it_cannot_write)
 {
   Folder const folder;

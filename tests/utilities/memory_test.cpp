@@ -149,3 +149,20 @@ TEST(utStringcoPageArr_memory, failed_append_keeps_the_list)
   EXPECT_EQ(texts.count(), 1);
   EXPECT_EQ(texts[0], utString("first"));
 }
+
+// Too long to lie in the string itself.
+TEST(utString_memory, what_a_string_had_is_given_back_when_it_takes_another_text)
+{
+  std::string const one(1000, '1');
+  std::string const two(1000, '2');
+  FailingMemory const memory(1000);
+  {
+    utString copied(one.c_str());
+    utString moved(one.c_str());
+    utString const other(two.c_str());
+    copied = other;
+    moved = utString(two.c_str());
+    EXPECT_TRUE(copied == moved);
+  }
+  EXPECT_EQ(memory.blocks_held(), 0);
+}
