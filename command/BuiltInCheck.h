@@ -27,7 +27,8 @@ public:
 
   virtual std::vector<axmParseError> const& schema_errors() const = 0;
 
-  /// Of a file, or of what standard input has where the name is "-", decompressed if it is compressed. `progress` is told the bytes read, now and then.
+  /// Of a file, or of what standard input has where the name is "-", decompressed if it is compressed. `progress` is
+  /// told the bytes read, now and then.
   virtual Result run(std::string const& file, std::size_t max_errors,
     std::function<void(std::uint64_t bytes)> const& progress) const = 0;
 };

@@ -11,7 +11,8 @@
 ///   lists and maps belongs to one thread at a time, or is shared by many that read it; see axsSharing.
 /// - Nodes, lists and maps hold what they need: a node stays valid as long as it is held, even if its tree and its
 ///   document have been let go. A `std::weak_ptr` holds no node, only some bytes of bookkeeping.
-/// - Load: white-space-only text is dropped in CDATA sections, too, but kept where xml:space="preserve" holds. Prefixes must be bound
+/// - Load: white-space-only text is dropped in CDATA sections, too, but kept where xml:space="preserve" holds. Prefixes
+///   must be bound
 ///   (Namespaces in XML 1.0; in a document of XML 1.1, by version 1.1 of them). The external DTD subset is read where the
 ///   options enable the resolution of entities and it is a local file; an entity that is declared nowhere in what is read is
 ///   an error. The expansions of parameter entities count as those of others. Besides the number of entity expansions, what
@@ -34,9 +35,9 @@
 ///   two columns, a tab as one.
 /// - Save: to a file that takes the place of the target in one step, with its permissions; see apAtomicFile. What was
 ///   loaded as XML 1.1 is saved as that. Text that XML cannot hold makes it fail, and get_xml() of such a node is
-///   empty. So do, though not get_xml(), a prefix that is not declared where it is used, a missing attribute of which the document
-///   type declares a default, and spaces that a reader takes out of a value that consists of tokens by its declaration:
-///   whatever is saved is read again as it was. axsSaving tells the reason. What is not Unicode (a surrogate without
+///   empty. So do, though not get_xml(), a prefix that is not declared where it is used, a missing attribute of which
+///   the document type declares a default, and spaces that a reader takes out of a value that consists of tokens by its
+///   declaration: whatever is saved is read again as it was. axsSaving tells the reason. What is not Unicode (a surrogate without
 ///   its other half) does not enter a document: createTextNode() and createComment() give an empty pointer, what sets a
 ///   value changes nothing and reports an assertion (utAssert.h). The standalone declaration is kept.
 /// - New elements have the attributes of which the document type declares defaults (DOM Core, createElement).

@@ -11,8 +11,8 @@ enum class Failures
 };
 
 /// While it lives, only so many allocations of its thread succeed and every further one fails, or only the next one,
-/// whether through new, malloc, calloc or realloc, in the test program as in the libraries it uses. Besides, it counts the blocks that its
-/// thread has allocated and not given back. One at a time.
+/// whether through new, malloc, calloc or realloc, in the test program as in the libraries it uses. Besides, it counts
+/// the blocks that its thread has allocated and not given back. One at a time.
 ///
 /// Linking its source replaces the allocation functions of the program, which the system's loader lets the libraries
 /// share; that is so where programs are in ELF format. What the test framework allocates must stay outside of its life.

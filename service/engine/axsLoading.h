@@ -28,9 +28,9 @@ public:
     apByteArray const& data, axmLoadOptions const& options, axmParseError& error);
 
   /// The nodes that `xml`, in UTF-8, is: what may stand in an element, as "one <b>two</b>". They belong to the document of
-  /// `context`, which is an element or a document of this engine that is not shared (axsSharing), and are in no tree yet. Prefixes
-  /// mean what they mean in `context`, as long as the nodes are put there. White space is kept. Entities that the document type
-  /// declares are not known; lines and columns are counted in `xml`. Empty as well for an empty text, with `error` as it
-  /// was. Linear in the length of `xml`. Throws std::bad_alloc when memory runs out.
+  /// `context`, which is an element or a document of this engine that is not shared (axsSharing), and are in no tree
+  /// yet. Prefixes mean what they mean in `context`, as long as the nodes are put there. White space is kept. Entities
+  /// that the document type declares are not known; lines and columns are counted in `xml`. Empty as well for an empty
+  /// text, with `error` as it was. Linear in the length of `xml`. Throws std::bad_alloc when memory runs out.
   static std::vector<std::shared_ptr<axmNode>> fragment(axmNode& context, std::string_view xml, axmParseError& error);
 };

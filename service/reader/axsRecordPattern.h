@@ -10,10 +10,10 @@
 /// Which elements of a document are records, and what of each is a column: a path of names from the root to the record,
 /// and for each column a path from there.
 ///
-/// A path is written `a/b/c`; a name in it may be `*` or `p:*`, for any, or any of a namespace. A column is written `@a` (an attribute of the record), `b`
-/// (the text of a child), `b/c`, `b/@a`, or `.` (the text of the record itself). Names are compared as they are written in
-/// the document, but those with a prefix that is given a namespace by that and the part after the colon.
-/// Immutable once made.
+/// A path is written `a/b/c`; a name in it may be `*` or `p:*`, for any, or any of a namespace. A column is written
+/// `@a` (an attribute of the record), `b` (the text of a child), `b/c`, `b/@a`, or `.` (the text of the record itself).
+/// Names are compared as they are written in the document, but those with a prefix that is given a namespace by that
+/// and the part after the colon. Immutable once made.
 class axsRecordPattern
 {
 public:

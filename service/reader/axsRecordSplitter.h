@@ -14,10 +14,10 @@
 /// Finds where a document can be cut so that its records can be read in parts, by several processes or machines, each of
 /// which reads its own part only.
 ///
-/// A part is a range of the document's bytes that begins with a record, the first one with the root element. What stands before it in the document is given by
-/// the prolog and by the tags of the elements that are open there: those, the part, and the tags that close what is open
-/// at its end are a document of their own, with the same records, namespaces and entities. The records of all parts
-/// after one another are the records of the document.
+/// A part is a range of the document's bytes that begins with a record, the first one with the root element. What
+/// stands before it in the document is given by the prolog and by the tags of the elements that are open there: those,
+/// the part, and the tags that close what is open at its end are a document of their own, with the same records,
+/// namespaces and entities. The records of all parts after one another are the records of the document.
 struct AXS_API axsRecordSplitter
 {
   struct Part

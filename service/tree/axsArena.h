@@ -14,9 +14,10 @@ class axsTree;
 /// The memory of one document: nodes, names and texts.
 ///
 /// Small blocks come from pages and go back to a list of free blocks of their size; large ones come from the system and
-/// go back to it at once. When as much as a quarter of what is in use has come back since the last time, free blocks beside each other are
-/// joined and pages without a block in use are for any size again, or go back to the system. Everything goes with the arena, without a look at what lies in it. Sizes are in bytes.
-/// Belongs to its document and, as that, to one thread at a time.
+/// go back to it at once. When as much as a quarter of what is in use has come back since the last time, free blocks
+/// beside each other are joined and pages without a block in use are for any size again, or go back to the system.
+/// Everything goes with the arena, without a look at what lies in it. Sizes are in bytes. Belongs to its document and,
+/// as that, to one thread at a time.
 class axsArena
 {
 public:

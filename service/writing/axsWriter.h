@@ -15,8 +15,8 @@ class axsTree;
 ///
 /// Characters that a parser would change are written as references. What XML cannot hold at all (control characters, a
 /// comment with "--" in it, a document without a root element) and what would be read as something else (a carriage return in
-/// a comment or an instruction, white space at the beginning of the data of an instruction) makes the operations fail. Linear in the size of the node;
-/// does not recurse. Threads: those of the document.
+/// a comment or an instruction, white space at the beginning of the data of an instruction) makes the operations fail.
+/// Linear in the size of the node; does not recurse. Threads: those of the document.
 ///
 /// A document that was read as XML 1.1 is written as XML 1.1, with references to the control characters that it may hold
 /// (XML 1.1, 2.2 and 2.11). A node by itself is written as XML 1.0.

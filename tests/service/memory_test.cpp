@@ -137,7 +137,8 @@ Attempt attempt(Operation const& operation, Subject& subject, int allowed)
   return result;
 }
 
-// Whether the operation ever throws when each of its allocations fails in turn, with and without memory at hand; that it has then changed nothing.
+// Whether the operation ever throws when each of its allocations fails in turn, with and without memory at hand; that
+// it has then changed nothing.
 bool throws(Operation const& prepare, Operation const& operation)
 {
   bool has_thrown = false;

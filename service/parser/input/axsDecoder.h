@@ -37,7 +37,7 @@ public:
   virtual ~axsDecoder() = default;
 
   /// Writes to `to`, where there are `room` bytes, at least `min_room`, what the whole characters at the beginning of
-  /// `bytes` are. What is not taken has no room, is illegal, or is the beginning of a character, to be given again with the bytes that follow it.
-  /// If `is_end`, none follow. When all was taken at the end and nothing made, nothing is left.
+  /// `bytes` are. What is not taken has no room, is illegal, or is the beginning of a character, to be given again with
+  /// the bytes that follow it. If `is_end`, none follow. When all was taken at the end and nothing made, nothing is left.
   virtual Result decode(std::string_view bytes, char* to, std::size_t room, bool is_end) noexcept = 0;
 };

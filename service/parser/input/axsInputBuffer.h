@@ -42,16 +42,17 @@ public:
   /// How many bytes of UTF-8 stand before `at`, which points into the buffer.
   std::uint64_t position(char const* at) const noexcept { return passed + static_cast<std::uint64_t>(at - begin()); }
 
-  /// Line and column of `at`, which points to the beginning of a character in the buffer or to its end. Takes time in proportion to the bytes between `at` and where the last one was that was asked for; if
-  /// `at` stands before that, also to the length of its line as far as it is in the buffer.
+  /// Line and column of `at`, which points to the beginning of a character in the buffer or to its end. Takes time in
+  /// proportion to the bytes between `at` and where the last one was that was asked for; if `at` stands before that,
+  /// also to the length of its line as far as it is in the buffer.
   axsPlace place(char const* at) const noexcept;
 
   /// From now on lines end as in XML 1.1. Said when nothing but a declaration has been read.
   void take_xml_1_1_line_ends() noexcept { line_ends = axsLineEnds::Rule::xml_1_1; }
 
   /// Lets go what is before `from`, which points into the buffer, and reads more, if something comes. Returns where that
-  /// byte stands now. Throws axsReadError when the source cannot be read after the end and when what comes after the end is not in the
-  /// encoding of the document, std::bad_alloc when memory runs out.
+  /// byte stands now. Throws axsReadError when the source cannot be read after the end and when what comes after the
+  /// end is not in the encoding of the document, std::bad_alloc when memory runs out.
   char const* advance(char const* from);
 
   /// A place to which return_to() can go back.

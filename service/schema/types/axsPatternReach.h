@@ -20,8 +20,8 @@ public:
   void clear();
 
   /// Adds what is reached from the instruction in the round, itself included; outside of loops, that is 0. A counter that
-  /// may take nothing is passed, too. What is added in a lower round than before takes its place, so that adding in ascending order
-  /// of rounds looks at no instruction more than twice.
+  /// may take nothing is passed, too. What is added in a lower round than before takes its place, so that adding in
+  /// ascending order of rounds looks at no instruction more than twice.
   void add(Index from, std::uint64_t in_round);
 
   /// The round in which an instruction was reached.

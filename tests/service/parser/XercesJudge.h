@@ -3,7 +3,8 @@
 #include <string>
 #include <string_view>
 
-/// Xerces-C, another parser of XML 1.0, XML 1.1 and their namespaces, as a judge of ours. It reads nothing outside of the document.
+/// Xerces-C, another parser of XML 1.0, XML 1.1 and their namespaces, as a judge of ours. It reads nothing outside of
+/// the document.
 namespace XercesJudge
 {
 /// The events of the document as EventText has them, in `events`. False where it is refused, `events` is then why.
