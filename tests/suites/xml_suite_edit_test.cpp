@@ -11,7 +11,6 @@
 #include <iconv.h>
 #include <iterator>
 #include <random>
-#include <regex>
 #include <string>
 #include <vector>
 
@@ -46,7 +45,26 @@ std::string converted(std::string text, std::string const& from, std::string con
   return is_whole ? made : std::string();
 }
 
-std::regex const declared("^(\xEF\xBB\xBF)?(<\\?xml[^>]*encoding\\s*=\\s*)[\"']([^\"'>]*)[\"']");
+// Where the name of the encoding stands in the XML declaration, without its quotes; an empty range if there is none.
+struct Range
+{
+  std::size_t begin = 0;
+  std::size_t end = 0;
+};
+
+Range declared_encoding(std::string const& bytes)
+{
+  std::size_t const first = begins(bytes, "\xEF\xBB\xBF") ? 3 : 0;
+  std::string const declaration = bytes.substr(first, bytes.find('>') - first);
+  std::size_t const word = declaration.find("encoding");
+  if (!begins(declaration, "<?xml") || word == std::string::npos)
+    return {};
+  std::size_t const quote = declaration.find_first_of("'\"", word);
+  if (quote == std::string::npos)
+    return {};
+  std::size_t const end = declaration.find(declaration[quote], quote + 1);
+  return end == std::string::npos ? Range{} : Range{first + quote + 1, first + end};
+}
 
 std::string encoding_of(std::string const& bytes)
 {
@@ -54,15 +72,15 @@ std::string encoding_of(std::string const& bytes)
     return "UTF-16LE";
   if (begins(bytes, "\xFE\xFF"))
     return "UTF-16BE";
-  std::smatch found;
-  return std::regex_search(bytes, found, declared, std::regex_constants::match_continuous) ? found[3].str() : "UTF-8";
+  Range const name = declared_encoding(bytes);
+  return name.end == 0 ? "UTF-8" : bytes.substr(name.begin, name.end - name.begin);
 }
 
 /// With another encoding in its XML declaration, if it has one there.
-std::string declared_as(std::string const& utf8, std::string const& encoding)
+std::string declared_as(std::string utf8, std::string const& encoding)
 {
-  return std::regex_replace(utf8, declared, "$1$2'" + encoding + "'",
-    std::regex_constants::format_first_only | std::regex_constants::match_continuous);
+  Range const name = declared_encoding(utf8);
+  return name.end == 0 ? utf8 : utf8.replace(name.begin, name.end - name.begin, encoding);
 }
 
 std::size_t edit(axsEditor& editor, std::string const& chosen, unsigned kind)
