@@ -53,7 +53,7 @@ axsName const* axsXPathScopes::declaration_of(std::string_view prefix)
   if (known != declarations.end())
     return known->second;
   axsName const* const declaration = tree.names().find("xmlns:" + std::string(prefix));
-  declarations.emplace(prefix, declaration);
+  declarations.emplace(declaration != nullptr ? declaration->local() : undeclared.emplace_front(prefix), declaration);
   return declaration;
 }
 

@@ -3,6 +3,7 @@
 #include "axsTextHash.h"
 
 #include <cstddef>
+#include <forward_list>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -68,6 +69,8 @@ private:
 
   axsTree& tree;
   axsName const* default_declaration;
+  // By prefixes as the names have them or, where no name declares them, as they are kept here.
   std::unordered_map<std::string_view, axsName const*, axsTextHash> declarations;
+  std::forward_list<std::string> undeclared;
   std::unordered_map<Place, std::string_view, PlaceHash> far_results;
 };

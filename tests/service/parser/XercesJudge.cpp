@@ -3,6 +3,7 @@
 #include "EventText.h"
 
 #include <xercesc/framework/MemBufInputSource.hpp>
+#include <xercesc/framework/MemoryManager.hpp>
 #include <xercesc/sax/EntityResolver.hpp>
 #include <xercesc/sax2/Attributes.hpp>
 #include <xercesc/sax2/DefaultHandler.hpp>
@@ -14,6 +15,7 @@
 #include <xercesc/util/XMLUni.hpp>
 
 #include <memory>
+#include <unordered_set>
 
 namespace
 {
@@ -109,6 +111,27 @@ private:
   bool is_in_doctype = false;
 };
 
+// Gives back what Xerces-C forgets of a document that is wrong.
+class Memory final : public xc::MemoryManager
+{
+public:
+  ~Memory() override
+  {
+    for (void* const block : blocks)
+      ::operator delete(block);
+  }
+  xc::MemoryManager* getExceptionMemoryManager() override { return xc::XMLPlatformUtils::fgMemoryManager; }
+  void* allocate(XMLSize_t size) override { return *blocks.insert(::operator new(size)).first; }
+  void deallocate(void* block) override
+  {
+    blocks.erase(block);
+    ::operator delete(block);
+  }
+
+private:
+  std::unordered_set<void*> blocks;
+};
+
 // The library stands from the first document to the end of the program.
 struct Library
 {
@@ -116,9 +139,9 @@ struct Library
   ~Library() { xc::XMLPlatformUtils::Terminate(); }
 };
 
-std::unique_ptr<xc::SAX2XMLReader> make_reader()
+std::unique_ptr<xc::SAX2XMLReader> make_reader(Memory& memory)
 {
-  std::unique_ptr<xc::SAX2XMLReader> reader(xc::XMLReaderFactory::createXMLReader());
+  std::unique_ptr<xc::SAX2XMLReader> reader(xc::XMLReaderFactory::createXMLReader(&memory));
   reader->setFeature(xc::XMLUni::fgSAX2CoreNameSpaces, true);
   reader->setFeature(xc::XMLUni::fgSAX2CoreNameSpacePrefixes, true);
   reader->setFeature(xc::XMLUni::fgSAX2CoreValidation, false);
@@ -131,7 +154,8 @@ bool XercesJudge::read(std::string_view document, std::string& events)
 {
   static Library const library;
   Taker taker;
-  std::unique_ptr<xc::SAX2XMLReader> const reader = make_reader();
+  Memory memory;
+  std::unique_ptr<xc::SAX2XMLReader> const reader = make_reader(memory);
   reader->setContentHandler(&taker);
   reader->setLexicalHandler(&taker);
   reader->setErrorHandler(&taker);
