@@ -17,7 +17,10 @@ int main(int argc, char** argv)
     for (auto& book : catalog.children("book"))
       std::cout << book.attribute("id", "?") << ": " << book.child_text("title").value_or("?") << '\n';
   else if (catalog.good())
+  {
     std::cerr << argv[1] << ": cannot be read or is no catalogue\n";
+    return 1;
+  }
 
   reader->dump_error(std::cerr);
   return reader->has_error_occurred() ? 1 : 0;
