@@ -45,7 +45,8 @@ were its content, and there must be an XML declaration and no DOCTYPE. Take it f
 files whose form you know.
 
 The exit code is 1 when a document cannot be read to its end: the rows up to there are
-written, and the message says where it stopped and how many rows there are.)";
+written, and the message says where it stopped and how many rows there are. Where there is
+no such record, a message says so, and the exit code is 0.)";
 
 std::string const join = "join=";
 
@@ -105,6 +106,10 @@ int table(TableRequest const& request, std::string const& reader)
     return result;
   if (!output.finish())
     return complain(request.output.empty() ? "standard output" : request.output, output.fault(), exit_bad_input);
+  // A part may well have none; of whole documents it is more often a name that is written wrong.
+  if (result == exit_good && output.rows() == 0 && request.part < 0)
+    return complain(request.files.size() == 1 ? request.files.front() : "table",
+      "there is no record '" + request.path + "'", exit_good);
   return result;
 }
 }

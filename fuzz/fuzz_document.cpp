@@ -1,24 +1,14 @@
 // The engine over any bytes: what loads can be saved, and what was saved loads again as the same document.
 
-#include <axmDocumentFactory.h>
+#include <axmEngineAccess.h>
 #include <axsRegister.h>
 
 #include <cstdint>
 #include <cstdlib>
 
-namespace
-{
-std::shared_ptr<axmDocumentFactory> factory()
-{
-  axs_register();
-  utServiceName resolved;
-  return utService::locate_service<axmDocumentFactory>(utServiceName(ut_lit("XMLService")), resolved);
-}
-}
-
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size)
 {
-  static std::shared_ptr<axmDocumentFactory> const engine = factory();
+  static std::shared_ptr<axmDocumentFactory> const engine = (axs_register(), axm::engine());
 
   axmLoadOptions options(axmValidateNone);
   options.set_entity_expansion_limit(1000);

@@ -1,6 +1,7 @@
 // A run of the conformance suite's model that the bytes choose: documents are made, loaded, edited, searched, saved and
 // loaded again, and every answer of the engine is held to the model's.
 
+#include <axmEngineAccess.h>
 #include <axsRegister.h>
 #include <model/axmModelDraw.h>
 
@@ -10,19 +11,9 @@
 #include <iostream>
 #include <vector>
 
-namespace
-{
-std::shared_ptr<axmDocumentFactory> factory()
-{
-  axs_register();
-  utServiceName resolved;
-  return utService::locate_service<axmDocumentFactory>(utServiceName(ut_lit("XMLService")), resolved);
-}
-}
-
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size)
 {
-  static std::shared_ptr<axmDocumentFactory> const engine = factory();
+  static std::shared_ptr<axmDocumentFactory> const engine = (axs_register(), axm::engine());
 
   // A step takes about so many bytes.
   std::size_t const steps = std::min<std::size_t>(size / 12 + 1, 200);

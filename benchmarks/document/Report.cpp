@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
 #include <iostream>
 
 Report::Report(std::vector<std::string> const& lines) : conditions(lines)
@@ -70,13 +69,7 @@ void Report::limit(Document const& document, Measure measure, Library other, dou
 
 bool Report::write(std::string const& prefix) const
 {
-  std::ofstream table(prefix + ".txt", std::ios::binary);
-  table << text;
-  table.close();
-  std::ofstream picture(prefix + ".svg", std::ios::binary);
-  picture << plot();
-  picture.close();
-  return table.good() && picture.good();
+  return write_report(prefix, text, plot());
 }
 
 // For every document and measure a bar for each of the others, from 1 to its time (or memory) in times of that of axs, on

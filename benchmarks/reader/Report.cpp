@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
 #include <iostream>
 #include <sstream>
 
@@ -37,13 +36,7 @@ void Report::finish()
 {
   if (prefix.empty())
     return;
-  std::ofstream table(prefix + ".txt", std::ios::binary);
-  table << text;
-  table.close();
-  std::ofstream picture(prefix + ".svg", std::ios::binary);
-  picture << plot();
-  picture.close();
-  written = table.good() && picture.good();
+  written = write_report(prefix, text, plot());
   std::cout << "Written: " << prefix << ".txt, " << prefix << ".svg\n";
 }
 

@@ -1,6 +1,7 @@
 #include "writing.h"
 
 #include <cstdio>
+#include <fstream>
 #include <map>
 
 namespace
@@ -75,6 +76,17 @@ std::vector<std::string> fills(std::vector<std::string> const& names)
     result.push_back("fill=\"" + colour(library) + "\" fill-opacity=\"" + number(opacity, 2) + '"');
   }
   return result;
+}
+
+bool write_report(std::string const& prefix, std::string const& table, std::string const& plot)
+{
+  std::ofstream text(prefix + ".txt", std::ios::binary);
+  text << table;
+  text.close();
+  std::ofstream picture(prefix + ".svg", std::ios::binary);
+  picture << plot;
+  picture.close();
+  return text.good() && picture.good();
 }
 
 std::string escaped(std::string const& text)

@@ -27,6 +27,9 @@ std::string headings(std::vector<std::string> const& names, std::size_t indentat
 /// library, and another name of the same one has the colour fainter.
 std::vector<std::string> fills(std::vector<std::string> const& names);
 
+/// Writes PREFIX.txt and PREFIX.svg. Whether both could be written.
+bool write_report(std::string const& prefix, std::string const& table, std::string const& plot);
+
 /// As the text of an SVG element.
 std::string escaped(std::string const& text);
 

@@ -22,35 +22,23 @@ using Kind = axsEditFault::Kind;
 }
 
 // Builds the tree with all its text, and takes down which attributes the document type adds.
-class Loading final : public axsParseHandler
+class Builder final : public axsTreeBuilder
 {
 public:
-  Loading(axsDomDocument& tree, std::unordered_set<axsNode const*>& added) : builder(tree), defaults(added)
+  Builder(axsDomDocument& document, std::unordered_set<axsNode const*>& added)
+    : axsTreeBuilder(document),
+      defaults(added)
   {
-    builder.keep_all_spaces();
-  }
-
-  void declaration(std::string_view version, std::string_view encoding, std::string_view standalone) override
-  {
-    builder.declaration(version, encoding, standalone);
-  }
-  axsName const& name(std::string_view text) override { return builder.name(text); }
-  void doctype(std::shared_ptr<axsDtd const> const& type) override { builder.doctype(type); }
-  void end_element() override { builder.end_element(); }
-  void text(std::string_view text, bool is_cdata) override { builder.text(text, is_cdata); }
-  void comment(std::string_view data) override { builder.comment(data); }
-  void processing_instruction(std::string_view target, std::string_view data) override
-  {
-    builder.processing_instruction(target, data);
+    keep_all_spaces();
   }
 
   void start_element(axsStartTag const& tag) override
   {
-    builder.start_element(tag);
+    axsTreeBuilder::start_element(tag);
     // Defaults are the last ones.
     if (tag.attributes->empty() || tag.attributes->back().is_specified)
       return;
-    axsAttribute const* made = builder.innermost().first_attribute();
+    axsAttribute const* made = innermost().first_attribute();
     for (axsTagAttribute const& attribute : *tag.attributes)
     {
       if (!attribute.is_specified)
@@ -60,7 +48,6 @@ public:
   }
 
 private:
-  axsTreeBuilder builder;
   std::unordered_set<axsNode const*>& defaults;
 };
 
@@ -69,8 +56,8 @@ std::shared_ptr<axmDocument> load(std::string_view bytes, apPath const& file, ax
 {
   std::shared_ptr<axmDocument> document = axsDomDocument::make(apString(file.path()));
   axsMemorySource memory(bytes, file);
-  Loading handler(static_cast<axsDomDocument&>(*axsHandle::node_of(*document)), defaults);
-  axsParser(memory.source(), options, handler).run();
+  Builder builder(static_cast<axsDomDocument&>(*axsHandle::node_of(*document)), defaults);
+  axsParser(memory.source(), options, builder).run();
   return document;
 }
 }

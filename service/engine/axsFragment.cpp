@@ -54,32 +54,25 @@ std::string opening(axsNode const& parent, axsXPathScopes& scopes, std::string_v
 }
 
 // Builds the nodes, and looks at what prefixes mean.
-class Handler final : public axsParseHandler
+class Builder final : public axsTreeBuilder
 {
 public:
-  Handler(axsParent& parent, axsXPathPrefixes const& expected)
-    : builder(axsDomDocument::of(parent), parent),
+  Builder(axsParent& parent, axsXPathPrefixes const& expected)
+    : axsTreeBuilder(axsDomDocument::of(parent), parent),
       prefixes(expected)
   {
-    builder.keep_all_spaces();
+    keep_all_spaces();
   }
 
-  axsName const& name(std::string_view text) override { return builder.name(text); }
-  void doctype(std::shared_ptr<axsDtd const> const&) override {}
-  void end_element() override { builder.end_element(); }
-  void text(std::string_view text, bool is_cdata) override { builder.text(text, is_cdata); }
-  void comment(std::string_view data) override { builder.comment(data); }
-  void processing_instruction(std::string_view target, std::string_view data) override
-  {
-    builder.processing_instruction(target, data);
-  }
+  // That of the text around the fragment is none of the document's.
+  void declaration(std::string_view, std::string_view, std::string_view) override {}
 
   void start_element(axsStartTag const& tag) override
   {
     check(*tag.name, tag.name_space);
     for (axsTagAttribute const& attribute : *tag.attributes)
       check(*attribute.name, attribute.name_space);
-    builder.start_element(tag);
+    axsTreeBuilder::start_element(tag);
   }
 
 private:
@@ -94,7 +87,6 @@ private:
     throw wrong;
   }
 
-  axsTreeBuilder builder;
   axsXPathPrefixes const& prefixes;
 };
 
@@ -118,8 +110,8 @@ std::vector<std::shared_ptr<axmNode>> axsFragment::parse(
   {
     apByteArray const bytes(text.data(), text.size());
     axsSource source(bytes);
-    Handler handler(static_cast<axsParent&>(*axsHandle::node_of(*scratch)), expected);
-    axsParser(source, axmLoadOptions(axmValidateNone), handler).run();
+    Builder builder(static_cast<axsParent&>(*axsHandle::node_of(*scratch)), expected);
+    axsParser(source, axmLoadOptions(axmValidateNone), builder).run();
   }
   catch (axsReadError& wrong)
   {

@@ -14,7 +14,7 @@ class axsTree;
 ///
 /// A text that is white space only is dropped, except where it is exactly one space or the author asked with xml:space for
 /// it to be preserved (XML 1.0, 2.10).
-class axsTreeBuilder final : public axsParseHandler
+class axsTreeBuilder : public axsParseHandler
 {
 public:
   explicit axsTreeBuilder(axsDomDocument& document) noexcept;

@@ -68,6 +68,8 @@ bool operator==(axsRecordPattern::Name const& left, axsRecordPattern::Name const
 std::string axsRecordPattern::complaint(
   std::string_view path, std::vector<std::string> const& columns, Namespaces const& namespaces)
 {
+  if (path.size() > 1 && path.front() == '/')
+    return "the path " + quoted(path) + " begins with '/'; the names from the root to the record stand without one";
   for (std::string_view const name : split(path))
     if (std::string const complaint = complaint_of_name(name, namespaces); !complaint.empty())
       return "the path " + quoted(path) + ' ' + complaint;

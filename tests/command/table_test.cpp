@@ -89,6 +89,14 @@ TEST_F(Table, prefixes_stand_for_the_namespaces_that_are_given)
   EXPECT_EQ(run.out, "1\r\n");
 }
 
+TEST_F(Table, no_record_is_told_and_no_error)
+{
+  ProgramRun const run = table(books, {"books/bok", "@id"});
+  EXPECT_EQ(run.exit_code, 0);
+  EXPECT_EQ(run.out, "");
+  EXPECT_EQ(run.err, "axm: " + document + ": there is no record 'books/bok'\n");
+}
+
 TEST_F(Table, several_documents_make_one_table)
 {
   TemporaryFile const other(name + "_2.xml", "<r><e k='2'/></r>");
@@ -183,6 +191,14 @@ TEST_F(Table, wrong_usage_is_exit_code_2)
   }
   EXPECT_EQ(run_axm(name, {}).exit_code, 2);
   EXPECT_EQ(run_axm(name, {"unknown"}).exit_code, 2);
+}
+
+TEST_F(Table, a_path_that_begins_with_a_slash_is_told_what_to_do)
+{
+  ProgramRun const run = table("<r k='1'/>", {"/r", "@k"});
+  EXPECT_EQ(run.exit_code, 2);
+  EXPECT_EQ(
+    run.err, "axm: table: the path '/r' begins with '/'; the names from the root to the record stand without one\n");
 }
 
 TEST_F(Table, help_has_two_examples)

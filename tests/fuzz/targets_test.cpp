@@ -13,47 +13,27 @@ extern "C"
   int fuzz_xpath(std::uint8_t const* data, std::size_t size);
 }
 
-TEST(FuzzSeeds, have_no_fault_in_fuzz_document)
+namespace
 {
-  EXPECT_GT(replay(fuzz_document, "document"), 0);
+struct Target
+{
+  char const* name;
+  int (*run)(std::uint8_t const* data, std::size_t size);
+};
+
+Target const targets[] = {{"document", fuzz_document}, {"pattern", fuzz_pattern}, {"reader", fuzz_reader},
+  {"scanner", fuzz_scanner}, {"schema", fuzz_schema}, {"tree", fuzz_tree}, {"validation", fuzz_validation},
+  {"walk", fuzz_walk}, {"xpath", fuzz_xpath}};
+
+class FuzzSeeds : public testing::TestWithParam<Target>
+{
+};
 }
 
-TEST(FuzzSeeds, have_no_fault_in_fuzz_pattern)
+TEST_P(FuzzSeeds, have_no_fault)
 {
-  EXPECT_GT(replay(fuzz_pattern, "pattern"), 0);
+  EXPECT_GT(replay(GetParam().run, GetParam().name), 0);
 }
 
-TEST(FuzzSeeds, have_no_fault_in_fuzz_reader)
-{
-  EXPECT_GT(replay(fuzz_reader, "reader"), 0);
-}
-
-TEST(FuzzSeeds, have_no_fault_in_fuzz_scanner)
-{
-  EXPECT_GT(replay(fuzz_scanner, "scanner"), 0);
-}
-
-TEST(FuzzSeeds, have_no_fault_in_fuzz_schema)
-{
-  EXPECT_GT(replay(fuzz_schema, "schema"), 0);
-}
-
-TEST(FuzzSeeds, have_no_fault_in_fuzz_tree)
-{
-  EXPECT_GT(replay(fuzz_tree, "tree"), 0);
-}
-
-TEST(FuzzSeeds, have_no_fault_in_fuzz_validation)
-{
-  EXPECT_GT(replay(fuzz_validation, "validation"), 0);
-}
-
-TEST(FuzzSeeds, have_no_fault_in_fuzz_walk)
-{
-  EXPECT_GT(replay(fuzz_walk, "walk"), 0);
-}
-
-TEST(FuzzSeeds, have_no_fault_in_fuzz_xpath)
-{
-  EXPECT_GT(replay(fuzz_xpath, "xpath"), 0);
-}
+INSTANTIATE_TEST_SUITE_P(Targets, FuzzSeeds, testing::ValuesIn(targets),
+  [](testing::TestParamInfo<Target> const& target) { return std::string(target.param.name); });

@@ -87,6 +87,16 @@ TEST(axsLoading_fragment, prefixes_mean_what_they_mean_in_the_context)
   EXPECT_FALSE(error.invalid());
 }
 
+TEST(axsLoading_fragment, the_declaration_of_its_document_stays)
+{
+  std::string const start = "<?xml version=\"1.1\" encoding=\"UTF-8\" standalone=\"yes\"?>\n";
+  axmParseError error;
+  auto const document = axsLoading::with_spaces(bytes(start + "<r/>"), axmLoadOptions(), error);
+  ASSERT_NE(document, nullptr) << narrow(error.message());
+  put(document->getDocumentElement(), "<b/>");
+  EXPECT_EQ(saved(document), start + "<r><b/></r>\n");
+}
+
 TEST(axsLoading_fragment, what_is_wrong_is_told_with_its_place_in_it)
 {
   EXPECT_NE(put("<r xmlns:p='urn:p'/>", "<p:a>\n</b>").find("(2:3)"), std::string::npos)

@@ -1,6 +1,6 @@
 #include "ExpatJudge.h"
 
-#include "EventText.h"
+#include "EventPieces.h"
 
 #include <expat.h>
 
@@ -23,7 +23,7 @@ std::string name_of(std::string_view expanded)
   return std::string(expanded.substr(prefix + 1)) + ':' + std::string(expanded.substr(local + 1, prefix - local - 1));
 }
 
-// Takes down what expat tells, with texts that follow each other in one.
+// Takes down what expat tells: what is bound comes before the element that binds it.
 class Taker
 {
 public:
@@ -33,61 +33,27 @@ public:
   }
   void start(XML_Char const* name, XML_Char const** given)
   {
-    end_text();
     std::vector<EventText::Attribute> attributes;
     attributes.swap(bound);
     for (; *given != nullptr; given += 2)
       attributes.emplace_back(name_of(given[0]), given[1]);
-    taken.start(name_of(name), std::move(attributes));
+    events.start(name_of(name), std::move(attributes));
   }
-  void end()
-  {
-    end_text();
-    taken.end();
-  }
-  void text(std::string_view piece) { pending += piece; }
-  void start_cdata() { end_text(); }
-  void end_cdata()
-  {
-    taken.cdata(pending);
-    pending.clear();
-  }
-  // Those of the document type are no events of ours.
-  void comment(XML_Char const* data)
-  {
-    if (is_in_doctype)
-      return;
-    end_text();
-    taken.comment(data);
-  }
-  void instruction(XML_Char const* target, XML_Char const* data)
-  {
-    if (is_in_doctype)
-      return;
-    end_text();
-    taken.instruction(target, data);
-  }
-  void doctype(bool begins) { is_in_doctype = begins; }
 
-  std::string const& all() const noexcept { return taken.all(); }
+  EventPieces events;
 
 private:
-  void end_text()
-  {
-    if (!pending.empty())
-      taken.text(pending);
-    pending.clear();
-  }
-
-  EventText taken;
   std::vector<EventText::Attribute> bound;
-  std::string pending;
-  bool is_in_doctype = false;
 };
 
 Taker& taker_of(void* data)
 {
   return *static_cast<Taker*>(data);
+}
+
+EventPieces& events_of(void* data)
+{
+  return taker_of(data).events;
 }
 
 void listen(XML_ParserStruct& parser, Taker& taker)
@@ -100,17 +66,18 @@ void listen(XML_ParserStruct& parser, Taker& taker)
   XML_SetElementHandler(
     &parser,
     [](void* data, XML_Char const* name, XML_Char const** attributes) { taker_of(data).start(name, attributes); },
-    [](void* data, XML_Char const*) { taker_of(data).end(); });
+    [](void* data, XML_Char const*) { events_of(data).end(); });
   XML_SetCharacterDataHandler(&parser, [](void* data, XML_Char const* text, int length)
-    { taker_of(data).text(std::string_view(text, static_cast<std::size_t>(length))); });
+    { events_of(data).text(std::string_view(text, static_cast<std::size_t>(length))); });
   XML_SetCdataSectionHandler(
-    &parser, [](void* data) { taker_of(data).start_cdata(); }, [](void* data) { taker_of(data).end_cdata(); });
-  XML_SetCommentHandler(&parser, [](void* data, XML_Char const* text) { taker_of(data).comment(text); });
+    &parser, [](void* data) { events_of(data).start_cdata(); }, [](void* data) { events_of(data).end_cdata(); });
+  XML_SetCommentHandler(&parser, [](void* data, XML_Char const* text) { events_of(data).comment(text); });
   XML_SetProcessingInstructionHandler(&parser,
-    [](void* data, XML_Char const* target, XML_Char const* text) { taker_of(data).instruction(target, text); });
+    [](void* data, XML_Char const* target, XML_Char const* text) { events_of(data).instruction(target, text); });
   XML_SetDoctypeDeclHandler(
-    &parser, [](void* data, XML_Char const*, XML_Char const*, XML_Char const*, int) { taker_of(data).doctype(true); },
-    [](void* data) { taker_of(data).doctype(false); });
+    &parser,
+    [](void* data, XML_Char const*, XML_Char const*, XML_Char const*, int) { events_of(data).start_doctype(); },
+    [](void* data) { events_of(data).end_doctype(); });
 }
 }
 
@@ -125,6 +92,6 @@ bool ExpatJudge::read(std::string_view document, std::string& events)
     events = XML_ErrorString(XML_GetErrorCode(parser.get()));
     return false;
   }
-  events = taker.all();
+  events = taker.events.all();
   return true;
 }

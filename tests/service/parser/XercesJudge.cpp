@@ -1,6 +1,6 @@
 #include "XercesJudge.h"
 
-#include "EventText.h"
+#include "EventPieces.h"
 
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/framework/MemoryManager.hpp>
@@ -44,47 +44,28 @@ public:
   }
 };
 
-// Takes down what Xerces-C tells, with texts that follow each other in one.
+// Takes down what Xerces-C tells.
 class Taker final : public xc::DefaultHandler
 {
 public:
   void startElement(XMLCh const*, XMLCh const*, XMLCh const* name, xc::Attributes const& given) override
   {
-    end_text();
     std::vector<EventText::Attribute> attributes;
     for (XMLSize_t i = 0; i < given.getLength(); ++i)
       attributes.emplace_back(text_of(given.getQName(i)), text_of(given.getValue(i)));
-    taken.start(text_of(name), std::move(attributes));
+    events.start(text_of(name), std::move(attributes));
   }
-  void endElement(XMLCh const*, XMLCh const*, XMLCh const*) override
-  {
-    end_text();
-    taken.end();
-  }
-  void characters(XMLCh const* text, XMLSize_t length) override { pending += text_of(text, length); }
+  void endElement(XMLCh const*, XMLCh const*, XMLCh const*) override { events.end(); }
+  void characters(XMLCh const* text, XMLSize_t length) override { events.text(text_of(text, length)); }
   void ignorableWhitespace(XMLCh const* text, XMLSize_t length) override { characters(text, length); }
-  void startCDATA() override { end_text(); }
-  void endCDATA() override
-  {
-    taken.cdata(pending);
-    pending.clear();
-  }
-  void startDTD(XMLCh const*, XMLCh const*, XMLCh const*) override { is_in_doctype = true; }
-  void endDTD() override { is_in_doctype = false; }
-  // Those of the document type are no events of ours.
-  void comment(XMLCh const* text, XMLSize_t length) override
-  {
-    if (is_in_doctype)
-      return;
-    end_text();
-    taken.comment(text_of(text, length));
-  }
+  void startCDATA() override { events.start_cdata(); }
+  void endCDATA() override { events.end_cdata(); }
+  void startDTD(XMLCh const*, XMLCh const*, XMLCh const*) override { events.start_doctype(); }
+  void endDTD() override { events.end_doctype(); }
+  void comment(XMLCh const* text, XMLSize_t length) override { events.comment(text_of(text, length)); }
   void processingInstruction(XMLCh const* target, XMLCh const* data) override
   {
-    if (is_in_doctype)
-      return;
-    end_text();
-    taken.instruction(text_of(target), text_of(data));
+    events.instruction(text_of(target), text_of(data));
   }
 
   void error(xc::SAXParseException const& error) override { fatalError(error); }
@@ -94,21 +75,12 @@ public:
       refusal = text_of(error.getMessage());
   }
 
-  std::string const& all() const noexcept { return taken.all(); }
+  std::string const& all() const noexcept { return events.all(); }
   std::string const& why_refused() const noexcept { return refusal; }
 
 private:
-  void end_text()
-  {
-    if (!pending.empty())
-      taken.text(pending);
-    pending.clear();
-  }
-
-  EventText taken;
-  std::string pending;
+  EventPieces events;
   std::string refusal;
-  bool is_in_doctype = false;
 };
 
 // Gives back what Xerces-C forgets of a document that is wrong.

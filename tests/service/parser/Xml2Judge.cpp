@@ -1,6 +1,6 @@
 #include "Xml2Judge.h"
 
-#include "EventText.h"
+#include "EventPieces.h"
 
 #include <libxml/parser.h>
 #include <libxml/tree.h>
@@ -59,30 +59,29 @@ public:
     return true;
   }
 
-  std::string const& all() const noexcept { return taken.all(); }
+  std::string const& all() const noexcept { return events.all(); }
 
 private:
   bool begin(xmlNode const& node)
   {
-    if (node.type == XML_TEXT_NODE)
-    {
-      pending += text_of(node.content);
-      return true;
-    }
-    end_text();
     switch (node.type)
     {
+    case XML_TEXT_NODE:
+      events.text(text_of(node.content));
+      return true;
     case XML_ELEMENT_NODE:
       start(node);
       return true;
     case XML_CDATA_SECTION_NODE:
-      taken.cdata(text_of(node.content));
+      events.start_cdata();
+      events.text(text_of(node.content));
+      events.end_cdata();
       return true;
     case XML_COMMENT_NODE:
-      taken.comment(text_of(node.content));
+      events.comment(text_of(node.content));
       return true;
     case XML_PI_NODE:
-      taken.instruction(text_of(node.name), text_of(node.content));
+      events.instruction(text_of(node.name), text_of(node.content));
       return true;
     default:
       // What is left of a reference to an entity was not expanded.
@@ -101,26 +100,16 @@ private:
       std::unique_ptr<xmlChar, Free> const value(xmlNodeGetContent(reinterpret_cast<xmlNode const*>(at)));
       attributes.emplace_back(name_of(at->ns, at->name), text_of(value.get()));
     }
-    taken.start(name_of(element.ns, element.name), std::move(attributes));
+    events.start(name_of(element.ns, element.name), std::move(attributes));
   }
 
   void end(xmlNode const& node)
   {
-    if (node.type != XML_ELEMENT_NODE)
-      return;
-    end_text();
-    taken.end();
+    if (node.type == XML_ELEMENT_NODE)
+      events.end();
   }
 
-  void end_text()
-  {
-    if (!pending.empty())
-      taken.text(pending);
-    pending.clear();
-  }
-
-  EventText taken;
-  std::string pending;
+  EventPieces events;
 };
 }
 
