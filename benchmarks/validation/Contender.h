@@ -28,5 +28,6 @@ std::unique_ptr<Contender> make_libxml2_stream(std::string const& schema);
 bool compile_with_axs(std::string const& schema);
 bool compile_with_libxml2(std::string const& schema);
 
-// Xerces-C, its SAX parser with a grammar that is kept.
-std::unique_ptr<Contender> make_xerces(std::string const& schema);
+// Xerces-C with a grammar that is kept: a tree that is validated on the way, and its SAX parser, which makes none.
+std::unique_ptr<Contender> make_xerces_dom(std::string const& schema);
+std::unique_ptr<Contender> make_xerces_sax(std::string const& schema);

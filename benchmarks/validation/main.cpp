@@ -34,7 +34,7 @@ struct Way
 
 Way const ways[] = {{"axs, load", make_axs_load}, {"axs, validated load", make_axs_validated_load},
   {"axs, check", make_axs_check}, {"libxml2, tree", make_libxml2_tree}, {"libxml2, stream", make_libxml2_stream},
-  {"Xerces-C, SAX", make_xerces}};
+  {"Xerces-C, tree", make_xerces_dom}, {"Xerces-C, SAX", make_xerces_sax}};
 
 bool measure(Made const& made, int rounds)
 {

@@ -11,10 +11,11 @@ namespace
 // Of the system. Where pages come in as much at a time, the system gives them at once if they stand at such a place.
 std::size_t const large_page = 2u << 20;
 
-std::size_t const smallest = 256 * 1024;
+// From here on the heap has each block from the system, and gives it back at once.
+std::size_t const smallest = 128 * 1024;
 
 // Of each size one, twice as large as the one before.
-std::atomic<char*> kept[5];
+std::atomic<char*> kept[6];
 std::atomic<bool> is_closed{false};
 
 std::align_val_t alignment_of(std::size_t size) noexcept

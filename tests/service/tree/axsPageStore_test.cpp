@@ -28,7 +28,7 @@ TEST(axsPageStore, gives_blocks_at_multiples_of_their_unit)
 
 TEST(axsPageStore, gives_again_what_came_back_last)
 {
-  for (std::size_t const size : {256 * kibibyte, 1024 * kibibyte, 4096 * kibibyte})
+  for (std::size_t const size : {128 * kibibyte, 1024 * kibibyte, 4096 * kibibyte})
   {
     axsPageStore::Block const one = axsPageStore::take(size);
     axsPageStore::Block const other = axsPageStore::take(size);
@@ -49,7 +49,7 @@ TEST(axsPageStore, gives_again_what_came_back_last)
 
 TEST(axsPageStore, keeps_no_small_blocks_and_no_larger_ones)
 {
-  for (std::size_t const size : {16 * kibibyte, 128 * kibibyte, 8192 * kibibyte})
+  for (std::size_t const size : {16 * kibibyte, 64 * kibibyte, 8192 * kibibyte})
   {
     axsPageStore::give_back(axsPageStore::take(size).memory, size);
     axsPageStore::Block const block = axsPageStore::take(size);
