@@ -74,6 +74,12 @@ public:
   /// Those that are zero or no ASCII.
   Found is_zero_or_non_ascii() const noexcept { return Found((~((bytes & low) + low) | bytes) & high); }
 
+  /// Those that are `c` or a larger byte; `c` is no ASCII.
+  Found is_at_least(char c) const noexcept
+  {
+    return Found(((bytes & low) + each * (0x100u - static_cast<unsigned char>(c))) & bytes & high);
+  }
+
 private:
   static constexpr std::uint64_t each = 0x0101010101010101;
   static constexpr std::uint64_t low = each * 0x7F;
@@ -125,6 +131,11 @@ public:
   // Compared as signed numbers, what is no ASCII is less than 0.
   Found is_control_or_non_ascii() const noexcept { return Found(_mm_cmplt_epi8(bytes, _mm_set1_epi8(0x20))); }
   Found is_zero_or_non_ascii() const noexcept { return Found(_mm_cmplt_epi8(bytes, _mm_set1_epi8(1))); }
+
+  Found is_at_least(char c) const noexcept
+  {
+    return Found(_mm_cmpeq_epi8(_mm_max_epu8(bytes, _mm_set1_epi8(c)), bytes));
+  }
 
   Found is_control() const noexcept { return Found(_mm_cmpeq_epi8(_mm_min_epu8(bytes, _mm_set1_epi8(0x1F)), bytes)); }
 

@@ -246,6 +246,12 @@ axsInputStack::Special axsInputStack::pass_special(char const*& p)
   }
   if (is_ascii(*p))
     unexpected(p, "");
+  // Most scans stop at no other character beyond ASCII, and at these for nothing: all full-width punctuation is there.
+  if (*p == axsCharacters::lead_of_last_characters && !xml_1_1 && !axsCharacters::is_last_character(p))
+  {
+    p += 3;
+    return Special::characters;
+  }
   return pass_multibyte(p);
 }
 

@@ -140,6 +140,12 @@ char const* end_of_text(char const* at)
 /// With this byte begins what is well-formed UTF-8 but may be no character of XML (2.2, [2] Char): U+FFFE and U+FFFF.
 inline constexpr char lead_of_last_characters = '\xEF';
 
+/// Whether it is one of the two that stands at `at`, where such a byte does.
+inline bool is_last_character(char const* at)
+{
+  return at[1] == '\xBF' && static_cast<unsigned char>(at[2]) >= 0xBE;
+}
+
 /// The same in well-formed UTF-8, and beyond ASCII only those that begin with `lead_of_last_characters`.
 template <class Block, char... stops>
 char const* end_of_utf8_text(char const* at)

@@ -75,6 +75,13 @@ TYPED_TEST(apByteBlock_, finds_zeros_and_what_is_no_ascii)
     [](char c) { return c == '\0' || static_cast<unsigned char>(c) >= 0x80; });
 }
 
+TYPED_TEST(apByteBlock_, finds_what_is_beyond_ascii_from_a_byte_on)
+{
+  for (char const least : {'\x80', '\x90', '\xA0', '\xC0', '\xF5', '\xFF'})
+    expect_everywhere<TypeParam>([=](TypeParam const& block) { return block.is_at_least(least); },
+      [=](char c) { return static_cast<unsigned char>(c) >= static_cast<unsigned char>(least); });
+}
+
 TYPED_TEST(apByteBlock_, finds_some_without_others)
 {
   expect_everywhere<TypeParam>([](TypeParam const& block)

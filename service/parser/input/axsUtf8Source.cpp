@@ -2,8 +2,8 @@
 
 #include "axsDecoder.h"
 #include "axsSource.h"
+#include "axsUtf8Scan.h"
 
-#include <apByteBlock.h>
 #include <apStringFormatter.h>
 #include <utUtf8.h>
 
@@ -21,63 +21,27 @@ std::unique_ptr<axsDecoder> make_decoder(std::string const& name)
   return is_utf8 ? nullptr : axsDecoder::make(name);
 }
 
-// The first byte from `at` on that is zero or no ASCII.
-char const* end_of_ascii(char const* at, char const* end)
-{
-  auto const size = static_cast<std::ptrdiff_t>(apByteBlock::size);
-  auto const special = [](char const* block) { return apByteBlock(block).is_zero_or_non_ascii(); };
-  while (
-    end - at >= 4 * size && !(special(at) | special(at + size) | special(at + 2 * size) | special(at + 3 * size)).any())
-    at += 4 * size;
-  for (; end - at >= size; at += size)
-    if (auto const found = special(at); found.any())
-      return at + found.first();
-  return std::find_if_not(at, end, [](char c) { return c != '\0' && utUtf8::is_ascii(c); });
-}
-
-// Moves past characters of two and three bytes, which are nearly all beyond ASCII. Stops at the latest where a character
-// might not be whole before `end`.
-char const* end_of_usual(char const* at, char const* end)
-{
-  using utUtf8::is_continuation;
-  while (end - at >= 3)
-  {
-    auto const first = static_cast<unsigned char>(at[0]);
-    auto const second = static_cast<unsigned char>(at[1]);
-    if (first >= 0xC2 && first < 0xE0 && is_continuation(at[1]))
-      at += 2;
-    // Second bytes below have a shorter form; those above make a surrogate.
-    else if (first >= 0xE0 && first < 0xF0 && is_continuation(at[1]) && is_continuation(at[2]) &&
-             (first != 0xE0 || second >= 0xA0) && (first != 0xED || second < 0xA0))
-      at += 3;
-    else
-      break;
-  }
-  return at;
-}
-
 // How many bytes at the beginning are whole characters, and no zero bytes.
-std::size_t size_of_text(std::string_view bytes, bool is_ascii)
+std::size_t size_of_utf8(std::string_view bytes)
 {
-  char const* const begin = bytes.data();
-  char const* const end = begin + bytes.size();
-  char const* at = end_of_ascii(begin, end);
-  while (at != end && *at != '\0' && !is_ascii)
+  char const* const end = bytes.data() + bytes.size();
+  char const* at = axsUtf8Scan::skip(bytes.data(), end);
+  // What is left is less than a chunk, or the first thing that is wrong comes soon.
+  while (at != end && *at != '\0')
   {
-    at = end_of_usual(at, end);
-    if (at == end)
-      break;
-    if (utUtf8::is_ascii(*at))
-    {
-      at = end_of_ascii(at, end);
-      continue;
-    }
     utCodePoint const character = utUtf8::decode(at, end);
     if (!character.is_valid())
       break;
     at += character.length;
   }
-  return static_cast<std::size_t>(at - begin);
+  return static_cast<std::size_t>(at - bytes.data());
+}
+
+std::size_t size_of_ascii(std::string_view bytes)
+{
+  auto const end =
+    std::find_if_not(bytes.begin(), bytes.end(), [](char c) { return c != '\0' && utUtf8::is_ascii(c); });
+  return static_cast<std::size_t>(end - bytes.begin());
 }
 
 bool may_go_on(std::string_view part)
@@ -119,7 +83,7 @@ std::size_t axsUtf8Source::read_utf8(char* to, std::size_t room)
     std::size_t const count = source.read(to + before, room - before);
     at_end = count == 0;
     std::string_view const text(to, before + count);
-    std::size_t const size = size_of_text(text, found.name == "US-ASCII");
+    std::size_t const size = found.name == "US-ASCII" ? size_of_ascii(text) : size_of_utf8(text);
     std::string_view const part = text.substr(size);
     bool const goes_on = !part.empty() && !at_end && may_go_on(part);
     rest.assign(part.begin(), goes_on ? part.end() : part.begin());

@@ -24,9 +24,10 @@ std::vector<std::string> const parts = {"<", ">", "/>", "</", "<!--", "-->", "--
   "<?", "?>", "?", "&", ";", "&lt;", "&amp;", "&#", "&#x", "&#65;", "&#xD;", "&#0;", "&e;", "'", "\"", "=", " ", "\t",
   "\n", "\r", "\r\n", ":", "xmlns", "xmlns:", "xml", "p:", "q:", " a='1'", " p:b='1'", " xmlns:p='u'", " xmlns:q='u'",
   " xmlns=''", "<a>", "</a>", "<b/>", "\xC3\xA4", "\xC3", "\xA4", "\xE2\x82\xAC", "\xED\xA0\x80", "\xEF\xBF\xBE",
-  "\xC2\xB7", "\xEF\xBB\xBF", "\x01", std::string(1, '\0'), "\x7F", "<!DOCTYPE r>", "<!DOCTYPE r SYSTEM 's'>", "[]",
-  "SYSTEM", "PUBLIC", "|", ",", "*", "(", ")", "#PCDATA", "#FIXED ", "#IMPLIED", " a CDATA '2'", " b NMTOKEN '  3 '",
-  "<!ATTLIST r ", "<!ELEMENT r ", "<!ENTITY e 'x'>", "%", "<?xml version='1.0'?>", " standalone='yes'", "version", "1"};
+  "\xEF\xBC\x8C", "\xC2\xB7", "\xEF\xBB\xBF", "\x01", std::string(1, '\0'), "\x7F", "<!DOCTYPE r>",
+  "<!DOCTYPE r SYSTEM 's'>", "[]", "SYSTEM", "PUBLIC", "|", ",", "*", "(", ")", "#PCDATA", "#FIXED ", "#IMPLIED",
+  " a CDATA '2'", " b NMTOKEN '  3 '", "<!ATTLIST r ", "<!ELEMENT r ", "<!ENTITY e 'x'>", "%", "<?xml version='1.0'?>",
+  " standalone='yes'", "version", "1"};
 }
 
 std::string MutatedDocuments::next()

@@ -57,6 +57,8 @@ TEST(axsParser_errors, rule_2_2_2_char)
     {"<?p \x04?><a/>", "1:6 invalid character 0x4"},
     {"<a><![CDATA[\x05]]></a>", "1:14 invalid character 0x5"},
     {"<a>\xEF\xBF\xBE</a>", "1:5 invalid character 0xFFFE"},
+    {"<a>\xEF\xBC\x8C\xEF\xBF\xBF</a>", "1:6 invalid character 0xFFFF"},
+    {"<a b='\xEF\xBC\x8C\xEF\xBF\xBE'/>", "1:9 invalid character 0xFFFE"},
     {"<!DOCTYPE a [<!ENTITY e '\x06'>]><a/>", "1:27 invalid character 0x6"},
     {"<a\x07/>", "1:4 invalid character 0x7"},
   });

@@ -60,7 +60,7 @@ bool may_be_declared_elsewhere(std::string const& document, BothRoads const& roa
 bool has_new_name_characters(std::string const& document)
 {
   return document.find("\xEF\xBB\xBF", 1) != std::string::npos || has(document, "\xE2\x82\xAC") ||
-         has(document, "\xF0\x9D\x84\x9E");
+         has(document, "\xF0\x9D\x84\x9E") || has(document, "\xEF\xBC\x8C");
 }
 
 // It is no version number, but the judge does not look.
@@ -119,6 +119,8 @@ std::vector<Judge> const judges = {
         { return has(roads.refusal(), "is not UTF-8") && static_cast<unsigned char>(document.back()) >= 0x80; }},
       {"looks at no character of a system identifier", [](std::string const& document, BothRoads const& roads)
         { return has(roads.refusal(), "invalid character") && has(document, "<!DOCTYPE"); }},
+      {"looks at no character of a version", [](std::string const& document, BothRoads const& roads)
+        { return has(roads.refusal(), "invalid character") && has(document.substr(0, document.find("?>")), "\x01"); }},
       {"wants no white space after a literal of a declaration", [](std::string const& document, BothRoads const& roads)
         { return has(roads.refusal(), "white space is missing here") && has(document, "<!DOCTYPE"); }},
       {"leaves values of an enumeration as they are, and takes line ends out of other tokens",
