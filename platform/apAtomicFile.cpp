@@ -1,34 +1,18 @@
 #include "apAtomicFile.h"
 
+#include "apEntropy.h"
 #include "apHeldSignals.h"
 #include "apNativeFile.h"
 
 #include <array>
 #include <cerrno>
-#include <chrono>
 #include <cstdint>
-#include <exception>
 #include <memory>
-#include <random>
 #include <utility>
 
 namespace
 {
 using Stream = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
-
-std::uint64_t draw()
-{
-  try
-  {
-    std::random_device device;
-    return static_cast<std::uint64_t>(device()) << 32 | device();
-  }
-  catch (std::exception const&)
-  {
-    // A name that somebody else has is tried again, with another time.
-    return static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
-  }
-}
 
 // A name beside the target, so that renaming does not cross file systems; short, for the target's may be as long as the
 // system takes.
@@ -36,7 +20,7 @@ utString name_beside(utString const& target)
 {
   char const characters[] = "abcdefghijklmnopqrstuvwxyz234567";
   char name[] = "/.ax----------.tmp";
-  std::uint64_t random = draw();
+  std::uint64_t random = apEntropy::draw();
   for (char& c : name)
     if (c == '-')
     {

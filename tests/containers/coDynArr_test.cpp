@@ -4,6 +4,7 @@
 #include <utAnycoPageArrINTERNALcoDynArr.h>
 
 #include <climits>
+#include <cstdint>
 #include <gtest/gtest.h>
 #include <type_traits>
 
@@ -137,6 +138,18 @@ TEST(coDynArr, huge_first_capacity_does_not_keep_it_from_growing)
   EXPECT_EQ(array.capacity(), 1);
   ASSERT_TRUE(array.set_count(2));
   EXPECT_EQ(array.capacity(), 2);
+}
+
+TEST(coDynArr, a_size_that_no_number_says_is_a_result_and_changes_nothing)
+{
+  struct Page
+  {
+    char bytes[SIZE_MAX / INT_MAX * 4];
+  };
+  coDynArr<Page> array;
+  EXPECT_FALSE(array.set_count(INT_MAX / 2));
+  EXPECT_EQ(array.count(), 0);
+  EXPECT_EQ(array.capacity(), 0);
 }
 
 TEST(coDynArr, room_that_is_not_to_be_had_is_a_result_and_changes_nothing)

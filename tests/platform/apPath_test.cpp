@@ -5,6 +5,7 @@
 
 #include <cstdio>
 #include <gtest/gtest.h>
+#include <sstream>
 #include <string>
 
 namespace
@@ -28,6 +29,13 @@ TEST(apPath, path_is_the_narrow_text_it_was_made_from)
   EXPECT_EQ(apPath("dir/\xD1\x84.xml").path(), utString("dir/\xD1\x84.xml"));
   EXPECT_EQ(apPath(utString("dir/a.xml")).path(), utString("dir/a.xml"));
   EXPECT_FALSE(apPath("a").empty());
+}
+
+TEST(apPath, is_written_to_a_stream_as_its_path)
+{
+  std::ostringstream out;
+  out << apPath("dir/\xD1\x84.xml");
+  EXPECT_EQ(out.str(), "dir/\xD1\x84.xml");
 }
 
 TEST(apPath, path_of_wide_text_is_UTF_8)

@@ -67,6 +67,7 @@ TEST(apStringFormatter, lengths)
   EXPECT_EQ(formatted(L"%lld %llu", LLONG_MIN, ULLONG_MAX), L"-9223372036854775808 18446744073709551615");
   EXPECT_EQ(formatted(L"%jd %ju", INTMAX_MIN, UINTMAX_MAX), L"-9223372036854775808 18446744073709551615");
   EXPECT_EQ(formatted(L"%zu %td", static_cast<std::size_t>(7), static_cast<std::ptrdiff_t>(-7)), L"7 -7");
+  EXPECT_EQ(formatted(L"%zd %tu", static_cast<std::ptrdiff_t>(-7), static_cast<std::size_t>(7)), L"-7 7");
   EXPECT_EQ(formatted(L"%lf", 1.5), L"1.500000");
 }
 
@@ -160,6 +161,11 @@ TEST(apStringFormatter, precision_without_a_number_is_0)
   EXPECT_EQ(formatted(L"%.s|", L"abc"), L"|");
 }
 
+TEST(apStringFormatter, precision_of_more_digits_than_a_number_has_takes_all)
+{
+  EXPECT_EQ(formatted(L"%.99999999999999999999s|", L"abc"), L"abc|");
+}
+
 TEST(apStringFormatter, arguments_are_taken_in_order)
 {
   EXPECT_EQ(formatted(L"%d %s %.1f %c %u", -1, L"two", 3.5, L'4', 5u), L"-1 two 3.5 4 5");
@@ -175,7 +181,8 @@ TEST(apStringFormatter, unknown_directive_stands_as_it_is_with_all_after_it)
 
 TEST(apStringFormatter, length_that_makes_no_sense_is_unknown)
 {
-  for (wchar_t const* const pattern : {L"%lhd", L"%hld", L"%jjd", L"%lls", L"%hc", L"%hf", L"%lp", L"%l%", L"%Lf"})
+  for (wchar_t const* const pattern :
+    {L"%lhd", L"%hld", L"%jjd", L"%hhhd", L"%lls", L"%hc", L"%hf", L"%lp", L"%l%", L"%Lf"})
     EXPECT_EQ(formatted(pattern, 1), pattern);
 }
 

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <gtest/gtest.h>
 #include <random>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -252,6 +253,13 @@ TEST(apString_utf8, empty_text_is_empty_both_ways)
 {
   EXPECT_TRUE(apString::from_utf8({}).empty());
   EXPECT_EQ(apString().to_utf8(), utString(""));
+}
+
+TEST(apString_utf8, is_what_a_stream_gets)
+{
+  std::ostringstream out;
+  out << apString(L"\u0444 \u65E5");
+  EXPECT_EQ(out.str(), "\xD1\x84 \xE6\x97\xA5");
 }
 
 TEST(apString_utf8, unpaired_surrogates_become_replacements)

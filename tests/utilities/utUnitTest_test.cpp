@@ -254,6 +254,19 @@ TEST(utUnitTestCounter, counts_for_each_class_and_group)
   EXPECT_EQ(names, (Lines{"A", "A::one", "A::two", "B", "B::one"}));
 }
 
+TEST(utUnitTestCounter, counts_a_check_outside_of_a_class_once_and_no_text)
+{
+  utUnitTestCounter counter;
+  utUnitTest tester;
+  tester.add_listener(counter);
+  tester.printf("text");
+  report(tester, true, "", "main");
+  tester.finish();
+  EXPECT_EQ(counter.total().passed, 1);
+  EXPECT_EQ(counter.of("main").passed, 1);
+  EXPECT_EQ(counter.size(), 1);
+}
+
 TEST(utUnitTestConsole, writes_failures_counts_and_the_closing_line)
 {
   std::string const text = written_by<utUnitTestConsole>(
@@ -277,6 +290,40 @@ TEST(utUnitTestConsole, writes_failures_counts_and_the_closing_line)
                   "  A::two: 1 failed\n"
                   "B: 1 passed, 0 failed\n"
                   "2 passed, 1 failed\n");
+}
+
+TEST(utUnitTestConsole, each_text_of_a_check_has_lines_of_its_own)
+{
+  std::string const text = written_by<utUnitTestConsole>(
+    [](utUnitTest& tester)
+    {
+      tester.printf("one");
+      tester.printf("two\n");
+      tester.printf("three");
+      report(tester, false, "bad", "A::two");
+    });
+  EXPECT_NE(text.find("  at suite:3\n  one\n  two\n  three\n"), std::string::npos) << text;
+}
+
+TEST(utUnitTestJunit, each_text_of_a_check_has_lines_of_its_own)
+{
+  std::string const text = written_by<utUnitTestJunit>(
+    [](utUnitTest& tester)
+    {
+      tester.printf("one");
+      tester.printf("two\n");
+      tester.printf("three");
+      report(tester, false, "bad", "A::two");
+    });
+  EXPECT_NE(text.find(">suite:3&#10;one&#10;two&#10;three</failure>"), std::string::npos) << text;
+}
+
+TEST(utUnitTestJunit, a_check_outside_of_a_class_is_a_suite_of_its_own)
+{
+  std::string const text =
+    written_by<utUnitTestJunit>([](utUnitTest& tester) { report(tester, true, "fine", "main"); });
+  EXPECT_NE(text.find("<testsuite name=\"main\" tests=\"1\""), std::string::npos) << text;
+  EXPECT_NE(text.find("<testcase classname=\"main\" name=\"main: fine\"/>"), std::string::npos) << text;
 }
 
 TEST(utUnitTestJunit, writes_a_suite_for_each_class_and_a_case_for_each_check)
@@ -314,7 +361,7 @@ TEST(utUnitTestJunit, what_xml_cannot_hold_is_replaced)
     return text.substr(start, text.find('"', start) - start);
   };
   EXPECT_EQ(name_written_for("\xC3\xA4 \xE2\x82\xAC \xF0\x9F\x98\x80"), "\xC3\xA4 \xE2\x82\xAC \xF0\x9F\x98\x80");
-  EXPECT_EQ(name_written_for("tab\tline\n"), "tab&#9;line&#10;");
+  EXPECT_EQ(name_written_for("tab\tline\nreturn\r"), "tab&#9;line&#10;return&#13;");
   std::string const replaced = "\xEF\xBF\xBD";
   EXPECT_EQ(name_written_for("a\x01z"), "a" + replaced + "z");
   EXPECT_EQ(name_written_for("a\xFFz"), "a" + replaced + "z");

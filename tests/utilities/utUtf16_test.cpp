@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
 
 TEST(utUtf16_, encodes_every_code_point_so_that_it_is_decoded_again)
@@ -16,6 +17,23 @@ TEST(utUtf16_, encodes_every_code_point_so_that_it_is_decoded_again)
     ASSERT_EQ(found.code, code);
     ASSERT_EQ(found.length, end - units);
     ASSERT_EQ(utUtf16::encoded_length(code), static_cast<std::size_t>(end - units));
+  }
+}
+
+TEST(utUtf16_, surrogates_are_told_from_their_neighbours)
+{
+  struct Row
+  {
+    char32_t unit;
+    bool is_high;
+    bool is_low;
+  };
+  for (Row const& row : {Row{0xD7FF, false, false}, Row{0xD800, true, false}, Row{0xDBFF, true, false},
+         Row{0xDC00, false, true}, Row{0xDFFF, false, true}, Row{0xE000, false, false}})
+  {
+    EXPECT_EQ(utUtf16::is_high_surrogate(row.unit), row.is_high) << std::hex << std::uint32_t{row.unit};
+    EXPECT_EQ(utUtf16::is_low_surrogate(row.unit), row.is_low) << std::hex << std::uint32_t{row.unit};
+    EXPECT_EQ(utUtf16::is_surrogate(row.unit), row.is_high || row.is_low) << std::hex << std::uint32_t{row.unit};
   }
 }
 
