@@ -1,6 +1,7 @@
 #include "axsUtf8Scan.h"
 
 #include <apByteBlock.h>
+#include <utUtf8.h>
 
 #include <cstdint>
 
@@ -26,24 +27,37 @@ struct Chunk
   std::uint64_t f0 = 0;
   std::uint64_t f4 = 0;
   std::uint64_t from_90 = 0;
+
+  // Whether a character that begins in it goes on after it.
+  bool is_open() const noexcept { return (leads >> 63 | leads_of_3 >> 62 | leads_of_4 >> 61) != 0; }
 };
 
-// How many of its bytes are whole characters, the first of which begins with it; 0 if something is wrong.
-inline std::ptrdiff_t whole_characters(Chunk const& is) noexcept
+// Each bit so many places on, those of the chunk before first.
+std::uint64_t moved(std::uint64_t bits, std::uint64_t before, int places) noexcept
+{
+  return bits << places | before >> (64 - places);
+}
+
+// Whether the characters that begin in the chunk, and one that began before, are well-formed as far as it goes.
+bool is_well_formed(Chunk const& is, Chunk const& before) noexcept
 {
   std::uint64_t const continuations = is.beyond_ascii & ~is.leads;
-  std::uint64_t const expected = is.leads << 1 | is.leads_of_3 << 2 | is.leads_of_4 << 3;
+  std::uint64_t const expected = moved(is.leads, before.leads, 1) | moved(is.leads_of_3, before.leads_of_3, 2) |
+                                 moved(is.leads_of_4, before.leads_of_4, 3);
   // Second bytes below have a shorter form; those above make a surrogate or a number beyond the last one.
   std::uint64_t const wrong_seconds =
-    (is.e0 << 1 & ~is.from_a0) | (is.ed << 1 & is.from_a0) | (is.f0 << 1 & ~is.from_90) | (is.f4 << 1 & is.from_90);
-  if (((continuations ^ expected) | (wrong_seconds & continuations) | is.wrong) != 0)
-    return 0;
-  // The last character may go on after the chunk.
-  if (is.leads >> 63 != 0)
-    return chunk - 1;
-  if (is.leads_of_3 >> 62 != 0)
-    return chunk - 2;
-  return is.leads_of_4 >> 61 != 0 ? chunk - 3 : chunk;
+    (moved(is.e0, before.e0, 1) & ~is.from_a0) | (moved(is.ed, before.ed, 1) & is.from_a0) |
+    (moved(is.f0, before.f0, 1) & ~is.from_90) | (moved(is.f4, before.f4, 1) & is.from_90);
+  return ((continuations ^ expected) | (wrong_seconds & continuations) | is.wrong) == 0;
+}
+
+// The end of whole characters, of which those from `begin` to `at` are well-formed as far as that goes.
+char const* end_of_whole(char const* begin, char const* at) noexcept
+{
+  for (std::ptrdiff_t back = 1; back < static_cast<std::ptrdiff_t>(utUtf8::max_bytes) && back <= at - begin; ++back)
+    if (!utUtf8::is_continuation(at[-back]))
+      return static_cast<std::ptrdiff_t>(utUtf8::length_from_first(at[-back])) > back ? at - back : at;
+  return at;
 }
 
 template <class Block>
@@ -77,20 +91,20 @@ std::uint64_t is_at_least(char const* at, char c) noexcept
 }
 
 template <class Block>
-Chunk chunk_at(char const* at) noexcept
+Chunk chunk_at(char const* at, Chunk const& before) noexcept
 {
   Chunk made;
   made.beyond_ascii = is_at_least<Block>(at, '\x80');
   made.leads = is_at_least<Block>(at, '\xC0');
   made.wrong = is<Block>(at, '\0') | (made.leads & ~is_at_least<Block>(at, '\xC2'));
   made.leads_of_3 = is_at_least<Block>(at, '\xE0');
-  if (made.leads_of_3 == 0)
+  if ((made.leads_of_3 | before.leads_of_3) == 0)
     return made;
   made.e0 = is<Block>(at, '\xE0');
   made.ed = is<Block>(at, '\xED');
   made.from_a0 = is_at_least<Block>(at, '\xA0');
   made.leads_of_4 = is_at_least<Block>(at, '\xF0');
-  if (made.leads_of_4 == 0)
+  if ((made.leads_of_4 | before.leads_of_4) == 0)
     return made;
   made.f0 = is<Block>(at, '\xF0');
   made.f4 = is<Block>(at, '\xF4');
@@ -102,14 +116,17 @@ Chunk chunk_at(char const* at) noexcept
 template <class Block>
 char const* skip_by(char const* at, char const* end) noexcept
 {
-  while (end - at >= chunk)
+  char const* const begin = at;
+  Chunk before;
+  for (; end - at >= chunk; at += chunk)
   {
-    std::ptrdiff_t const whole = is_ascii_text<Block>(at) ? chunk : whole_characters(chunk_at<Block>(at));
-    if (whole == 0)
+    bool const is_ascii = is_ascii_text<Block>(at) && !before.is_open();
+    Chunk const now = is_ascii ? Chunk() : chunk_at<Block>(at, before);
+    if (!is_ascii && !is_well_formed(now, before))
       break;
-    at += whole;
+    before = now;
   }
-  return at;
+  return end_of_whole(begin, at);
 }
 
 #if defined(AP_HAS_AVX2)
@@ -146,20 +163,20 @@ __attribute__((target("avx2"))) inline bool is_ascii_text(Halves const& bytes) n
   return _mm256_movemask_epi8(_mm256_cmpgt_epi8(_mm256_set1_epi8(1), least)) == 0;
 }
 
-__attribute__((target("avx2"))) inline Chunk chunk_of(Halves const& bytes) noexcept
+__attribute__((target("avx2"))) inline Chunk chunk_of(Halves const& bytes, Chunk const& before) noexcept
 {
   Chunk made;
   made.beyond_ascii = bits_of(bytes.first, bytes.second);
   made.leads = is_at_least(bytes, '\xC0');
   made.wrong = is(bytes, '\0') | (made.leads & ~is_at_least(bytes, '\xC2'));
   made.leads_of_3 = is_at_least(bytes, '\xE0');
-  if (made.leads_of_3 == 0)
+  if ((made.leads_of_3 | before.leads_of_3) == 0)
     return made;
   made.e0 = is(bytes, '\xE0');
   made.ed = is(bytes, '\xED');
   made.from_a0 = is_at_least(bytes, '\xA0');
   made.leads_of_4 = is_at_least(bytes, '\xF0');
-  if (made.leads_of_4 == 0)
+  if ((made.leads_of_4 | before.leads_of_4) == 0)
     return made;
   made.f0 = is(bytes, '\xF0');
   made.f4 = is(bytes, '\xF4');
@@ -170,16 +187,19 @@ __attribute__((target("avx2"))) inline Chunk chunk_of(Halves const& bytes) noexc
 
 __attribute__((target("avx2"))) char const* skip_by_avx2(char const* at, char const* end) noexcept
 {
-  while (end - at >= chunk)
+  char const* const begin = at;
+  Chunk before;
+  for (; end - at >= chunk; at += chunk)
   {
     auto const* const from = reinterpret_cast<__m256i const*>(at);
     Halves const bytes{_mm256_loadu_si256(from), _mm256_loadu_si256(from + 1)};
-    std::ptrdiff_t const whole = is_ascii_text(bytes) ? chunk : whole_characters(chunk_of(bytes));
-    if (whole == 0)
+    bool const is_ascii = is_ascii_text(bytes) && !before.is_open();
+    Chunk const now = is_ascii ? Chunk() : chunk_of(bytes, before);
+    if (!is_ascii && !is_well_formed(now, before))
       break;
-    at += whole;
+    before = now;
   }
-  return at;
+  return end_of_whole(begin, at);
 }
 #endif
 }
