@@ -55,6 +55,9 @@ void axsNamespaceScope::unbind()
 
 std::string_view axsNamespaceScope::namespace_of(std::string_view prefix) const
 {
+  // Bound without a declaration, and also where no name had it yet (Namespaces in XML 1.0, 3).
+  if (prefix == "xml")
+    return xml_namespace;
   axsPrefix const* const known = names.find_prefix(prefix);
   return known == nullptr ? std::string_view() : bound_to(*known);
 }

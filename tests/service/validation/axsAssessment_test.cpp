@@ -183,6 +183,7 @@ TEST(axsAssessment, names_in_values_are_resolved_where_they_stand)
   EXPECT_EQ(schema.wrong("<r xmlns:p='urn:p'><q>p:a</q><q xmlns:o='urn:p'>o:a</q></r>"),
     "1: element 'q': what must be unique in the element 'r' is not: \"o:a\"; first at line 1\n");
   EXPECT_NE(schema.wrong("<r><q>p:a</q></r>"), "");
+  EXPECT_EQ(schema.wrong("<r><q>xml:a</q></r>"), "");
 }
 
 TEST(axsAssessment, types_with_many_attributes_are_assessed)
