@@ -125,23 +125,29 @@ axsAttributeSet axsAttributeReader::collect_direct(
   axsSchemaUnit const& unit, axsSchemaElement const& element, Groups const& groups)
 {
   axsAttributeSet set;
+  Uses direct;
+  std::vector<axsAttributeUses const*> of_groups;
   auto next_group = groups.begin();
   if (axsSchemaElement const* const any = element.child(Tag::any_attribute))
     set.wildcard = wildcard(unit, *any);
   for (axsSchemaElement const* child = element.first_child; child != nullptr; child = child->next)
     if (child->tag == Tag::attribute)
-      add_use(set, unit, *child);
+      add_use(set, direct, unit, *child);
     else if (child->tag == Tag::attribute_group)
     {
       axsSchemaSymbol const* const group = *next_group++;
-      if (group != nullptr && group->state == State::done)
-        add_group(set, group->attributes, *child);
+      if (group == nullptr || group->state != State::done)
+        continue;
+      of_groups.push_back(&group->attributes.uses);
+      if (group->attributes.wildcard.has_value())
+        intersect(set, *group->attributes.wildcard, *child);
     }
-  check_names(set);
+  set.uses = unite(direct, of_groups);
   return set;
 }
 
-void axsAttributeReader::add_use(axsAttributeSet& set, axsSchemaUnit const& unit, axsSchemaElement const& element)
+void axsAttributeReader::add_use(
+  axsAttributeSet& set, Uses& direct, axsSchemaUnit const& unit, axsSchemaElement const& element)
 {
   axsAttributeDecl* decl = nullptr;
   if (element.has(Field::ref))
@@ -159,7 +165,7 @@ void axsAttributeReader::add_use(axsAttributeSet& set, axsSchemaUnit const& unit
     set.prohibited.push_back({decl->name, element.place});
     return;
   }
-  axsAttributeUse& made = set.uses.emplace_back();
+  axsAttributeUse& made = direct.emplace_back();
   made.decl = decl;
   made.is_required = use == "required";
   made.constraint = axsSchemaConstraint::read(context, element, *decl->type);
@@ -197,14 +203,6 @@ axsAttributeDecl* axsAttributeReader::local(axsSchemaUnit const& unit, axsSchema
   return &made;
 }
 
-void axsAttributeReader::add_group(
-  axsAttributeSet& set, axsAttributeSet const& added, axsSchemaElement const& reference)
-{
-  set.uses.insert(set.uses.end(), added.uses.begin(), added.uses.end());
-  if (added.wildcard.has_value())
-    intersect(set, *added.wildcard, reference);
-}
-
 // The complete wildcard (3.4.2).
 void axsAttributeReader::intersect(axsAttributeSet& set, axsWildcard const& other, axsSchemaElement const& reference)
 {
@@ -221,22 +219,33 @@ void axsAttributeReader::intersect(axsAttributeSet& set, axsWildcard const& othe
                                         " (intensional intersection)");
 }
 
-// ct-props-correct.4 and ag-props-correct.2. One use that comes in by several groups is one use.
-void axsAttributeReader::check_names(axsAttributeSet& set)
+// ct-props-correct.4 and ag-props-correct.2. One use that comes in by several groups is one use. Those of the largest group
+// are shared with it: groups that refer to each other in a chain would hold the more of them, the longer it is.
+axsAttributeUses axsAttributeReader::unite(Uses const& direct, std::vector<axsAttributeUses const*> const& groups)
 {
+  auto const largest = std::max_element(groups.begin(), groups.end(),
+    [](axsAttributeUses const* left, axsAttributeUses const* right) { return left->size() < right->size(); });
+  axsAttributeUses const shared = largest == groups.end() ? axsAttributeUses() : **largest;
   axsSchemaNameTable<axsSchemaPlace> seen;
-  std::vector<axsAttributeUse> kept;
-  kept.reserve(set.uses.size());
-  for (axsAttributeUse& use : set.uses)
+  Uses own;
+  auto const add = [&](axsAttributeUse const& use)
   {
-    auto const [known, is_new] = seen.emplace(view(use.decl->name), use.place);
-    if (is_new)
-      kept.push_back(std::move(use));
+    axsSchemaName const& name = use.decl->name;
+    std::size_t const number = shared.find(name.name_space, name.local);
+    bool const is_shared = number != axsAttributeUses::none;
+    auto const [known, is_new] = seen.emplace(view(name), is_shared ? shared[number].place : use.place);
+    if (is_new && !is_shared)
+      own.push_back(use);
     else if (!is_same_place(known->second, use.place))
-      context.errors.add(use.place, "attribute " + quoted(use.decl->name.local) + " is declared twice; first at line " +
-                                      std::to_string(known->second.line));
-  }
-  set.uses = std::move(kept);
+      context.errors.add(use.place,
+        "attribute " + quoted(name.local) + " is declared twice; first at line " + std::to_string(known->second.line));
+  };
+  for (axsAttributeUse const& use : direct)
+    add(use);
+  for (axsAttributeUses const* const group : groups)
+    for (axsAttributeUse const& use : group->not_shared_with(shared))
+      add(use);
+  return {shared, std::move(own)};
 }
 
 axsWildcard axsAttributeReader::wildcard(axsSchemaUnit const& unit, axsSchemaElement const& element)

@@ -25,14 +25,14 @@ public:
 
 private:
   using Groups = std::vector<axsSchemaSymbol*>;
+  using Uses = std::vector<axsAttributeUse>;
 
   Groups groups_of(axsSchemaUnit const& unit, axsSchemaElement const& element);
   axsAttributeSet collect_direct(axsSchemaUnit const& unit, axsSchemaElement const& element, Groups const& groups);
-  void add_use(axsAttributeSet& set, axsSchemaUnit const& unit, axsSchemaElement const& element);
+  void add_use(axsAttributeSet& set, Uses& direct, axsSchemaUnit const& unit, axsSchemaElement const& element);
   void add_constraint_of(axsAttributeUse& use, axsAttributeDecl const& decl, axsSchemaElement const& element);
-  void add_group(axsAttributeSet& set, axsAttributeSet const& added, axsSchemaElement const& reference);
   void intersect(axsAttributeSet& set, axsWildcard const& other, axsSchemaElement const& reference);
-  void check_names(axsAttributeSet& set);
+  axsAttributeUses unite(Uses const& direct, std::vector<axsAttributeUses const*> const& groups);
   axsAttributeDecl* local(axsSchemaUnit const& unit, axsSchemaElement const& element);
   axsSimpleType const* type_of(axsSchemaUnit const& unit, axsSchemaElement const& element);
   void check_name(axsSchemaName const& name, axsSchemaPlace place);

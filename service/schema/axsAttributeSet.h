@@ -1,6 +1,6 @@
 #pragma once
 
-#include "axsAttributeUse.h"
+#include "axsAttributeUses.h"
 #include "axsSchemaName.h"
 #include "axsSchemaPlace.h"
 #include "axsWildcard.h"
@@ -18,7 +18,7 @@ struct axsAttributeSet
     axsSchemaPlace place;
   };
 
-  std::vector<axsAttributeUse> uses;
+  axsAttributeUses uses;
   std::vector<Prohibited> prohibited;
   /// The complete wildcard.
   std::optional<axsWildcard> wildcard;

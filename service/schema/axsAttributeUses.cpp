@@ -2,6 +2,7 @@
 
 #include "axsAttributeDecl.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace
@@ -81,6 +82,16 @@ std::size_t axsAttributeUses::find(std::string_view name_space, std::string_view
         return part.begin + i;
   }
   return none;
+}
+
+std::vector<axsAttributeUse> axsAttributeUses::not_shared_with(axsAttributeUses const& other) const
+{
+  std::vector<axsAttributeUse> found;
+  for (Part const& part : blocks)
+    if (std::none_of(
+          other.blocks.begin(), other.blocks.end(), [&](Part const& its) { return its.block == part.block; }))
+      found.insert(found.end(), part.block->uses.begin(), part.block->uses.end());
+  return found;
 }
 
 bool axsAttributeUses::is_shared_with(axsAttributeUses const& other) const noexcept

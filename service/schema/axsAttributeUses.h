@@ -77,6 +77,9 @@ public:
   /// The number of the use of that name; none if there is none.
   std::size_t find(std::string_view name_space, std::string_view local) const;
 
+  /// Those that it does not share with `other`, and maybe some that it does.
+  std::vector<axsAttributeUse> not_shared_with(axsAttributeUses const& other) const;
+
   /// Whether they are the very same as `other` holds.
   bool is_shared_with(axsAttributeUses const& other) const noexcept;
 

@@ -285,7 +285,7 @@ void axsComplexTypeReader::set_attributes(Derivation const& derivation)
   {
     if (derivation.base.complex == context.any_type && derivation.is_extension())
       unite_wildcards(derivation);
-    type.attributes = axsAttributeUses(std::move(own.uses));
+    type.attributes = std::move(own.uses);
   }
 }
 
@@ -299,7 +299,8 @@ void axsComplexTypeReader::inherit_attributes(Derivation const& derivation, axsA
       if (inherited.find(use.decl->name.name_space, use.decl->name.local) != axsAttributeUses::none)
         context.errors.add(use.place, // ct-props-correct.4
           "attribute " + quoted(use.decl->name.local) + " is declared twice: the base type has it, too");
-    type.attributes = axsAttributeUses(inherited, std::move(own.uses));
+    type.attributes =
+      inherited.empty() ? std::move(own.uses) : axsAttributeUses(inherited, {own.uses.begin(), own.uses.end()});
     return;
   }
   if (own.uses.empty() && own.prohibited.empty())
@@ -315,7 +316,7 @@ void axsComplexTypeReader::inherit_attributes(Derivation const& derivation, axsA
   std::vector<axsAttributeUse> all;
   std::copy_if(inherited.begin(), inherited.end(), std::back_inserter(all),
     [&](axsAttributeUse const& use) { return said.find(view(use.decl->name)) == said.end(); });
-  std::move(own.uses.begin(), own.uses.end(), std::back_inserter(all));
+  std::copy(own.uses.begin(), own.uses.end(), std::back_inserter(all));
   type.attributes = axsAttributeUses(std::move(all));
 }
 

@@ -104,7 +104,6 @@ void axsRedefinitionCheck::check_attribute_group(axsSchemaSymbol const& symbol)
     context.errors.add(references[1]->place,
       "the attribute group " + quoted(symbol.name().local) + " is redefined; it may refer to itself once only");
   else if (references.empty())
-    complex_types.check_attributes(axsAttributeUses(symbol.attributes.uses), symbol.attributes.wildcard,
-      axsAttributeUses(symbol.redefined->attributes.uses), symbol.redefined->attributes.wildcard,
-      symbol.element->place);
+    complex_types.check_attributes(symbol.attributes.uses, symbol.attributes.wildcard,
+      symbol.redefined->attributes.uses, symbol.redefined->attributes.wildcard, symbol.element->place);
 }

@@ -53,6 +53,18 @@ TEST(axsAttributeUses, those_of_a_chain_of_types_keep_their_order_and_are_found)
   }
 }
 
+TEST(axsAttributeUses, those_that_are_shared_with_others_are_left_out)
+{
+  Declared declared;
+  axsAttributeUses const base(declared.uses(0, 20));
+  axsAttributeUses const left(base, declared.uses(20, 2));
+  axsAttributeUses const right(base, declared.uses(30, 1));
+  EXPECT_TRUE(left.not_shared_with(left).empty());
+  EXPECT_EQ(left.not_shared_with({}).size(), 22u);
+  ASSERT_EQ(left.not_shared_with(right).size(), 2u);
+  EXPECT_EQ(left.not_shared_with(right)[0].decl->name.local, "a20");
+}
+
 TEST(axsAttributeUses, types_that_add_none_share_them)
 {
   Declared declared;
