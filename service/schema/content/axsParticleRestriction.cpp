@@ -9,6 +9,7 @@
 #include "axsWildcard.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace
 {
@@ -169,6 +170,28 @@ std::vector<axsParticleRestriction::View> axsParticleRestriction::parts_of(View 
   return parts;
 }
 
+// Of the side that restricts: in a choice, a substitution group that occurs once is a pointless choice. On the other side
+// it is one part, which takes each of its members, as these have no order. An element that comes in by several groups is
+// one part, or many groups that have each other's members would be large.
+std::vector<axsParticleRestriction::View> axsParticleRestriction::restricted_parts_of(View const& view)
+{
+  std::vector<View> const outer = parts_of(view);
+  if (view.kind != Kind::choice || view.element != nullptr)
+    return outer;
+  std::vector<View> parts;
+  std::unordered_set<axsElementDecl const*> taken;
+  for (View const& part : outer)
+  {
+    if (!is_pointless_choice(part))
+      parts.push_back(part);
+    else if (taken.count(part.element) == 0)
+      for (View const& member : members_of(part))
+        if (taken.insert(member.element).second)
+          parts.push_back(member);
+  }
+  return parts;
+}
+
 // cos-seq-range, cos-choice-range, of a particle that occurs once.
 axsParticleRestriction::Range axsParticleRestriction::range_of(axsModelGroup const& outermost)
 {
@@ -255,6 +278,9 @@ axsParticleRestriction::Answer axsParticleRestriction::begin(View const& restric
     return answer(is_in_range);
   if (restricted.kind == Kind::element && base.kind == Kind::element)
     return answer(is_in_range && is_element_right(restricted, base));
+  // rcase-RecurseAsIfGroup, of a substitution group; an element that occurs several times is a group of itself that does.
+  if (restricted.kind == Kind::element && base.element != nullptr)
+    return answer(is_in_range && (restricted.max > 1 || occurs_once(restricted)) && is_element_right(restricted, base));
   if (restricted.kind == Kind::wildcard || base.kind == Kind::element)
     return Answer::no;
   return begin_groups(restricted, base);
@@ -275,9 +301,12 @@ axsParticleRestriction::Answer axsParticleRestriction::begin_in_wildcard(View co
   return open_task(restricted, base, Rule::each_in_wildcard);
 }
 
-axsParticleRestriction::Rule axsParticleRestriction::rule_for(Kind base) noexcept
+// The members of a substitution group have no order, so that it is restricted by some of them in any.
+axsParticleRestriction::Rule axsParticleRestriction::rule_for(View const& base) noexcept
 {
-  return base == Kind::choice ? Rule::recurse_lax : Rule::recurse;
+  if (base.kind != Kind::choice)
+    return Rule::recurse;
+  return base.element != nullptr ? Rule::map_and_sum : Rule::recurse_lax;
 }
 
 // Whether the base is a choice that takes the element less often than it may occur.
@@ -287,8 +316,10 @@ bool axsParticleRestriction::is_repeated_by_group(View const& restricted, View c
     return false;
   std::vector<View> const parts = parts_of(base);
   return std::any_of(parts.begin(), parts.end(),
-    [&](View const& part) {
-      return part.kind == Kind::element && part.element->name == restricted.element->name && part.max < restricted.max;
+    [&](View const& part)
+    {
+      return part.element != nullptr && part.max < restricted.max &&
+             member_of(part, restricted.element->name) != nullptr;
     });
 }
 
@@ -302,8 +333,8 @@ axsParticleRestriction::Answer axsParticleRestriction::begin_groups(View const& 
     View once = restricted;
     once.min = once.max = 1;
     if (is_range({restricted.min, restricted.max}, base_range) && is_repeated_by_group(restricted, base))
-      return open_task(once, base, rule_for(base.kind));
-    return is_range({1, 1}, base_range) ? open_task(restricted, base, rule_for(base.kind)) : Answer::no;
+      return open_task(once, base, rule_for(base));
+    return is_range({1, 1}, base_range) ? open_task(restricted, base, rule_for(base)) : Answer::no;
   }
   if (restricted.kind == Kind::sequence && base.kind == Kind::choice)
   {
@@ -319,7 +350,7 @@ axsParticleRestriction::Answer axsParticleRestriction::begin_groups(View const& 
     return Answer::yes;
   if (restricted.kind == Kind::sequence && base.kind == Kind::all)
     return open_task(restricted, base, Rule::recurse_unordered);
-  return restricted.kind == base.kind ? open_task(restricted, base, rule_for(base.kind)) : Answer::no;
+  return restricted.kind == base.kind ? open_task(restricted, base, rule_for(base)) : Answer::no;
 }
 
 axsParticleRestriction::Answer axsParticleRestriction::open_task(View const& restricted, View const& base, Rule rule)
@@ -328,7 +359,7 @@ axsParticleRestriction::Answer axsParticleRestriction::open_task(View const& res
   bool const is_whole = restricted.element == nullptr && base.element == nullptr;
   if (is_whole && found != known.end())
     return answer(found->second);
-  Task task{restricted, base, rule, parts_of(restricted), {}, {}, 0, 0, false, {}, false};
+  Task task{restricted, base, rule, restricted_parts_of(restricted), {}, {}, 0, 0, false, {}, false};
   if (rule == Rule::each_in_wildcard)
     for (View& part : task.parts)
       part.is_counted = false;
@@ -406,7 +437,9 @@ void axsParticleRestriction::take(Task& task, bool fits)
       task.is_used[task.base_at] = 1;
     ++task.at;
     bool const is_in_order = task.rule == Rule::recurse || task.rule == Rule::recurse_lax;
-    task.base_at = is_in_order ? task.base_at + 1 : 0;
+    bool const takes_more = task.rule == Rule::recurse_lax && is_pointless_choice(task.base_parts[task.base_at]);
+    if (!takes_more)
+      task.base_at = is_in_order ? task.base_at + 1 : 0;
     task.has_looked_by_name = false;
     return;
   }
@@ -417,13 +450,26 @@ void axsParticleRestriction::take(Task& task, bool fits)
   task.base_at = was_by_name ? 0 : task.base_at + 1;
 }
 
+// Of the element, or the substitution group that it is the head of, the declaration of that name; null if there is none.
+axsElementDecl const* axsParticleRestriction::member_of(View const& view, axsSchemaName const& name)
+{
+  if (view.element->name == name)
+    return view.element;
+  std::uint32_t const symbol = models.symbols().find(name.name_space, name.local);
+  bool const is_member = symbol != axsSymbols::none && models.names_of(*view.element).has(symbol);
+  return view.kind == Kind::choice && is_member ? models.symbols().global(symbol) : nullptr;
+}
+
 // rcase-NameAndTypeOK, but for the numbers of occurrences
-bool axsParticleRestriction::is_element_right(View const& restricted, View const& base) const
+bool axsParticleRestriction::is_element_right(View const& restricted, View const& base)
 {
   axsElementDecl const& own = *restricted.element;
-  axsElementDecl const& other = *base.element;
+  axsElementDecl const* const member = member_of(base, own.name);
+  if (member == nullptr)
+    return false;
+  axsElementDecl const& other = *member;
   using Constraint = axsValueConstraint::Kind;
-  if (own.name != other.name || (own.is_nillable && !other.is_nillable))
+  if (own.is_nillable && !other.is_nillable)
     return false;
   bool const is_fixed = other.constraint.kind == Constraint::fixed;
   if (is_fixed && (own.constraint.kind != Constraint::fixed || own.constraint.bytes != other.constraint.bytes))

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "axsParticle.h"
+#include "axsSchemaName.h"
 #include "axsSchemaNameTable.h"
 
 #include <cstddef>
@@ -94,11 +95,19 @@ private:
 
   static Answer answer(bool is_right) noexcept { return is_right ? Answer::yes : Answer::no; }
   static bool is_range(Range const& restricted, Range const& base) noexcept;
-  static Rule rule_for(Kind base) noexcept;
+  static Rule rule_for(View const& base) noexcept;
+  static bool occurs_once(View const& view) noexcept { return view.min == 1 && view.max == 1; }
+  // Of parts of choices: a substitution group there.
+  static bool is_pointless_choice(View const& part) noexcept
+  {
+    return part.kind == Kind::choice && part.element != nullptr && occurs_once(part);
+  }
 
   View view_of(axsParticle const& particle);
   std::vector<View> parts_of(View const& view);
   std::vector<View> members_of(View const& view);
+  std::vector<View> restricted_parts_of(View const& view);
+  axsElementDecl const* member_of(View const& view, axsSchemaName const& name);
   Range range_of(axsModelGroup const& group);
   Range total_range(View const& view);
 
@@ -112,7 +121,7 @@ private:
   Answer end_of(Task const& task);
   static bool find_by_name(Task& task, View const& restricted);
   void take(Task& task, bool fits);
-  bool is_element_right(View const& restricted, View const& base) const;
+  bool is_element_right(View const& restricted, View const& base);
 
   axsContentModels& models;
   std::vector<Task> tasks;

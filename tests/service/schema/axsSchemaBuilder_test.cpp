@@ -417,3 +417,44 @@ TEST(axsSchemaBuilder, an_element_without_a_type_takes_that_of_its_head)
   EXPECT_EQ(schema->element("", "c")->head, schema->element("", "b"));
   EXPECT_EQ(schema->element("", "d")->type, schema->type("http://www.w3.org/2001/XMLSchema", "anyType"));
 }
+
+// rcase-RecurseLax, rcase-RecurseAsIfGroup, with the choice that the head of a substitution group stands for (3.9.6)
+TEST(axsSchemaBuilder, a_substitution_group_is_restricted_by_some_of_its_members_in_any_order)
+{
+  auto const error_of = [](std::string const& base, std::string const& restricted)
+  {
+    return error_of_schema(
+      "<xs:element name='x' type='xs:int'/><xs:element name='y' type='xs:int'/><xs:element name='h' type='xs:int'/>"
+      "<xs:element name='a' substitutionGroup='h'/><xs:element name='b' substitutionGroup='a'/>"
+      "<xs:element name='c' substitutionGroup='h'/><xs:complexType name='B'>" +
+      base + "</xs:complexType><xs:complexType name='R'><xs:complexContent><xs:restriction base='B'>" + restricted +
+      "</xs:restriction></xs:complexContent></xs:complexType>");
+  };
+  auto const choice = [](std::string const& names, std::string const& range = {})
+  {
+    std::string parts;
+    for (char const name : names)
+      parts += std::string("<xs:element ref='") + name + "'/>";
+    return "<xs:choice" + range + ">" + parts + "</xs:choice>";
+  };
+  std::string const often = " minOccurs='0' maxOccurs='unbounded'";
+  std::string const head = sequence("<xs:element ref='h'/>");
+  std::string const heads = sequence("<xs:element ref='h'" + often + "/>");
+  for (char const* const members : {"a", "b", "bc", "cb", "ca"})
+  {
+    EXPECT_EQ(error_of(head, choice(members)), "") << members;
+    EXPECT_EQ(error_of(heads, choice(members, often)), "") << members;
+    EXPECT_EQ(error_of(choice("xhy"), choice(members)), "") << members;
+    EXPECT_EQ(error_of(choice("xhy", often), choice("x" + std::string(members) + "y", often)), "") << members;
+    EXPECT_NE(error_of(choice("xhy"), choice("y" + std::string(members))), "") << members;
+    EXPECT_NE(error_of(head, choice("x" + std::string(members))), "") << members;
+    EXPECT_NE(error_of(head, choice(members, often)), "") << members;
+  }
+  EXPECT_EQ(error_of(choice("xa"), head.substr(0, head.find('h')) + "a'/></xs:sequence>"), "");
+  EXPECT_NE(error_of(choice("xa"), head), "");
+  EXPECT_EQ(error_of(choice("xh", often), sequence("<xs:element ref='c'" + often + "/>")), "");
+  EXPECT_NE(error_of(choice("xh"), sequence("<xs:element ref='c'" + often + "/>")), "");
+  EXPECT_EQ(
+    error_of(sequence("<xs:element ref='x'/><xs:element ref='h'/>"), sequence("<xs:element ref='x'/>" + choice("cb"))),
+    "");
+}

@@ -146,6 +146,46 @@ TEST(hostile_schemas, substitution_groups_are_wide_and_long)
   EXPECT_EQ(error_of_schema("<xs:element name='e0'/>" + repeated(many, longer) + use, "blockDefault='extension'"), "");
 }
 
+TEST(hostile_schemas, many_members_restrict_a_substitution_group_in_any_order)
+{
+  auto const member = [](int i) { return "<xs:element name='e" + number(i) + "' substitutionGroup='h'/>\n"; };
+  auto const reference = [](int i) { return "<xs:element ref='e" + number(many - 1 - i) + "'/>\n"; };
+  auto const types = [&](std::string const& base, std::string const& more)
+  {
+    return "<xs:element name='h'/><xs:element name='x'/><xs:element name='y'/>" + repeated(many, member) +
+           "<xs:complexType name='b'>" + base +
+           "</xs:complexType><xs:complexType name='d'><xs:complexContent><xs:restriction base='b'><xs:choice>" +
+           repeated(many, reference) + more + "</xs:choice></xs:restriction></xs:complexContent></xs:complexType>";
+  };
+  for (char const* const base : {"<xs:sequence><xs:element ref='h'/></xs:sequence>",
+         "<xs:choice><xs:element ref='x'/><xs:element ref='h'/></xs:choice>"})
+  {
+    EXPECT_EQ(error_of_schema(types(base, "")), "") << base;
+    EXPECT_NE(error_of_schema(types(base, "<xs:element ref='y'/>")), "") << base;
+  }
+}
+
+// What each holds is shared, or the memory would grow with the square of their number.
+TEST(hostile_schemas, attribute_groups_refer_to_each_other_over_10000_levels)
+{
+  auto const group = [](int i)
+  {
+    return "<xs:attributeGroup name='g" + number(i) + "'><xs:attribute name='a" + number(i) +
+           "'/><xs:attributeGroup ref='g" + number(i + 1) + "'/></xs:attributeGroup>\n";
+  };
+  std::string const groups = repeated(many, group) + "<xs:attributeGroup name='g" + number(many) + "'>";
+  std::string const type = "</xs:attributeGroup>" + in_type("<xs:attributeGroup ref='g0'/>");
+  EXPECT_EQ(error_of_schema(groups + type), "");
+  EXPECT_NE(error_of_schema(groups + "<xs:attribute name='a5'/>" + type), "");
+  auto const group_of_two = [&](int i)
+  {
+    std::string text = group(i);
+    return text.insert(text.rfind("</"), "<xs:attributeGroup ref='g" + number(std::min(i + 2, many)) + "'/>");
+  };
+  EXPECT_EQ(
+    error_of_schema(repeated(many, group_of_two) + "<xs:attributeGroup name='g" + number(many) + "'>" + type), "");
+}
+
 TEST(hostile_schemas, numbers_of_occurrences_are_large)
 {
   EXPECT_EQ(error_of_schema(in_type("<xs:sequence maxOccurs='4294967295'><xs:element name='a' "
