@@ -44,16 +44,18 @@ void axsAttributeReader::fill(axsSchemaSymbol& symbol)
   decl.constraint = axsSchemaConstraint::read(context, *symbol.element, *decl.type);
   decl.place = symbol.element->place;
   if (decl.place.file != 0) // those of the instance namespace are built in
-    check_name(decl.name, decl.place);
+    check(decl);
 }
 
-// no-xmlns and no-xsi.
-void axsAttributeReader::check_name(axsSchemaName const& name, axsSchemaPlace place)
+// no-xmlns, no-xsi and enumeration-required-notation.
+void axsAttributeReader::check(axsAttributeDecl const& decl)
 {
-  if (name.local == "xmlns")
-    context.errors.add(place, "no attribute can be named 'xmlns'");
-  if (name.name_space == axsSchemaVocabulary::instance_namespace)
-    context.errors.add(place, "no attribute can be declared in the namespace " + quoted(name.name_space));
+  if (decl.name.local == "xmlns")
+    context.errors.add(decl.place, "no attribute can be named 'xmlns'");
+  if (decl.name.name_space == axsSchemaVocabulary::instance_namespace)
+    context.errors.add(decl.place, "no attribute can be declared in the namespace " + quoted(decl.name.name_space));
+  if (decl.type->lacks_notations())
+    context.errors.add(decl.place, axsSchemaText::lacks_notations("attribute", decl.name.local));
 }
 
 axsSimpleType const* axsAttributeReader::type_of(axsSchemaUnit const& unit, axsSchemaElement const& element)
@@ -199,7 +201,7 @@ axsAttributeDecl* axsAttributeReader::local(axsSchemaUnit const& unit, axsSchema
     made.name.name_space = unit.target;
   made.type = type_of(unit, element);
   made.place = element.place;
-  check_name(made.name, element.place);
+  check(made);
   return &made;
 }
 

@@ -35,7 +35,7 @@ private:
   axsAttributeUses unite(Uses const& direct, std::vector<axsAttributeUses const*> const& groups);
   axsAttributeDecl* local(axsSchemaUnit const& unit, axsSchemaElement const& element);
   axsSimpleType const* type_of(axsSchemaUnit const& unit, axsSchemaElement const& element);
-  void check_name(axsSchemaName const& name, axsSchemaPlace place);
+  void check(axsAttributeDecl const& decl);
 
   axsSchemaContext& context;
   axsSimpleTypeReader& simple_types;

@@ -13,6 +13,15 @@ namespace
 using Content = axsComplexType::Content;
 using Field = axsSchemaField;
 using axsSchemaText::quoted;
+
+// The type of its text, if that is all that it may contain.
+axsSimpleType const* simple_type_of(axsElementDecl const& decl)
+{
+  axsComplexType const* const complex = decl.type.complex;
+  if (complex == nullptr)
+    return decl.type.simple;
+  return complex->content == Content::simple ? complex->simple_content : nullptr;
+}
 }
 
 axsElementCheck::axsElementCheck(axsSchemaContext& shared, axsGroupCheck& checked_groups)
@@ -44,6 +53,8 @@ void axsElementCheck::check(axsSchemaContext::Declared const& declared)
   axsElementDecl const& decl = *declared.decl;
   if (decl.constraint.kind != axsValueConstraint::Kind::none)
     check_constraint(declared);
+  if (axsSimpleType const* const type = simple_type_of(decl); type != nullptr && type->lacks_notations())
+    context.errors.add(decl.place, axsSchemaText::lacks_notations("element", decl.name.local));
   if (decl.head != nullptr && !axsTypeDerivation::is_derived(decl.type, decl.head->type, decl.head->final_set))
     context.errors.add(declared.element->place_of(Field::substitution_group), // e-props-correct.4
       "the type of " + quoted(decl.name.local) + " is not derived from that of " + quoted(decl.head->name.local) +
@@ -54,13 +65,9 @@ void axsElementCheck::check(axsSchemaContext::Declared const& declared)
 void axsElementCheck::check_constraint(axsSchemaContext::Declared const& declared)
 {
   axsElementDecl& decl = *declared.decl;
+  if (axsSimpleType const* const type = simple_type_of(decl))
+    return axsSchemaConstraint::check(context, *declared.element, *type, decl.constraint);
   axsComplexType const* const complex = decl.type.complex;
-  if (complex == nullptr || complex->content == Content::simple)
-  {
-    axsSimpleType const& type = complex == nullptr ? *decl.type.simple : *complex->simple_content;
-    axsSchemaConstraint::check(context, *declared.element, type, decl.constraint);
-    return;
-  }
   bool const may_be_text =
     complex->content == Content::mixed && (!complex->particle.has_value() || groups.is_emptiable(*complex->particle));
   if (may_be_text)

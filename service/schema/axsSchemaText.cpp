@@ -103,3 +103,10 @@ std::string axsSchemaText::quoted(std::string_view text)
     --end;
   return "'" + std::string(text.substr(0, end)) + "...'";
 }
+
+std::string axsSchemaText::lacks_notations(std::string_view what, std::string_view name)
+{
+  return std::string(what) + ' ' + quoted(name) +
+         " cannot have the type xs:NOTATION itself: a type that is derived from it with an enumeration of notations "
+         "can";
+}

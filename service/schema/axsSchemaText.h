@@ -29,4 +29,7 @@ std::string_view local(std::string_view qname) noexcept;
 
 /// In single quotes, for a message.
 std::string quoted(std::string_view text);
+
+/// The message that a declaration, an "attribute" or "element", has a type that lacks notations (axsSimpleType).
+std::string lacks_notations(std::string_view what, std::string_view name);
 }

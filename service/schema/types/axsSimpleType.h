@@ -75,6 +75,13 @@ public:
   bool has_id() const noexcept { return contains_id; }
   bool has_notation() const noexcept { return contains_notation; }
 
+  /// Whether it is NOTATION without an enumeration, of which types may be made only (Part 2, 3.2.19,
+  /// enumeration-required-notation).
+  bool lacks_notations() const noexcept
+  {
+    return own_variety == Variety::atomic && contains_notation && !has_facet(axsFacetKind::enumeration);
+  }
+
   /// Whether a value may be or contain an ID or a reference to one.
   bool has_references() const noexcept { return contains_references; }
 

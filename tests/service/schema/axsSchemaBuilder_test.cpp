@@ -59,6 +59,19 @@ TEST(axsSchemaBuilder, names_are_resolved_and_unique)
     {"st-props-correct", "<xs:attribute name='a' type='xs:anySimpleType'/>",
       "<xs:attribute name='a' type='xs:anyType'/>",
       "2: 'anyType' in the namespace 'http://www.w3.org/2001/XMLSchema' is not a simple type"},
+    {"enumeration-required-notation",
+      "<xs:notation name='n' public='p'/><xs:simpleType name='N'><xs:restriction base='xs:NOTATION'><xs:enumeration "
+      "value='n'/></xs:restriction></xs:simpleType><xs:attribute name='a' type='N'/><xs:element name='e' type='N'/>",
+      "<xs:attribute name='a' type='xs:NOTATION'/>",
+      "2: attribute 'a' cannot have the type xs:NOTATION itself: a type that is derived from it with an enumeration of "
+      "notations can"},
+    {"enumeration-required-notation",
+      "<xs:simpleType name='N'><xs:list itemType='xs:NOTATION'/></xs:simpleType><xs:element name='e' type='N'/>",
+      "<xs:simpleType name='N'><xs:restriction base='xs:NOTATION'><xs:length value='1'/></xs:restriction>"
+      "</xs:simpleType><xs:element name='e'><xs:complexType><xs:simpleContent><xs:extension base='N'/>"
+      "</xs:simpleContent></xs:complexType></xs:element>",
+      "2: element 'e' cannot have the type xs:NOTATION itself: a type that is derived from it with an enumeration of "
+      "notations can"},
     {"no-xmlns", "<xs:attribute name='xmlnsx'/>", "<xs:attribute name='xmlns'/>",
       "2: no attribute can be named 'xmlns'"},
   });
