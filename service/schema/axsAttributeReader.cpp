@@ -91,6 +91,7 @@ void axsAttributeReader::make_group(axsSchemaSymbol& symbol)
     if (innermost.next == innermost.groups.size())
     {
       made.attributes = collect_direct(*made.unit, *made.element, innermost.groups);
+      check_ids(made, innermost.groups);
       made.state = State::done;
       open.pop_back();
       continue;
@@ -141,9 +142,14 @@ axsAttributeSet axsAttributeReader::collect_direct(
       if (group == nullptr || group->state != State::done)
         continue;
       of_groups.push_back(&group->attributes.uses);
+      for (axsAttributeDecl const* const id : group->attributes.ids)
+        add_id(set, *id);
       if (group->attributes.wildcard.has_value())
         intersect(set, *group->attributes.wildcard, *child);
     }
+  for (axsAttributeUse const& use : direct)
+    if (use.decl->type->role() == axsSimpleType::Role::id)
+      add_id(set, *use.decl);
   set.uses = unite(direct, of_groups);
   return set;
 }
@@ -203,6 +209,24 @@ axsAttributeDecl* axsAttributeReader::local(axsSchemaUnit const& unit, axsSchema
   made.place = element.place;
   check(made);
   return &made;
+}
+
+void axsAttributeReader::add_id(axsAttributeSet& set, axsAttributeDecl const& decl)
+{
+  if (set.ids.size() < 2 && std::find(set.ids.begin(), set.ids.end(), &decl) == set.ids.end())
+    set.ids.push_back(&decl);
+}
+
+// ag-props-correct.3, of a group that has not got two from another one.
+void axsAttributeReader::check_ids(axsSchemaSymbol const& group, Groups const& groups)
+{
+  std::vector<axsAttributeDecl const*> const& ids = group.attributes.ids;
+  bool const is_told = std::any_of(groups.begin(), groups.end(),
+    [](axsSchemaSymbol const* inner) { return inner != nullptr && inner->attributes.ids.size() > 1; });
+  if (ids.size() > 1 && !is_told)
+    context.errors.add(group.element->place, "the attributes " + quoted(ids[0]->name.local) + " and " +
+                                               quoted(ids[1]->name.local) +
+                                               " are both of the type xs:ID; a group may have one such attribute");
 }
 
 // The complete wildcard (3.4.2).

@@ -31,6 +31,8 @@ private:
   axsAttributeSet collect_direct(axsSchemaUnit const& unit, axsSchemaElement const& element, Groups const& groups);
   void add_use(axsAttributeSet& set, Uses& direct, axsSchemaUnit const& unit, axsSchemaElement const& element);
   void add_constraint_of(axsAttributeUse& use, axsAttributeDecl const& decl, axsSchemaElement const& element);
+  static void add_id(axsAttributeSet& set, axsAttributeDecl const& decl);
+  void check_ids(axsSchemaSymbol const& group, Groups const& groups);
   void intersect(axsAttributeSet& set, axsWildcard const& other, axsSchemaElement const& reference);
   axsAttributeUses unite(Uses const& direct, std::vector<axsAttributeUses const*> const& groups);
   axsAttributeDecl* local(axsSchemaUnit const& unit, axsSchemaElement const& element);

@@ -19,6 +19,8 @@ struct axsAttributeSet
   };
 
   axsAttributeUses uses;
+  /// Those of them that are IDs, up to two.
+  std::vector<axsAttributeDecl const*> ids;
   std::vector<Prohibited> prohibited;
   /// The complete wildcard.
   std::optional<axsWildcard> wildcard;

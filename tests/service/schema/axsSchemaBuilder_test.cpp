@@ -137,6 +137,16 @@ TEST(axsSchemaBuilder, attributes_and_their_values_are_right)
   EXPECT_EQ(
     error_of_schema(extension("<xs:attribute name='a' type='xs:ID'/>", "<xs:attribute name='b' type='xs:ID'/>")),
     "s.xsd:3: the attributes 'b' and 'a' are both of the type xs:ID; a type may have one such attribute");
+  // ag-props-correct.3
+  std::string const group = "<xs:attributeGroup name='g'><xs:attribute name='a' type='xs:ID'/></xs:attributeGroup>";
+  EXPECT_EQ(
+    error_of_schema(group + "<xs:attributeGroup name='h'><xs:attributeGroup ref='g'/><xs:attributeGroup ref='g'/>"
+                            "<xs:attribute name='b' type='xs:IDREF'/></xs:attributeGroup>"),
+    "");
+  EXPECT_EQ(error_of_schema(group + "\n<xs:attributeGroup name='h'><xs:attribute name='b' type='xs:ID'/>"
+                                    "<xs:attributeGroup ref='g'/></xs:attributeGroup>"
+                                    "<xs:attributeGroup name='i'><xs:attributeGroup ref='h'/></xs:attributeGroup>"),
+    "s.xsd:3: the attributes 'a' and 'b' are both of the type xs:ID; a group may have one such attribute");
 }
 
 TEST(axsSchemaBuilder, elements_and_their_values_are_right)
