@@ -1,5 +1,5 @@
-// The command with any arguments, one a line; what follows an empty line is the document a.xml in the folder where it runs.
-// It must come to an end with one of its exit codes.
+// The command with any arguments, one a line; what follows an empty line is the document a.xml in the folder where it runs,
+// and what follows a line of four hyphens is b.xml. It must come to an end with one of its exit codes.
 
 #include "CommandLine.h"
 
@@ -105,7 +105,11 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     values.push_back(each.c_str());
 
   Seclusion const seclusion;
-  std::ofstream("a.xml", std::ios::binary) << text;
+  std::string_view const hyphens = "\n----\n";
+  std::size_t const end = text.find(hyphens);
+  std::ofstream("a.xml", std::ios::binary) << text.substr(0, end);
+  if (end != std::string_view::npos)
+    std::ofstream("b.xml", std::ios::binary) << text.substr(end + hyphens.size());
   int const code = run_command_line(Arguments(static_cast<int>(values.size()), values.data()));
   std::cout.clear();
   if (code < 0 || code > 2)

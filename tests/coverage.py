@@ -106,6 +106,17 @@ def room_of(name):
     return "/".join(parts[:2]) if parts[0] in ("source", "service") and len(parts) > 2 else parts[0]
 
 
+def known_reasons():
+    """By file and line of source, why no test can run all of it."""
+    reasons, reason = {}, ""
+    for row in pathlib.Path(__file__).with_name("coverage_left.txt").read_text().splitlines():
+        if row.startswith("# "):
+            reason = row[2:]
+        elif row:
+            reasons[row] = reason
+    return reasons
+
+
 def share(counts):
     run = sum(count > 0 for count in counts)
     return f"{run:7d} of {len(counts):7d} {100 * run / max(1, len(counts)):6.2f} %"
@@ -121,19 +132,24 @@ def main():
         line_counts = [count for name in names for count in lines[name].values()]
         branch_counts = [count for name in names for count in branches[name].values()]
         print(f"{room or 'all':22}{share(line_counts)}  {share(branch_counts)}")
-    with (build / "not_run.txt").open("w") as out:
-        for name in sorted(lines):
-            text = pathlib.Path(name).read_text().splitlines()
-            missing = collections.defaultdict(list)
-            for number, count in lines[name].items():
-                if count == 0:
-                    missing[number].append("line")
-            for (number, index), count in branches[name].items():
-                if count == 0 and lines[name].get(number, 0) > 0:
-                    missing[number].append("branch")
-            for number in sorted(missing):
-                source = text[number - 1].strip() if number <= len(text) else ""
-                print(f"{name}:{number}: {' '.join(missing[number])}: {source}", file=out)
+    reasons = known_reasons()
+    explained, unexplained = [], []
+    for name in sorted(lines):
+        text = pathlib.Path(name).read_text().splitlines()
+        missing = collections.defaultdict(list)
+        for number, count in lines[name].items():
+            if count == 0:
+                missing[number].append("line")
+        for (number, _), count in branches[name].items():
+            if count == 0 and lines[name].get(number, 0) > 0:
+                missing[number].append("branch")
+        for number in sorted(missing):
+            source = text[number - 1].strip()
+            reason = reasons.get(f"{name}: {source}")
+            row = f"{name}:{number}: {' '.join(missing[number])}: {source}"
+            (explained if reason else unexplained).append(row + f"  ({reason})" * bool(reason))
+    (build / "not_run.txt").write_text("\n".join(unexplained + explained) + "\n")
+    print(f"{len(unexplained)} places in {build}/not_run.txt, and {len(explained)} with a reason")
 
 
 main()

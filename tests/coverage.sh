@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
 # coverage.sh [CTEST ARGUMENT...]: which lines and branches of the libraries the tests run. Builds the preset coverage, runs
 # the tests (all, or those that ctest's arguments choose), and writes a row for each folder; what nobody ran goes to
-# build/coverage/not_run.txt, a line for each place, in which "line" or "branch" says what did not run.
+# build/coverage/not_run.txt, a line for each place, in which "line" or "branch" says what did not run. Places that no test
+# can reach stand in tests/coverage_left.txt with the reason; they count as the others and come last.
 #   AXM_COVERAGE_ONLY=1 coverage.sh   only counts again what has run since the build
 # The fuzz targets alone, over what is kept of them: coverage.sh --fresh -R FuzzSeeds
-# Branches are those that gcov tells but for the ones that exceptions take.
+# Branches are those that gcov tells but for what exceptions and assertions make of them (tests/coverage.py).
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source cmake/setup.sh
