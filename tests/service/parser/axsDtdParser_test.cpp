@@ -66,6 +66,36 @@ TEST(axsDtdParser, takes_parameter_entities_and_what_is_outside_but_not_used)
     with("<!NOTATION n SYSTEM 's'><!ENTITY e SYSTEM 'e' NDATA n>")});
 }
 
+// 3.4, [61] conditionalSect. They may stand in every parameter entity (2.8, WFC: PE Between Declarations).
+TEST(axsDtdParser, conditional_sections_of_entities)
+{
+  auto const default_of = [](std::string const& subset)
+  { return narrow(load_root(with("<!ENTITY % p '" + subset + "'>%p;"))->getAttribute(APSTRING("a"))); };
+  std::string const list = "<!ATTLIST r a CDATA \"1\">";
+  EXPECT_EQ(default_of("<![INCLUDE[" + list + "]]>"), "1");
+  EXPECT_EQ(default_of("<![ INCLUDE [<![INCLUDE[" + list + "]]><![IGNORE[<]]>]]>"), "1");
+  EXPECT_EQ(default_of("<![IGNORE[" + list + "]]>"), "");
+  EXPECT_EQ(default_of("<![ IGNORE [ <x> ] ]] <![ y ]]> <![z[]]> &#13;\n&#38; ]]>" + list), "1");
+}
+
+TEST(axsDtdParser, a_parameter_entity_stands_for_parts_of_declarations_outside_of_the_document)
+{
+  TestFile const subset("axs_parts.dtd", "<!ENTITY % t 'CDATA'><!ENTITY % d \"'x  y'\"><!ENTITY % k 'IGNORE'>\n"
+                                         "<!ATTLIST r a %t; %d;><![%k;[<!ATTLIST r b CDATA '1'>]]>");
+  axmLoadOptions options(axmValidateNone);
+  options.set_disable_entity_resolution(false);
+  auto const root = load("<!DOCTYPE r SYSTEM 'axs_parts.dtd'><r/>", options)->getDocumentElement();
+  EXPECT_EQ(narrow(root->getAttribute(APSTRING("a"))), "x  y");
+  EXPECT_EQ(narrow(root->getAttribute(APSTRING("b"))), "");
+}
+
+TEST(axsDtdParser, the_first_declaration_of_a_parameter_entity_counts)
+{
+  std::string const first = "<!ENTITY % p '<!ATTLIST r a CDATA \"1\">'>";
+  std::string const second = "<!ENTITY % p '<!ATTLIST r a CDATA \"2\">'>";
+  EXPECT_EQ(narrow(load_root(with(first + second + "%p;"))->getAttribute(APSTRING("a"))), "1");
+}
+
 // 3.2, [45] elementdecl, [46] contentspec
 TEST(axsDtdParser, declarations_of_elements)
 {

@@ -132,6 +132,15 @@ TEST(axsParser_errors, rule_2_8_23_xmldecl)
     {"<?xml version=1.0?><a/>", "1:15 '=' and a value in quotes must follow in the XML declaration"},
     {"<?xml version='1.0'encoding='UTF-8'?><a/>", "1:20 white space is missing in the XML declaration"},
     {"<?xml version='1.0' encoding=''?><a/>", "1:32 this is not the name of an encoding"},
+    {"<?xml version='1.0' encoding='_a'?><a/>", "1:34 this is not the name of an encoding"},
+    {"<?xml version='1.0' encoding=':a'?><a/>", "1:34 this is not the name of an encoding"},
+    {"<?xml version='1.0' encoding='a:b'?><a/>", "1:35 this is not the name of an encoding"},
+    {"<?xml version='1.0' encoding='1a'?><a/>", "1:34 this is not the name of an encoding"},
+    {"<?xml version='1.0' encoding='a b'?><a/>", "1:35 this is not the name of an encoding"},
+    {"<?xml version='1'?><a/>", "1:18 there is no XML version \"1\""},
+    {"<?xml version='1.'?><a/>", "1:19 there is no XML version \"1.\""},
+    {"<?xml version='1.x'?><a/>", "1:20 there is no XML version \"1.x\""},
+    {"<?xml version '1.0'?><a/>", "1:15 '=' and a value in quotes must follow in the XML declaration"},
     {"<?xml version='1.0' standalone='no' encoding='UTF-8'?><a/>",
       "1:37 '?>' is expected: the XML declaration holds version, encoding and standalone only, in that order"},
     {"<?xml version='1.0' standalone='?'?><a/>", "1:35 the standalone declaration must be 'yes' or 'no'"},
@@ -292,6 +301,25 @@ TEST(axsParser_errors, rule_3_4_61_conditionalsect)
     {"<!DOCTYPE a [<!ENTITY % p '<![OTHER[]]>'>%p;]><a/>", "1:42 INCLUDE or IGNORE and '[' must follow '<!['"},
     {"<!DOCTYPE a [<!ENTITY % p ']]>'>%p;]><a/>", "1:33 this ']]>' ends no conditional section"},
     {"<!DOCTYPE a [<!ENTITY % p '<![IGNORE[<![]]>'>%p;]><a/>", "1:46 a conditional section is not ended by ']]>'"},
+    {"<!DOCTYPE a [<!ENTITY % p '<![INCLUDE]]>'>%p;]><a/>", "1:43 INCLUDE or IGNORE and '[' must follow '<!['"},
+    {"<!DOCTYPE a [<!ENTITY % p '<![INCLUDE[]>'>%p;]><a/>",
+      "1:43 only declarations, comments and processing instructions may stand here"},
+    {"<!DOCTYPE a [<!ENTITY % e ']]>'><!ENTITY % p '<![INCLUDE[&#37;e;'>%p;]><a/>",
+      "1:67 this ']]>' ends no conditional section"},
+  });
+}
+
+// 4.1, [69] PEReference
+TEST(axsParser_errors, rule_4_1_69_pereference)
+{
+  expect_told({
+    {"<!DOCTYPE a [%p;]><a/>", "1:17 the parameter entity 'p' is not declared"},
+    {"<!DOCTYPE a [<!ENTITY % p ''>%p ]><a/>", "1:32 the reference '%p' is not ended by ';'"},
+    {"<!DOCTYPE a [<!ENTITY % p '<!ATTLIST a b &#37;q; #IMPLIED>'>%p;]><a/>",
+      "1:61 in the internal subset a parameter entity may stand between declarations only, not in one"},
+    {"<!DOCTYPE a [<!ENTITY % p '<!ATTLIST a b &#37; CDATA #IMPLIED>'>%p;]><a/>",
+      "1:65 the type of the attribute is missing: CDATA, ID, IDREF, IDREFS, ENTITY, ENTITIES, NMTOKEN, NMTOKENS, "
+      "NOTATION or values in parentheses"},
   });
 }
 
@@ -302,6 +330,9 @@ TEST(axsParser_errors, rule_4_1_66_charref)
     {"<a>&#x;</a>", "1:7 a number must follow '&#' (decimal) or '&#x' (hexadecimal)"},
     {"<a>&#;</a>", "1:6 a number must follow '&#' (decimal) or '&#x' (hexadecimal)"},
     {"<a>&#1a;</a>", "1:7 'a' is no digit of the number of a character"},
+    {"<a>&#xag;</a>", "1:8 'g' is no digit of the number of a character"},
+    {"<a>&#xAG;</a>", "1:8 'G' is no digit of the number of a character"},
+    {"<a>&#x`;</a>", "1:7 a number must follow '&#' (decimal) or '&#x' (hexadecimal)"},
     {"<a>&#65</a>", "1:8 a character reference must be a number and end with ';'"},
     {"<a>& b</a>", "1:5 the name of an entity must follow '&'; a plain '&' is written &amp;"},
     {"<a>&b</a>", "1:6 the reference '&b' is not ended by ';'; a plain '&' is written &amp;"},
@@ -437,6 +468,7 @@ TEST(axsParser_errors, xml_1_1_2_2)
     {"<?xml version='1.1'?><!DOCTYPE a SYSTEM 'b\r\x7F'><a/>", "2:2 invalid character 0x7F"},
     {"<?xml version='1.1'?><!DOCTYPE a [<!ENTITY b 'c\r\x7F'>]><a/>", "2:2 invalid character 0x7F"},
     {"<?xml version='1.1'?><a>&#0;</a>", "1:29 this is not the number of a character that XML allows"},
+    {"<?xml version='1.1'?><a>&#xFFFE;</a>", "1:33 this is not the number of a character that XML allows"},
     {"<?xml version='1.1'?><a>\x01</a>", "1:26 invalid character 0x1"},
     {"<?xml version='1.1'?>\xE2\x80\xA8<a></b>",
       "2:6 the element 'a', open since line 2, must be closed first, by </a>"},
