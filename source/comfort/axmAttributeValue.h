@@ -39,8 +39,11 @@ std::optional<T> value_of(std::string_view text)
   {
     static_assert(std::is_arithmetic_v<T>, "values are read as bool, numbers, std::string or apString; an "
                                            "enumeration needs the names of its values as a third argument");
-    if (!text.empty() && text.front() == '+')
-      text.remove_prefix(1);
+    // A plus is read as well, which the standard library does not do, and no minus after it.
+    bool const has_plus = !text.empty() && text.front() == '+';
+    text.remove_prefix(has_plus ? 1 : 0);
+    if (has_plus && !text.empty() && text.front() == '-')
+      return std::nullopt;
     T value{};
     auto const [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     return error == std::errc() && end == text.data() + text.size() ? std::optional<T>(value) : std::nullopt;

@@ -45,6 +45,39 @@ TEST(axmAttributeValue, what_is_absent_or_no_such_value_is_none)
   EXPECT_EQ(std::nullopt, axm::attribute<int>(std::shared_ptr<axmElement>(), "i"));
 }
 
+TEST(axmAttributeValue, one_sign_may_stand_before_a_number)
+{
+  EXPECT_EQ(5, axm::value_of<int>("+5"));
+  EXPECT_EQ(-5, axm::value_of<int>("-5"));
+  EXPECT_EQ(1.5, axm::value_of<double>("+1.5"));
+  for (char const* const wrong : {"+", "-", "++5", "+-5", "-+5", "--5", "+ 5"})
+  {
+    EXPECT_EQ(std::nullopt, axm::value_of<int>(wrong)) << wrong;
+    EXPECT_EQ(std::nullopt, axm::value_of<double>(wrong)) << wrong;
+  }
+}
+
+TEST(axmAttributeValue, truth_has_four_spellings)
+{
+  EXPECT_EQ(true, axm::value_of<bool>("1"));
+  EXPECT_EQ(true, axm::value_of<bool>("true"));
+  EXPECT_EQ(false, axm::value_of<bool>("0"));
+  EXPECT_EQ(false, axm::value_of<bool>("false"));
+  EXPECT_EQ(std::nullopt, axm::value_of<bool>("TRUE"));
+  EXPECT_EQ(std::nullopt, axm::value_of<bool>(""));
+}
+
+TEST(axmAttributeValue, where_there_is_no_element_there_is_no_attribute)
+{
+  std::shared_ptr<axmElement> const none;
+  EXPECT_EQ(std::nullopt, axm::attribute<Colour>(none, "c", colours));
+  EXPECT_FALSE(axm::set_attribute(none, "c", Colour::red, colours));
+  auto const root = document_of("<r>text</r>")->getDocumentElement();
+  EXPECT_EQ(std::nullopt, axm::attribute<Colour>(root, "c", colours));
+  EXPECT_EQ(std::nullopt, axm::attribute<Colour>(*root->getFirstChild(), "c", colours));
+  EXPECT_EQ(std::nullopt, axm::attribute<std::string>(*root->getFirstChild(), "c"));
+}
+
 TEST(axmAttributeValue, what_is_set_comes_back)
 {
   auto const root = document_of("<r/>")->getDocumentElement();

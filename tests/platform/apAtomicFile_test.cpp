@@ -388,6 +388,18 @@ TEST(apAtomicFile, whoever_reads_the_old_file_still_reads_it_whole)
   EXPECT_EQ(read_file(path), "new and longer");
 }
 
+TEST(apAtomicFile, does_not_mind_what_errno_says_of_something_else)
+{
+  Folder const folder;
+  apPath const place = folder.file("a.xml");
+  apAtomicFile file(place);
+  ASSERT_NE(file.stream(), nullptr);
+  EXPECT_GE(std::fputs("new", file.stream()), 0);
+  errno = EINTR;
+  EXPECT_TRUE(file.commit());
+  EXPECT_EQ(read_file(place), "new");
+}
+
 TEST(apAtomicFile, leaves_the_reason_in_errno_where_it_cannot_write)
 {
   Folder const folder;
