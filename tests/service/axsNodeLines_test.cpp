@@ -42,3 +42,11 @@ TEST(axsNodeLines, has_no_line_for_what_is_no_part_of_the_document)
               {other->getDocumentElement(), document, document->getDocumentElement()}),
     (Lines{0, 0, 1}));
 }
+
+TEST(axsNodeLines, has_no_line_where_the_source_is_another_one)
+{
+  auto const document = load("<a><b/></a>");
+  auto const b = document->getDocumentElement()->getFirstChild();
+  for (char const* const source : {"<a>", "<a/>", "<a><!--c--></a>", ""})
+    EXPECT_EQ(axsNodeLines::find(*document, bytes(source), axmLoadOptions(axmValidateNone), {b}), (Lines{0})) << source;
+}

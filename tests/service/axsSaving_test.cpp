@@ -1,5 +1,7 @@
 #include "Engine.h"
 
+#include "../document/TestTree.h"
+
 #include <axsSaving.h>
 #include <utAssert.h>
 
@@ -536,6 +538,15 @@ TEST(axsSaving, saves_only_documents_of_its_own)
   EXPECT_EQ(saved(document), declaration + "<r/>\n");
   EXPECT_EQ(narrow(document->get_xml()), declaration + "<r/>\n");
   EXPECT_EQ(narrow(document->getDocumentElement()->get_xml()), "<r/>");
+}
+
+TEST(axsSaving, tells_that_a_document_is_of_another_engine)
+{
+  auto const foreign = std::make_shared<TestDocument>();
+  EXPECT_EQ(narrow(axsSaving::obstacle(*foreign)), "the document is of another engine");
+  apByteArray output;
+  EXPECT_FALSE(engine()->saveDocument(foreign, output));
+  EXPECT_FALSE(engine()->saveDocument(nullptr, output));
 }
 
 // The borders of XML 1.0, fifth edition, 2.3, [4] NameStartChar and [4a] NameChar.
