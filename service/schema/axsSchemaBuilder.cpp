@@ -60,13 +60,17 @@ std::string shown(axsParticle const& particle)
   return particle.element == nullptr ? std::string("a wildcard") : axsSchemaText::quoted(particle.element->name.local);
 }
 
+std::string has_two(axsContentProblem const& problem)
+{
+  return " has " + shown(*problem.first) + " with two different types (element declarations consistent)";
+}
+
 std::string words_of(axsContentProblem const& problem, axsComplexType const& type)
 {
   std::string const type_words =
     type.name.empty() ? std::string("this type") : "the type " + axsSchemaText::quoted(type.name.local);
   if (problem.kind == axsContentProblem::Kind::inconsistent)
-    return "the content of " + type_words + " has " + shown(*problem.first) +
-           " with two different types (element declarations consistent)";
+    return "the content of " + type_words + has_two(problem);
   return "the content of " + type_words + " is ambiguous: an element in it may be meant by " + shown(*problem.first) +
          " or by " + shown(*problem.second) + " (unique particle attribution)";
 }
@@ -221,6 +225,18 @@ void axsSchemaBuilder::compile_contents()
     if (problem)
       errors.add(type.place, words_of(problem, type));
   }
+  for (axsSchemaSymbol const& symbol : symbols.all())
+    if (symbol.group != nullptr && !errors.full())
+      check_group(symbol);
+}
+
+// A group may be wrong that no type refers to. Only contents, not groups, must be unambiguous.
+void axsSchemaBuilder::check_group(axsSchemaSymbol const& symbol)
+{
+  axsContentProblem problem;
+  context.models->check(*symbol.group, problem);
+  if (problem.kind == axsContentProblem::Kind::inconsistent)
+    errors.add(symbol.element->place, "the group " + axsSchemaText::quoted(symbol.name().local) + has_two(problem));
 }
 
 void axsSchemaBuilder::publish()

@@ -23,6 +23,7 @@ private:
   void check();
   void check_redefinition(axsSchemaSymbol const& symbol);
   void compile_contents();
+  void check_group(axsSchemaSymbol const& symbol);
   void publish();
 
   axsSchemaLoader const& loader;

@@ -184,9 +184,11 @@ axsContentNames const& axsContentModels::names_of(axsElementDecl const& decl)
   made.highest = made.spans.back().last;
   for (axsContentNames::Span const& span : made.spans)
     for (std::uint32_t symbol = span.first; symbol <= span.last; ++symbol)
-      made.spaces.push_back(names.space_of(symbol));
+      if (std::uint32_t const space = names.space_of(symbol); made.spaces.empty() || made.spaces.back() != space)
+        made.spaces.push_back(space);
   std::sort(made.spaces.begin(), made.spaces.end());
   made.spaces.erase(std::unique(made.spaces.begin(), made.spaces.end()), made.spaces.end());
+  made.spaces.shrink_to_fit(); // groups that contain each other would keep room for all members of all
   return made;
 }
 

@@ -34,6 +34,9 @@ public:
   /// cos-element-consistent); an automaton there is all the same. The particle must live as long as it.
   std::shared_ptr<axsContentAutomaton const> compile(axsParticle const& particle, axsContentProblem& problem);
 
+  /// What is wrong with a group by itself, if no content that was compiled has it.
+  void check(axsModelGroup const& group, axsContentProblem& problem) { compile_groups(group, problem); }
+
   axsSymbols const& symbols() const noexcept { return names; }
 
   /// For the check of what contains the group.

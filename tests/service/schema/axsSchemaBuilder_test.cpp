@@ -341,6 +341,16 @@ TEST(axsSchemaBuilder, contents_are_unambiguous_and_consistent)
     "attribution)");
   EXPECT_EQ(error_of_schema(complex("t", sequence(element("a", "type='xs:int'") + element("b") + element("a")))),
     "s.xsd:2: the content of the type 't' has 'a' with two different types (element declarations consistent)");
+  std::string const group =
+    "<xs:group name='g'><xs:choice>" + element("a", "type='xs:int'") + element("b") + "%</xs:choice></xs:group>";
+  auto const with = [&](std::string const& more)
+  {
+    std::string text = group;
+    return text.replace(text.find('%'), 1, more);
+  };
+  EXPECT_EQ(error_of_schema(with("<xs:any processContents='skip'/>")), ""); // ambiguous, but no content yet
+  EXPECT_EQ(error_of_schema(with(sequence(element("a", "type='xs:string'")))),
+    "s.xsd:2: the group 'g' has 'a' with two different types (element declarations consistent)");
 }
 
 TEST(axsSchemaBuilder, identity_constraints_refer_to_keys_with_as_many_fields)
