@@ -9,6 +9,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <string_view>
 #include <utility>
 
 namespace
@@ -58,6 +59,22 @@ bool holds_zero(apByteArray const& data)
   bool const is_wide = data.size() > 1 && (data.data()[0] == '\xFF' || data.data()[0] == '\xFE' ||
                                             data.data()[0] == '\0' || data.data()[1] == '\0');
   return !is_wide && data.size() > 0 && std::memchr(data.data(), 0, data.size()) != nullptr;
+}
+
+// The library counts lines by line feeds alone, and a return ends one by itself.
+bool has_lone_return(apByteArray const& data)
+{
+  std::string_view const text(data.data(), data.size());
+  for (std::size_t at = text.find('\r'); at != std::string_view::npos; at = text.find('\r', at + 1))
+    if (text.substr(at, 2) != "\r\n")
+      return true;
+  return false;
+}
+
+void forget_place(axmParseError& error)
+{
+  error.set_line_number(-1);
+  error.set_column_number(-1);
 }
 
 // The library gives the document all the same. That a namespace has a name which is no URI breaks no rule.
@@ -115,15 +132,21 @@ std::shared_ptr<axmDocument> parsed(
     return nullptr;
   auto const tree = std::make_shared<xml2Tree>(document);
   may_read = true;
-  bool const is_valid = xml2_is_valid(document, options, error);
+  bool const is_valid = xml2_is_valid(document, url, options, error);
   may_read = false;
   if (!is_valid)
-  {
-    error.set_url(url);
     return nullptr;
-  }
   tree->drop_white_space();
   return std::make_shared<xml2Document>(tree, tree->top());
+}
+
+std::shared_ptr<axmDocument> loaded(
+  apByteArray const& data, apString const& url, axmLoadOptions const& options, axmParseError& error)
+{
+  auto const document = parsed(data, url, options, error);
+  if (document == nullptr && has_lone_return(data))
+    forget_place(error);
+  return document;
 }
 
 // The document with both tags of every element, so that an empty text makes no difference.
@@ -187,7 +210,7 @@ std::shared_ptr<axmDocument> xml2Factory::loadDocument(
 {
   apByteArray data;
   if (read(path, data))
-    return parsed(data, path.path(), options, error);
+    return loaded(data, path.path(), options, error);
   error = error_at(APSTRING("the file cannot be read"), path.path());
   return nullptr;
 }
@@ -195,7 +218,7 @@ std::shared_ptr<axmDocument> xml2Factory::loadDocument(
 std::shared_ptr<axmDocument> xml2Factory::loadDocument(
   apByteArray const& data, axmLoadOptions const& options, axmParseError& error) const
 {
-  return parsed(data, apString(), options, error);
+  return loaded(data, apString(), options, error);
 }
 
 bool xml2Factory::saveDocument(std::shared_ptr<axmDocument> document, apByteArray& output)
@@ -203,7 +226,7 @@ bool xml2Factory::saveDocument(std::shared_ptr<axmDocument> document, apByteArra
   xml2Handle const* const handle = xml2Handle::of(document.get());
   if (handle == nullptr)
     return false;
-  if (!handle->tree->can_be_written())
+  if (!handle->tree->can_be_written(handle->node))
     return false;
   utString const text = handle->xml().to_utf8();
   apByteArray const saved(text.c_str(), static_cast<std::size_t>(text.length()));

@@ -220,7 +220,7 @@ bool xml2Handle::set_attribute(apString const& name, apString const& value) cons
     {
       if (found != nullptr)
         xmlSetNsProp(node, found->ns, found->name, text);
-      else
+      else if (xml2_is_name(name))
         xml2_with(name, [&](xmlChar const* utf8_name) { xmlNewProp(node, utf8_name, text); });
     });
   return true;

@@ -59,7 +59,7 @@ public:
   }
   apString get_text() const override { return text(); }
   void set_text(apString const& text) override { xml2Handle::set_text(text); }
-  apString get_xml() const override { return xml(); }
+  apString get_xml() const override { return tree->can_be_written(node) ? xml() : apString(); }
 };
 
 class xml2Element : public xml2Node<axmElement>
@@ -118,8 +118,7 @@ public:
 
   std::shared_ptr<axmElement> createElement(apString const& name) override
   {
-    bool const is_name = xml2_with(name, [](xmlChar const* text) { return xmlValidateName(text, 0) == 0; });
-    if (!is_name)
+    if (!xml2_is_name(name))
       return nullptr;
     return made<xml2Element>(
       xml2_with(name, [&](xmlChar const* text) { return xmlNewDocNode(tree->document(), nullptr, text, nullptr); }));

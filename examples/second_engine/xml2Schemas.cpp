@@ -88,13 +88,14 @@ bool is_valid_under(xmlDoc* document, xmlSchema* schema, axmParseError& error)
 }
 }
 
-bool xml2_is_valid(xmlDoc* document, axmLoadOptions const& options, axmParseError& error)
+bool xml2_is_valid(xmlDoc* document, apString const& url, axmLoadOptions const& options, axmParseError& error)
 {
   bool const has_none = options.num_external_schemas() == 0 && options.no_namespace_schema().empty();
   if (options.validate_mode() != axmValidateWithSchemas || has_none)
     return true;
   axmParseError found;
   bool is_valid = false;
+  bool is_usable = false;
   if (are_all_there(options))
   {
     std::string const text = schema_of_all(options);
@@ -102,10 +103,13 @@ bool xml2_is_valid(xmlDoc* document, axmLoadOptions const& options, axmParseErro
     xmlSchemaSetParserStructuredErrors(context, note, &found);
     xmlSchema* const schema = xmlSchemaParse(context);
     xmlSchemaFreeParserCtxt(context);
-    is_valid =
-      schema != nullptr && found.invalid() && (!concern(options, document) || is_valid_under(document, schema, found));
+    is_usable = schema != nullptr && found.invalid();
+    is_valid = is_usable && (!concern(options, document) || is_valid_under(document, schema, found));
     xmlSchemaFree(schema);
   }
+  // A schema that cannot be used has a name that the library does not tell as it was given.
+  if (is_usable)
+    found.set_url(url);
   if (!is_valid)
     error = found.invalid() ? axmParseError(APSTRING("a schema cannot be used")) : found;
   return is_valid;

@@ -5,6 +5,6 @@
 
 #include <libxml/tree.h>
 
-// Whether `document` is valid under the schemas of the options; an error without a place in it says why not. True where
+// Whether `document`, which is from `url`, is valid under the schemas of the options; an error says why not. True where
 // there are none.
-bool xml2_is_valid(xmlDoc* document, axmLoadOptions const& options, axmParseError& error);
+bool xml2_is_valid(xmlDoc* document, apString const& url, axmLoadOptions const& options, axmParseError& error);

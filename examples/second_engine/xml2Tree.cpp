@@ -1,5 +1,7 @@
 #include "xml2Tree.h"
 
+#include <libxml/parser.h>
+
 #include <libxml/chvalid.h>
 
 #include <cstring>
@@ -87,18 +89,18 @@ void xml2Tree::drop_white_space()
   }
 }
 
-bool xml2Tree::can_be_written() const
+bool xml2Tree::can_be_written(xmlNode* top) const
 {
-  if (xmlDocGetRootElement(doc) == nullptr)
+  if (top->type == XML_DOCUMENT_NODE && xmlDocGetRootElement(doc) == nullptr)
     return false;
-  for (xmlNode* node = top(); node != nullptr; node = next_in_document(node, top()))
+  for (xmlNode* node = top; node != nullptr; node = next_in_document(node, top))
   {
     xmlAttr const* attribute = node->type == XML_ELEMENT_NODE ? node->properties : nullptr;
     for (; attribute != nullptr; attribute = attribute->next)
       if (attribute->children != nullptr && !is_storable(attribute->children->content))
         return false;
-    bool const has_content = node->type != XML_ELEMENT_NODE && node->type != XML_DOCUMENT_NODE &&
-                             node->type != XML_DTD_NODE && node->content != nullptr;
+    bool const has_content = node->type != XML_ELEMENT_NODE && node->type != XML_ATTRIBUTE_NODE &&
+                             node->type != XML_DOCUMENT_NODE && node->type != XML_DTD_NODE && node->content != nullptr;
     if (has_content && (!is_storable(node->content) || ends_early(*node)))
       return false;
   }
@@ -146,4 +148,15 @@ apString xml2_name(xmlNode const& node)
   default:
     return xml2_text(node.name);
   }
+}
+
+bool xml2_is_name(apString const& text)
+{
+  // The library's own test knows the names of earlier editions only, its parser those of the fifth.
+  utString const tag = (APSTRING("<") + text + APSTRING("/>")).to_utf8();
+  xmlDoc* const document = xmlReadMemory(tag.c_str(), tag.length(), nullptr, "UTF-8",
+    XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_NOERROR | XML_PARSE_NOWARNING);
+  bool const is_name = document != nullptr && xml2_name(*xmlDocGetRootElement(document)) == text;
+  xmlFreeDoc(document);
+  return is_name;
 }

@@ -32,8 +32,8 @@ public:
   // Text that is white space only is dropped, except where it is exactly one space.
   void drop_white_space();
 
-  // Whether the document, written, is one that loads again: it has a root, and no text holds what XML cannot.
-  bool can_be_written() const;
+  // Whether a node, written, can be read again: a document has a root, and no text holds what XML cannot.
+  bool can_be_written(xmlNode* top) const;
 
   // The next node in document order under `top`, null after the last one.
   static xmlNode* next_in_document(xmlNode* node, xmlNode* top);
@@ -57,3 +57,6 @@ auto xml2_with(apString const& text, Use use)
   utString const utf8 = text.to_utf8();
   return use(reinterpret_cast<xmlChar const*>(utf8.c_str()));
 }
+
+// XML 1.0, 2.3, [5] Name.
+bool xml2_is_name(apString const& text);

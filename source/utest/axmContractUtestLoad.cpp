@@ -342,6 +342,24 @@ void axmContractUtest::test_bad_schemas(Factory const& factory) const
   group.check(fails(factory, bytes_of(valid_machine), with_schema(apPath("."))), "!document.get() && !error.invalid()",
     __LINE__, "a folder is no schema");
 
+  axmUtestUtils::write_data(bad,
+    "<xs:schema xmlns:xs=\"http://www.w3.org/2001/XMLSchema\" targetNamespace=\"Unrelated\">"
+    "<xs:element name=\"r\" type=\"no_such_type\"/></xs:schema>");
+  axmLoadOptions one_wrong = with_schema(good);
+  one_wrong.add_external_schema(APSTRING("Unrelated"), bad);
+  apPath const path = unique(APSTRING("good"), APSTRING("xml"));
+  axmUtestFile const path_removed_at_the_end(path);
+  axmUtestUtils::write_data(path, valid_machine);
+  axmParseError in_memory;
+  axmParseError in_file;
+  bool const are_refused = factory->loadDocument(bytes_of(valid_machine), one_wrong, in_memory) == nullptr &&
+                           factory->loadDocument(path, one_wrong, in_file) == nullptr;
+  group.check(are_refused && !in_memory.invalid() && !in_file.invalid(), "!document.get() && !error.invalid()",
+    __LINE__, "a wrong schema that the document does not need fails the load");
+  for (axmParseError const& error : {in_memory, in_file})
+    group.check(error.url().empty() || error.url().find(APSTRING("contract_bad")) >= 0, "error.url() names the schema",
+      __LINE__, "and is what failed");
+
   axmLoadOptions one_missing = with_schema(good);
   one_missing.add_external_schema(APSTRING("Unrelated"), apPath("./contract_no_such_schema.xsd"));
   group.check(fails(factory, bytes_of(valid_machine), one_missing), "!document.get() && !error.invalid()", __LINE__,

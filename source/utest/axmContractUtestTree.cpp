@@ -499,6 +499,9 @@ void axmContractUtest::test_text(Factory const& factory) const
   set_text(instruction, APSTRING("other"));
   group.check(value_of(instruction), APSTRING("other"), "instruction->getNodeValue()", __LINE__,
     "so can the value of an instruction");
+  set_text(document, APSTRING("nothing"));
+  group.check(same(root_of(document), root) && same(first_of(document), root) && same(last_of(document), root),
+    "*document->getDocumentElement() == *root", __LINE__, "that of a document is not replaced");
   Node const fresh = created(document, APSTRING("fresh"));
   set_text(fresh, APSTRING("filled"));
   group.check(text_of(fresh), APSTRING("filled"), "fresh->get_text()", __LINE__, "an element that was empty");
@@ -538,6 +541,33 @@ void axmContractUtest::test_xml(Factory const& factory) const
     "what looks escaped is escaped too");
   group.check(xml_of(text_node(document, APSTRING("\"quoted\" 'too'"))), APSTRING("\"quoted\" 'too'"),
     "text->get_xml()", __LINE__, "quotes in a text are not escaped");
+  struct Unwritable
+  {
+    Node node;
+    char const* description;
+  };
+  auto const rootless = factory->createDocument(APSTRING("gone"));
+  remove(rootless, root_of(rootless));
+  auto const held = created(document, APSTRING("held"));
+  append(held, text_node(document, APSTRING("\u0001")));
+  auto const holder = created(document, APSTRING("holder"));
+  append(holder, created(document, APSTRING("between")));
+  append(last_of(holder), comment(document, APSTRING("--")));
+  auto const named = created(document, APSTRING("named"));
+  if (named != nullptr)
+    named->setAttribute(APSTRING("N"), APSTRING("\uFFFE"));
+  Node const instruction = first_of(load_root(*factory, "<r><?target content?></r>"));
+  set_text(instruction, APSTRING("a?>b"));
+  Unwritable const unwritable[] = {{rootless, "a document without a root"},
+    {text_node(document, APSTRING("\u0001")), "a control character"},
+    {text_node(document, APSTRING("a\uFFFF")), "what is no character"},
+    {comment(document, APSTRING("a--b")), "a comment that holds two hyphens"},
+    {comment(document, APSTRING("a-")), "a comment that ends with a hyphen"},
+    {comment(document, APSTRING("\u0008")), "a control character in a comment"},
+    {instruction, "an instruction that holds its end"}, {held, "an element that holds a control character"},
+    {holder, "a comment further down"}, {named, "an attribute that holds what is no character"}};
+  for (auto const& [node, description] : unwritable)
+    group.check(xml_of(node), apString(), "node->get_xml()", __LINE__, description);
   group.check(xml_of(created(document, APSTRING("only"))).find(APSTRING("<only")), 0, "only->get_xml()", __LINE__,
     "the XML of an element begins with its tag");
 }

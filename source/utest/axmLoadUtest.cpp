@@ -9,12 +9,16 @@
 #include "axmXmlTables.h"
 #include "model/axmModelRandom.h"
 
+#include <utUnitTest.h>
+
 #include <cctype>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <string>
 #include <system_error>
+#include <utility>
+#include <vector>
 
 using namespace axmUtestAccess;
 
@@ -133,6 +137,7 @@ void axmLoadUtest::run_tests(Factory const& factory) const
   axmUtestEntry<Utest, Factory const&> const groups[] = {
     {&Utest::test_entity_limits, "axmLoadUtest::test_entity_limits"},
     {&Utest::test_external_things, "axmLoadUtest::test_external_things"},
+    {&Utest::test_external_files, "axmLoadUtest::test_external_files"},
     {&Utest::test_encodings, "axmLoadUtest::test_encodings"},
     {&Utest::test_markup, "axmLoadUtest::test_markup"},
     {&Utest::test_large_documents, "axmLoadUtest::test_large_documents"},
@@ -266,6 +271,227 @@ void axmLoadUtest::test_external_things(Factory const& factory) const
   std::string const missing = "<!DOCTYPE r [<!ENTITY e SYSTEM './load_no_such_file.ent'>]><r>&e;</r>";
   group.check(
     fails(load_of_file(factory, missing, resolving)), "fails", __LINE__, "an external entity that is missing");
+}
+
+namespace
+{
+// A folder in the working folder as long as it lives, with what the documents of a table name.
+class OutsideFolder
+{
+public:
+  OutsideFolder() : path(std::filesystem::u8path(unique(APSTRING("outside"), APSTRING("d")).path().c_str()))
+  {
+    std::error_code ignored;
+    std::filesystem::create_directories(path / "sub", ignored);
+    for (auto const& [name, bytes] : files())
+      write(in(name), bytes);
+  }
+  OutsideFolder(OutsideFolder const&) = delete;
+  OutsideFolder& operator=(OutsideFolder const&) = delete;
+  ~OutsideFolder()
+  {
+    std::error_code ignored;
+    std::filesystem::remove_all(path, ignored);
+  }
+
+  apPath in(char const* name) const { return apPath((path / name).generic_u8string().c_str()); }
+
+  // The document stands in the folder, so its names are those of files beside it.
+  Load load(Factory const& factory, char const* document, axmLoadOptions const& options) const
+  {
+    write(in("document.xml"), document);
+    Load result = {nullptr, axmParseError(), false};
+    result.document = factory->loadDocument(in("document.xml"), options, result.error);
+    result.is_consistent = (result.document != nullptr) == result.error.invalid();
+    return result;
+  }
+
+private:
+  static std::vector<std::pair<char const*, std::string>> files()
+  {
+    return {
+      {"plain.ent", "outside"},
+      {"lines.ent", "a\r\nb\rc&#13;d"},
+      {"declared.ent", "<?xml version='1.0' encoding='UTF-8'?>\xC3\xA4"},
+      {"encoding.ent", "<?xml encoding='UTF-8'?>\n\xD1\x84"},
+      {"mark.ent", "\xEF\xBB\xBFx"},
+      {"wide.ent", std::string("\xFF\xFEx\0\xAC\x20", 6)},
+      {"elements.ent", "<b k='1'>x</b>y<!--z--><?p q?><![CDATA[<&]]>"},
+      {"nested.ent", "<n>&inner;&outer;</n>"},
+      {"empty.ent", ""},
+      {"amp.ent", "&amp;&lt;&#65;"},
+      {"start.ent", "<b>"},
+      {"end.ent", "</r>"},
+      {"tag.ent", "<b"},
+      {"broken.ent", "one\ntwo & three"},
+      {"bytes.ent", "\xE4"},
+      {"control.ent", "\x01"},
+      {"type.ent", "<!DOCTYPE r>"},
+      {"late.ent", " <?xml version='1.0' encoding='UTF-8'?>x"},
+      {"unknown.ent", "a&none;b"},
+      {"self.ent", "&e;"},
+      {"subset.dtd", "<!ENTITY s 'subset'><!ATTLIST r d CDATA 'default' t NMTOKENS #IMPLIED>"},
+      {"declared.dtd", "<?xml version='1.0' encoding='UTF-8'?><!ENTITY s '\xC3\xA4'>"},
+      {"sections.dtd",
+        "<!ENTITY % yes 'INCLUDE'><!ENTITY % no 'IGNORE'><![INCLUDE[<!ENTITY i 'included'>]]>"
+        "<![ IGNORE [<!ENTITY i 'ignored'> <![INCLUDE[<!ENTITY j 'ignored'>]]> ' <!-- ]]><![%yes;[<!ENTITY j 'J'>"
+        "<![%no;[<!ENTITY k 'ignored'>]]><!ENTITY k 'K'>]]><![IGNORE[]]><![INCLUDE[]]><!ENTITY j 'late'>"},
+      {"parameters.dtd",
+        "<!ENTITY % type 'CDATA'><!ENTITY % name 'f'><!ENTITY % both 'a %type; \"v\"'><!ATTLIST r %both;>"
+        "<!ENTITY %name; 'named'><!ENTITY g '[%type;]'><!ELEMENT r (%name;|#PCDATA)* >"},
+      {"model.dtd", "<!ENTITY % names 'a|b'><!ELEMENT r (#PCDATA|%names;)*><!ENTITY m 'M'>"},
+      {"open.dtd", "<![INCLUDE[<!ENTITY s 'x'>"},
+      {"surplus.dtd", "<!ENTITY s 'x'>]]>"},
+      {"ignored.dtd", "<![IGNORE[ <![ ]]> <!ENTITY s 'x'>"},
+      {"other.dtd", "<![OTHER[<!ENTITY s 'x'>]]>"},
+      {"text.dtd", "<!ENTITY s 'x'> text"},
+      {"document.dtd", "<r/>"},
+      {"half.dtd", "<!ENTITY s 'x'"},
+      {"sub/outer.dtd", "<!ENTITY e SYSTEM 'inner.ent'><!ENTITY % q SYSTEM 'more.dtd'>%q;"},
+      {"sub/more.dtd", "<!ENTITY m 'more'>"},
+      {"sub/inner.ent", "inner"},
+      {"sub/outer.ent", "[&e;]"},
+    };
+  }
+
+  std::filesystem::path const path;
+};
+
+axmXmlTables::Taken const taken_entities[] = {
+  {"<!DOCTYPE r [<!ENTITY e SYSTEM 'plain.ent'>]><r>&e;</r>", "<r>outside</r>"},
+  {"<!DOCTYPE r [<!ENTITY e SYSTEM './plain.ent'>]><r>a&e;b&e;</r>", "<r>aoutsideboutside</r>"},
+  {"<!DOCTYPE r [<!ENTITY e SYSTEM 'sub/../plain.ent'>]><r>&e;</r>", "<r>outside</r>"},
+  {"<!DOCTYPE r [<!ENTITY e PUBLIC 'p' 'sub/inner.ent'>]><r>&e;</r>", "<r>inner</r>"},
+  {"<!DOCTYPE r [<!ENTITY e SYSTEM 'lines.ent'>]><r>&e;</r>", "<r>a\nb\nc\rd</r>"},
+  {"<!DOCTYPE r [<!ENTITY e SYSTEM 'declared.ent'>]><r>&e;</r>", "<r>\xC3\xA4</r>"},
+  {"<!DOCTYPE r [<!ENTITY e SYSTEM 'encoding.ent'>]><r>&e;</r>", "<r>\n\xD1\x84</r>"},
+  {"<!DOCTYPE r [<!ENTITY e SYSTEM 'mark.ent'>]><r>&e;</r>", "<r>x</r>"},
+  {"<!DOCTYPE r [<!ENTITY e SYSTEM 'wide.ent'>]><r>&e;</r>", "<r>x\xE2\x82\xAC</r>"},
+  {"<!DOCTYPE r [<!ENTITY e SYSTEM 'elements.ent'>]><r>&e;</r>", "<r><b k='1'>x</b>y<!--z--><?p q?><&</r>"},
+  {"<!DOCTYPE r [<!ENTITY e SYSTEM 'nested.ent'><!ENTITY inner '<i/>'><!ENTITY outer SYSTEM 'plain.ent'>]><r>&e;</r>",
+    "<r><n><i></i>outside</n></r>"},
+  {"<!DOCTYPE r [<!ENTITY e SYSTEM 'empty.ent'>]><r>a&e;b</r>", "<r>ab</r>"},
+  {"<!DOCTYPE r [<!ENTITY e SYSTEM 'amp.ent'>]><r>&e;</r>", "<r>&<A</r>"},
+  {"<!DOCTYPE r [<!ENTITY e SYSTEM 'none.ent'>]><r/>", "<r></r>"},
+  {"<!DOCTYPE r [<!ENTITY e SYSTEM 'none.ent'><!ENTITY f '&e;'>]><r/>", "<r></r>"},
+  {"<!DOCTYPE r [<!ENTITY e SYSTEM 'plain.ent'><!ENTITY e 'second'>]><r>&e;</r>", "<r>outside</r>"},
+  {"<!DOCTYPE r [<!ENTITY e 'first'><!ENTITY e SYSTEM 'plain.ent'>]><r>&e;</r>", "<r>first</r>"},
+  {"<!DOCTYPE r [<!ENTITY e SYSTEM 'plain.ent'>]><r><!--&e;--><![CDATA[&e;]]></r>", "<r><!--&e;-->&e;</r>"},
+};
+
+char const* const refused_entities[] = {
+  "<!DOCTYPE r [<!ENTITY e SYSTEM 'none.ent'>]><r>&e;</r>",
+  "<!DOCTYPE r [<!ENTITY e SYSTEM 'plain.ent'>]><r k='&e;'/>",
+  "<!DOCTYPE r [<!ENTITY e SYSTEM 'plain.ent'><!ENTITY i '&e;'>]><r k='&i;'/>",
+  "<!DOCTYPE r [<!ENTITY e SYSTEM 'start.ent'>]><r>&e;</b></r>",
+  "<!DOCTYPE r [<!ENTITY e SYSTEM 'start.ent'>]><r>&e;</r>",
+  "<!DOCTYPE r [<!ENTITY e SYSTEM 'end.ent'>]><r>&e;",
+  "<!DOCTYPE r [<!ENTITY e SYSTEM 'end.ent'>]><r>&e;</r>",
+  "<!DOCTYPE r [<!ENTITY e SYSTEM 'tag.ent'>]><r>&e;/></r>",
+  "<!DOCTYPE r [<!ENTITY e SYSTEM 'broken.ent'>]><r>&e;</r>",
+  "<!DOCTYPE r [<!ENTITY e SYSTEM 'bytes.ent'>]><r>&e;</r>",
+  "<!DOCTYPE r [<!ENTITY e SYSTEM 'control.ent'>]><r>&e;</r>",
+  "<!DOCTYPE r [<!ENTITY e SYSTEM 'type.ent'>]><r>&e;</r>",
+  "<!DOCTYPE r [<!ENTITY e SYSTEM 'late.ent'>]><r>&e;</r>",
+  "<!DOCTYPE r [<!ENTITY e SYSTEM 'unknown.ent'>]><r>&e;</r>",
+  "<!DOCTYPE r [<!ENTITY e SYSTEM 'self.ent'>]><r>&e;</r>",
+  "<!DOCTYPE r [<!NOTATION n SYSTEM 'n'><!ENTITY e SYSTEM 'plain.ent' NDATA n>]><r>&e;</r>",
+};
+
+axmXmlTables::Taken const taken_subsets[] = {
+  {"<!DOCTYPE r SYSTEM 'subset.dtd'><r>&s;</r>", "<r d='default'>subset</r>"},
+  {"<!DOCTYPE r PUBLIC 'p' 'subset.dtd'><r t=' a  b '>&s;</r>", "<r d='default' t='a b'>subset</r>"},
+  {"<!DOCTYPE r SYSTEM 'subset.dtd' [<!ENTITY s 'inside'><!ATTLIST r d CDATA 'mine'>]><r>&s;</r>",
+    "<r d='mine'>inside</r>"},
+  {"<!DOCTYPE r [<!ENTITY % p SYSTEM 'subset.dtd'>%p;]><r>&s;</r>", "<r d='default'>subset</r>"},
+  {"<!DOCTYPE r [<!ENTITY % p SYSTEM 'subset.dtd'>%p;<!ENTITY s 'late'>]><r>&s;</r>", "<r d='default'>subset</r>"},
+  {"<!DOCTYPE r [<!ENTITY % p SYSTEM 'none.dtd'>]><r/>", "<r></r>"},
+  {"<!DOCTYPE r SYSTEM 'declared.dtd'><r>&s;</r>", "<r>\xC3\xA4</r>"},
+  {"<!DOCTYPE r SYSTEM 'sections.dtd'><r>&i;&j;&k;</r>", "<r>includedJK</r>"},
+  {"<!DOCTYPE r SYSTEM 'sections.dtd' [<!ENTITY % yes 'IGNORE'>]><r>&i;&j;</r>", "<r>includedlate</r>"},
+  {"<!DOCTYPE r SYSTEM 'sections.dtd' [<!ENTITY % no 'INCLUDE'>]><r>&k;</r>", "<r>ignored</r>"},
+  {"<!DOCTYPE r SYSTEM 'model.dtd'><r>&m;</r>", "<r>M</r>"},
+  {"<!DOCTYPE r SYSTEM 'model.dtd' [<!ENTITY % names 'c'>]><r>&m;<c/></r>", "<r>M<c></c></r>"},
+  {"<!DOCTYPE r SYSTEM 'sub/outer.dtd'><r>&e;&m;</r>", "<r>innermore</r>"},
+  {"<!DOCTYPE r [<!ENTITY % p SYSTEM 'sub/outer.dtd'>%p;]><r>&e;&m;</r>", "<r>innermore</r>"},
+  {"<!DOCTYPE r [<!ENTITY % p SYSTEM 'sub/outer.dtd'>%p;<!ENTITY o SYSTEM 'sub/outer.ent'>]><r>&o;</r>",
+    "<r>[inner]</r>"},
+};
+
+char const* const refused_subsets[] = {
+  "<!DOCTYPE r SYSTEM 'parameters.dtd'><r>&g;&f;</r>",
+  "<!DOCTYPE r SYSTEM 'open.dtd'><r>&s;</r>",
+  "<!DOCTYPE r SYSTEM 'surplus.dtd'><r>&s;</r>",
+  "<!DOCTYPE r SYSTEM 'ignored.dtd'><r/>",
+  "<!DOCTYPE r SYSTEM 'other.dtd'><r/>",
+  "<!DOCTYPE r SYSTEM 'text.dtd'><r>&s;</r>",
+  "<!DOCTYPE r SYSTEM 'document.dtd'><r/>",
+  "<!DOCTYPE r SYSTEM 'half.dtd'><r/>",
+  "<!DOCTYPE r [<!ENTITY % p SYSTEM 'half.dtd'>%p;>]><r/>",
+  "<!DOCTYPE r [<!ENTITY % p SYSTEM 'text.dtd'>%p;]><r/>",
+  "<?xml version='1.0' standalone='yes'?><!DOCTYPE r SYSTEM 'subset.dtd'><r>&s;</r>",
+};
+
+template <std::size_t TakenCount, std::size_t RefusedCount>
+bool are_read(utUnitTest& tester, Factory const& factory, axmXmlTables::Taken const (&taken)[TakenCount],
+  char const* const (&refused)[RefusedCount])
+{
+  OutsideFolder const folder;
+  axmLoadOptions resolving;
+  resolving.set_disable_entity_resolution(false);
+  bool are_right = true;
+  for (auto const& [text, shape] : taken)
+  {
+    Load const load = folder.load(factory, text, resolving);
+    std::string const came = loads(load) ? axmXmlTables::shape_of(load.document) : "(no document)";
+    are_right = are_right && came == shape;
+    if (came != shape)
+      tester.printf("%s\nExpected \"%s\"\nActual   \"%s\"", text, shape, came.c_str());
+  }
+  for (char const* const text : refused)
+  {
+    bool const is_refused = fails(folder.load(factory, text, resolving));
+    are_right = are_right && is_refused;
+    if (!is_refused)
+      tester.printf("loaded, but is no document: %s", text);
+  }
+  return are_right;
+}
+
+// Whether what is told of a failure is a place of the file that it names.
+bool is_place(axmParseError const& error, char const* name, int line)
+{
+  return error.url().find(apString(name)) >= 0 && (error.line_number() == -1 || error.line_number() == line);
+}
+}
+
+void axmLoadUtest::test_external_files(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmLoadUtest::test_external_files");
+  group.check(are_read(*tester, factory, taken_entities, refused_entities), "what is in the files is in the document",
+    __LINE__, "external entities, where they are allowed");
+  group.check(are_read(*tester, factory, taken_subsets, refused_subsets), "what is in the files is in the document",
+    __LINE__, "external subsets and parameter entities, where they are allowed");
+  OutsideFolder const folder;
+  axmLoadOptions options;
+  axmParseError const closed =
+    folder.load(factory, "<!DOCTYPE r [\n<!ENTITY e SYSTEM 'plain.ent'>]>\n<r>\n&e;</r>", options).error;
+  group.check(!closed.invalid() && (closed.url().empty() || is_place(closed, "document.xml", 4)), "the place", __LINE__,
+    "a document that needs what it must not read");
+  options.set_disable_entity_resolution(false);
+  axmParseError const broken =
+    folder.load(factory, "<!DOCTYPE r [<!ENTITY e SYSTEM 'broken.ent'>]>\n\n\n<r>&e;</r>", options).error;
+  group.check(broken.url().empty() || is_place(broken, "broken.ent", 2) || is_place(broken, "document.xml", 4),
+    "the place", __LINE__, "a failure in another file");
+  axmParseError const after =
+    folder.load(factory, "<!DOCTYPE r [<!ENTITY e SYSTEM 'lines.ent'>]>\n<r>&e;\n</s>", options).error;
+  group.check(
+    after.url().empty() || is_place(after, "document.xml", 3), "the place", __LINE__, "a failure after another file");
+  options.set_entity_expansion_limit(2);
+  char const three[] = "<!DOCTYPE r [<!ENTITY e SYSTEM 'plain.ent'>]><r>&e;&e;&e;</r>";
+  group.check(fails(folder.load(factory, three, options)), "fails", __LINE__, "external entities count as others do");
+  options.set_entity_expansion_limit(3);
+  group.check(loads(folder.load(factory, three, options)), "loads", __LINE__, "as many as the limit allows");
 }
 
 namespace
@@ -500,6 +726,9 @@ void axmLoadUtest::test_places(Factory const& factory) const
     {"<r>" + many(50, "\xF0\x90\x90\xB7") + "</s>", 1, 54, 108, "one beyond the first plane is one character or two"},
     {"<r>\t\t\t\t\t</s>", 1, 9, 13, "a tab is one character"},
     {"<r>\r\n\r\n</s>", 3, 1, 5, "a line end of two characters is before the first column"},
+    {"<r>\r\r\r</s>", 4, 1, 5, "a return ends a line, too"},
+    {"<r>\n\r\n\r</s>", 4, 1, 5, "line ends of every kind"},
+    {"<r k='\r'>\r<!--\r-->\r&x;</r>", 5, 1, 4, "returns in all that may hold them"},
     {"<!DOCTYPE r [<!ENTITY e '" + many(50, "x") + "'>]><r>&e;</s>", 1, 86, 90,
       "an entity is as long as its reference"},
   };
@@ -637,6 +866,15 @@ void axmLoadUtest::test_schema_sets(Factory const& factory) const
   for (auto const& [text, is_valid, description] : cases)
     for (Load const& load : {load_of(factory, text, options), load_of_file(factory, text, options)})
       group.check(is_valid ? loads(load) : fails(load), is_valid ? "loads" : "fails", __LINE__, description);
+  std::string const name = plain.path().c_str();
+  std::string const instance = " xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' ";
+  axmLoadOptions other_options(axmValidateWithSchemas);
+  other_options.add_external_schema(APSTRING("urn:two"), two);
+  for (axmLoadOptions const& given : {axmLoadOptions(), axmLoadOptions(axmValidateWithSchemas), other_options})
+    for (std::string const& text : {"<h" + instance + "xsi:noNamespaceSchemaLocation='" + name + "'><v>x</v></h>",
+           "<h xmlns='urn:one'" + instance + "xsi:schemaLocation='urn:one " + one.path().c_str() + "'><v>x</v></h>"})
+      group.check(loads(load_of(factory, text, given)) && loads(load_of_file(factory, text, given)), "loads", __LINE__,
+        "a schema that the document names is not one that is given");
   axmUtestUtils::write_data(plain, schema("", "<xs:element name='v' type='xs:boolean'/>").c_str());
   group.check(
     loads(load_of(factory, "<v>true</v>", options)), "loads", __LINE__, "a schema is read anew at every load");
@@ -730,6 +968,10 @@ void set_first(axmElement& root, wchar_t const* text)
     first->set_text(text);
 }
 
+// Ends of lines in other versions, blanks of other scripts, deletions, ends of ranges, a mark, and what is beyond U+FFFF.
+wchar_t const odd_characters[] =
+  L"a\x7F\u0080\u0085\u009F\u00A0\u00AD\u2028\u2029\u3000\uD7FF\uE000\uFEFF\uFFFD\U00010000\U0010FFFFz";
+
 char const with_types[] = "<!DOCTYPE r [<!ATTLIST r k NMTOKENS #IMPLIED d CDATA 'x'>]><r k='a'/>";
 
 Edit const edits[] = {
@@ -789,6 +1031,31 @@ Edit const edits[] = {
   {"<r><![CDATA[x]]></r>", [](axmDocument&, axmElement& r) { set_first(r, L"a\x01"); }, true, "a character in one"},
   {"<r>x</r>", [](axmDocument&, axmElement& r) { set_first(r, L"]]>\r\n&lt;\t<>"); }, false, "a text"},
   {"<r k='x'/>", [](axmDocument&, axmElement& r) { r.setAttribute(L"k", L"\t\r\n \"'<>&"); }, false, "a value"},
+  {"<r k='x'>x</r>",
+    [](axmDocument&, axmElement& r)
+    {
+      r.setAttribute(L"k", odd_characters);
+      set_first(r, odd_characters);
+    },
+    false, "characters that look like others"},
+  {"<r><?t x?></r>", [](axmDocument&, axmElement& r) { set_first(r, odd_characters); }, false,
+    "such characters in an instruction"},
+  {"<r><!--x--></r>", [](axmDocument&, axmElement& r) { set_first(r, odd_characters); }, false,
+    "such characters in a comment"},
+  {"<r>x</r>",
+    [](axmDocument& d, axmElement& r)
+    {
+      set_first(r, L"]]");
+      r.appendChild(d.createTextNode(L">"));
+    },
+    false, "the end of a CDATA section in two texts"},
+  {"<r/>",
+    [](axmDocument& d, axmElement& r)
+    {
+      r.appendChild(d.createTextNode(L"a\r"));
+      r.appendChild(d.createTextNode(L"\nb"));
+    },
+    false, "a line end of two characters in two texts"},
 };
 }
 

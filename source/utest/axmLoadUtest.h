@@ -22,6 +22,7 @@ public:
 protected:
   void test_entity_limits(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_external_things(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_external_files(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_encodings(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_markup(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_large_documents(std::shared_ptr<axmDocumentFactory> const& factory) const;

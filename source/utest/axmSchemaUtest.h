@@ -25,6 +25,7 @@ private:
   void test_attributes(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_derivation(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_constraints(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_rules(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_modules(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_wrong_schemas(std::shared_ptr<axmDocumentFactory> const& factory) const;
 

@@ -2,6 +2,13 @@
 
 #include "axmUtestGroup.h"
 #include "axmXmlTables.h"
+#include "model/axmModelText.h"
+
+#include <utUnitTest.h>
+#include <utUtf8.h>
+
+#include <cstddef>
+#include <string>
 
 using namespace axmXmlTables;
 
@@ -404,6 +411,22 @@ Taken const taken_texts[] = {
   {"<r><![CDATA[<![CDATA[]]></r>", "<r><![CDATA[</r>"},
   {"<r><![CDATA[\xC3\xA4\r\n]]></r>", "<r>\xC3\xA4\n</r>"},
   {"<r>a<![CDATA[]]>b</r>", "<r>ab</r>"},
+  {"<r>&#32;</r>", "<r> </r>"},
+  {"<r>&#32;&#32;</r>", "<r></r>"},
+  {"<r> &#32;</r>", "<r></r>"},
+  {"<r>&#10;</r>", "<r></r>"},
+  {"<r>&#9;<a/>&#13;&#10;</r>", "<r><a></a></r>"},
+  {"<r>\t<a/> <a/>  <a/>\n</r>", "<r><a></a> <a></a><a></a></r>"},
+  {"<r xml:space='default'> <a/>  </r>", "<r xml:space='default'> <a></a></r>"},
+  {"<!DOCTYPE r [<!ENTITY e ' '>]><r>&e;</r>", "<r> </r>"},
+  {"<!DOCTYPE r [<!ENTITY e ' '>]><r> &e;</r>", "<r></r>"},
+  {"<!DOCTYPE r [<!ENTITY e '  '>]><r>&e;<a/>x&e;</r>", "<r><a></a>x  </r>"},
+  {"<!DOCTYPE r [<!ENTITY e ''>]><r> &e; </r>", "<r></r>"},
+  {"<!DOCTYPE r [<!ENTITY e ''>]><r> &e;</r>", "<r> </r>"},
+  {"<!DOCTYPE r [<!ELEMENT r (a)*>]><r> <a/>  <a/></r>", "<r> <a></a><a></a></r>"},
+  {"<r>  <?p?>  <!---->  </r>", "<r><?p ?><!----></r>"},
+  {"<r>                                                                                                </r>",
+    "<r></r>"},
 };
 
 char const* const refused_texts[] = {
@@ -703,6 +726,7 @@ void axmXmlUtest::run_tests(Factory const& factory) const
     {&Utest::test_tokens, "axmXmlUtest::test_tokens"},
     {&Utest::test_entity_declarations, "axmXmlUtest::test_entity_declarations"},
     {&Utest::test_entities, "axmXmlUtest::test_entities"},
+    {&Utest::test_forms, "axmXmlUtest::test_forms"},
   };
   axm_run_groups(*this, factory, groups, tester, file);
 }
@@ -716,12 +740,95 @@ void axmXmlUtest::test_documents(Factory const& factory) const
     "documents, their declarations and document types");
 }
 
+namespace
+{
+// The first and the last character of each range of the productions of names, those beside them, and what ASCII has.
+char32_t const characters_at_borders[] = {0x9, 0xA, 0xD, 0x20, 0x21, 0x22, 0x26, 0x2C, 0x2D, 0x2E, 0x2F, 0x30, 0x39,
+  0x3A, 0x3B, 0x3C, 0x3E, 0x40, 0x41, 0x5A, 0x5B, 0x5E, 0x5F, 0x60, 0x61, 0x7A, 0x7B, 0x7F, 0x80, 0x85, 0xA0, 0xAA,
+  0xB5, 0xB6, 0xB7, 0xB8, 0xBA, 0xBF, 0xC0, 0xD6, 0xD7, 0xD8, 0xF6, 0xF7, 0xF8, 0x2FF, 0x300, 0x36F, 0x370, 0x37D,
+  0x37E, 0x37F, 0x1FFF, 0x2000, 0x200B, 0x200C, 0x200D, 0x200E, 0x2028, 0x203E, 0x203F, 0x2040, 0x2041, 0x206F, 0x2070,
+  0x218F, 0x2190, 0x2BFF, 0x2C00, 0x2FEF, 0x2FF0, 0x3000, 0x3001, 0xD7FF, 0xE000, 0xF8FF, 0xF900, 0xFDCF, 0xFDD0,
+  0xFDEF, 0xFDF0, 0xFEFF, 0xFFFD, 0xFFFE, 0xFFFF, 0x10000, 0x1FFFF, 0xEFFFF, 0xF0000, 0x10FFFF};
+
+// Whether every way to give a name takes what is one, and nothing else.
+bool is_judged(axmDocumentFactory const& factory, std::string const& text)
+{
+  apString const name(text.c_str());
+  bool const is_name = axmModelText::is_name(name.view());
+  auto const document = factory.createDocument(APSTRING("r"));
+  auto const named = factory.createDocument(name);
+  auto const root = axmUtestAccess::root_of(document);
+  if (root == nullptr || (named != nullptr) != is_name || (document->createElement(name) != nullptr) != is_name)
+    return false;
+  root->setAttribute(name, APSTRING("v"));
+  if (root->hasAttribute(name) != is_name || root->hasAttributes() != is_name)
+    return false;
+  // A colon has a meaning of its own there.
+  bool const has_colon = text.find(':') != std::string::npos;
+  // White space and the ends of tags end a name.
+  bool const ends = text.find_first_of("\t\n\r />") != std::string::npos;
+  axmParseError error;
+  std::string const markup = "<r><" + text + "></" + text + "></r>";
+  auto const loaded = factory.loadDocument(axmUtestAccess::bytes_of(markup.c_str()), axmLoadOptions(), error);
+  return has_colon || ends || (loaded != nullptr) == is_name;
+}
+
+bool are_judged(utUnitTest& tester, axmDocumentFactory const& factory)
+{
+  bool are_right = true;
+  for (char32_t const character : characters_at_borders)
+    for (char const* const begin : {"", "a"})
+    {
+      std::string text = begin;
+      utUtf8::append(character, text);
+      bool const is_right = is_judged(factory, text) && is_judged(factory, text + "b");
+      if (!is_right)
+        tester.printf("of the name %s", axmModelText::quoted(apString(text.c_str()).view()).c_str());
+      are_right = are_right && is_right;
+    }
+  return are_right;
+}
+
+// Whether names of every length are one with themselves only, also with one that differs in a single character.
+bool are_told_apart(utUnitTest& tester, axmDocumentFactory const& factory)
+{
+  std::string const letters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMN";
+  bool are_right = true;
+  for (std::size_t length = 1; length <= letters.size() && are_right; ++length)
+  {
+    std::string const name = letters.substr(0, length);
+    std::string const both = "<r " + name + "='1' " + name + "_='2'><" + name + "></" + name + "></r>";
+    std::string const shape = "<r " + name + "='1' " + name + "_='2'><" + name + "></" + name + "></r>";
+    are_right = is_taken(tester, factory, {both.c_str(), shape.c_str()}) &&
+                is_refused(tester, factory, ("<r " + name + "='1' " + name + "='2'/>").c_str());
+    for (std::size_t at = 0; at < length && are_right; ++at)
+    {
+      std::string other = name;
+      other[at] = '_';
+      std::string const declared = "<!DOCTYPE r [<!ENTITY " + name + " 'x'><!ATTLIST " + name + " d CDATA 'y'>]>";
+      std::string const taken = declared + "<r " + name + "='1' " + other + "='2'><" + other + "/></r>";
+      std::string const in_order = other < name ? other + "='2' " + name + "='1'" : name + "='1' " + other + "='2'";
+      std::string const as_text = "<r " + in_order + "><" + other + "></" + other + "></r>";
+      are_right = is_refused(tester, factory, ("<" + name + "></" + other + ">").c_str()) &&
+                  is_refused(tester, factory, ("<r><" + name + "/><" + name + "></" + other + "></r>").c_str()) &&
+                  is_refused(tester, factory, (declared + "<r>&" + other + ";</r>").c_str()) &&
+                  is_taken(tester, factory, {taken.c_str(), as_text.c_str()});
+    }
+  }
+  return are_right;
+}
+}
+
 void axmXmlUtest::test_names(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmXmlUtest::test_names");
   group.check(
     all_are_taken(*tester, *factory, taken_names), "every document is loaded as what it is", __LINE__, "names");
   group.check(all_are_refused(*tester, *factory, refused_names), "everything else fails", __LINE__, "names");
+  group.check(
+    are_judged(*tester, *factory), "names are taken, all else is not", __LINE__, "characters at the ends of ranges");
+  group.check(
+    are_told_apart(*tester, *factory), "names that differ are two", __LINE__, "names of any length and one character");
 }
 
 void axmXmlUtest::test_attributes(Factory const& factory) const

@@ -31,6 +31,7 @@ private:
   void test_tokens(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_entity_declarations(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_entities(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_forms(std::shared_ptr<axmDocumentFactory> const& factory) const;
 
   utUnitTest* tester;
 };

@@ -27,6 +27,9 @@ std::vector<Fault> const& subtle_factory_faults();
 // Those read off the promises of the headers, sentence by sentence.
 std::vector<Fault> const& promise_faults();
 
+// Those against the rules that the headers refer to.
+std::vector<Fault> const& rule_faults();
+
 // The text with every `wanted` replaced.
 apString replaced(apString text, apString const& wanted, apString const& replacement);
 

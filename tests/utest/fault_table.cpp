@@ -1,12 +1,13 @@
 // Writes the table of the faulty engines and of what sees them, as faults.txt holds it. An argument is a part of the names
-// of the faults wanted, --subtle for those that only the generated cases see, or --promises for those read off the
-// headers.
+// of the faults wanted, --subtle for those that only the generated cases see, --promises for those read off the headers,
+// or --rules for those against what the headers refer to.
 
 #include "Faults.h"
 #include "SuiteRun.h"
 
 #include <cstdio>
 #include <cstring>
+#include <string>
 
 namespace
 {
@@ -25,13 +26,15 @@ void write(std::vector<Fault> const& faults, std::vector<Check> (*run)(Factory c
 
 int main(int argc, char** argv)
 {
-  bool const subtle_only = argc > 1 && std::strcmp(argv[1], "--subtle") == 0;
-  bool const promises_only = argc > 1 && std::strcmp(argv[1], "--promises") == 0;
-  char const* const wanted = argc > 1 && !subtle_only && !promises_only ? argv[1] : nullptr;
-  if (!subtle_only && !promises_only)
+  std::string const first = argc > 1 ? argv[1] : "";
+  bool const is_every = first.substr(0, 2) != "--";
+  char const* const wanted = argc > 1 && is_every ? argv[1] : nullptr;
+  if (is_every)
     write(all_faults(), run_fixed_classes, wanted);
-  if (!promises_only)
+  if (is_every || first == "--subtle")
     write(all_subtle_faults(), run_generated_classes, wanted);
-  if (!subtle_only)
+  if (is_every || first == "--promises")
     write(promise_faults(), run_all_classes, wanted);
+  if (is_every || first == "--rules")
+    write(rule_faults(), run_all_classes, wanted);
 }
