@@ -371,13 +371,16 @@ void axmContractUtest::test_elements_by_tag_name(Factory const& factory) const
   for (wchar_t const* const name : {L"", L"*", L"//a", L"a b", L" a", L"a|b", L"1", L"#text", L"a[1]", L"."})
     group.check(length_of(document->getElementsByTagName(name)), 0,
       "document->getElementsByTagName(name)->length() == 0", __LINE__, "what is no name finds nothing");
-  auto const prefixed = load(*factory, "<r xmlns:p='urn:p' xmlns:q='urn:p'><p:a/><a/><q:a/><p:a xmlns:p='urn:q'/></r>");
+  auto const prefixed =
+    load(*factory, "<r xmlns:p='urn:p' xmlns:q='urn:p'><p:a/><a/><q:a/><p:a xmlns:p='urn:q'/><p:b/></r>");
   if (prefixed != nullptr)
   {
     group.check(length_of(prefixed->getElementsByTagName(APSTRING("p:a"))), 2,
       "document->getElementsByTagName(\"p:a\")->length() == 2", __LINE__, "a prefix is a part of the name");
     group.check(length_of(prefixed->getElementsByTagName(APSTRING("a"))), 1,
       "document->getElementsByTagName(\"a\")->length() == 1", __LINE__, "and none is none");
+    group.check(length_of(prefixed->getElementsByTagName(APSTRING("b"))), 0,
+      "document->getElementsByTagName(\"b\")->length() == 0", __LINE__, "a name without its prefix is another one");
     group.check(length_of(prefixed->getElementsByTagName(APSTRING("p:"))), 0,
       "document->getElementsByTagName(\"p:\")->length() == 0", __LINE__, "nor is a prefix alone the name of any");
   }

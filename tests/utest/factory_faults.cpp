@@ -153,7 +153,7 @@ std::vector<Fault> const& factory_faults()
         h.create = [made](Factory const& f, apString const& name)
         {
           for (Document const& document : *made)
-            if (document->getDocumentElement()->getNodeName() == name)
+            if (Element const root = document->getDocumentElement(); root != nullptr && root->getNodeName() == name)
               return document;
           Document const document = f->createDocument(name);
           if (document != nullptr)
