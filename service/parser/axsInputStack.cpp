@@ -72,6 +72,7 @@ void axsInputStack::innermost()
   limit = internal ? input.entity->parsed.get() + input.entity->declared->replacement.size() : input.buffer->end();
   last = internal || input.buffer->is_last();
   more = !last && !input.buffer->is_stopped();
+  all_are_looked_at = all_are_looked_at || (!internal && input.buffer->has_excluded());
 }
 
 void axsInputStack::read_on()
@@ -246,12 +247,6 @@ axsInputStack::Special axsInputStack::pass_special(char const*& p)
   }
   if (is_ascii(*p))
     unexpected(p, "");
-  // Most scans stop at no other character beyond ASCII, and at these for nothing: all full-width punctuation is there.
-  if (*p == axsCharacters::lead_of_last_characters && !xml_1_1 && !axsCharacters::is_last_character(p))
-  {
-    p += 3;
-    return Special::characters;
-  }
   return pass_multibyte(p);
 }
 
@@ -295,6 +290,7 @@ void axsInputStack::look_for_controls(char const* from, char const* to) const
 void axsInputStack::take_xml_1_1() noexcept
 {
   xml_1_1 = true;
+  all_are_looked_at = true;
   inputs.front().buffer->take_xml_1_1_line_ends();
 }
 

@@ -115,14 +115,14 @@ public:
   template <char... stops>
   char const* end_of_text(char const* p) const
   {
-    return xml_1_1 ? axsCharacters::end_of_text<apByteBlock, stops...>(p)
-                   : axsCharacters::end_of_utf8_text<apByteBlock, stops...>(p);
+    return all_are_looked_at ? axsCharacters::end_of_text<apByteBlock, stops...>(p)
+                             : axsCharacters::end_of_utf8_text<apByteBlock, stops...>(p);
   }
 
   /// The same in a value in quotes, which ends at `quote`, '<' and '&', too.
   char const* end_of_value(char const* p, char quote) const
   {
-    return xml_1_1 ? axsCharacters::end_of_value(p, quote) : axsCharacters::end_of_utf8_value(p, quote);
+    return all_are_looked_at ? axsCharacters::end_of_value(p, quote) : axsCharacters::end_of_utf8_value(p, quote);
   }
 
   /// As many characters as there are at `p` that a scan for ASCII text stops at: beyond ASCII, control characters, line
@@ -202,6 +202,8 @@ private:
   bool more = false;
   bool internal = false;
   bool xml_1_1 = false;
+  // Whether there are characters beyond ASCII that may be no text or line ends.
+  bool all_are_looked_at = false;
   bool const resolves;
   std::size_t files = 1;
   std::uint64_t bytes_of_closed = 0;

@@ -137,25 +137,14 @@ char const* end_of_text(char const* at)
   }
 }
 
-/// With this byte begins what is well-formed UTF-8 but may be no character of XML (2.2, [2] Char): U+FFFE and U+FFFF.
-inline constexpr char lead_of_last_characters = '\xEF';
-
-/// Whether it is one of the two that stands at `at`, where such a byte does.
-inline bool is_last_character(char const* at)
-{
-  return at[1] == '\xBF' && static_cast<unsigned char>(at[2]) >= 0xBE;
-}
-
-/// The same in well-formed UTF-8, and beyond ASCII only those that begin with `lead_of_last_characters`.
+/// The same in well-formed UTF-8 without U+FFFE and U+FFFF, where all beyond ASCII is text.
 template <class Block, char... stops>
 char const* end_of_utf8_text(char const* at)
 {
   while (true)
   {
     Block const block(at);
-    auto const no_text =
-      block.is_control().without(block.is('\t') | block.is('\n')) | block.is(lead_of_last_characters);
-    auto const found = (no_text | ... | block.is(stops));
+    auto const found = (block.is_control().without(block.is('\t') | block.is('\n')) | ... | block.is(stops));
     if (found.any())
       return at + found.first();
     at += Block::size;
@@ -176,15 +165,14 @@ char const* end_of_value(char const* at, char quote)
   }
 }
 
-/// The same in well-formed UTF-8, and beyond ASCII only those that begin with `lead_of_last_characters`.
+/// The same in well-formed UTF-8 without U+FFFE and U+FFFF, where all beyond ASCII is text.
 template <class Block = apByteBlock>
 char const* end_of_utf8_value(char const* at, char quote)
 {
   while (true)
   {
     Block const block(at);
-    auto const found =
-      block.is_control() | block.is(lead_of_last_characters) | block.is(quote) | block.is('<') | block.is('&');
+    auto const found = block.is_control() | block.is(quote) | block.is('<') | block.is('&');
     if (found.any())
       return at + found.first();
     at += Block::size;

@@ -33,6 +33,9 @@ public:
   /// Whether what comes after the end cannot be read or is not in the encoding of the document, which advance() then tells.
   bool is_stopped() const noexcept { return failure != nullptr || !source.fault().empty(); }
 
+  /// Whether U+FFFE or U+FFFF, which are no characters of XML (2.2, [2] Char), were read so far.
+  bool has_excluded() const noexcept { return source.has_excluded(); }
+
   /// How many bytes it holds before it grows.
   std::size_t capacity() const noexcept { return room; }
 

@@ -23,6 +23,10 @@ struct Chunk
   std::uint64_t e0 = 0;
   std::uint64_t ed = 0;
   std::uint64_t from_a0 = 0;
+  // What U+FFFE and U+FFFF consist of.
+  std::uint64_t ef = 0;
+  std::uint64_t bf = 0;
+  std::uint64_t from_be = 0;
   // Those of four.
   std::uint64_t f0 = 0;
   std::uint64_t f4 = 0;
@@ -49,6 +53,12 @@ bool is_well_formed(Chunk const& is, Chunk const& before) noexcept
     (moved(is.e0, before.e0, 1) & ~is.from_a0) | (moved(is.ed, before.ed, 1) & is.from_a0) |
     (moved(is.f0, before.f0, 1) & ~is.from_90) | (moved(is.f4, before.f4, 1) & is.from_90);
   return ((continuations ^ expected) | (wrong_seconds & continuations) | is.wrong) == 0;
+}
+
+// Whether U+FFFE or U+FFFF end in the chunk.
+bool has_excluded_character(Chunk const& is, Chunk const& before) noexcept
+{
+  return (moved(is.ef, before.ef, 2) & moved(is.bf, before.bf, 1) & is.from_be) != 0;
 }
 
 // The end of whole characters, of which those from `begin` to `at` are well-formed as far as that goes.
@@ -103,6 +113,9 @@ Chunk chunk_at(char const* at, Chunk const& before) noexcept
   made.e0 = is<Block>(at, '\xE0');
   made.ed = is<Block>(at, '\xED');
   made.from_a0 = is_at_least<Block>(at, '\xA0');
+  made.ef = is<Block>(at, '\xEF');
+  made.bf = is<Block>(at, '\xBF');
+  made.from_be = is_at_least<Block>(at, '\xBE');
   made.leads_of_4 = is_at_least<Block>(at, '\xF0');
   if ((made.leads_of_4 | before.leads_of_4) == 0)
     return made;
@@ -114,7 +127,7 @@ Chunk chunk_at(char const* at, Chunk const& before) noexcept
 }
 
 template <class Block>
-char const* skip_by(char const* at, char const* end) noexcept
+char const* skip_by(char const* at, char const* end, bool& has_excluded) noexcept
 {
   char const* const begin = at;
   Chunk before;
@@ -124,6 +137,7 @@ char const* skip_by(char const* at, char const* end) noexcept
     Chunk const now = is_ascii ? Chunk() : chunk_at<Block>(at, before);
     if (!is_ascii && !is_well_formed(now, before))
       break;
+    has_excluded = has_excluded || has_excluded_character(now, before);
     before = now;
   }
   return end_of_whole(begin, at);
@@ -175,6 +189,9 @@ __attribute__((target("avx2"))) inline Chunk chunk_of(Halves const& bytes, Chunk
   made.e0 = is(bytes, '\xE0');
   made.ed = is(bytes, '\xED');
   made.from_a0 = is_at_least(bytes, '\xA0');
+  made.ef = is(bytes, '\xEF');
+  made.bf = is(bytes, '\xBF');
+  made.from_be = is_at_least(bytes, '\xBE');
   made.leads_of_4 = is_at_least(bytes, '\xF0');
   if ((made.leads_of_4 | before.leads_of_4) == 0)
     return made;
@@ -185,7 +202,7 @@ __attribute__((target("avx2"))) inline Chunk chunk_of(Halves const& bytes, Chunk
   return made;
 }
 
-__attribute__((target("avx2"))) char const* skip_by_avx2(char const* at, char const* end) noexcept
+__attribute__((target("avx2"))) char const* skip_by_avx2(char const* at, char const* end, bool& has_excluded) noexcept
 {
   char const* const begin = at;
   Chunk before;
@@ -197,6 +214,7 @@ __attribute__((target("avx2"))) char const* skip_by_avx2(char const* at, char co
     Chunk const now = is_ascii ? Chunk() : chunk_of(bytes, before);
     if (!is_ascii && !is_well_formed(now, before))
       break;
+    has_excluded = has_excluded || has_excluded_character(now, before);
     before = now;
   }
   return end_of_whole(begin, at);
@@ -204,14 +222,14 @@ __attribute__((target("avx2"))) char const* skip_by_avx2(char const* at, char co
 #endif
 }
 
-char const* axsUtf8Scan::skip_by_words(char const* at, char const* end) noexcept
+char const* axsUtf8Scan::skip_by_words(char const* at, char const* end, bool& has_excluded) noexcept
 {
-  return skip_by<apWordBlock>(at, end);
+  return skip_by<apWordBlock>(at, end, has_excluded);
 }
 
-char const* axsUtf8Scan::skip_by_blocks(char const* at, char const* end) noexcept
+char const* axsUtf8Scan::skip_by_blocks(char const* at, char const* end, bool& has_excluded) noexcept
 {
-  return skip_by<apByteBlock>(at, end);
+  return skip_by<apByteBlock>(at, end, has_excluded);
 }
 
 axsUtf8Scan::Way axsUtf8Scan::fastest() noexcept
@@ -223,8 +241,8 @@ axsUtf8Scan::Way axsUtf8Scan::fastest() noexcept
   return skip_by_blocks;
 }
 
-char const* axsUtf8Scan::skip(char const* at, char const* end) noexcept
+char const* axsUtf8Scan::skip(char const* at, char const* end, bool& has_excluded) noexcept
 {
   static Way const way = fastest();
-  return way(at, end);
+  return way(at, end, has_excluded);
 }

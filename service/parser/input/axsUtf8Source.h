@@ -40,6 +40,9 @@ public:
 
   axsEncoding const& encoding() const noexcept { return found; }
 
+  /// Whether U+FFFE or U+FFFF, which are no characters of XML (2.2, [2] Char), were read.
+  bool has_excluded() const noexcept { return excluded; }
+
 private:
   std::size_t read_utf8(char* to, std::size_t room);
   std::size_t read_decoded(char* to, std::size_t room);
@@ -69,4 +72,5 @@ private:
   // What was decoded too much when it went on from a place.
   std::string surplus;
   apString wrong;
+  bool excluded = false;
 };

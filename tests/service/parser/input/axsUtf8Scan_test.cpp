@@ -18,7 +18,15 @@ class axsUtf8Scan_ways : public testing::TestWithParam<Way>
 protected:
   static std::ptrdiff_t skipped(std::string const& bytes)
   {
-    return GetParam()(bytes.data(), bytes.data() + bytes.size()) - bytes.data();
+    bool has_excluded = false;
+    return GetParam()(bytes.data(), bytes.data() + bytes.size(), has_excluded) - bytes.data();
+  }
+
+  static bool finds_excluded(std::string const& bytes)
+  {
+    bool has_excluded = false;
+    GetParam()(bytes.data(), bytes.data() + bytes.size(), has_excluded);
+    return has_excluded;
   }
 
   // The end of whole characters, one after the other; -1 if something is wrong.
@@ -106,6 +114,19 @@ TEST_P(axsUtf8Scan_ways, drawn_bytes_are_judged_alike)
       bytes[draw() % bytes.size()] = borders[draw() % borders.size()];
     expect_as_expected(bytes);
   }
+}
+
+TEST_P(axsUtf8Scan_ways, characters_that_xml_excludes_are_found_wherever_they_stand)
+{
+  for (char32_t code = 0x80; code <= 0x10FFFF; code += code == 0xD7FF ? 0x801 : code < 0x10000 ? 1 : 0x3FF)
+    for (std::size_t const place : {0u, 13u, 61u, 62u, 63u, 64u})
+    {
+      std::string bytes(2 * chunk, 'a');
+      std::string character;
+      utUtf8::append(code, character);
+      bytes.replace(place, character.size(), character);
+      ASSERT_EQ(finds_excluded(bytes), code == 0xFFFE || code == 0xFFFF) << code << " at " << place;
+    }
 }
 
 TEST_P(axsUtf8Scan_ways, what_does_not_fill_a_chunk_is_left)
