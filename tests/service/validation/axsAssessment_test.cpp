@@ -281,3 +281,128 @@ TEST(axsAssessment, errors_in_a_stream_have_the_name_that_it_is_given)
   Stream unnamed("<r>x</r>");
   EXPECT_EQ(narrow(schema.validation().check(unnamed).errors.front().url()), "");
 }
+
+TEST(axsAssessment, nothing_below_a_skipped_element_is_assessed)
+{
+  Schema const schema("<xs:element name='n' type='xs:int'/>" +
+                      with_type("r", "<xs:sequence><xs:any processContents='skip'/></xs:sequence>"));
+  EXPECT_EQ(schema.wrong("<r><n>x<n>y<other a='1'/></n></n></r>"), "");
+  EXPECT_EQ(schema.wrong("<r><n/><n/></r>"),
+    "1: element 'n' may not stand here in 'r'\n1: element 'n': \"\" is not of the type xs:int\n");
+}
+
+TEST(axsAssessment, a_nil_or_simple_element_has_no_children)
+{
+  Schema const schema(with_type("r", "<xs:sequence><xs:element name='n' nillable='true' maxOccurs='9'><xs:complexType>"
+                                     "<xs:sequence><xs:element name='a'/></xs:sequence></xs:complexType></xs:element>"
+                                     "<xs:element name='s' type='xs:int' minOccurs='0'/></xs:sequence>"));
+  EXPECT_EQ(schema.wrong("<r" + xsi + "><n xsi:nil='true'/><n><a/></n><n xsi:nil='false'><a/></n><s>1</s></r>"), "");
+  EXPECT_EQ(schema.wrong("<r" + xsi + "><n xsi:nil='true'><a/><b/></n></r>"),
+    "1: element 'a' may not stand here in 'n', which is nil and must be empty\n");
+  EXPECT_EQ(
+    schema.wrong("<r><n><a/></n><s><a/></s></r>"), "1: element 'a' may not stand here in 's', which has a text only\n");
+}
+
+TEST(axsAssessment, an_attribute_stands_where_it_is_declared_or_a_wildcard_takes_it)
+{
+  Schema const schema("<xs:attribute name='g' type='xs:int' fixed='1'/>" + with_type("none", "") +
+                      with_type("any", "<xs:anyAttribute processContents='lax'/>") +
+                      with_type("strict", "<xs:anyAttribute/>") +
+                      with_type("local", "<xs:anyAttribute namespace='##local u' processContents='skip'/>") +
+                      with_type("other", "<xs:anyAttribute namespace='##other' processContents='skip'/>"));
+  std::string const spaces = " xmlns:u='u' xmlns:v='v'";
+  EXPECT_EQ(schema.wrong("<none" + xsi + " xsi:schemaLocation='t t.xsd' xsi:noNamespaceSchemaLocation='x'/>"), "");
+  EXPECT_EQ(schema.wrong("<none a='1'/>"), "1: attribute 'a' is not declared for element 'none'\n");
+  EXPECT_EQ(
+    schema.wrong("<none" + xsi + " xsi:other='1'/>"), "1: attribute 'xsi:other' is not declared for element 'none'\n");
+  EXPECT_EQ(schema.wrong("<any" + spaces + " a='1' u:b='2' g='1'/>"), "");
+  EXPECT_EQ(
+    schema.wrong("<any g='2'/>"), "1: attribute 'g' of element 'any': \"2\" is not allowed: it must be \"1\"\n");
+  EXPECT_EQ(schema.wrong("<strict g='1'/>"), "");
+  EXPECT_EQ(schema.wrong("<strict a='1'/>"),
+    "1: attribute 'a' of element 'strict' must be declared in the schema, and is not\n");
+  EXPECT_EQ(schema.wrong("<local" + spaces + " a='1' u:b='2'/>"), "");
+  EXPECT_EQ(schema.wrong("<local" + spaces + " v:a='1'/>"), "1: attribute 'v:a' is not declared for element 'local'\n");
+  EXPECT_EQ(schema.wrong("<other" + spaces + " u:a='1'/>"), "");
+  EXPECT_EQ(schema.wrong("<other a='1'/>"), "1: attribute 'a' is not declared for element 'other'\n");
+}
+
+TEST(axsAssessment, what_is_expected_may_be_a_wildcard)
+{
+  auto const wrong_of = [](std::string const& wildcard)
+  {
+    Schema const schema(with_type("r", "<xs:sequence><xs:any processContents='skip'" + wildcard + "/></xs:sequence>"));
+    return schema.wrong("<r/>");
+  };
+  EXPECT_EQ(wrong_of(""), "1: element 'r' ends too early; expected is any element\n");
+  EXPECT_EQ(
+    wrong_of(" namespace='##other'"), "1: element 'r' ends too early; expected is an element of another namespace\n");
+  EXPECT_EQ(
+    wrong_of(" namespace='##local'"), "1: element 'r' ends too early; expected is an element in no namespace\n");
+  EXPECT_EQ(wrong_of(" namespace='u'"), "1: element 'r' ends too early; expected is an element of the namespace 'u'\n");
+  EXPECT_EQ(wrong_of(" namespace='u v'"),
+    "1: element 'r' ends too early; expected is an element of the namespace 'u' or some others\n");
+}
+
+// cvc-elt.5.1.1: the default of an element has to be of the type that the document names.
+TEST(axsAssessment, a_default_is_of_the_type_that_the_document_names)
+{
+  Schema const schema("<xs:element name='r' type='xs:string' default='x y'/><xs:simpleType name='t'>"
+                      "<xs:restriction base='xs:string'><xs:maxLength value='1'/></xs:restriction></xs:simpleType>");
+  EXPECT_EQ(schema.wrong("<r/>"), "");
+  EXPECT_EQ(schema.wrong("<r" + xsi + " xsi:type='t'>z</r>"), "");
+  EXPECT_EQ(schema.wrong("<r" + xsi + " xsi:type='t'/>"),
+    "1: element 'r': \"x y\" is not of the type 't': it has length '3' which exceeds maxLength facet value '1'\n");
+}
+
+TEST(axsAssessment, defaults_are_values_of_keys_and_references)
+{
+  Schema const schema("<xs:element name='r'><xs:complexType><xs:sequence><xs:element name='i' maxOccurs='9'>"
+                      "<xs:complexType><xs:attribute name='k' type='xs:int' default='1'/></xs:complexType></xs:element>"
+                      "<xs:element name='e' type='xs:int' default='1' minOccurs='0' maxOccurs='9'/></xs:sequence>"
+                      "</xs:complexType><xs:unique name='u'><xs:selector xpath='i'/><xs:field xpath='@k'/></xs:unique>"
+                      "<xs:unique name='v'><xs:selector xpath='e'/><xs:field xpath='.'/></xs:unique></xs:element>");
+  EXPECT_EQ(schema.wrong("<r><i/><i k='2'/><e/><e>2</e></r>"), "");
+  EXPECT_EQ(schema.wrong("<r><i/><i k='01'/></r>"),
+    "1: element 'i': what must be unique in the element 'r' is not: \"01\"; first at line 1\n");
+  EXPECT_EQ(schema.wrong("<r><i/><e/><e>01</e></r>"),
+    "1: element 'e': what must be unique in the element 'r' is not: \"01\"; first at line 1\n");
+
+  Schema const references(with_type("s", "<xs:attribute name='f' type='xs:IDREF' default='x'/>"
+                                         "<xs:attribute name='i' type='xs:ID'/>"));
+  EXPECT_EQ(references.wrong("<s i='x'/>"), "");
+  EXPECT_EQ(references.wrong("<s/>"), "1: there is no ID 'x', to which an IDREF refers\n");
+}
+
+TEST(axsAssessment, entities_and_notations_are_those_of_the_document_type_and_the_schema)
+{
+  Schema const schema(
+    "<xs:notation name='jpeg' public='p'/>" +
+    with_type("r", "<xs:attribute name='e' type='xs:ENTITY'/><xs:attribute name='n'><xs:simpleType>"
+                   "<xs:restriction base='xs:NOTATION'><xs:enumeration value='jpeg'/></xs:restriction>"
+                   "</xs:simpleType></xs:attribute>"));
+  std::string const type = "<!DOCTYPE r [<!NOTATION jpeg SYSTEM 's'><!ENTITY pic SYSTEM 'p' NDATA jpeg>"
+                           "<!ENTITY text 'x'>]>";
+  EXPECT_EQ(schema.wrong(type + "<!--c--><?p?><r e='pic' n='jpeg'/>"), "");
+  EXPECT_EQ(schema.wrong(type + "<r e='text'/>"),
+    "1: attribute 'e' of element 'r': \"text\" is not of the type xs:ENTITY: the "
+    "document type declares no unparsed entity of that name\n");
+  EXPECT_EQ(schema.wrong(type + "<r e='missing'/>"),
+    "1: attribute 'e' of element 'r': \"missing\" is not of the type "
+    "xs:ENTITY: the document type declares no unparsed entity of that name\n");
+  EXPECT_EQ(schema.wrong("<r e='pic'/>"), "1: attribute 'e' of element 'r': \"pic\" is not of the type xs:ENTITY: the "
+                                          "document type declares no unparsed entity of that name\n");
+  EXPECT_EQ(schema.wrong("<r n='gif'/>"),
+    "1: attribute 'n' of element 'r': \"gif\" is not of the type xs:NOTATION: the schema declares no such notation\n");
+}
+
+TEST(axsAssessment, a_long_value_is_shown_by_its_beginning)
+{
+  Schema const schema("<xs:element name='r' type='xs:int'/>");
+  std::string value;
+  for (int i = 0; i < 100; ++i)
+    value += "\xC3\xA4";
+  std::string const wrong = schema.wrong("<r>" + value + "</r>");
+  EXPECT_NE(wrong.find("\xC3\xA4...\""), std::string::npos) << wrong;
+  EXPECT_LT(wrong.size(), value.size());
+}
