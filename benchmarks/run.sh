@@ -34,7 +34,7 @@ fi
 [ -n "$results" ] && results=$(cd "$caller" && mkdir -p "$results" && cd "$results" && pwd) || results=$top/build/benchmark/results
 
 programs=$top/build/benchmark/bin
-steps=4
+steps=5
 [ -z "$folder" ] || steps=6
 number=0
 status=0
@@ -74,8 +74,8 @@ step "fields out of documents, with streaming readers" \
   "$programs/bench_reader" ${folder:+"$folder"} --runs 5 --output "$results/reader"
 if [ -n "$folder" ]; then
   step "rows out of documents" "$programs/bench_rows" "$folder" --runs 5 --output "$results/rows"
-  step "loading documents" with_table load "$programs/load_benchmark" --rounds 7 "${documents[@]}"
 fi
+step "loading documents" with_table load "$programs/load_benchmark" --rounds 7 "${documents[@]}"
 step "documents: load, search, change, save" \
   "$programs/document_benchmark" --megabytes 20 --rounds 3 --output "$results/document" "${documents[@]}"
 step "validation" with_table validation "$programs/validation_benchmark" --rounds 3 --records 40000 --axm "$programs/axm"

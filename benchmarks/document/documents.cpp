@@ -1,7 +1,10 @@
 #include "documents.h"
 
+#include <utUtf8.h>
+
 #include <fstream>
 #include <iterator>
+#include <random>
 
 namespace
 {
@@ -41,6 +44,35 @@ std::string paragraph(int i)
   return "  <p>" + words + words + "<em>" + std::to_string(i) + "</em> " + words + words + words + "</p>\n";
 }
 
+// A script as far as a sentence of it goes.
+struct Script
+{
+  char32_t first;
+  unsigned letters;
+  unsigned longest; // word
+  char const* between;
+  char const* end;
+};
+
+std::string sentence(Script const& script, std::mt19937& draw)
+{
+  std::string text;
+  for (int word = 0; word < 20; ++word)
+  {
+    text += word == 0 ? "" : script.between;
+    for (unsigned left = 2 + static_cast<unsigned>(draw()) % (script.longest - 1); left > 0; --left)
+      utUtf8::append(script.first + static_cast<char32_t>(draw()) % script.letters, text);
+  }
+  return text + script.end;
+}
+
+void make_sentences(std::string const& file, std::size_t bytes, Script const& script)
+{
+  std::mt19937 draw(1);
+  make_document(
+    file, bytes, [&](int i) { return "  <p id=\"" + std::to_string(i) + "\">" + sentence(script, draw) + "</p>\n"; });
+}
+
 std::string beginning(std::string const& file)
 {
   std::ifstream stream(file, std::ios::binary);
@@ -64,6 +96,16 @@ void make_attributes(std::string const& file, std::size_t bytes)
 void make_text(std::string const& file, std::size_t bytes)
 {
   make_document(file, bytes, paragraph);
+}
+
+void make_russian(std::string const& file, std::size_t bytes)
+{
+  make_sentences(file, bytes, {0x430, 32, 10, " ", "."});
+}
+
+void make_chinese(std::string const& file, std::size_t bytes)
+{
+  make_sentences(file, bytes, {0x4E00, 0x5000, 9, "\xEF\xBC\x8C", "\xE3\x80\x82"});
 }
 
 std::string first_name(std::string const& file)

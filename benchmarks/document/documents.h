@@ -7,6 +7,9 @@
 void make_records(std::string const& file, std::size_t bytes);
 void make_attributes(std::string const& file, std::size_t bytes);
 void make_text(std::string const& file, std::size_t bytes);
+/// Sentences of random letters of these scripts, with the punctuation that is usual there.
+void make_russian(std::string const& file, std::size_t bytes);
+void make_chinese(std::string const& file, std::size_t bytes);
 
 /// The name of the first element below the root, by a look at the beginning.
 std::string first_name(std::string const& file);

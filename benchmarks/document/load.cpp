@@ -3,12 +3,13 @@
 // of processor time, and how many times faster axs is than each of the others; at the end the geometric means and the
 // worst.
 //
-//   load_benchmark [--rounds N] FILE...
+//   load_benchmark [--rounds N] [FILE...]     without files, on documents of 10 MB that are made
 
 #include <axmDocumentFactory.h>
 #include <axsRegister.h>
 
 #include "conditions.h"
+#include "documents.h"
 
 #include <libxml/parser.h>
 #include <pugixml.hpp>
@@ -23,6 +24,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -177,6 +179,64 @@ std::string base_name(std::string const& file)
 {
   return file.substr(file.find_last_of('/') + 1);
 }
+
+struct AllRatios
+{
+  Ratios alone;
+  Ratios repeated;
+};
+
+// Whether all of them load it.
+bool measure(std::string const& file, int rounds, AllRatios& ratios)
+{
+  Times once;
+  Times often;
+  Times memory;
+  for (int round = 0; round < rounds; ++round)
+    for (std::size_t library = 0; library < libraries.size(); ++library)
+    {
+      Load const load = apart([&] { return load_here(libraries[library], file.c_str()); });
+      if (load.milliseconds < 0)
+      {
+        std::fprintf(stderr, "%s does not load %s\n", libraries[library].name, file.c_str());
+        return false;
+      }
+      once[library].push_back(load.milliseconds);
+      memory[library].push_back(load.megabytes);
+    }
+  int const processes = 3;
+  for (int process = 0; process < processes; ++process)
+    for (std::size_t library = 0; library < libraries.size(); ++library)
+      often[library].push_back(
+        apart([&] { return load_often(libraries[library], file.c_str(), rounds); }).milliseconds);
+  ratios.alone.add(once);
+  ratios.repeated.add(often);
+  std::printf("%-44.44s", base_name(file).c_str());
+  print(once, ratios.alone);
+  std::printf("\n%-44s", "");
+  print(often, ratios.repeated);
+  std::printf("\n%-44s", "  peak memory, MB");
+  for (std::vector<double> const& of_library : memory)
+    std::printf(" %8.1f", median(of_library));
+  std::printf("\n");
+  std::fflush(stdout);
+  return true;
+}
+
+std::vector<std::string> make_documents(std::filesystem::path const& folder)
+{
+  using Make = void (*)(std::string const& file, std::size_t bytes);
+  std::pair<char const*, Make> const makes[] = {{"records", make_records}, {"attributes", make_attributes},
+    {"text", make_text}, {"russian", make_russian}, {"chinese", make_chinese}};
+  std::filesystem::create_directories(folder);
+  std::vector<std::string> files;
+  for (auto const& [name, make] : makes)
+  {
+    files.push_back((folder / (std::string(name) + ".xml")).string());
+    make(files.back(), 10000000);
+  }
+  return files;
+}
 }
 
 int main(int argc, char** argv)
@@ -188,52 +248,26 @@ int main(int argc, char** argv)
     rounds = std::atoi(argv[2]);
     first = 3;
   }
-  if (first >= argc || rounds < 1)
+  if (rounds < 1)
   {
-    std::fprintf(stderr, "usage: load_benchmark [--rounds N] FILE...\n");
+    std::fprintf(stderr, "usage: load_benchmark [--rounds N] [FILE...]\n");
     return 2;
   }
-
-  Ratios alone;
-  Ratios repeated;
   for (std::string const& line : conditions({pugixml_name(PUGIXML_VERSION), "libxml2 " LIBXML_DOTTED_VERSION}))
     std::printf("%s\n", line.c_str());
   std::printf(
     "\n%-44s%26s  %16s\n", "milliseconds: alone; over and over", "axs   pugixml   libxml2", "axs times faster");
-  for (int i = first; i < argc; ++i)
-  {
-    Times once;
-    Times often;
-    Times memory;
-    for (int round = 0; round < rounds; ++round)
-      for (std::size_t library = 0; library < libraries.size(); ++library)
-      {
-        Load const load = apart([&] { return load_here(libraries[library], argv[i]); });
-        if (load.milliseconds < 0)
-        {
-          std::fprintf(stderr, "%s does not load %s\n", libraries[library].name, argv[i]);
-          return 1;
-        }
-        once[library].push_back(load.milliseconds);
-        memory[library].push_back(load.megabytes);
-      }
-    int const processes = 3;
-    for (int process = 0; process < processes; ++process)
-      for (std::size_t library = 0; library < libraries.size(); ++library)
-        often[library].push_back(apart([&] { return load_often(libraries[library], argv[i], rounds); }).milliseconds);
-    alone.add(once);
-    repeated.add(often);
-    std::printf("%-44.44s", base_name(argv[i]).c_str());
-    print(once, alone);
-    std::printf("\n%-44s", "");
-    print(often, repeated);
-    std::printf("\n%-44s", "  peak memory, MB");
-    for (std::vector<double> const& of_library : memory)
-      std::printf(" %8.1f", median(of_library));
-    std::printf("\n");
-    std::fflush(stdout);
-  }
-  alone.print_means("alone");
-  repeated.print_means("over and over");
+
+  std::filesystem::path const made = std::filesystem::temp_directory_path() / "axm_load_benchmark";
+  std::vector<std::string> const files =
+    first < argc ? std::vector<std::string>(argv + first, argv + argc) : make_documents(made);
+  AllRatios ratios;
+  bool const are_loaded =
+    std::all_of(files.begin(), files.end(), [&](std::string const& file) { return measure(file, rounds, ratios); });
+  std::filesystem::remove_all(made);
+  if (!are_loaded)
+    return 1;
+  ratios.alone.print_means("alone");
+  ratios.repeated.print_means("over and over");
   return 0;
 }
