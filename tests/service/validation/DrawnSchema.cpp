@@ -67,6 +67,19 @@ std::vector<std::string> DrawnSchema::restricted_from(std::string const& type) c
   return bases;
 }
 
+bool DrawnSchema::has_default_with(std::string const& token) const
+{
+  for (std::string const start : {" default='", " fixed='"})
+    for (std::size_t at = text.find(start); at != std::string::npos; at = text.find(start, at + 1))
+    {
+      std::size_t const value = at + start.size();
+      std::string const tokens = ' ' + text.substr(value, text.find('\'', value) - value) + ' ';
+      if (tokens.find(' ' + token + ' ') != std::string::npos)
+        return true;
+    }
+  return false;
+}
+
 bool DrawnSchema::is_made_of(std::string const& type, std::string const& part) const
 {
   std::vector<std::string> waiting{type};

@@ -12,6 +12,9 @@ public:
 
   bool has(std::string const& part) const { return text.find(part) != std::string::npos; }
 
+  /// Whether one of the values by default, or fixed, has that token in it.
+  bool has_default_with(std::string const& token) const;
+
   /// Whether the type is the other one, or restricted from it, or a list or union with it in it.
   bool is_made_of(std::string const& type, std::string const& part) const;
 
