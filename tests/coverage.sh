@@ -17,6 +17,8 @@ fi
 if [ -z "${AXM_COVERAGE_ONLY-}" ]; then
   install_missing "${packages_to_build[@]}" "${packages_to_test[@]}"
   build_preset coverage
+  # Tests that bound the size of files bound that of the counts, too; what is said of those is not theirs.
+  export GCOV_ERROR_FILE=/dev/null
   ctest --test-dir build/coverage -j "$(nproc)" --output-on-failure --progress --no-tests=error "$@" || true
 fi
 python3 tests/coverage.py build/coverage containers utilities platform source service
