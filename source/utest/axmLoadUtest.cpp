@@ -511,6 +511,42 @@ std::string utf16(std::wstring const& text, bool big)
 }
 }
 
+namespace
+{
+struct Bytes
+{
+  char const* bytes;
+  bool are_utf8;
+};
+
+// What begins, ends or leaves a range of UTF-8 (RFC 3629, 4).
+Bytes const sequences[] = {{"\x7F", true}, {"\xC2\x80", true}, {"\xDF\xBF", true}, {"\xE0\xA0\x80", true},
+  {"\xED\x9F\xBF", true}, {"\xEE\x80\x80", true}, {"\xEF\xBF\xBD", true}, {"\xF0\x90\x80\x80", true},
+  {"\xF3\xBF\xBF\xBD", true}, {"\xF4\x8F\xBF\xBF", true}, {"\x80", false}, {"\xBF", false}, {"\xC0\x80", false},
+  {"\xC1\xBF", false}, {"\xC2", false}, {"\xC2\x80\x80", false}, {"\xC2\xC2\x80", false}, {"\xE0\x80\x80", false},
+  {"\xE0\x9F\xBF", false}, {"\xE1\x80", false}, {"\xED\xA0\x80", false}, {"\xED\xBF\xBF", false}, {"\xEF\xBF", false},
+  {"\xF0\x80\x80\x80", false}, {"\xF0\x8F\xBF\xBF", false}, {"\xF1\x80\x80", false}, {"\xF1\x80", false},
+  {"\xF4\x90\x80\x80", false}, {"\xF4\xBF\xBF\xBF", false}, {"\xF5\x80\x80\x80", false},
+  {"\xF8\x88\x80\x80\x80", false}, {"\xFE", false}, {"\xFF", false}};
+
+// Whether a sequence is taken or refused wherever it stands, for an engine may look at many bytes at once.
+bool is_judged_everywhere(Factory const& factory, Bytes const& sequence)
+{
+  for (int before = 0; before < 70; ++before)
+    for (char const* const filler : {"x", "\xC3\xA4", "\xF0\x9F\x98\x80"})
+    {
+      std::string const text = many(before, filler) + sequence.bytes + "x";
+      Load const load = load_of(factory, "<r>" + text + many(70, filler) + "</r>");
+      bool const is_right = sequence.are_utf8
+                              ? text_of(root_of(load.document)) == apString((text + many(70, filler)).c_str())
+                              : fails(load);
+      if (!is_right)
+        return false;
+    }
+  return true;
+}
+}
+
 void axmLoadUtest::test_encodings(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmLoadUtest::test_encodings");
@@ -565,6 +601,14 @@ void axmLoadUtest::test_encodings(Factory const& factory) const
       std::string("<r>\xED\xA0\x80</r>"), std::string("<r>\xF5\x80\x80\x80</r>"), std::string("<r k='\xFF'/>")})
     group.check(fails(load_of(factory, text)) && fails(load_of_file(factory, text)), "fails", __LINE__,
       "bytes that are not UTF-8");
+  bool are_judged = true;
+  for (Bytes const& sequence : sequences)
+    if (!is_judged_everywhere(factory, sequence))
+    {
+      are_judged = false;
+      tester->printf("not judged right everywhere: %s", sequence.are_utf8 ? "UTF-8" : "what is not UTF-8");
+    }
+  group.check(are_judged, "UTF-8 is loaded, all else fails", __LINE__, "sequences of bytes at every place");
   std::string const with_zero("<r/>\0<r/>", 9);
   group.check(fails(load_of_file(factory, with_zero)), "fails", __LINE__, "a zero byte ends no file");
   std::string const long_text(200000, 'x');
@@ -727,7 +771,7 @@ void axmLoadUtest::test_places(Factory const& factory) const
     {"<r>\t\t\t\t\t</s>", 1, 9, 13, "a tab is one character"},
     {"<r>\r\n\r\n</s>", 3, 1, 5, "a line end of two characters is before the first column"},
     {"<r>\r\r\r</s>", 4, 1, 5, "a return ends a line, too"},
-    {"<r>\n\r\n\r</s>", 4, 1, 5, "line ends of every kind"},
+    {"<r>\xC2\x85\n\xE2\x80\xA8\r\n\r</s>", 4, 1, 5, "line ends of every kind, and what is none in this version"},
     {"<r k='\r'>\r<!--\r-->\r&x;</r>", 5, 1, 4, "returns in all that may hold them"},
     {"<!DOCTYPE r [<!ENTITY e '" + many(50, "x") + "'>]><r>&e;</s>", 1, 86, 90,
       "an entity is as long as its reference"},

@@ -259,6 +259,17 @@ Question const questions_2[] = {
   {Kind::nodes, "a|d|b", "a a b b d"},
   {Kind::nodes, "a[2]|a[1]", "a a"},
   {Kind::nodes, "*[. = 2]", "a b"},
+  {Kind::nodes, "*[string() = '2']", "a b"},
+  {Kind::nodes, "*[string() = 'x'][2]", "c"},
+  {Kind::nodes, "*[number() > 2]", "b"},
+  {Kind::nodes, "*[string-length() = 0]", "d"},
+  {Kind::nodes, "*[normalize-space() = '3']", "b"},
+  {Kind::nodes, "*[local-name() = 'd']", "d"},
+  {Kind::nodes, "*[name() = name(../*[7])]", "d"},
+  {Kind::nodes, "*[namespace-uri() = ''][7]", "d"},
+  {Kind::nodes, "self::r[*[string() = '3']]/b[concat(string(), name()) = '3b']", "b"},
+  {Kind::string, "string(*[string() = 'x'])", "x"},
+  {Kind::boolean, "string() = '1223xx'", "true"},
   {Kind::nodes, "*[. > 1]", "a b b"},
   {Kind::nodes, "*[position() > 1 and position() < 4]", "a b"},
   {Kind::nodes, "*[last()]", "d"},
@@ -1249,6 +1260,32 @@ void check_many_values(axmUtestGroup const& group, axmElement& root)
   }
 }
 
+// Whether texts are found in texts as they must, of every length and with beginnings that come again.
+bool are_found_in_texts(axmElement& root)
+{
+  for (std::size_t length = 1; length < 100; ++length)
+    for (std::size_t period = 1; period < 5; ++period)
+    {
+      std::string wanted;
+      for (std::size_t at = 0; at < length; ++at)
+        wanted += at % period == 0 || at == length / 2 ? 'a' : 'b';
+      wanted.back() = 'c';
+      std::string const begin = wanted.substr(0, length - 1);
+      std::string const before = begin + begin + "b" + begin.substr(length / 3) + "a" + begin;
+      std::string const text = before + wanted + "d" + wanted;
+      std::string const promised = text.substr(0, text.find(wanted));
+      std::string const rest = text.substr(text.find(wanted) + length);
+      std::string const pair = "('" + text + "', '" + wanted + "')";
+      std::string const expression = "self::r[contains" + pair + " and substring-before" + pair + " = '" + promised +
+                                     "' and substring-after" + pair + " = '" + rest + "' and not(contains('" + before +
+                                     begin + "', '" + wanted + "')) and starts-with('" + wanted + text + "', '" +
+                                     wanted + "') and not(starts-with('" + begin + "x', '" + wanted + "'))]";
+      if (length_of(root.selectNodes(apString(expression.c_str()))) != 1)
+        return false;
+    }
+  return true;
+}
+
 bool are_in_order(axmElement& root, char const* expression, char const* names)
 {
   return found_names(root, expression) ==
@@ -1272,6 +1309,7 @@ void axmXPathUtest::test_many_nodes(Factory const& factory) const
   for (auto const& [expression, names] : orders)
     group.check(are_in_order(*root, expression, names), expression, __LINE__, "many nodes in document order");
   check_many_values(group, *root);
+  group.check(are_found_in_texts(*root), "texts are found where they are", __LINE__, "long texts in texts");
   // A node is put elsewhere, and new ones among the others.
   Node const last = root->getLastChild();
   remove(root, last);
