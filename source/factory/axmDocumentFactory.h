@@ -41,8 +41,9 @@ public:
   /// as known, in which input, line and column. A file that is missing or cannot be read, data that is empty or is no
   /// document, a document that breaks a schema, and a schema that cannot be used are all failures.
   ///
-  /// Text that is white space only is dropped, except where it is exactly one space; other text is kept as it is. A
-  /// schema sees the document before anything is dropped.
+  /// Text that is white space only is dropped, except where it is exactly one space; an engine may keep it where the
+  /// author asks for that (xml:space, XML 1.0, 2.10). Other text is kept as it is. A schema sees the document before
+  /// anything is dropped.
   AXM_OVERLOADS_2(virtual std::shared_ptr<axmDocument> loadDocument(
                     apPath const& path, axmLoadOptions const& options, axmParseError& error) const = 0,
     virtual std::shared_ptr<axmDocument> loadDocument(
