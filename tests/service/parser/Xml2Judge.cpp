@@ -18,6 +18,13 @@ struct Free
 
 void say_nothing(void*, char const*, ...) {}
 
+// Keeps the last error, which a warning after it would hide.
+void note(void* context, xmlError* error)
+{
+  if (error->level >= XML_ERR_ERROR && error->message != nullptr)
+    *static_cast<std::string*>(static_cast<xmlParserCtxtPtr>(context)->_private) = error->message;
+}
+
 std::string text_of(xmlChar const* text)
 {
   return text == nullptr ? std::string() : std::string(reinterpret_cast<char const*>(text));
@@ -118,14 +125,16 @@ bool Xml2Judge::read(std::string_view document, std::string& events)
   xmlSetExternalEntityLoader([](char const*, char const*, xmlParserCtxtPtr) -> xmlParserInputPtr { return nullptr; });
   xmlSetGenericErrorFunc(nullptr, say_nothing);
   std::unique_ptr<xmlParserCtxt, Free> const context(xmlNewParserCtxt());
+  std::string said;
+  context->_private = &said;
+  context->sax->serror = note;
   std::unique_ptr<xmlDoc, Free> const read(xmlCtxtReadMemory(context.get(), document.data(),
     static_cast<int>(document.size()), "document", nullptr,
     XML_PARSE_NOENT | XML_PARSE_DTDATTR | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_HUGE));
   Walk walk;
   if (read == nullptr || context->wellFormed == 0 || context->nsWellFormed == 0 || !walk.over(*read))
   {
-    xmlError const* const error = xmlCtxtGetLastError(context.get());
-    events = error == nullptr || error->message == nullptr ? "it is refused" : error->message;
+    events = said.empty() ? "it is refused" : said;
     return false;
   }
   events = walk.all();
