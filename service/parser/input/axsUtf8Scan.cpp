@@ -70,71 +70,123 @@ char const* end_of_whole(char const* begin, char const* at) noexcept
   return at;
 }
 
+// The bytes of a chunk as so many blocks.
 template <class Block>
-bool is_ascii_text(char const* at) noexcept
+class Blocks
 {
-  auto found = Block(at).is_zero_or_non_ascii();
-  for (std::ptrdiff_t place = Block::size; place < chunk; place += Block::size)
-    found = found | Block(at + place).is_zero_or_non_ascii();
-  return !found.any();
-}
+public:
+  explicit Blocks(char const* from) noexcept : at(from) {}
 
-template <class Block, class Find>
-std::uint64_t bits_of(char const* at, Find find) noexcept
+  bool is_ascii_text() const noexcept
+  {
+    auto found = Block(at).is_zero_or_non_ascii();
+    for (std::size_t place = Block::size; place < chunk; place += Block::size)
+      found = found | Block(at + place).is_zero_or_non_ascii();
+    return !found.any();
+  }
+
+  std::uint64_t is(char c) const noexcept
+  {
+    return bits_of([c](Block const& block) { return block.is(c); });
+  }
+  std::uint64_t is_at_least(char c) const noexcept
+  {
+    return bits_of([c](Block const& block) { return block.is_at_least(c); });
+  }
+
+private:
+  template <class Find>
+  std::uint64_t bits_of(Find find) const noexcept
+  {
+    std::uint64_t bits = 0;
+    for (std::size_t place = 0; place < chunk; place += Block::size)
+      bits |= static_cast<std::uint64_t>(find(Block(at + place)).bits()) << place;
+    return bits;
+  }
+
+  char const* at;
+};
+
+#if defined(AP_HAS_AVX2)
+// The same as two vectors of AVX2.
+class Halves
 {
-  std::uint64_t bits = 0;
-  for (std::size_t place = 0; place < chunk; place += Block::size)
-    bits |= static_cast<std::uint64_t>(find(Block(at + place)).bits()) << place;
-  return bits;
-}
+public:
+  __attribute__((target("avx2"))) explicit Halves(char const* from) noexcept
+    : first(_mm256_loadu_si256(reinterpret_cast<__m256i const*>(from))),
+      second(_mm256_loadu_si256(reinterpret_cast<__m256i const*>(from) + 1))
+  {
+  }
 
-template <class Block>
-std::uint64_t is(char const* at, char c) noexcept
-{
-  return bits_of<Block>(at, [c](Block const& block) { return block.is(c); });
-}
+  __attribute__((target("avx2"))) bool is_ascii_text() const noexcept
+  {
+    // Compared as signed numbers, what is no ASCII is less than 1, as zero is.
+    __m256i const least = _mm256_min_epi8(first, second);
+    return _mm256_movemask_epi8(_mm256_cmpgt_epi8(_mm256_set1_epi8(1), least)) == 0;
+  }
 
-template <class Block>
-std::uint64_t is_at_least(char const* at, char c) noexcept
-{
-  return bits_of<Block>(at, [c](Block const& block) { return block.is_at_least(c); });
-}
+  __attribute__((target("avx2"))) std::uint64_t is(char c) const noexcept
+  {
+    __m256i const wanted = _mm256_set1_epi8(c);
+    return bits_of(_mm256_cmpeq_epi8(first, wanted), _mm256_cmpeq_epi8(second, wanted));
+  }
 
-template <class Block>
-Chunk chunk_at(char const* at, Chunk const& before) noexcept
+  __attribute__((target("avx2"))) std::uint64_t is_at_least(char c) const noexcept
+  {
+    __m256i const least = _mm256_set1_epi8(c);
+    return bits_of(_mm256_cmpeq_epi8(_mm256_max_epu8(first, least), first),
+      _mm256_cmpeq_epi8(_mm256_max_epu8(second, least), second));
+  }
+
+private:
+  __attribute__((target("avx2"))) static std::uint64_t bits_of(__m256i low, __m256i high) noexcept
+  {
+    return static_cast<std::uint32_t>(_mm256_movemask_epi8(low)) |
+           static_cast<std::uint64_t>(static_cast<std::uint32_t>(_mm256_movemask_epi8(high))) << 32;
+  }
+
+  __m256i first;
+  __m256i second;
+};
+#endif
+
+// What has Bytes is compiled into who calls it, so that vectors which only some processors have stay in functions for these.
+template <class Bytes>
+[[gnu::always_inline]] inline Chunk chunk_of(Bytes const& bytes, Chunk const& before) noexcept
 {
   Chunk made;
-  made.beyond_ascii = is_at_least<Block>(at, '\x80');
-  made.leads = is_at_least<Block>(at, '\xC0');
-  made.wrong = is<Block>(at, '\0') | (made.leads & ~is_at_least<Block>(at, '\xC2'));
-  made.leads_of_3 = is_at_least<Block>(at, '\xE0');
+  made.beyond_ascii = bytes.is_at_least('\x80');
+  made.leads = bytes.is_at_least('\xC0');
+  made.wrong = bytes.is('\0') | (made.leads & ~bytes.is_at_least('\xC2'));
+  made.leads_of_3 = bytes.is_at_least('\xE0');
   if ((made.leads_of_3 | before.leads_of_3) == 0)
     return made;
-  made.e0 = is<Block>(at, '\xE0');
-  made.ed = is<Block>(at, '\xED');
-  made.from_a0 = is_at_least<Block>(at, '\xA0');
-  made.ef = is<Block>(at, '\xEF');
-  made.bf = is<Block>(at, '\xBF');
-  made.from_be = is_at_least<Block>(at, '\xBE');
-  made.leads_of_4 = is_at_least<Block>(at, '\xF0');
+  made.e0 = bytes.is('\xE0');
+  made.ed = bytes.is('\xED');
+  made.from_a0 = bytes.is_at_least('\xA0');
+  made.ef = bytes.is('\xEF');
+  made.bf = bytes.is('\xBF');
+  made.from_be = bytes.is_at_least('\xBE');
+  made.leads_of_4 = bytes.is_at_least('\xF0');
   if ((made.leads_of_4 | before.leads_of_4) == 0)
     return made;
-  made.f0 = is<Block>(at, '\xF0');
-  made.f4 = is<Block>(at, '\xF4');
-  made.from_90 = is_at_least<Block>(at, '\x90');
-  made.wrong |= is_at_least<Block>(at, '\xF5');
+  made.f0 = bytes.is('\xF0');
+  made.f4 = bytes.is('\xF4');
+  made.from_90 = bytes.is_at_least('\x90');
+  made.wrong |= bytes.is_at_least('\xF5');
   return made;
 }
 
-template <class Block>
-char const* skip_by(char const* at, char const* end, bool& has_excluded) noexcept
+template <class Bytes>
+[[gnu::always_inline]] inline char const* skip_by(char const* at, char const* end, bool& has_excluded) noexcept
 {
   char const* const begin = at;
   Chunk before;
   for (; end - at >= chunk; at += chunk)
   {
-    bool const is_ascii = is_ascii_text<Block>(at) && !before.is_open();
-    Chunk const now = is_ascii ? Chunk() : chunk_at<Block>(at, before);
+    Bytes const bytes(at);
+    bool const is_ascii = bytes.is_ascii_text() && !before.is_open();
+    Chunk const now = is_ascii ? Chunk() : chunk_of(bytes, before);
     if (!is_ascii && !is_well_formed(now, before))
       break;
     has_excluded = has_excluded || has_excluded_character(now, before);
@@ -144,92 +196,21 @@ char const* skip_by(char const* at, char const* end, bool& has_excluded) noexcep
 }
 
 #if defined(AP_HAS_AVX2)
-// The two halves of a chunk.
-struct Halves
-{
-  __m256i first;
-  __m256i second;
-};
-
-__attribute__((target("avx2"))) inline std::uint64_t bits_of(__m256i first, __m256i second) noexcept
-{
-  return static_cast<std::uint32_t>(_mm256_movemask_epi8(first)) |
-         static_cast<std::uint64_t>(static_cast<std::uint32_t>(_mm256_movemask_epi8(second))) << 32;
-}
-
-__attribute__((target("avx2"))) inline std::uint64_t is(Halves const& bytes, char c) noexcept
-{
-  __m256i const wanted = _mm256_set1_epi8(c);
-  return bits_of(_mm256_cmpeq_epi8(bytes.first, wanted), _mm256_cmpeq_epi8(bytes.second, wanted));
-}
-
-__attribute__((target("avx2"))) inline std::uint64_t is_at_least(Halves const& bytes, char c) noexcept
-{
-  __m256i const least = _mm256_set1_epi8(c);
-  return bits_of(_mm256_cmpeq_epi8(_mm256_max_epu8(bytes.first, least), bytes.first),
-    _mm256_cmpeq_epi8(_mm256_max_epu8(bytes.second, least), bytes.second));
-}
-
-__attribute__((target("avx2"))) inline bool is_ascii_text(Halves const& bytes) noexcept
-{
-  // Compared as signed numbers, what is no ASCII is less than 1, as zero is.
-  __m256i const least = _mm256_min_epi8(bytes.first, bytes.second);
-  return _mm256_movemask_epi8(_mm256_cmpgt_epi8(_mm256_set1_epi8(1), least)) == 0;
-}
-
-__attribute__((target("avx2"))) inline Chunk chunk_of(Halves const& bytes, Chunk const& before) noexcept
-{
-  Chunk made;
-  made.beyond_ascii = bits_of(bytes.first, bytes.second);
-  made.leads = is_at_least(bytes, '\xC0');
-  made.wrong = is(bytes, '\0') | (made.leads & ~is_at_least(bytes, '\xC2'));
-  made.leads_of_3 = is_at_least(bytes, '\xE0');
-  if ((made.leads_of_3 | before.leads_of_3) == 0)
-    return made;
-  made.e0 = is(bytes, '\xE0');
-  made.ed = is(bytes, '\xED');
-  made.from_a0 = is_at_least(bytes, '\xA0');
-  made.ef = is(bytes, '\xEF');
-  made.bf = is(bytes, '\xBF');
-  made.from_be = is_at_least(bytes, '\xBE');
-  made.leads_of_4 = is_at_least(bytes, '\xF0');
-  if ((made.leads_of_4 | before.leads_of_4) == 0)
-    return made;
-  made.f0 = is(bytes, '\xF0');
-  made.f4 = is(bytes, '\xF4');
-  made.from_90 = is_at_least(bytes, '\x90');
-  made.wrong |= is_at_least(bytes, '\xF5');
-  return made;
-}
-
 __attribute__((target("avx2"))) char const* skip_by_avx2(char const* at, char const* end, bool& has_excluded) noexcept
 {
-  char const* const begin = at;
-  Chunk before;
-  for (; end - at >= chunk; at += chunk)
-  {
-    auto const* const from = reinterpret_cast<__m256i const*>(at);
-    Halves const bytes{_mm256_loadu_si256(from), _mm256_loadu_si256(from + 1)};
-    bool const is_ascii = is_ascii_text(bytes) && !before.is_open();
-    Chunk const now = is_ascii ? Chunk() : chunk_of(bytes, before);
-    if (!is_ascii && !is_well_formed(now, before))
-      break;
-    has_excluded = has_excluded || has_excluded_character(now, before);
-    before = now;
-  }
-  return end_of_whole(begin, at);
+  return skip_by<Halves>(at, end, has_excluded);
 }
 #endif
 }
 
 char const* axsUtf8Scan::skip_by_words(char const* at, char const* end, bool& has_excluded) noexcept
 {
-  return skip_by<apWordBlock>(at, end, has_excluded);
+  return skip_by<Blocks<apWordBlock>>(at, end, has_excluded);
 }
 
 char const* axsUtf8Scan::skip_by_blocks(char const* at, char const* end, bool& has_excluded) noexcept
 {
-  return skip_by<apByteBlock>(at, end, has_excluded);
+  return skip_by<Blocks<apByteBlock>>(at, end, has_excluded);
 }
 
 axsUtf8Scan::Way axsUtf8Scan::fastest() noexcept
