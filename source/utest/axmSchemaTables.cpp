@@ -7,6 +7,19 @@
 
 using namespace axmUtestAccess;
 
+std::string axmSchemaTables::typed(char const* type)
+{
+  std::string const of_type = std::string(" type='") + type + "'/>";
+  return "<xs:element name='v'" + of_type + "<xs:element name='w'><xs:complexType><xs:attribute name='a'" + of_type +
+         "</xs:complexType></xs:element>";
+}
+
+std::string axmSchemaTables::restricted(char const* base, char const* facets)
+{
+  return std::string("<xs:element name='v'><xs:simpleType><xs:restriction base='") + base + "'>" + facets +
+         "</xs:restriction></xs:simpleType></xs:element>";
+}
+
 std::string axmSchemaTables::schema_of(std::string const& content)
 {
   return "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>" + content + "</xs:schema>";
@@ -26,15 +39,15 @@ axmLoadOptions axmSchemaTables::options_with(apPath const& schema)
   return options;
 }
 
-bool axmSchemaTables::is_judged(
-  utUnitTest& tester, axmDocumentFactory const& factory, axmLoadOptions const& options, char const* text, bool is_valid)
+bool axmSchemaTables::is_judged(utUnitTest& tester, axmDocumentFactory const& factory, axmLoadOptions const& options,
+  std::string const& text, bool is_valid)
 {
   axmParseError error;
-  bool const is_loaded = factory.loadDocument(bytes_of(text), options, error) != nullptr;
+  bool const is_loaded = factory.loadDocument(bytes_of(text.c_str()), options, error) != nullptr;
   if (is_loaded == is_valid && is_loaded == error.invalid())
     return true;
   tester.printf("%s: %s", is_loaded ? "is loaded, but not valid" : "is valid, but not loaded",
-    axmModelText::quoted(apString(text).view()).c_str());
+    axmModelText::quoted(apString(text.c_str()).view()).c_str());
   tester.printf("Error was \"%s\"", error.message().to_utf8().c_str());
   return false;
 }
@@ -44,12 +57,12 @@ bool axmSchemaTables::is_kept(utUnitTest& tester, axmDocumentFactory const& fact
   SchemaFile const schema("table", schema_of(rule.schema));
   axmLoadOptions const options = options_with(schema.path);
   bool are_right = true;
-  for (char const* const document : rule.valid)
+  for (std::string const& document : rule.valid)
     are_right = is_judged(tester, factory, options, document, true) && are_right;
-  for (char const* const document : rule.invalid)
+  for (std::string const& document : rule.invalid)
     are_right = is_judged(tester, factory, options, document, false) && are_right;
   if (!are_right)
-    tester.printf("under the schema %s", rule.schema);
+    tester.printf("under the schema %s", rule.schema.c_str());
   return are_right;
 }
 

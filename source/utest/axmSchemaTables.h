@@ -18,9 +18,9 @@ namespace axmSchemaTables
 // What stands in a schema, documents that follow it, and documents that do not.
 struct Rule
 {
-  char const* schema;
-  std::vector<char const*> valid;
-  std::vector<char const*> invalid;
+  std::string schema;
+  std::vector<std::string> valid;
+  std::vector<std::string> invalid;
 };
 
 // What one check is about.
@@ -29,6 +29,12 @@ struct Case
   char const* description;
   Rule rule;
 };
+
+// What stands in a schema of an element v of a simple type, and an element w with an attribute a of it.
+std::string typed(char const* type);
+
+// The same of an element v alone, of a type that is restricted by these facets.
+std::string restricted(char const* base, char const* facets);
 
 // A schema document without target namespace.
 std::string schema_of(std::string const& content);
@@ -48,8 +54,8 @@ private:
 axmLoadOptions options_with(apPath const& schema);
 
 // Whether a load comes to what it must; if not, it is told.
-bool is_judged(utUnitTest& tester, axmDocumentFactory const& factory, axmLoadOptions const& options, char const* text,
-  bool is_valid);
+bool is_judged(utUnitTest& tester, axmDocumentFactory const& factory, axmLoadOptions const& options,
+  std::string const& text, bool is_valid);
 
 // Whether every document is loaded or fails as it must; if not, it is told.
 bool is_kept(utUnitTest& tester, axmDocumentFactory const& factory, Rule const& rule);

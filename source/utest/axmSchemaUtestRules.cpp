@@ -109,206 +109,127 @@ Rules const& builtin_rules()
 Rules const& facets_rules()
 {
   static Rules const rules = {
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:length "
-     "value='0'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v></v>"}, {"<v>a</v>", "<v> </v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:length "
-     "value='1'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>\xF0\x9D\x84\x9E</v>", "<v>\xC3\xA4</v>", "<v> </v>"}, {"<v></v>", "<v>ab</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:minLength "
-     "value='2'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>\xF0\x9D\x84\x9E\xF0\x9D\x84\x9E</v>", "<v>ab</v>"}, {"<v>\xF0\x9D\x84\x9E</v>", "<v>a</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:maxLength "
-     "value='1'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>\xF0\x9D\x84\x9E</v>", "<v></v>"}, {"<v>ab</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:minLength value='2'/><xs:maxLength "
-     "value='2'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>ab</v>"}, {"<v>a</v>", "<v>abc</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:NMTOKENS'><xs:length "
-     "value='2'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>a b</v>", "<v> a\nb </v>"}, {"<v>a</v>", "<v>a b c</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:NMTOKENS'><xs:minLength "
-     "value='2'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>a b</v>", "<v>a b c</v>"}, {"<v>a</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:NMTOKENS'><xs:maxLength "
-     "value='2'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>a</v>", "<v>a b</v>"}, {"<v>a b c</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:base64Binary'><xs:length "
-     "value='3'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>YWJj</v>", "<v>Y W J j</v>"}, {"<v>YWI=</v>", "<v>YWJjYQ==</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:hexBinary'><xs:minLength value='1'/><xs:maxLength "
-     "value='2'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>00</v>", "<v>0000</v>"}, {"<v></v>", "<v>000000</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:anyURI'><xs:maxLength "
-     "value='3'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>abc</v>"}, {"<v>abcd</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:decimal'><xs:minInclusive "
-     "value='-1.5'/><xs:maxInclusive value='1.5'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:string", "<xs:length value='0'/>"), {"<v></v>"}, {"<v>a</v>", "<v> </v>"}},
+    {restricted("xs:string", "<xs:length value='1'/>"), {"<v>\xF0\x9D\x84\x9E</v>", "<v>\xC3\xA4</v>", "<v> </v>"},
+      {"<v></v>", "<v>ab</v>"}},
+    {restricted("xs:string", "<xs:minLength value='2'/>"), {"<v>\xF0\x9D\x84\x9E\xF0\x9D\x84\x9E</v>", "<v>ab</v>"},
+      {"<v>\xF0\x9D\x84\x9E</v>", "<v>a</v>"}},
+    {restricted("xs:string", "<xs:maxLength value='1'/>"), {"<v>\xF0\x9D\x84\x9E</v>", "<v></v>"}, {"<v>ab</v>"}},
+    {restricted("xs:string", "<xs:minLength value='2'/><xs:maxLength value='2'/>"), {"<v>ab</v>"},
+      {"<v>a</v>", "<v>abc</v>"}},
+    {restricted("xs:NMTOKENS", "<xs:length value='2'/>"), {"<v>a b</v>", "<v> a\nb </v>"},
+      {"<v>a</v>", "<v>a b c</v>"}},
+    {restricted("xs:NMTOKENS", "<xs:minLength value='2'/>"), {"<v>a b</v>", "<v>a b c</v>"}, {"<v>a</v>"}},
+    {restricted("xs:NMTOKENS", "<xs:maxLength value='2'/>"), {"<v>a</v>", "<v>a b</v>"}, {"<v>a b c</v>"}},
+    {restricted("xs:base64Binary", "<xs:length value='3'/>"), {"<v>YWJj</v>", "<v>Y W J j</v>"},
+      {"<v>YWI=</v>", "<v>YWJjYQ==</v>"}},
+    {restricted("xs:hexBinary", "<xs:minLength value='1'/><xs:maxLength value='2'/>"), {"<v>00</v>", "<v>0000</v>"},
+      {"<v></v>", "<v>000000</v>"}},
+    {restricted("xs:anyURI", "<xs:maxLength value='3'/>"), {"<v>abc</v>"}, {"<v>abcd</v>"}},
+    {restricted("xs:decimal", "<xs:minInclusive value='-1.5'/><xs:maxInclusive value='1.5'/>"),
       {"<v>-1.5</v>", "<v>1.5</v>"}, {"<v>-1.50001</v>", "<v>1.50001</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:decimal'><xs:minExclusive "
-     "value='-1.5'/><xs:maxExclusive value='1.5'/></xs:restriction></xs:simpleType></xs:element>",
-      {}, {"<v>-1.5</v>", "<v>1.5</v>", "<v>-1.50001</v>", "<v>1.50001</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:integer'><xs:minInclusive "
-     "value='-10'/><xs:maxInclusive value='10'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:decimal", "<xs:minExclusive value='-1.5'/><xs:maxExclusive value='1.5'/>"), {},
+      {"<v>-1.5</v>", "<v>1.5</v>", "<v>-1.50001</v>", "<v>1.50001</v>"}},
+    {restricted("xs:integer", "<xs:minInclusive value='-10'/><xs:maxInclusive value='10'/>"),
       {"<v>-10</v>", "<v>10</v>"}, {"<v>-11</v>", "<v>11</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:integer'><xs:minExclusive "
-     "value='-10'/><xs:maxExclusive value='10'/></xs:restriction></xs:simpleType></xs:element>",
-      {}, {"<v>-10</v>", "<v>10</v>", "<v>-11</v>", "<v>11</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:double'><xs:minInclusive "
-     "value='-1e10'/><xs:maxInclusive value='1e10'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:integer", "<xs:minExclusive value='-10'/><xs:maxExclusive value='10'/>"), {},
+      {"<v>-10</v>", "<v>10</v>", "<v>-11</v>", "<v>11</v>"}},
+    {restricted("xs:double", "<xs:minInclusive value='-1e10'/><xs:maxInclusive value='1e10'/>"),
       {"<v>-1e10</v>", "<v>1e10</v>"}, {"<v>-1.1e10</v>", "<v>1.1e10</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:double'><xs:minExclusive "
-     "value='-1e10'/><xs:maxExclusive value='1e10'/></xs:restriction></xs:simpleType></xs:element>",
-      {}, {"<v>-1e10</v>", "<v>1e10</v>", "<v>-1.1e10</v>", "<v>1.1e10</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:float'><xs:minInclusive "
-     "value='-1'/><xs:maxInclusive value='1'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>-1</v>", "<v>1</v>"}, {"<v>-1.001</v>", "<v>1.001</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:float'><xs:minExclusive "
-     "value='-1'/><xs:maxExclusive value='1'/></xs:restriction></xs:simpleType></xs:element>",
-      {}, {"<v>-1</v>", "<v>1</v>", "<v>-1.001</v>", "<v>1.001</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:date'><xs:minInclusive "
-     "value='2001-01-01'/><xs:maxInclusive value='2001-12-31'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:double", "<xs:minExclusive value='-1e10'/><xs:maxExclusive value='1e10'/>"), {},
+      {"<v>-1e10</v>", "<v>1e10</v>", "<v>-1.1e10</v>", "<v>1.1e10</v>"}},
+    {restricted("xs:float", "<xs:minInclusive value='-1'/><xs:maxInclusive value='1'/>"), {"<v>-1</v>", "<v>1</v>"},
+      {"<v>-1.001</v>", "<v>1.001</v>"}},
+    {restricted("xs:float", "<xs:minExclusive value='-1'/><xs:maxExclusive value='1'/>"), {},
+      {"<v>-1</v>", "<v>1</v>", "<v>-1.001</v>", "<v>1.001</v>"}},
+    {restricted("xs:date", "<xs:minInclusive value='2001-01-01'/><xs:maxInclusive value='2001-12-31'/>"),
       {"<v>2001-01-01</v>", "<v>2001-12-31</v>"}, {"<v>2000-12-31</v>", "<v>2002-01-01</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:date'><xs:minExclusive "
-     "value='2001-01-01'/><xs:maxExclusive value='2001-12-31'/></xs:restriction></xs:simpleType></xs:element>",
-      {}, {"<v>2001-01-01</v>", "<v>2001-12-31</v>", "<v>2000-12-31</v>", "<v>2002-01-01</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:dateTime'><xs:minInclusive "
-     "value='2001-01-01T00:00:00Z'/><xs:maxInclusive "
-     "value='2001-12-31T23:59:59Z'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:date", "<xs:minExclusive value='2001-01-01'/><xs:maxExclusive value='2001-12-31'/>"), {},
+      {"<v>2001-01-01</v>", "<v>2001-12-31</v>", "<v>2000-12-31</v>", "<v>2002-01-01</v>"}},
+    {restricted(
+       "xs:dateTime", "<xs:minInclusive value='2001-01-01T00:00:00Z'/><xs:maxInclusive value='2001-12-31T23:59:59Z'/>"),
       {"<v>2001-01-01T00:00:00Z</v>", "<v>2001-12-31T23:59:59Z</v>"},
       {"<v>2000-12-31T23:59:59Z</v>", "<v>2002-01-01T00:00:00Z</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:dateTime'><xs:minExclusive "
-     "value='2001-01-01T00:00:00Z'/><xs:maxExclusive "
-     "value='2001-12-31T23:59:59Z'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted(
+       "xs:dateTime", "<xs:minExclusive value='2001-01-01T00:00:00Z'/><xs:maxExclusive value='2001-12-31T23:59:59Z'/>"),
       {},
       {"<v>2001-01-01T00:00:00Z</v>", "<v>2001-12-31T23:59:59Z</v>", "<v>2000-12-31T23:59:59Z</v>",
         "<v>2002-01-01T00:00:00Z</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:time'><xs:minInclusive "
-     "value='01:00:00'/><xs:maxInclusive value='23:00:00'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:time", "<xs:minInclusive value='01:00:00'/><xs:maxInclusive value='23:00:00'/>"),
       {"<v>01:00:00</v>", "<v>23:00:00</v>"}, {"<v>00:59:59.9</v>", "<v>23:00:00.1</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:time'><xs:minExclusive "
-     "value='01:00:00'/><xs:maxExclusive value='23:00:00'/></xs:restriction></xs:simpleType></xs:element>",
-      {}, {"<v>01:00:00</v>", "<v>23:00:00</v>", "<v>00:59:59.9</v>", "<v>23:00:00.1</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:gYear'><xs:minInclusive "
-     "value='1990'/><xs:maxInclusive value='2010'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:time", "<xs:minExclusive value='01:00:00'/><xs:maxExclusive value='23:00:00'/>"), {},
+      {"<v>01:00:00</v>", "<v>23:00:00</v>", "<v>00:59:59.9</v>", "<v>23:00:00.1</v>"}},
+    {restricted("xs:gYear", "<xs:minInclusive value='1990'/><xs:maxInclusive value='2010'/>"),
       {"<v>1990</v>", "<v>2010</v>"}, {"<v>1989</v>", "<v>2011</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:gYear'><xs:minExclusive "
-     "value='1990'/><xs:maxExclusive value='2010'/></xs:restriction></xs:simpleType></xs:element>",
-      {}, {"<v>1990</v>", "<v>2010</v>", "<v>1989</v>", "<v>2011</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:gYearMonth'><xs:minInclusive "
-     "value='2001-02'/><xs:maxInclusive value='2001-11'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:gYear", "<xs:minExclusive value='1990'/><xs:maxExclusive value='2010'/>"), {},
+      {"<v>1990</v>", "<v>2010</v>", "<v>1989</v>", "<v>2011</v>"}},
+    {restricted("xs:gYearMonth", "<xs:minInclusive value='2001-02'/><xs:maxInclusive value='2001-11'/>"),
       {"<v>2001-02</v>", "<v>2001-11</v>"}, {"<v>2001-01</v>", "<v>2001-12</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:gYearMonth'><xs:minExclusive "
-     "value='2001-02'/><xs:maxExclusive value='2001-11'/></xs:restriction></xs:simpleType></xs:element>",
-      {}, {"<v>2001-02</v>", "<v>2001-11</v>", "<v>2001-01</v>", "<v>2001-12</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:gMonth'><xs:minInclusive "
-     "value='--02'/><xs:maxInclusive value='--11'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:gYearMonth", "<xs:minExclusive value='2001-02'/><xs:maxExclusive value='2001-11'/>"), {},
+      {"<v>2001-02</v>", "<v>2001-11</v>", "<v>2001-01</v>", "<v>2001-12</v>"}},
+    {restricted("xs:gMonth", "<xs:minInclusive value='--02'/><xs:maxInclusive value='--11'/>"),
       {"<v>--02</v>", "<v>--11</v>"}, {"<v>--01</v>", "<v>--12</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:gMonth'><xs:minExclusive "
-     "value='--02'/><xs:maxExclusive value='--11'/></xs:restriction></xs:simpleType></xs:element>",
-      {}, {"<v>--02</v>", "<v>--11</v>", "<v>--01</v>", "<v>--12</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:gDay'><xs:minInclusive "
-     "value='---02'/><xs:maxInclusive value='---30'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:gMonth", "<xs:minExclusive value='--02'/><xs:maxExclusive value='--11'/>"), {},
+      {"<v>--02</v>", "<v>--11</v>", "<v>--01</v>", "<v>--12</v>"}},
+    {restricted("xs:gDay", "<xs:minInclusive value='---02'/><xs:maxInclusive value='---30'/>"),
       {"<v>---02</v>", "<v>---30</v>"}, {"<v>---01</v>", "<v>---31</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:gDay'><xs:minExclusive "
-     "value='---02'/><xs:maxExclusive value='---30'/></xs:restriction></xs:simpleType></xs:element>",
-      {}, {"<v>---02</v>", "<v>---30</v>", "<v>---01</v>", "<v>---31</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:gMonthDay'><xs:minInclusive "
-     "value='--02-01'/><xs:maxInclusive value='--11-30'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:gDay", "<xs:minExclusive value='---02'/><xs:maxExclusive value='---30'/>"), {},
+      {"<v>---02</v>", "<v>---30</v>", "<v>---01</v>", "<v>---31</v>"}},
+    {restricted("xs:gMonthDay", "<xs:minInclusive value='--02-01'/><xs:maxInclusive value='--11-30'/>"),
       {"<v>--02-01</v>", "<v>--11-30</v>"}, {"<v>--01-31</v>", "<v>--12-01</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:gMonthDay'><xs:minExclusive "
-     "value='--02-01'/><xs:maxExclusive value='--11-30'/></xs:restriction></xs:simpleType></xs:element>",
-      {}, {"<v>--02-01</v>", "<v>--11-30</v>", "<v>--01-31</v>", "<v>--12-01</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:duration'><xs:minInclusive "
-     "value='P1M'/><xs:maxInclusive value='P1Y'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:gMonthDay", "<xs:minExclusive value='--02-01'/><xs:maxExclusive value='--11-30'/>"), {},
+      {"<v>--02-01</v>", "<v>--11-30</v>", "<v>--01-31</v>", "<v>--12-01</v>"}},
+    {restricted("xs:duration", "<xs:minInclusive value='P1M'/><xs:maxInclusive value='P1Y'/>"),
       {"<v>P1M</v>", "<v>P1Y</v>"}, {"<v>P27D</v>", "<v>P367D</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:duration'><xs:minExclusive "
-     "value='P1M'/><xs:maxExclusive value='P1Y'/></xs:restriction></xs:simpleType></xs:element>",
-      {}, {"<v>P1M</v>", "<v>P1Y</v>", "<v>P27D</v>", "<v>P367D</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:dateTime'><xs:minInclusive "
-     "value='2001-01-01T00:00:00Z'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:duration", "<xs:minExclusive value='P1M'/><xs:maxExclusive value='P1Y'/>"), {},
+      {"<v>P1M</v>", "<v>P1Y</v>", "<v>P27D</v>", "<v>P367D</v>"}},
+    {restricted("xs:dateTime", "<xs:minInclusive value='2001-01-01T00:00:00Z'/>"),
       {"<v>2001-01-01T01:00:00+01:00</v>", "<v>2000-12-31T23:00:00-01:00</v>", "<v>2000-12-31T24:00:00Z</v>"},
       {"<v>2001-01-01T00:59:59+01:00</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:decimal'><xs:totalDigits "
-     "value='1'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:decimal", "<xs:totalDigits value='1'/>"),
       {"<v>0</v>", "<v>9</v>", "<v>-9</v>", "<v>+09</v>", "<v>9.0</v>", "<v>.9</v>", "<v>0.0</v>"},
       {"<v>10</v>", "<v>1.1</v>", "<v>99</v>", "<v>.99</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:decimal'><xs:totalDigits "
-     "value='3'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:decimal", "<xs:totalDigits value='3'/>"),
       {"<v>123</v>", "<v>12.3</v>", "<v>0.123</v>", "<v>-0123.0</v>"},
       {"<v>1234</v>", "<v>123.4</v>", "<v>0.1234</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:decimal'><xs:fractionDigits "
-     "value='0'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:decimal", "<xs:fractionDigits value='0'/>"),
       {"<v>1</v>", "<v>1.</v>", "<v>1.0</v>", "<v>1.000</v>"}, {"<v>1.1</v>", "<v>.1</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:integer'><xs:totalDigits "
-     "value='2'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>99</v>", "<v>-099</v>"}, {"<v>100</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:decimal'><xs:minExclusive "
-     "value='0'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>0.0000000000000000000000001</v>"}, {"<v>0</v>", "<v>-0</v>", "<v>0.0</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:double'><xs:minInclusive "
-     "value='0'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>0</v>", "<v>-0</v>", "<v>INF</v>"}, {"<v>NaN</v>", "<v>-1e-300</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:double'><xs:enumeration "
-     "value='NaN'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>NaN</v>"}, {"<v>INF</v>", "<v>0</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:float'><xs:enumeration "
-     "value='1'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>1</v>", "<v>1.0</v>", "<v>1e0</v>", "<v>10E-1</v>"}, {"<v>1.1</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:float'><xs:enumeration "
-     "value='16777217'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>16777216</v>", "<v>1.6777216E7</v>"}, {"<v>16777218</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:boolean'><xs:pattern "
-     "value='true'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>true</v>", "<v> true </v>"}, {"<v>1</v>", "<v>false</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:boolean'><xs:pattern "
-     "value='0|1'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>0</v>", "<v>1</v>"}, {"<v>true</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:dateTime'><xs:enumeration "
-     "value='2001-01-01T12:00:00Z'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:integer", "<xs:totalDigits value='2'/>"), {"<v>99</v>", "<v>-099</v>"}, {"<v>100</v>"}},
+    {restricted("xs:decimal", "<xs:minExclusive value='0'/>"), {"<v>0.0000000000000000000000001</v>"},
+      {"<v>0</v>", "<v>-0</v>", "<v>0.0</v>"}},
+    {restricted("xs:double", "<xs:minInclusive value='0'/>"), {"<v>0</v>", "<v>-0</v>", "<v>INF</v>"},
+      {"<v>NaN</v>", "<v>-1e-300</v>"}},
+    {restricted("xs:double", "<xs:enumeration value='NaN'/>"), {"<v>NaN</v>"}, {"<v>INF</v>", "<v>0</v>"}},
+    {restricted("xs:float", "<xs:enumeration value='1'/>"), {"<v>1</v>", "<v>1.0</v>", "<v>1e0</v>", "<v>10E-1</v>"},
+      {"<v>1.1</v>"}},
+    {restricted("xs:float", "<xs:enumeration value='16777217'/>"), {"<v>16777216</v>", "<v>1.6777216E7</v>"},
+      {"<v>16777218</v>"}},
+    {restricted("xs:boolean", "<xs:pattern value='true'/>"), {"<v>true</v>", "<v> true </v>"},
+      {"<v>1</v>", "<v>false</v>"}},
+    {restricted("xs:boolean", "<xs:pattern value='0|1'/>"), {"<v>0</v>", "<v>1</v>"}, {"<v>true</v>"}},
+    {restricted("xs:dateTime", "<xs:enumeration value='2001-01-01T12:00:00Z'/>"),
       {"<v>2001-01-01T13:00:00+01:00</v>", "<v>2001-01-01T12:00:00.0Z</v>"},
       {"<v>2001-01-01T12:00:00</v>", "<v>2001-01-01T12:00:00+01:00</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:time'><xs:enumeration "
-     "value='12:00:00Z'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>13:00:00+01:00</v>"}, {"<v>12:00:00</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:duration'><xs:enumeration "
-     "value='P1Y'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>P12M</v>"}, {"<v>P365D</v>", "<v>P366D</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:duration'><xs:enumeration "
-     "value='P1D'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>PT24H</v>", "<v>PT1440M</v>", "<v>PT86400S</v>"}, {"<v>P1M</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:hexBinary'><xs:enumeration "
-     "value='0A'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>0a</v>", "<v>0A</v>"}, {"<v>A0</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:base64Binary'><xs:enumeration "
-     "value='YWJj'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>Y W J j</v>"}, {"<v>YWJk</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:QName'><xs:enumeration "
-     "value='xs:a'/></xs:restriction></xs:simpleType></xs:element>",
-      {}, {"<v>a</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:token'><xs:enumeration value='a "
-     "b'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>a b</v>", "<v> a \n b </v>"}, {"<v>ab</v>", "<v>a  c</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:enumeration value='a "
-     "b'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>a b</v>"}, {"<v>a  b</v>", "<v> a b</v>", "<v>a b </v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:normalizedString'><xs:enumeration value='a "
-     "b'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>a b</v>", "<v>a\tb</v>", "<v>a\nb</v>"}, {"<v>a  b</v>", "<v> a b</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:NMTOKENS'><xs:enumeration value='a "
-     "b'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>a b</v>", "<v> a  b </v>"}, {"<v>b a</v>", "<v>a</v>", "<v>a b c</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:decimal'><xs:enumeration "
-     "value='1.10'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>1.1</v>", "<v>01.1</v>", "<v>+1.100</v>"}, {"<v>1.11</v>", "<v>-1.1</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:integer'><xs:pattern "
-     "value='0\\d'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>01</v>"}, {"<v>1</v>", "<v>011</v>", "<v>+01</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:token'><xs:pattern value='a "
-     "b'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v> a   b </v>"}, {"<v>ab</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:enumeration value='a'/><xs:enumeration "
-     "value='bb'/><xs:maxLength value='1'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:time", "<xs:enumeration value='12:00:00Z'/>"), {"<v>13:00:00+01:00</v>"}, {"<v>12:00:00</v>"}},
+    {restricted("xs:duration", "<xs:enumeration value='P1Y'/>"), {"<v>P12M</v>"}, {"<v>P365D</v>", "<v>P366D</v>"}},
+    {restricted("xs:duration", "<xs:enumeration value='P1D'/>"), {"<v>PT24H</v>", "<v>PT1440M</v>", "<v>PT86400S</v>"},
+      {"<v>P1M</v>"}},
+    {restricted("xs:hexBinary", "<xs:enumeration value='0A'/>"), {"<v>0a</v>", "<v>0A</v>"}, {"<v>A0</v>"}},
+    {restricted("xs:base64Binary", "<xs:enumeration value='YWJj'/>"), {"<v>Y W J j</v>"}, {"<v>YWJk</v>"}},
+    {restricted("xs:QName", "<xs:enumeration value='xs:a'/>"), {}, {"<v>a</v>"}},
+    {restricted("xs:token", "<xs:enumeration value='a b'/>"), {"<v>a b</v>", "<v> a \n b </v>"},
+      {"<v>ab</v>", "<v>a  c</v>"}},
+    {restricted("xs:string", "<xs:enumeration value='a b'/>"), {"<v>a b</v>"},
+      {"<v>a  b</v>", "<v> a b</v>", "<v>a b </v>"}},
+    {restricted("xs:normalizedString", "<xs:enumeration value='a b'/>"), {"<v>a b</v>", "<v>a\tb</v>", "<v>a\nb</v>"},
+      {"<v>a  b</v>", "<v> a b</v>"}},
+    {restricted("xs:NMTOKENS", "<xs:enumeration value='a b'/>"), {"<v>a b</v>", "<v> a  b </v>"},
+      {"<v>b a</v>", "<v>a</v>", "<v>a b c</v>"}},
+    {restricted("xs:decimal", "<xs:enumeration value='1.10'/>"), {"<v>1.1</v>", "<v>01.1</v>", "<v>+1.100</v>"},
+      {"<v>1.11</v>", "<v>-1.1</v>"}},
+    {restricted("xs:integer", "<xs:pattern value='0\\d'/>"), {"<v>01</v>"}, {"<v>1</v>", "<v>011</v>", "<v>+01</v>"}},
+    {restricted("xs:token", "<xs:pattern value='a b'/>"), {"<v> a   b </v>"}, {"<v>ab</v>"}},
+    {restricted("xs:string", "<xs:enumeration value='a'/><xs:enumeration value='bb'/><xs:maxLength value='1'/>"),
       {"<v>a</v>"}, {"<v>bb</v>", "<v>b</v>"}},
   };
   return rules;
@@ -317,191 +238,94 @@ Rules const& facets_rules()
 Rules const& patterns_rules()
 {
   static Rules const rules = {
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value=''/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v></v>"}, {"<v>a</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='abc'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>abc</v>"}, {"<v>xabc</v>", "<v>abcx</v>", "<v>ab</v>", "<v>ABC</v>", "<v></v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='^a$'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>^a$</v>"}, {"<v>a</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='a\\|b'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>a|b</v>"}, {"<v>a</v>", "<v>b</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='a||b'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>a</v>", "<v></v>", "<v>b</v>"}, {"<v>|</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='(a|b)(c|d)'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>ac</v>", "<v>bd</v>"}, {"<v>ab</v>", "<v>a</v>", "<v>acd</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='a*b+c?'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>b</v>", "<v>aabbc</v>"}, {"<v>c</v>", "<v>ac</v>", "<v>abcc</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='(ab){2,3}'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>abab</v>", "<v>ababab</v>"}, {"<v>ab</v>", "<v>abababab</v>", "<v>aba</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='a{0}'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v></v>"}, {"<v>a</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='a{0,1}b'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>b</v>", "<v>ab</v>"}, {"<v>aab</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='(a{2}){3}'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>aaaaaa</v>"}, {"<v>aaaaa</v>", "<v>aaaaaaa</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='(a*)*'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v></v>", "<v>aaa</v>"}, {"<v>b</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='(a|ab)(c|bcd)(d*)'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>abcd</v>", "<v>acd</v>", "<v>abcdd</v>"}, {"<v>abd</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='.'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>a</v>", "<v>\xF0\x9D\x84\x9E</v>", "<v> </v>"}, {"<v></v>", "<v>ab</v>", "<v>\n</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='.*'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v></v>", "<v>a b</v>"}, {"<v>a\nb</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='[abc]'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>a</v>", "<v>c</v>"}, {"<v>d</v>", "<v></v>", "<v>ab</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='[a-c]'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>b</v>"}, {"<v>-</v>", "<v>d</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='[-a]'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>-</v>", "<v>a</v>"}, {"<v>b</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='[a-]'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>-</v>", "<v>a</v>"}, {"<v>b</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='[^a-c]'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>d</v>", "<v>\xF0\x9D\x84\x9E</v>", "<v>\n</v>"}, {"<v>a</v>", "<v></v>", "<v>de</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='[\\^a]'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>^</v>", "<v>a</v>"}, {"<v>b</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='[a^]'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>^</v>", "<v>a</v>"}, {"<v>b</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='[\\[\\]]'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>[</v>", "<v>]</v>"}, {"<v>a</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='[.]'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>.</v>"}, {"<v>a</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='[*+?(){}|]+'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>*+?(){}|</v>"}, {"<v>a</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='[\\d-[5]]+'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>1234</v>"}, {"<v>5</v>", "<v>15</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='[a-z-[b-y-[m]]]+'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>amz</v>"}, {"<v>b</v>", "<v>n</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='[^a-z-[0-9]]'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>A</v>", "<v>-</v>"}, {"<v>a</v>", "<v>5</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\s'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v> </v>", "<v>\n</v>", "<v>\t</v>"}, {"<v>a</v>", "<v>\xC2\xA0</v>", "<v>\xE2\x80\x83</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\S'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>a</v>", "<v>\xC2\xA0</v>"}, {"<v> </v>", "<v>\n</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\d'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>5</v>", "<v>\xD9\xA5</v>", "<v>\xF0\x9D\x9F\x98</v>"}, {"<v>a</v>", "<v>\xC2\xB2</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\D'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>a</v>"}, {"<v>5</v>", "<v>\xD9\xA5</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\w'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:string", "<xs:pattern value=''/>"), {"<v></v>"}, {"<v>a</v>"}},
+    {restricted("xs:string", "<xs:pattern value='abc'/>"), {"<v>abc</v>"},
+      {"<v>xabc</v>", "<v>abcx</v>", "<v>ab</v>", "<v>ABC</v>", "<v></v>"}},
+    {restricted("xs:string", "<xs:pattern value='^a$'/>"), {"<v>^a$</v>"}, {"<v>a</v>"}},
+    {restricted("xs:string", "<xs:pattern value='a\\|b'/>"), {"<v>a|b</v>"}, {"<v>a</v>", "<v>b</v>"}},
+    {restricted("xs:string", "<xs:pattern value='a||b'/>"), {"<v>a</v>", "<v></v>", "<v>b</v>"}, {"<v>|</v>"}},
+    {restricted("xs:string", "<xs:pattern value='(a|b)(c|d)'/>"), {"<v>ac</v>", "<v>bd</v>"},
+      {"<v>ab</v>", "<v>a</v>", "<v>acd</v>"}},
+    {restricted("xs:string", "<xs:pattern value='a*b+c?'/>"), {"<v>b</v>", "<v>aabbc</v>"},
+      {"<v>c</v>", "<v>ac</v>", "<v>abcc</v>"}},
+    {restricted("xs:string", "<xs:pattern value='(ab){2,3}'/>"), {"<v>abab</v>", "<v>ababab</v>"},
+      {"<v>ab</v>", "<v>abababab</v>", "<v>aba</v>"}},
+    {restricted("xs:string", "<xs:pattern value='a{0}'/>"), {"<v></v>"}, {"<v>a</v>"}},
+    {restricted("xs:string", "<xs:pattern value='a{0,1}b'/>"), {"<v>b</v>", "<v>ab</v>"}, {"<v>aab</v>"}},
+    {restricted("xs:string", "<xs:pattern value='(a{2}){3}'/>"), {"<v>aaaaaa</v>"}, {"<v>aaaaa</v>", "<v>aaaaaaa</v>"}},
+    {restricted("xs:string", "<xs:pattern value='(a*)*'/>"), {"<v></v>", "<v>aaa</v>"}, {"<v>b</v>"}},
+    {restricted("xs:string", "<xs:pattern value='(a|ab)(c|bcd)(d*)'/>"), {"<v>abcd</v>", "<v>acd</v>", "<v>abcdd</v>"},
+      {"<v>abd</v>"}},
+    {restricted("xs:string", "<xs:pattern value='.'/>"), {"<v>a</v>", "<v>\xF0\x9D\x84\x9E</v>", "<v> </v>"},
+      {"<v></v>", "<v>ab</v>", "<v>\n</v>"}},
+    {restricted("xs:string", "<xs:pattern value='.*'/>"), {"<v></v>", "<v>a b</v>"}, {"<v>a\nb</v>"}},
+    {restricted("xs:string", "<xs:pattern value='[abc]'/>"), {"<v>a</v>", "<v>c</v>"},
+      {"<v>d</v>", "<v></v>", "<v>ab</v>"}},
+    {restricted("xs:string", "<xs:pattern value='[a-c]'/>"), {"<v>b</v>"}, {"<v>-</v>", "<v>d</v>"}},
+    {restricted("xs:string", "<xs:pattern value='[-a]'/>"), {"<v>-</v>", "<v>a</v>"}, {"<v>b</v>"}},
+    {restricted("xs:string", "<xs:pattern value='[a-]'/>"), {"<v>-</v>", "<v>a</v>"}, {"<v>b</v>"}},
+    {restricted("xs:string", "<xs:pattern value='[^a-c]'/>"), {"<v>d</v>", "<v>\xF0\x9D\x84\x9E</v>", "<v>\n</v>"},
+      {"<v>a</v>", "<v></v>", "<v>de</v>"}},
+    {restricted("xs:string", "<xs:pattern value='[\\^a]'/>"), {"<v>^</v>", "<v>a</v>"}, {"<v>b</v>"}},
+    {restricted("xs:string", "<xs:pattern value='[a^]'/>"), {"<v>^</v>", "<v>a</v>"}, {"<v>b</v>"}},
+    {restricted("xs:string", "<xs:pattern value='[\\[\\]]'/>"), {"<v>[</v>", "<v>]</v>"}, {"<v>a</v>"}},
+    {restricted("xs:string", "<xs:pattern value='[.]'/>"), {"<v>.</v>"}, {"<v>a</v>"}},
+    {restricted("xs:string", "<xs:pattern value='[*+?(){}|]+'/>"), {"<v>*+?(){}|</v>"}, {"<v>a</v>"}},
+    {restricted("xs:string", "<xs:pattern value='[\\d-[5]]+'/>"), {"<v>1234</v>"}, {"<v>5</v>", "<v>15</v>"}},
+    {restricted("xs:string", "<xs:pattern value='[a-z-[b-y-[m]]]+'/>"), {"<v>amz</v>"}, {"<v>b</v>", "<v>n</v>"}},
+    {restricted("xs:string", "<xs:pattern value='[^a-z-[0-9]]'/>"), {"<v>A</v>", "<v>-</v>"}, {"<v>a</v>", "<v>5</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\s'/>"), {"<v> </v>", "<v>\n</v>", "<v>\t</v>"},
+      {"<v>a</v>", "<v>\xC2\xA0</v>", "<v>\xE2\x80\x83</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\S'/>"), {"<v>a</v>", "<v>\xC2\xA0</v>"}, {"<v> </v>", "<v>\n</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\d'/>"), {"<v>5</v>", "<v>\xD9\xA5</v>", "<v>\xF0\x9D\x9F\x98</v>"},
+      {"<v>a</v>", "<v>\xC2\xB2</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\D'/>"), {"<v>a</v>"}, {"<v>5</v>", "<v>\xD9\xA5</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\w'/>"),
       {"<v>a</v>", "<v>5</v>", "<v>\xC3\xA4</v>", "<v>$</v>", "<v>\xF0\x90\x90\x80</v>"},
       {"<v>-</v>", "<v> </v>", "<v>.</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\W'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>-</v>", "<v> </v>", "<v>.</v>"}, {"<v>a</v>", "<v>5</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\i'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>a</v>", "<v>_</v>", "<v>:</v>", "<v>\xC3\xA4</v>"}, {"<v>1</v>", "<v>-</v>", "<v>.</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\I'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>1</v>", "<v>-</v>", "<v>.</v>"}, {"<v>a</v>", "<v>_</v>", "<v>:</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\c'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>a</v>", "<v>1</v>", "<v>-</v>", "<v>.</v>", "<v>:</v>"}, {"<v> </v>", "<v>!</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\C'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v> </v>", "<v>!</v>"}, {"<v>a</v>", "<v>-</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\n\\t'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>\n\t</v>"}, {"<v>nt</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\\\'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>\\</v>"}, {"<v>a</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\-\\^\\.\\?\\*\\+\\{\\}\\(\\)\\[\\]\\|'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>-^.?*+{}()[]|</v>"}, {"<v>-</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\p{L}+'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>a\xC3\xA4\xD1\x84</v>", "<v>\xF0\x90\x90\x80</v>"}, {"<v>1</v>", "<v>a1</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\p{Lu}'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:string", "<xs:pattern value='\\W'/>"), {"<v>-</v>", "<v> </v>", "<v>.</v>"},
+      {"<v>a</v>", "<v>5</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\i'/>"), {"<v>a</v>", "<v>_</v>", "<v>:</v>", "<v>\xC3\xA4</v>"},
+      {"<v>1</v>", "<v>-</v>", "<v>.</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\I'/>"), {"<v>1</v>", "<v>-</v>", "<v>.</v>"},
+      {"<v>a</v>", "<v>_</v>", "<v>:</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\c'/>"), {"<v>a</v>", "<v>1</v>", "<v>-</v>", "<v>.</v>", "<v>:</v>"},
+      {"<v> </v>", "<v>!</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\C'/>"), {"<v> </v>", "<v>!</v>"}, {"<v>a</v>", "<v>-</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\n\\t'/>"), {"<v>\n\t</v>"}, {"<v>nt</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\\\'/>"), {"<v>\\</v>"}, {"<v>a</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\-\\^\\.\\?\\*\\+\\{\\}\\(\\)\\[\\]\\|'/>"), {"<v>-^.?*+{}()[]|</v>"},
+      {"<v>-</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\p{L}+'/>"), {"<v>a\xC3\xA4\xD1\x84</v>", "<v>\xF0\x90\x90\x80</v>"},
+      {"<v>1</v>", "<v>a1</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\p{Lu}'/>"),
       {"<v>A</v>", "<v>\xC3\x84</v>", "<v>\xF0\x90\x90\x80</v>"}, {"<v>a</v>", "<v>1</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\P{Lu}'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>a</v>", "<v>1</v>"}, {"<v>A</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\p{Nd}'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>1</v>", "<v>\xD9\xA1</v>"}, {"<v>a</v>", "<v>\xE2\x85\xA0</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\p{Nl}'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>\xE2\x85\xA0</v>"}, {"<v>1</v>", "<v>a</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\p{P}'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>!</v>", "<v>-</v>"}, {"<v>a</v>", "<v>+</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\p{Sm}'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>+</v>"}, {"<v>-</v>", "<v>a</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\p{Sc}'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>$</v>", "<v>\xE2\x82\xAC</v>"}, {"<v>a</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\p{Zs}'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v> </v>", "<v>\xC2\xA0</v>"}, {"<v>a</v>", "<v>\n</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\p{IsBasicLatin}+'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>abc</v>", "<v>~</v>"}, {"<v>\xC3\xA4</v>", "<v>a\xC2\x80</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\P{IsBasicLatin}'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>\xC3\xA4</v>"}, {"<v>a</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\p{IsCyrillic}'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>\xD1\x84</v>"}, {"<v>a</v>", "<v>\xCD\xB0</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='\\p{IsGreek}'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>\xCE\xB1</v>"}, {"<v>a</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='[\\p{Lu}\\d]+'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>A1</v>"}, {"<v>a</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='[^\\p{Lu}\\d]+'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>a-</v>"}, {"<v>A</v>", "<v>1</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='[\\s\\S]*'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>a\nb</v>", "<v></v>"}, {}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='(a(b(c(d)?)?)?)?'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:string", "<xs:pattern value='\\P{Lu}'/>"), {"<v>a</v>", "<v>1</v>"}, {"<v>A</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\p{Nd}'/>"), {"<v>1</v>", "<v>\xD9\xA1</v>"},
+      {"<v>a</v>", "<v>\xE2\x85\xA0</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\p{Nl}'/>"), {"<v>\xE2\x85\xA0</v>"}, {"<v>1</v>", "<v>a</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\p{P}'/>"), {"<v>!</v>", "<v>-</v>"}, {"<v>a</v>", "<v>+</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\p{Sm}'/>"), {"<v>+</v>"}, {"<v>-</v>", "<v>a</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\p{Sc}'/>"), {"<v>$</v>", "<v>\xE2\x82\xAC</v>"}, {"<v>a</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\p{Zs}'/>"), {"<v> </v>", "<v>\xC2\xA0</v>"},
+      {"<v>a</v>", "<v>\n</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\p{IsBasicLatin}+'/>"), {"<v>abc</v>", "<v>~</v>"},
+      {"<v>\xC3\xA4</v>", "<v>a\xC2\x80</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\P{IsBasicLatin}'/>"), {"<v>\xC3\xA4</v>"}, {"<v>a</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\p{IsCyrillic}'/>"), {"<v>\xD1\x84</v>"},
+      {"<v>a</v>", "<v>\xCD\xB0</v>"}},
+    {restricted("xs:string", "<xs:pattern value='\\p{IsGreek}'/>"), {"<v>\xCE\xB1</v>"}, {"<v>a</v>"}},
+    {restricted("xs:string", "<xs:pattern value='[\\p{Lu}\\d]+'/>"), {"<v>A1</v>"}, {"<v>a</v>"}},
+    {restricted("xs:string", "<xs:pattern value='[^\\p{Lu}\\d]+'/>"), {"<v>a-</v>"}, {"<v>A</v>", "<v>1</v>"}},
+    {restricted("xs:string", "<xs:pattern value='[\\s\\S]*'/>"), {"<v>a\nb</v>", "<v></v>"}, {}},
+    {restricted("xs:string", "<xs:pattern value='(a(b(c(d)?)?)?)?'/>"),
       {"<v></v>", "<v>a</v>", "<v>ab</v>", "<v>abc</v>", "<v>abcd</v>"}, {"<v>b</v>", "<v>ac</v>", "<v>abd</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='&#x1D11E;{2}'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>\xF0\x9D\x84\x9E\xF0\x9D\x84\x9E</v>"},
+    {restricted("xs:string", "<xs:pattern value='&#x1D11E;{2}'/>"), {"<v>\xF0\x9D\x84\x9E\xF0\x9D\x84\x9E</v>"},
       {"<v>\xF0\x9D\x84\x9E</v>", "<v>\xF0\x9D\x84\x9E\xF0\x9D\x84\x9E\xF0\x9D\x84\x9E</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='[&#x10000;-&#x10FFFF;]'/></xs:restriction></xs:simpleType></xs:element>",
+    {restricted("xs:string", "<xs:pattern value='[&#x10000;-&#x10FFFF;]'/>"),
       {"<v>\xF0\x9D\x84\x9E</v>", "<v>\xF4\x8F\xBF\xBF</v>"}, {"<v>\xEF\xBF\xBD</v>", "<v>a</v>"}},
-    {"<xs:element name='v'><xs:simpleType><xs:restriction base='xs:string'><xs:pattern "
-     "value='[a-z]{2}-[0-9]{3,}'/></xs:restriction></xs:simpleType></xs:element>",
-      {"<v>ab-123</v>", "<v>ab-12345</v>"}, {"<v>ab-12</v>", "<v>a-123</v>", "<v>ab123</v>"}},
+    {restricted("xs:string", "<xs:pattern value='[a-z]{2}-[0-9]{3,}'/>"), {"<v>ab-123</v>", "<v>ab-12345</v>"},
+      {"<v>ab-12</v>", "<v>a-123</v>", "<v>ab123</v>"}},
   };
   return rules;
 }
