@@ -113,7 +113,10 @@ function(axm_add_library name)
     # A DLL is found by its file name alone, so that bears the major version.
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_NAME ${name}-${PROJECT_VERSION_MAJOR})
   elseif(NOT APPLE)
-    target_link_options(${name} PRIVATE LINKER:--version-script=${AXM_CMAKE_FOLDER}/exports.map LINKER:-Bsymbolic-functions)
+    # All symbols are bound when the library is loaded: the table of them is read-only from then on, and the first document
+    # of a process need not wait for them.
+    target_link_options(${name} PRIVATE LINKER:--version-script=${AXM_CMAKE_FOLDER}/exports.map LINKER:-Bsymbolic-functions
+      LINKER:-z,relro,-z,now)
     set_target_properties(${name} PROPERTIES LINK_DEPENDS ${AXM_CMAKE_FOLDER}/exports.map)
   endif()
 
