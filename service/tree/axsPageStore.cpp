@@ -3,7 +3,6 @@
 #include "axsPoison.h"
 
 #include <atomic>
-#include <iterator>
 #include <new>
 
 namespace
@@ -11,25 +10,24 @@ namespace
 // Of the system. Where pages come in as much at a time, the system gives them at once if they stand at such a place.
 std::size_t const large_page = 2u << 20;
 
-// From here on the heap has each block from the system, and gives it back at once.
-std::size_t const smallest = 128 * 1024;
+// A block that is kept, or room for one: the heap has each of these sizes from the system, and gives it back at once.
+struct Slot
+{
+  std::size_t size;
+  std::atomic<char*> memory{nullptr};
+};
 
-// Of each size one, twice as large as the one before.
-std::atomic<char*> kept[6];
+std::size_t constexpr kibibyte = 1024;
+std::size_t constexpr largest = 4096 * kibibyte;
+
+// Of the largest several: documents take those again and again.
+Slot slots[] = {{128 * kibibyte}, {256 * kibibyte}, {512 * kibibyte}, {1024 * kibibyte}, {2048 * kibibyte}, {largest},
+  {largest}, {largest}, {largest}};
 std::atomic<bool> is_closed{false};
 
 std::align_val_t alignment_of(std::size_t size) noexcept
 {
   return std::align_val_t(size > large_page ? large_page : axsPageStore::unit);
-}
-
-// Null for sizes of which none is kept.
-std::atomic<char*>* place_for(std::size_t size) noexcept
-{
-  for (std::size_t i = 0; i < std::size(kept); ++i)
-    if (size == smallest << i)
-      return &kept[i];
-  return nullptr;
 }
 
 void free_block(char* memory, std::size_t size) noexcept
@@ -43,11 +41,11 @@ struct AtEnd
   ~AtEnd()
   {
     is_closed = true;
-    for (std::size_t i = 0; i < std::size(kept); ++i)
-      if (char* const memory = kept[i].exchange(nullptr))
+    for (Slot& slot : slots)
+      if (char* const memory = slot.memory.exchange(nullptr))
       {
-        axsPoison::remove(memory, smallest << i);
-        free_block(memory, smallest << i);
+        axsPoison::remove(memory, slot.size);
+        free_block(memory, slot.size);
       }
   }
 };
@@ -56,24 +54,26 @@ AtEnd const at_end;
 
 axsPageStore::Block axsPageStore::take(std::size_t size)
 {
-  std::atomic<char*>* const place = place_for(size);
-  char* const memory = place == nullptr ? nullptr : place->exchange(nullptr);
-  if (memory == nullptr)
-    return {static_cast<char*>(::operator new(size, alignment_of(size))), true};
-  axsPoison::remove(memory, size);
-  return {memory, false};
+  for (Slot& slot : slots)
+    if (slot.size == size)
+      if (char* const memory = slot.memory.exchange(nullptr))
+      {
+        axsPoison::remove(memory, size);
+        return {memory, false};
+      }
+  return {static_cast<char*>(::operator new(size, alignment_of(size))), true};
 }
 
 void axsPageStore::give_back(char* memory, std::size_t size) noexcept
 {
-  std::atomic<char*>* const place = is_closed ? nullptr : place_for(size);
-  if (place == nullptr)
-    return free_block(memory, size);
   // Whoever still uses a node of the document that has gone is found out.
   axsPoison::add(memory, size);
-  if (char* const other = place->exchange(memory))
+  for (Slot& slot : slots)
   {
-    axsPoison::remove(other, size);
-    free_block(other, size);
+    char* empty = nullptr;
+    if (slot.size == size && !is_closed && slot.memory.compare_exchange_strong(empty, memory))
+      return;
   }
+  axsPoison::remove(memory, size);
+  free_block(memory, size);
 }

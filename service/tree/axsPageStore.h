@@ -6,7 +6,7 @@
 ///
 /// What the system hands out has to be cleared and comes in page by page as it is written to, which can take as long as
 /// reading the document that goes into it. So the next document gets what the last one left: of each size from 128 KiB to
-/// 4 MiB one block is kept, less than 8 MiB in all. Smaller ones the heap keeps anyway.
+/// 2 MiB one block is kept, and of 4 MiB four, less than 20 MiB in all. Smaller ones the heap keeps anyway.
 /// Safe from several threads at once.
 class axsPageStore
 {

@@ -35,7 +35,12 @@ axsInputBuffer::axsInputBuffer(axsSource& given)
 
 axsPlace axsInputBuffer::place(char const* at) const noexcept
 {
-  if (at >= known)
+  bool const is_counted = line_ends == axsLineEnds::Rule::xml_1_0 && source.has_line_ends();
+  // As many lines as the source has counted but for those that end after `at`.
+  if (at >= known && is_counted && end() - at < at - known)
+    known_place = axsLineEnds::place_after(
+      known_place, known, at, source.line_ends() + 1 - axsLineEnds::count(at, end()) - known_place.line);
+  else if (at >= known)
     known_place = axsLineEnds::place_after(known_place, known, at, line_ends);
   else
     known_place = axsLineEnds::place_before(begin_place, begin(), known_place, known, at, line_ends);

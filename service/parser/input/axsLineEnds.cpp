@@ -89,9 +89,8 @@ char const* end_of_half(char const* from, char const* to)
 }
 
 template <Rule rule>
-axsPlace after(axsPlace start, char const* from, char const* to)
+axsPlace after(axsPlace start, char const* from, char const* to, std::uint64_t lines)
 {
-  std::size_t const lines = line_ends<rule>(from, to);
   char const* const line = lines == 0 ? end_of_half<rule>(from, to) : begin_of_line<rule>(from, to);
   return {start.line + lines, (line == from ? start.column : 1) + sum<units_of_utf16>(line, to)};
 }
@@ -109,7 +108,18 @@ axsPlace before(axsPlace start, char const* begin, axsPlace place, char const* f
 
 axsPlace axsLineEnds::place_after(axsPlace start, char const* from, char const* to, Rule rule) noexcept
 {
-  return rule == Rule::xml_1_0 ? after<Rule::xml_1_0>(start, from, to) : after<Rule::xml_1_1>(start, from, to);
+  return rule == Rule::xml_1_0 ? after<Rule::xml_1_0>(start, from, to, line_ends<Rule::xml_1_0>(from, to))
+                               : after<Rule::xml_1_1>(start, from, to, line_ends<Rule::xml_1_1>(from, to));
+}
+
+axsPlace axsLineEnds::place_after(axsPlace start, char const* from, char const* to, std::uint64_t lines) noexcept
+{
+  return after<Rule::xml_1_0>(start, from, to, lines);
+}
+
+std::size_t axsLineEnds::count(char const* from, char const* to) noexcept
+{
+  return line_ends<Rule::xml_1_0>(from, to);
 }
 
 axsPlace axsLineEnds::place_before(

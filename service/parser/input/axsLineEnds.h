@@ -21,6 +21,13 @@ constexpr std::size_t bytes_before = 2;
 /// time in proportion to the bytes between them, a small part of what reading them takes.
 axsPlace place_after(axsPlace start, char const* from, char const* to, Rule rule) noexcept;
 
+/// The same where it is known that so many lines of XML 1.0 end between them, a pair that they part counted as well. Takes
+/// time in proportion to the length of the line in which `to` is.
+axsPlace place_after(axsPlace start, char const* from, char const* to, std::uint64_t lines) noexcept;
+
+/// How many lines of XML 1.0 end between them; one of two bytes counts at its first.
+std::size_t count(char const* from, char const* to) noexcept;
+
 /// The place of `to`, which stands before `from`. Looks at no byte before `begin`, whose place is `start`. Takes time in
 /// proportion to the bytes between them and to the length of the line in which `to` is.
 axsPlace place_before(

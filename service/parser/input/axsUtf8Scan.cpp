@@ -3,11 +3,13 @@
 #include <apByteBlock.h>
 #include <utUtf8.h>
 
+#include <bitset>
 #include <cstdint>
 
 namespace
 {
 using axsUtf8Scan::chunk;
+using axsUtf8Scan::Seen;
 
 // Which bytes of a chunk are what, a bit for each, the lowest for the first. Only what is there is looked at further.
 struct Chunk
@@ -112,26 +114,26 @@ private:
 class Halves
 {
 public:
-  __attribute__((target("avx2"))) explicit Halves(char const* from) noexcept
+  __attribute__((target("avx2,popcnt"))) explicit Halves(char const* from) noexcept
     : first(_mm256_loadu_si256(reinterpret_cast<__m256i const*>(from))),
       second(_mm256_loadu_si256(reinterpret_cast<__m256i const*>(from) + 1))
   {
   }
 
-  __attribute__((target("avx2"))) bool is_ascii_text() const noexcept
+  __attribute__((target("avx2,popcnt"))) bool is_ascii_text() const noexcept
   {
     // Compared as signed numbers, what is no ASCII is less than 1, as zero is.
     __m256i const least = _mm256_min_epi8(first, second);
     return _mm256_movemask_epi8(_mm256_cmpgt_epi8(_mm256_set1_epi8(1), least)) == 0;
   }
 
-  __attribute__((target("avx2"))) std::uint64_t is(char c) const noexcept
+  __attribute__((target("avx2,popcnt"))) std::uint64_t is(char c) const noexcept
   {
     __m256i const wanted = _mm256_set1_epi8(c);
     return bits_of(_mm256_cmpeq_epi8(first, wanted), _mm256_cmpeq_epi8(second, wanted));
   }
 
-  __attribute__((target("avx2"))) std::uint64_t is_at_least(char c) const noexcept
+  __attribute__((target("avx2,popcnt"))) std::uint64_t is_at_least(char c) const noexcept
   {
     __m256i const least = _mm256_set1_epi8(c);
     return bits_of(_mm256_cmpeq_epi8(_mm256_max_epu8(first, least), first),
@@ -139,7 +141,7 @@ public:
   }
 
 private:
-  __attribute__((target("avx2"))) static std::uint64_t bits_of(__m256i low, __m256i high) noexcept
+  __attribute__((target("avx2,popcnt"))) static std::uint64_t bits_of(__m256i low, __m256i high) noexcept
   {
     return static_cast<std::uint32_t>(_mm256_movemask_epi8(low)) |
            static_cast<std::uint64_t>(static_cast<std::uint32_t>(_mm256_movemask_epi8(high))) << 32;
@@ -163,7 +165,8 @@ template <class Bytes>
     return made;
   made.e0 = bytes.is('\xE0');
   made.ed = bytes.is('\xED');
-  made.from_a0 = bytes.is_at_least('\xA0');
+  if ((made.e0 | made.ed | before.e0 | before.ed) != 0)
+    made.from_a0 = bytes.is_at_least('\xA0');
   made.ef = bytes.is('\xEF');
   made.bf = bytes.is('\xBF');
   made.from_be = bytes.is_at_least('\xBE');
@@ -178,10 +181,11 @@ template <class Bytes>
 }
 
 template <class Bytes>
-[[gnu::always_inline]] inline char const* skip_by(char const* at, char const* end, bool& has_excluded) noexcept
+[[gnu::always_inline]] inline char const* skip_by(char const* at, char const* end, Seen& seen) noexcept
 {
   char const* const begin = at;
   Chunk before;
+  std::uint64_t returns_before = static_cast<std::uint64_t>(seen.ends_with_return) << (chunk - 1);
   for (; end - at >= chunk; at += chunk)
   {
     Bytes const bytes(at);
@@ -189,41 +193,54 @@ template <class Bytes>
     Chunk const now = is_ascii ? Chunk() : chunk_of(bytes, before);
     if (!is_ascii && !is_well_formed(now, before))
       break;
-    has_excluded = has_excluded || has_excluded_character(now, before);
+    seen.has_excluded = seen.has_excluded || has_excluded_character(now, before);
+    std::uint64_t const returns = bytes.is('\r');
+    std::uint64_t const feeds = bytes.is('\n');
+    seen.line_ends += std::bitset<chunk>(returns | (feeds & ~moved(returns, returns_before, 1))).count();
+    returns_before = returns;
     before = now;
   }
+  // A return before what is given back again is not told: no line feed comes there.
+  seen.ends_with_return = returns_before >> (chunk - 1) != 0;
   return end_of_whole(begin, at);
 }
 
 #if defined(AP_HAS_AVX2)
-__attribute__((target("avx2"))) char const* skip_by_avx2(char const* at, char const* end, bool& has_excluded) noexcept
+__attribute__((target("avx2,popcnt"))) char const* skip_by_avx2(char const* at, char const* end, Seen& seen) noexcept
 {
-  return skip_by<Halves>(at, end, has_excluded);
+  return skip_by<Halves>(at, end, seen);
 }
 #endif
 }
 
-char const* axsUtf8Scan::skip_by_words(char const* at, char const* end, bool& has_excluded) noexcept
+void Seen::add(char32_t character) noexcept
 {
-  return skip_by<Blocks<apWordBlock>>(at, end, has_excluded);
+  has_excluded = has_excluded || character == 0xFFFE || character == 0xFFFF;
+  line_ends += character == '\r' || (character == '\n' && !ends_with_return) ? 1 : 0;
+  ends_with_return = character == '\r';
 }
 
-char const* axsUtf8Scan::skip_by_blocks(char const* at, char const* end, bool& has_excluded) noexcept
+char const* axsUtf8Scan::skip_by_words(char const* at, char const* end, Seen& seen) noexcept
 {
-  return skip_by<Blocks<apByteBlock>>(at, end, has_excluded);
+  return skip_by<Blocks<apWordBlock>>(at, end, seen);
+}
+
+char const* axsUtf8Scan::skip_by_blocks(char const* at, char const* end, Seen& seen) noexcept
+{
+  return skip_by<Blocks<apByteBlock>>(at, end, seen);
 }
 
 axsUtf8Scan::Way axsUtf8Scan::fastest() noexcept
 {
 #if defined(AP_HAS_AVX2)
-  if (__builtin_cpu_supports("avx2") != 0)
+  if (__builtin_cpu_supports("avx2") != 0 && __builtin_cpu_supports("popcnt") != 0)
     return skip_by_avx2;
 #endif
   return skip_by_blocks;
 }
 
-char const* axsUtf8Scan::skip(char const* at, char const* end, bool& has_excluded) noexcept
+char const* axsUtf8Scan::skip(char const* at, char const* end, Seen& seen) noexcept
 {
   static Way const way = fastest();
-  return way(at, end, has_excluded);
+  return way(at, end, seen);
 }

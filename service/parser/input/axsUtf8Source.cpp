@@ -2,7 +2,6 @@
 
 #include "axsDecoder.h"
 #include "axsSource.h"
-#include "axsUtf8Scan.h"
 
 #include <apStringFormatter.h>
 #include <utUtf8.h>
@@ -22,17 +21,17 @@ std::unique_ptr<axsDecoder> make_decoder(std::string const& name)
 }
 
 // How many bytes at the beginning are whole characters, and no zero bytes.
-std::size_t size_of_utf8(std::string_view bytes, bool& has_excluded)
+std::size_t size_of_utf8(std::string_view bytes, axsUtf8Scan::Seen& seen)
 {
   char const* const end = bytes.data() + bytes.size();
-  char const* at = axsUtf8Scan::skip(bytes.data(), end, has_excluded);
+  char const* at = axsUtf8Scan::skip(bytes.data(), end, seen);
   // What is left is less than a chunk, or the first thing that is wrong comes soon.
   while (at != end && *at != '\0')
   {
     utCodePoint const character = utUtf8::decode(at, end);
     if (!character.is_valid())
       break;
-    has_excluded = has_excluded || character.code == 0xFFFE || character.code == 0xFFFF;
+    seen.add(character.code);
     at += character.length;
   }
   return static_cast<std::size_t>(at - bytes.data());
@@ -84,7 +83,7 @@ std::size_t axsUtf8Source::read_utf8(char* to, std::size_t room)
     std::size_t const count = source.read(to + before, room - before);
     at_end = count == 0;
     std::string_view const text(to, before + count);
-    std::size_t const size = found.name == "US-ASCII" ? size_of_ascii(text) : size_of_utf8(text, excluded);
+    std::size_t const size = size_of_utf8(found.name == "US-ASCII" ? text.substr(0, size_of_ascii(text)) : text, seen);
     std::string_view const part = text.substr(size);
     bool const goes_on = !part.empty() && !at_end && may_go_on(part);
     rest.assign(part.begin(), goes_on ? part.end() : part.begin());
@@ -110,7 +109,7 @@ std::size_t axsUtf8Source::read_decoded(char* to, std::size_t room)
     now.made += made.made;
     // No converter may keep us waiting at the end.
     bool const is_stuck = made.taken + made.made == 0 && at_end && !bytes.empty();
-    std::size_t const size = size_of_utf8(std::string_view(to, made.made), excluded);
+    std::size_t const size = size_of_utf8(std::string_view(to, made.made), seen);
     if (size < made.made)
       wrong = apString(zero_byte);
     else if (made.is_illegal || is_stuck)
@@ -135,6 +134,7 @@ void axsUtf8Source::seek(std::uint64_t position)
   decoded = 0;
   at_end = false;
   wrong = apString();
+  has_sought = true;
   if (decoder == nullptr)
     return source.seek(found.mark_size + position);
 

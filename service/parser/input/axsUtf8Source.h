@@ -1,6 +1,7 @@
 #pragma once
 
 #include "axsEncoding.h"
+#include "axsUtf8Scan.h"
 
 #include <apString.h>
 
@@ -41,7 +42,13 @@ public:
   axsEncoding const& encoding() const noexcept { return found; }
 
   /// Whether U+FFFE or U+FFFF, which are no characters of XML (2.2, [2] Char), were read.
-  bool has_excluded() const noexcept { return excluded; }
+  bool has_excluded() const noexcept { return seen.has_excluded; }
+
+  /// Whether line_ends() is known: not after a seek().
+  bool has_line_ends() const noexcept { return !has_sought; }
+
+  /// How many line ends of XML 1.0 (2.11) were read.
+  std::uint64_t line_ends() const noexcept { return seen.line_ends; }
 
 private:
   std::size_t read_utf8(char* to, std::size_t room);
@@ -72,5 +79,6 @@ private:
   // What was decoded too much when it went on from a place.
   std::string surplus;
   apString wrong;
-  bool excluded = false;
+  axsUtf8Scan::Seen seen;
+  bool has_sought = false;
 };

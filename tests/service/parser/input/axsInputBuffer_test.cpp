@@ -6,7 +6,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <random>
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -120,6 +122,54 @@ TEST(axsInputBuffer, knows_places_without_being_asked_before)
     buffer.advance(buffer.end() - 1);
   EXPECT_EQ(buffer.place(buffer.end() - 1), (axsPlace{100001, 1}));
   EXPECT_EQ(buffer.place(buffer.end()), (axsPlace{100001, 2}));
+}
+
+TEST(axsInputBuffer, knows_a_drawn_place_from_whichever_side_is_nearer)
+{
+  std::mt19937 draw(1);
+  std::string lines;
+  std::vector<axsPlace> places;
+  axsPlace here;
+  while (lines.size() < 300000)
+  {
+    std::size_t const kind = draw() % 40;
+    std::string const more = kind < 3 ? std::string("\r\n\n", kind, 2) : kind < 5 ? "\xE4\xB8\xAD" : "a";
+    for (char const c : more)
+    {
+      places.push_back(here);
+      bool const is_half = c == '\n' && !lines.empty() && lines.back() == '\r';
+      bool const is_end = c == '\n' || c == '\r';
+      here.line += is_end && !is_half ? 1 : 0;
+      here.column = is_end ? 1 : here.column + ((c & '\xC0') != '\x80' ? 1 : 0);
+      lines += c;
+    }
+  }
+  apByteArray const bytes(lines.data(), lines.size());
+  axsSource source(bytes);
+  axsInputBuffer buffer(source);
+  axsInputBuffer::Mark const begin = buffer.mark(buffer.begin());
+  auto const check = [&](char const* at)
+  {
+    std::size_t const position = static_cast<std::size_t>(buffer.position(at));
+    if ((lines[position] & '\xC0') != '\x80')
+    {
+      ASSERT_EQ(buffer.place(at), places[position]) << position;
+    }
+  };
+  // Once more after going back, when lines are no longer counted as they are read.
+  for (int time = 0; time < 2; ++time)
+  {
+    while (!buffer.is_last())
+    {
+      for (int i = 0; i < 5; ++i)
+        check(buffer.begin() + draw() % static_cast<std::size_t>(buffer.end() - buffer.begin()));
+      char const* from = buffer.begin() + draw() % static_cast<std::size_t>(buffer.end() - buffer.begin());
+      while ((*from & '\xC0') == '\x80')
+        --from;
+      buffer.advance(from);
+    }
+    buffer.return_to(begin);
+  }
 }
 
 TEST(axsInputBuffer, has_no_byte_order_mark)

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 #include <random>
 #include <string>
@@ -11,6 +12,7 @@
 namespace
 {
 using axsUtf8Scan::chunk;
+using axsUtf8Scan::Seen;
 using axsUtf8Scan::Way;
 
 class axsUtf8Scan_ways : public testing::TestWithParam<Way>
@@ -18,15 +20,15 @@ class axsUtf8Scan_ways : public testing::TestWithParam<Way>
 protected:
   static std::ptrdiff_t skipped(std::string const& bytes)
   {
-    bool has_excluded = false;
-    return GetParam()(bytes.data(), bytes.data() + bytes.size(), has_excluded) - bytes.data();
+    Seen seen;
+    return GetParam()(bytes.data(), bytes.data() + bytes.size(), seen) - bytes.data();
   }
 
   static bool finds_excluded(std::string const& bytes)
   {
-    bool has_excluded = false;
-    GetParam()(bytes.data(), bytes.data() + bytes.size(), has_excluded);
-    return has_excluded;
+    Seen seen;
+    GetParam()(bytes.data(), bytes.data() + bytes.size(), seen);
+    return seen.has_excluded;
   }
 
   // The end of whole characters, one after the other; -1 if something is wrong.
@@ -127,6 +129,38 @@ TEST_P(axsUtf8Scan_ways, characters_that_xml_excludes_are_found_wherever_they_st
       bytes.replace(place, character.size(), character);
       ASSERT_EQ(finds_excluded(bytes), code == 0xFFFE || code == 0xFFFF) << code << " at " << place;
     }
+}
+
+TEST_P(axsUtf8Scan_ways, line_ends_are_counted_wherever_a_text_is_parted)
+{
+  std::mt19937 draw(2);
+  for (int i = 0; i < 20000; ++i)
+  {
+    std::string text;
+    while (text.size() < 4 * chunk)
+      utUtf8::append(std::u32string(U"\r\n\r\nab\x85中")[draw() % 8], text);
+    std::uint64_t line_ends = 0;
+    for (std::size_t at = 0; at < text.size(); ++at)
+      line_ends += text[at] == '\r' || (text[at] == '\n' && (at == 0 || text[at - 1] != '\r')) ? 1 : 0;
+
+    Seen seen;
+    char const* at = text.data();
+    char const* const end = text.data() + text.size();
+    while (at != end)
+    {
+      char const* const part = std::min(end, at + draw() % (3 * chunk));
+      at = GetParam()(at, part, seen);
+      // As many characters as bytes more may be left of a part.
+      for (int left = 0; left < chunk && at != end; ++left)
+      {
+        utCodePoint const character = utUtf8::decode(at, end);
+        seen.add(character.code);
+        at += character.length;
+      }
+    }
+    ASSERT_EQ(seen.line_ends, line_ends) << testing::PrintToString(text);
+    ASSERT_EQ(seen.ends_with_return, text.back() == '\r');
+  }
 }
 
 TEST_P(axsUtf8Scan_ways, what_does_not_fill_a_chunk_is_left)
