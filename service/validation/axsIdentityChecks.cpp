@@ -42,11 +42,17 @@ axsIdentityChecks::Plan& axsIdentityChecks::plan_of(axsIdentityConstraint const&
   std::unique_ptr<Plan>& plan = plans[&constraint];
   if (plan != nullptr)
     return *plan;
-  auto made = std::make_unique<Plan>(Plan{&constraint, nullptr, axsIdentityMatcher(constraint.selector), {}});
+  auto made = std::make_unique<Plan>(constraint);
   if (!made->is_reference())
+  {
     made->key = &key_of(constraint);
+    made->key->plan = made.get();
+  }
   else if (constraint.referenced != nullptr)
+  {
     made->key = &key_of(*constraint.referenced);
+    made->key->referring.push_back(made.get());
+  }
   for (axsIdentityPath const& path : constraint.fields)
   {
     made->fields.emplace_back(path);
@@ -93,42 +99,71 @@ void axsIdentityChecks::open_scopes(axsElementDecl const& decl, axsKnownName con
 
 void axsIdentityChecks::open_scope(Plan& plan, axsKnownName const& name)
 {
-  std::size_t const level = open.size();
-  scopes.push_back({level, &plan, &name, std::make_unique<axsIdentityTable>(level), {}});
-  if (plan.selector.is_deep())
-  {
-    deep_scopes.push_back(scopes.size() - 1);
-    ++plan.deep_scopes;
-  }
-  if (plan.key == nullptr)
-    return;
+  Scope scope{open.size(), &plan, &name, nullptr, {}};
   if (!plan.is_reference())
-    plan.key->scopes.push_back(scopes.size() - 1);
+    scope.table = table_for(plan, scope.level);
+  else if (plan.key != nullptr)
+    if (Scope const* const around = nesting_scope_of(*plan.key))
+      scope.first_key = around->table->size();
+  if (plan.is_nesting() && plan.scopes.empty())
+    nesting_plans.push_back(&plan);
+  if (!plan.is_nesting() && plan.selector.is_deep())
+    deep_scopes.push_back(scopes.size());
+  plan.scopes.push_back(scopes.size());
+  scopes.push_back(std::move(scope));
+}
+
+std::shared_ptr<axsIdentityTable> axsIdentityChecks::table_for(Plan const& plan, std::size_t level)
+{
+  if (Scope const* const around = nesting_scope_of(*plan.key))
+    return around->table;
+  return std::make_shared<axsIdentityTable>(level);
+}
+
+// The innermost scope of a key whose scopes have one table. Null without one.
+axsIdentityChecks::Scope const* axsIdentityChecks::nesting_scope_of(Key const& key) const noexcept
+{
+  bool const is_open = key.plan != nullptr && key.plan->is_nesting() && !key.plan->scopes.empty();
+  return is_open ? &scopes[key.plan->scopes.back()] : nullptr;
 }
 
 // What is unique in an element is so in each within it: where an outer element has the same constraint, the inner one needs
 // none, unless it is referred to.
 bool axsIdentityChecks::is_covered(Plan const& plan) noexcept
 {
-  return !plan.is_reference() && plan.selector.is_deep_only() && plan.deep_scopes > 0 && plan.key->references == 0;
+  return !plan.is_reference() && plan.is_nesting() && !plan.scopes.empty() && plan.key->references == 0;
 }
 
+// Of a nesting constraint, an element is selected once, in the innermost scope that has it.
 void axsIdentityChecks::select(axsKnownName const& name, std::function<axsPlace()> const& place)
 {
+  for (Plan const* const plan : nesting_plans)
+  {
+    std::size_t const origin = plan->selector.innermost_origin(open);
+    if (origin < scopes[plan->scopes.front()].level)
+      continue;
+    auto const is_within = [&](std::size_t number) { return scopes[number].level <= origin; };
+    select_in(*std::find_if(plan->scopes.rbegin(), plan->scopes.rend(), is_within), name, place());
+  }
   auto const try_scope = [&](std::size_t number)
   {
     Scope const& scope = scopes[number];
-    if (!scope.plan->selector.leads_to_element(open, scope.level - 1))
-      return;
-    selections.push_back({open.size(), number, &name, place(), {}, {}});
-    selections.back().fields.resize(scope.plan->fields.size());
-    selections_with_deep_fields += scope.plan->has_deep_fields ? 1U : 0U;
+    if (scope.plan->selector.leads_to_element(open, scope.level - 1))
+      select_in(number, name, place());
   };
   for (std::size_t const number : deep_scopes)
     try_scope(number);
   for (std::size_t i = scopes.size(); i-- > 0 && scopes[i].level + depth_of_selectors >= open.size();)
     if (!scopes[i].plan->selector.is_deep())
       try_scope(i);
+}
+
+void axsIdentityChecks::select_in(std::size_t scope, axsKnownName const& name, axsPlace place)
+{
+  Plan const& plan = *scopes[scope].plan;
+  selections.push_back({open.size(), scope, &name, place, {}, {}});
+  selections.back().fields.resize(plan.fields.size());
+  selections_with_deep_fields += plan.has_deep_fields ? 1U : 0U;
 }
 
 // Visits the selections of which a field may lead to the innermost element.
@@ -245,13 +280,9 @@ void axsIdentityChecks::complete(Selection& selection)
   else
     for (Field const& field : selection.fields)
       append(key, field.bytes);
-  std::size_t const known = scope.table->add(key, selection.place);
   if (scope.plan->is_reference())
-  {
-    if (known == axsIdentityTable::none)
-      scope.texts.push_back(std::move(selection.text));
-    return;
-  }
+    return scope.references.add(key, std::move(selection.text), selection.place);
+  std::size_t const known = scope.table->add(key, selection.place, scope.level);
   if (known != axsIdentityTable::none)
     report_duplicate(selection, scope.table->place(known));
 }
@@ -286,30 +317,42 @@ void axsIdentityChecks::report_duplicate(Selection const& selection, axsPlace fi
 }
 
 // Each reference must find a key in the element or within it (cvc-identity-constraint.4.3).
-void axsIdentityChecks::check_references(Scope const& scope)
+void axsIdentityChecks::check_references(Scope& scope)
 {
   if (!scope.plan->is_reference() || scope.plan->key == nullptr)
     return;
-  axsIdentityTable const* const known = table_of(*scope.plan->key, scope.level);
-  for (std::size_t i = 0; i < scope.table->size(); ++i)
-    if (known == nullptr || !known->has(scope.table->value(i)))
-      report("the key reference " + scope.texts[i] + " in the element " + quoted(*scope.name) +
-               " has no key that it refers to",
-        scope.table->place(i));
+  auto const has_key = keys_in(scope);
+  scope.references.visit_open(
+    [&](std::string_view value, std::string const& text, axsPlace place)
+    {
+      if (!has_key(value))
+        report("the key reference " + text + " in the element " + quoted(*scope.name) + " has no key that it refers to",
+          place);
+    });
+}
+
+std::function<bool(std::string_view)> axsIdentityChecks::keys_in(Scope const& scope)
+{
+  Key const& key = *scope.plan->key;
+  if (Scope const* const around = nesting_scope_of(key))
+    return [&scope, table = around->table](std::string_view value)
+    { return table->has_within(value, scope.first_key, scope.level); };
+  return [table = table_of(key, scope.level)](std::string_view value) { return table != nullptr && table->has(value); };
 }
 
 // The keys that an element and those within it have.
 axsIdentityTable const* axsIdentityChecks::table_of(Key const& key, std::size_t level)
 {
-  bool const has_own = !key.scopes.empty() && scopes[key.scopes.back()].level == level;
+  Plan const* const plan = key.plan;
+  bool const has_own = plan != nullptr && !plan->scopes.empty() && scopes[plan->scopes.back()].level == level;
   if (!has_own)
   {
     auto const found = inherited.find({level, key.number});
     return found == inherited.end() ? nullptr : found->second.get();
   }
-  axsIdentityTable& own = *scopes[key.scopes.back()].table;
+  axsIdentityTable& own = *scopes[plan->scopes.back()].table;
   if (std::unique_ptr<axsIdentityTable> const inner = take_inherited(level, key))
-    own.inherit(std::move(*inner));
+    own.inherit(std::move(*inner), [&](std::string_view value) { look_again(key, value); });
   return &own;
 }
 
@@ -321,24 +364,24 @@ void axsIdentityChecks::close_scopes()
     --first;
   for (std::size_t i = first; i < scopes.size(); ++i)
     check_references(scopes[i]);
-  std::vector<std::pair<Key const*, std::unique_ptr<axsIdentityTable>>> closed;
+  std::vector<std::pair<Key const*, std::shared_ptr<axsIdentityTable>>> closed;
   for (; scopes.size() > first; close_scope())
-    if (!scopes.back().plan->is_reference())
+    if (!scopes.back().plan->is_reference() && !scopes.back().plan->shares_table())
       closed.emplace_back(scopes.back().plan->key, std::move(scopes.back().table));
   // Of equal values, those of the element itself count, not those within it.
   for (auto& [key, table] : closed)
   {
     if (std::unique_ptr<axsIdentityTable> const inner = take_inherited(level, *key))
-      table->inherit(std::move(*inner));
-    hand_up(*key, std::move(table));
+      table->inherit(std::move(*inner), [&](std::string_view value) { look_again(*key, value); });
+    hand_up(*key, std::move(*table));
   }
   while (!inherited.empty() && inherited.rbegin()->first.first == level)
   {
     auto const last = std::prev(inherited.end());
     Key const& key = *keys[last->first.second];
-    std::unique_ptr<axsIdentityTable> table = std::move(last->second);
+    std::unique_ptr<axsIdentityTable> const table = std::move(last->second);
     inherited.erase(last);
-    hand_up(key, std::move(table));
+    hand_up(key, std::move(*table));
   }
 }
 
@@ -346,18 +389,15 @@ void axsIdentityChecks::close_scopes()
 void axsIdentityChecks::close_scope()
 {
   Plan& plan = *scopes.back().plan;
-  if (plan.selector.is_deep())
-  {
+  plan.scopes.pop_back();
+  if (plan.is_nesting() && plan.scopes.empty())
+    nesting_plans.pop_back();
+  if (!plan.is_nesting() && plan.selector.is_deep())
     deep_scopes.pop_back();
-    --plan.deep_scopes;
-  }
-  if (plan.key != nullptr)
-  {
-    if (plan.is_reference())
-      --plan.key->references;
-    else
-      plan.key->scopes.pop_back();
-  }
+  if (plan.is_reference() && plan.key != nullptr)
+    --plan.key->references;
+  if (plan.is_reference() && plan.is_nesting() && !plan.scopes.empty())
+    scopes[plan.scopes.back()].references.take(std::move(scopes.back().references));
   scopes.pop_back();
 }
 
@@ -373,13 +413,21 @@ std::unique_ptr<axsIdentityTable> axsIdentityChecks::take_inherited(std::size_t 
 
 // Keys are known in the elements around, up to one that refers to them. Each of those on the way has them too: equal values
 // of two of its children are in conflict there, and not further out (Part 1, 3.11.5).
-void axsIdentityChecks::hand_up(Key const& key, std::unique_ptr<axsIdentityTable> table)
+void axsIdentityChecks::hand_up(Key const& key, axsIdentityTable&& table)
 {
-  if (table->size() == 0 || key.references == 0)
+  if (table.size() == 0 || key.references == 0)
     return;
   std::size_t const level = open.size() - 1;
   std::unique_ptr<axsIdentityTable>& known = inherited[{level, key.number}];
   if (known == nullptr)
     known = std::make_unique<axsIdentityTable>(level);
-  known->inherit(std::move(*table));
+  known->inherit(std::move(table), [&](std::string_view value) { look_again(key, value); });
+}
+
+// References of elements that have ended have found a key that is in conflict now.
+void axsIdentityChecks::look_again(Key const& key, std::string_view value)
+{
+  for (Plan const* const plan : key.referring)
+    if (plan->is_nesting() && !plan->scopes.empty())
+      scopes[plan->scopes.back()].references.look_again(value);
 }

@@ -2,6 +2,7 @@
 
 #include "axsIdentityConstraint.h"
 #include "axsIdentityMatcher.h"
+#include "axsIdentityReferences.h"
 #include "axsIdentityTable.h"
 #include "axsPlace.h"
 
@@ -63,25 +64,34 @@ public:
   void end();
 
 private:
+  struct Plan;
+
   // What is open of a constraint that others may refer to.
   struct Key
   {
     std::size_t number;
-    std::vector<std::size_t> scopes; // its own, by their numbers
-    std::size_t references = 0;      // how many scopes refer to it
+    Plan* plan = nullptr; // its own, once an element with it has begun
+    std::vector<Plan*> referring;
+    std::size_t references = 0; // how many scopes refer to it
   };
 
   struct Plan
   {
+    explicit Plan(axsIdentityConstraint const& given) : constraint(&given), selector(given.selector) {}
+
     axsIdentityConstraint const* constraint;
-    Key* key; // of a keyref what that refers to
+    Key* key = nullptr; // of a keyref what that refers to
     axsIdentityMatcher selector;
     std::vector<axsIdentityMatcher> fields;
     std::size_t depth_of_fields = 0;
     bool has_deep_fields = false;
-    std::size_t deep_scopes = 0; // that are open and whose selector leads to any depth
+    std::vector<std::size_t> scopes; // that are open, by their numbers
 
     bool is_reference() const noexcept { return constraint->category == axsIdentityConstraint::Category::keyref; }
+    // Whether what is selected in an element is so in all those around it that have the constraint.
+    bool is_nesting() const noexcept { return selector.is_deep_only(); }
+    // Whether the table of the innermost scope is that of others, too.
+    bool shares_table() const noexcept { return is_nesting() && scopes.size() > 1; }
   };
 
   // An element with a constraint. Levels count the open elements from 1, from the outermost one with a constraint on.
@@ -90,8 +100,9 @@ private:
     std::size_t level;
     Plan* plan;
     axsKnownName const* name;
-    std::unique_ptr<axsIdentityTable> table;
-    std::vector<std::string> texts; // of a keyref: the values as they stand in the document
+    std::shared_ptr<axsIdentityTable> table; // of a key; where the constraint is nesting, that of the outermost scope
+    axsIdentityReferences references;        // of a keyref
+    std::size_t first_key = 0;               // of a keyref: how many keys there were in the table around it
   };
 
   struct Field
@@ -128,7 +139,10 @@ private:
   void open_scopes(axsElementDecl const& decl, axsKnownName const& name);
   void open_scope(Plan& plan, axsKnownName const& name);
   static bool is_covered(Plan const& plan) noexcept;
+  std::shared_ptr<axsIdentityTable> table_for(Plan const& plan, std::size_t level);
+  Scope const* nesting_scope_of(Key const& key) const noexcept;
   void select(axsKnownName const& name, std::function<axsPlace()> const& place);
+  void select_in(std::size_t scope, axsKnownName const& name, axsPlace place);
   void await_fields();
   template <class Visit>
   void for_each_near(Visit visit);
@@ -137,12 +151,14 @@ private:
   void complete(Selection& selection);
   bool has_all_fields(Selection const& selection) const;
   void report_duplicate(Selection const& selection, axsPlace first);
-  void check_references(Scope const& scope);
+  void check_references(Scope& scope);
+  std::function<bool(std::string_view)> keys_in(Scope const& scope);
   axsIdentityTable const* table_of(Key const& key, std::size_t level);
   void close_scopes();
   void close_scope();
   std::unique_ptr<axsIdentityTable> take_inherited(std::size_t level, Key const& key);
-  void hand_up(Key const& key, std::unique_ptr<axsIdentityTable> table);
+  void hand_up(Key const& key, axsIdentityTable&& table);
+  void look_again(Key const& key, std::string_view value);
 
   Report report;
   std::unordered_map<axsIdentityConstraint const*, std::unique_ptr<Plan>> plans;
@@ -150,7 +166,8 @@ private:
   std::vector<Key const*> keys;
   std::vector<axsKnownName const*> open;
   std::vector<Scope> scopes;
-  std::vector<std::size_t> deep_scopes; // those whose selectors lead to any depth
+  std::vector<Plan*> nesting_plans;     // those that have scopes
+  std::vector<std::size_t> deep_scopes; // of other plans whose selectors may lead to any depth
   std::size_t depth_of_selectors = 0;
   std::vector<Selection> selections;
   std::size_t depth_of_fields = 0;

@@ -35,13 +35,11 @@ axsIdentityMatcher::axsIdentityMatcher(axsIdentityPath const& path)
   }
 }
 
-bool axsIdentityMatcher::is_at(
-  Alternative const& alternative, std::vector<axsKnownName const*> const& open, std::size_t from) noexcept
+// Whether the last elements that are open are those of its steps; there are as many.
+bool axsIdentityMatcher::has_names(
+  Alternative const& alternative, std::vector<axsKnownName const*> const& open) noexcept
 {
-  std::size_t const below = open.size() - 1 - from;
   std::size_t const count = alternative.children.size();
-  if (alternative.from_descendants ? below < count : below != count)
-    return false;
   for (std::size_t i = 0; i < count; ++i)
   {
     axsKnownName const& name = *open[open.size() - count + i];
@@ -49,6 +47,24 @@ bool axsIdentityMatcher::is_at(
       return false;
   }
   return true;
+}
+
+bool axsIdentityMatcher::is_at(
+  Alternative const& alternative, std::vector<axsKnownName const*> const& open, std::size_t from) noexcept
+{
+  std::size_t const below = open.size() - 1 - from;
+  std::size_t const count = alternative.children.size();
+  bool const is_within = alternative.from_descendants ? below >= count : below == count;
+  return is_within && has_names(alternative, open);
+}
+
+std::size_t axsIdentityMatcher::innermost_origin(std::vector<axsKnownName const*> const& open) const
+{
+  std::size_t level = 0;
+  for (Alternative const& alternative : alternatives)
+    if (alternative.from_descendants && open.size() > alternative.children.size() && has_names(alternative, open))
+      level = std::max(level, open.size() - alternative.children.size());
+  return level;
 }
 
 bool axsIdentityMatcher::leads_to_element(std::vector<axsKnownName const*> const& open, std::size_t from) const

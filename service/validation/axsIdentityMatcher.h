@@ -17,6 +17,10 @@ public:
   /// Whether the path leads from the element at `from` of those that are open to the last of them; of a field, by elements.
   bool leads_to_element(std::vector<axsKnownName const*> const& open, std::size_t from) const;
 
+  /// The innermost level, counted from 1, from which the path leads to the last of them to any depth, as it then does from
+  /// all levels around that; 0 if it does from none.
+  std::size_t innermost_origin(std::vector<axsKnownName const*> const& open) const;
+
   /// Whether it leads to the attribute of the last one.
   bool leads_to_attribute(std::vector<axsKnownName const*> const& open, std::size_t from, std::string_view name_space,
     std::string_view local) const;
@@ -38,6 +42,7 @@ private:
     axsIdentityPath::Step const* attribute;
   };
 
+  static bool has_names(Alternative const& alternative, std::vector<axsKnownName const*> const& open) noexcept;
   static bool is_at(
     Alternative const& alternative, std::vector<axsKnownName const*> const& open, std::size_t from) noexcept;
 

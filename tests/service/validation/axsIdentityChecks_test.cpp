@@ -166,6 +166,48 @@ TEST(axsIdentityChecks, keys_in_each_of_many_levels_are_held)
     "1: the key reference \"0\" in the element 'r' has no key that it refers to\n");
 }
 
+// Each element of each level is selected by all levels around it; held once for each of those, they would not end here.
+TEST(axsIdentityChecks, keys_and_references_of_any_depth_in_each_of_many_levels_are_held)
+{
+  int const levels = 20000;
+  std::string const last = std::to_string(levels - 1);
+  std::string open;
+  std::string close;
+  for (int i = 0; i < levels; ++i)
+  {
+    open += "<r k='" + std::to_string(i) + "' t='" + last + "'>";
+    close += "</r>";
+  }
+  std::string const inmost = "<r k='" + last + "'/>";
+  std::vector<std::pair<std::string, std::string>> const selectors = {
+    {".//r", ".//r"}, {".//.", ".//."}, {".//r", "r"}, {"r", ".//r"}, {".//r/r|.//r", ".//r"}};
+  for (auto const& [keys, references] : selectors)
+  {
+    Schema const schema(
+      "<xs:element name='r'><xs:complexType><xs:sequence><xs:element ref='r' minOccurs='0' "
+      "maxOccurs='2'/></xs:sequence>"
+      "<xs:attribute name='k' type='xs:int'/><xs:attribute name='t' type='xs:int'/></xs:complexType>" +
+      constraint("unique", "u", keys, {"@k"}) + constraint("keyref", "f", references, {"@t"}, "u") + "</xs:element>");
+    ASSERT_EQ(schema.fault(), "");
+    EXPECT_EQ(schema.wrong("<r>" + open + close + "</r>"), "") << keys;
+    EXPECT_NE(schema.wrong("<r>" + open + "<r t='-1'/>" + close + "</r>"), "") << keys;
+    EXPECT_NE(schema.wrong("<r>" + open + inmost + inmost + close + "</r>"), "") << keys;
+  }
+}
+
+// What is unique for elements of any depth is so for each level; what is wrong with it is told once.
+TEST(axsIdentityChecks, what_is_wrong_at_several_levels_is_told_once)
+{
+  Schema const schema(
+    items + root(constraint("key", "k", ".//i", {"@k"}) + constraint("keyref", "f", ".//f", {"@to"}, "k")));
+  EXPECT_EQ(schema.wrong("<r><r><r>\n<i k='1'/>\n<i k='1'/><f to='1'/></r></r></r>"),
+    "3: element 'i': its key \"1\" is not unique in the element 'r'; first at line 2\n");
+  EXPECT_EQ(schema.wrong("<r><i k='1'/>\n<r><i k='1'/><f to='1'/></r></r>"),
+    "2: element 'i': its key \"1\" is not unique in the element 'r'; first at line 1\n");
+  EXPECT_EQ(schema.wrong("<r><i k='1'/><r><r>\n<f to='1'/></r></r></r>"),
+    "2: the key reference \"1\" in the element 'r' has no key that it refers to\n");
+}
+
 // Of equal keys, those of an element itself count before those within it, which do not conflict with them.
 TEST(axsIdentityChecks, keys_within_conflict_with_each_other_only)
 {
