@@ -4,10 +4,9 @@
 #include "Loading.h"
 #include "MemoryStream.h"
 #include "OutputFile.h"
+#include "VerbOptions.h"
 
 #include <axsCanonicalForm.h>
-
-#include <CLI/CLI.hpp>
 
 #include <memory>
 #include <string>
@@ -65,23 +64,22 @@ int canon(Request const& request)
 
 void add_canon(CLI::App& app, int& exit_code)
 {
-  CLI::App* const verb = app.add_subcommand("canon", description);
+  VerbOptions verb(app, "canon", description, footer);
   auto const request = std::make_shared<Request>();
-  verb->add_option("FILE", request->file, "The document; - is standard input, and .gz, .xz and .zst are decompressed")
-    ->type_name("FILE")
-    ->required();
-  CLI::Option* const exclusive =
-    verb->add_flag("--exclusive", request->form.is_exclusive, "Keep only the declarations of prefixes that a tag uses");
+  verb.add("FILE", request->file, "The document; - is standard input, and .gz, .xz and .zst are decompressed")
+    .value_name("FILE")
+    .required();
+  VerbOption const exclusive =
+    verb.add_flag("--exclusive", request->form.is_exclusive, "Keep only the declarations of prefixes that a tag uses");
   verb
-    ->add_option("--inclusive-prefix", request->prefixes,
+    .add("--inclusive-prefix", request->prefixes,
       "With --exclusive, a prefix whose declarations stay; #default for the default namespace; may be given again")
-    ->type_name("P")
-    ->needs(exclusive)
-    ->allow_extra_args(false);
-  verb->add_flag("--comments", request->form.has_comments, "Keep comments");
-  CommonOptions::add_output(*verb, request->output);
-  verb->footer(footer);
-  verb->callback(
+    .value_name("P")
+    .needs(exclusive)
+    .one_at_a_time();
+  verb.add_flag("--comments", request->form.has_comments, "Keep comments");
+  CommonOptions::add_output(verb, request->output);
+  verb.run(
     [request, &exit_code]
     {
       request->form.inclusive_prefixes = {request->prefixes.begin(), request->prefixes.end()};

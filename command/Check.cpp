@@ -4,8 +4,7 @@
 #include "Loading.h"
 #include "Messages.h"
 #include "Verb.h"
-
-#include <CLI/CLI.hpp>
+#include "VerbOptions.h"
 
 #include <cstdint>
 #include <limits>
@@ -128,20 +127,18 @@ int check(Request const& request)
 
 void add_check(CLI::App& app, int& exit_code)
 {
-  CLI::App* const verb = app.add_subcommand("check", description);
+  VerbOptions verb(app, "check", description, footer);
   auto const request = std::make_shared<Request>();
-  CommonOptions::add_files(*verb, request->files);
-  verb->add_option("--schema", request->schemas, "A schema file for a namespace; may be given again")
-    ->type_name("NS=XSD")
-    ->check(wrong_schema)
-    ->allow_extra_args(false);
-  verb->add_option("--no-namespace-schema", request->plain_schema, "The schema file for elements in no namespace")
-    ->type_name("FILE")
-    ->check(wrong_file);
-  verb->add_flag(
-    "--all-errors", request->all_errors, "Show everything that is wrong with a file, and not the first 20");
-  verb->add_flag("--schemas-only", request->schemas_only, "The files are schemas; say whether these are right");
-  CommonOptions::add_jobs(*verb, request->jobs);
-  verb->footer(footer);
-  verb->callback([request, &exit_code] { exit_code = check(*request); });
+  CommonOptions::add_files(verb, request->files);
+  verb.add("--schema", request->schemas, "A schema file for a namespace; may be given again")
+    .value_name("NS=XSD")
+    .checked_by(wrong_schema)
+    .one_at_a_time();
+  verb.add("--no-namespace-schema", request->plain_schema, "The schema file for elements in no namespace")
+    .value_name("FILE")
+    .checked_by(wrong_file);
+  verb.add_flag("--all-errors", request->all_errors, "Show everything that is wrong with a file, and not the first 20");
+  verb.add_flag("--schemas-only", request->schemas_only, "The files are schemas; say whether these are right");
+  CommonOptions::add_jobs(verb, request->jobs);
+  verb.run([request, &exit_code] { exit_code = check(*request); });
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <CLI/App.hpp>
+#include "VerbOptions.h"
 
 #include <string>
 #include <vector>
@@ -9,17 +9,17 @@
 namespace CommonOptions
 {
 /// FILE...: at least one.
-CLI::Option* add_files(CLI::App& verb, std::vector<std::string>& files);
+VerbOption add_files(VerbOptions& verb, std::vector<std::string>& files);
 
 /// -j, --jobs N: see FileJobs.
-CLI::Option* add_jobs(CLI::App& verb, unsigned& jobs);
+VerbOption add_jobs(VerbOptions& verb, unsigned& jobs);
 
 /// --ns P=URI, any number of times; see Namespaces.h.
-CLI::Option* add_namespaces(CLI::App& verb, std::vector<std::string>& spaces);
+VerbOption add_namespaces(VerbOptions& verb, std::vector<std::string>& spaces);
 
 /// --output FILE; empty where it is not given.
-CLI::Option* add_output(CLI::App& verb, std::string& output);
+VerbOption add_output(VerbOptions& verb, std::string& output);
 
 /// --color WHEN; see Colours. `when` is "auto" to begin with.
-CLI::Option* add_colour(CLI::App& verb, std::string& when);
+VerbOption add_colour(VerbOptions& verb, std::string& when);
 }

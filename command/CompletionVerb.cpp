@@ -1,7 +1,6 @@
 #include "Completion.h"
 #include "Verb.h"
-
-#include <CLI/CLI.hpp>
+#include "VerbOptions.h"
 
 #include <iostream>
 #include <memory>
@@ -22,11 +21,8 @@ The folder of the zsh script has to be in fpath before compinit is called.)";
 
 void add_completion(CLI::App& app, int&)
 {
-  CLI::App* const verb = app.add_subcommand("completion", description);
+  VerbOptions verb(app, "completion", description, footer);
   auto const shell = std::make_shared<std::string>();
-  verb->add_option("SHELL", *shell, "The shell: bash, zsh or fish")
-    ->required()
-    ->check(CLI::IsMember({"bash", "zsh", "fish"}));
-  verb->footer(footer);
-  verb->callback([shell, &app] { std::cout << Completion::script(app, *shell); });
+  verb.add("SHELL", *shell, "The shell: bash, zsh or fish").required().one_of({"bash", "zsh", "fish"});
+  verb.run([shell, &app] { std::cout << Completion::script(app, *shell); });
 }

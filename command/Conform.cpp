@@ -3,13 +3,12 @@
 #include "ConformListener.h"
 #include "ConformRun.h"
 #include "Interruption.h"
+#include "VerbOptions.h"
 
 #include <apPath.h>
 #include <utUnitTest.h>
 #include <utUnitTestCounter.h>
 #include <utUnitTestJunit.h>
-
-#include <CLI/CLI.hpp>
 
 #include <chrono>
 #include <cstdio>
@@ -111,20 +110,19 @@ int conform(Request const& request)
 void add_conform(CLI::App& app, int& exit_code)
 {
   auto const request = std::make_shared<Request>();
-  CLI::App* const verb = app.add_subcommand("conform", description);
-  verb->footer(footer);
-  verb->add_option("--service", request->service, "Library with the engine to check")->type_name("LIBRARY");
-  verb->add_option("--junit", request->junit, "Write the checks as JUnit XML too")->type_name("FILE");
-  verb->add_option("--time-limit", request->time_limit, "How long a group of checks may take; 60 by default")
-    ->type_name("SECONDS")
-    ->check(CLI::Range(1, 86400));
-  verb->add_flag("--fail-fast", request->fail_fast, "End at the first check that fails");
-  verb->add_option("--seed", request->selection.seed, "Draw other random operations: the same for the same number")
-    ->type_name("N");
-  verb->add_option("--rounds", request->selection.rounds, "How many sequences of them a group draws")
-    ->type_name("N")
-    ->check(CLI::Range(0, 1000000000));
-  verb->add_option("CLASS", request->selection.classes, "Classes of checks to run; all by default")
-    ->check(CLI::IsMember(conform_class_names()));
-  verb->callback([request, &exit_code] { exit_code = conform(*request); });
+  VerbOptions verb(app, "conform", description, footer);
+  verb.add("--service", request->service, "Library with the engine to check").value_name("LIBRARY");
+  verb.add("--junit", request->junit, "Write the checks as JUnit XML too").value_name("FILE");
+  verb.add("--time-limit", request->time_limit, "How long a group of checks may take; 60 by default")
+    .value_name("SECONDS")
+    .in_range(1, 86400);
+  verb.add_flag("--fail-fast", request->fail_fast, "End at the first check that fails");
+  verb.add("--seed", request->selection.seed, "Draw other random operations: the same for the same number")
+    .value_name("N");
+  verb.add("--rounds", request->selection.rounds, "How many sequences of them a group draws")
+    .value_name("N")
+    .in_range(0, 1000000000);
+  verb.add("CLASS", request->selection.classes, "Classes of checks to run; all by default")
+    .one_of(conform_class_names());
+  verb.run([request, &exit_code] { exit_code = conform(*request); });
 }

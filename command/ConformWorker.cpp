@@ -1,4 +1,5 @@
 // The side of the verb conform that meets the engine: a process which may end in any way at any time.
+#include "VerbOptions.h"
 
 #include "BuiltInEngine.h"
 #include "ChildProcess.h"
@@ -11,8 +12,6 @@
 
 #include <axmUtestGroupListener.h>
 #include <utUnitTest.h>
-
-#include <CLI/CLI.hpp>
 
 #if defined(_WIN32)
 #  include <windows.h>
@@ -135,13 +134,13 @@ int work(Request const& request)
 void add_conform_worker(CLI::App& app, int& exit_code)
 {
   auto const request = std::make_shared<Request>();
-  CLI::App* const verb = app.add_subcommand("conform-worker", "");
-  verb->group("");
-  verb->add_option("--service", request->service);
-  verb->add_option("--skip", request->skip);
-  verb->add_option("--class", request->selection.classes);
-  verb->add_option("--seed", request->selection.seed);
-  verb->add_option("--rounds", request->selection.rounds);
-  verb->add_option("--pipe", request->pipe)->required();
-  verb->callback([request, &exit_code] { exit_code = work(*request); });
+  VerbOptions verb(app, "conform-worker", "", "");
+  verb.hide();
+  verb.add("--service", request->service);
+  verb.add("--skip", request->skip);
+  verb.add("--class", request->selection.classes);
+  verb.add("--seed", request->selection.seed);
+  verb.add("--rounds", request->selection.rounds);
+  verb.add("--pipe", request->pipe).required();
+  verb.run([request, &exit_code] { exit_code = work(*request); });
 }

@@ -3,11 +3,10 @@
 #include "Loading.h"
 #include "MemoryStream.h"
 #include "OutputFile.h"
+#include "VerbOptions.h"
 #include "XmlFromJson.h"
 
 #include <axsJsonText.h>
-
-#include <CLI/CLI.hpp>
 
 #include <memory>
 #include <string>
@@ -104,18 +103,13 @@ int convert(Request const& request)
 
 void add_convert(CLI::App& app, int& exit_code)
 {
-  CLI::App* const verb = app.add_subcommand("convert", description);
+  VerbOptions verb(app, "convert", description, footer);
   auto const request = std::make_shared<Request>();
-  verb->add_option("FILE", request->file, "The document, or the JSON; - is standard input")
-    ->type_name("FILE")
-    ->required();
-  verb->add_option("--to", request->to, "What it becomes: json or xml")->check(CLI::IsMember({"json", "xml"}));
-  verb
-    ->add_option(
-      "--indent", request->indent, "How many blanks a level of JSON is indented by (2 without it); 0 for one line")
-    ->type_name("N")
-    ->check(CLI::Range(0, 100));
-  CommonOptions::add_output(*verb, request->output);
-  verb->footer(footer);
-  verb->callback([request, &exit_code] { exit_code = convert(*request); });
+  verb.add("FILE", request->file, "The document, or the JSON; - is standard input").value_name("FILE").required();
+  verb.add("--to", request->to, "What it becomes: json or xml").one_of({"json", "xml"});
+  verb.add("--indent", request->indent, "How many blanks a level of JSON is indented by (2 without it); 0 for one line")
+    .value_name("N")
+    .in_range(0, 100);
+  CommonOptions::add_output(verb, request->output);
+  verb.run([request, &exit_code] { exit_code = convert(*request); });
 }

@@ -1,7 +1,6 @@
 #include "Complaint.h"
 #include "EditVerb.h"
-
-#include <CLI/CLI.hpp>
+#include "VerbOptions.h"
 
 #include <memory>
 #include <string>
@@ -33,9 +32,8 @@ int delete_nodes(EditVerb& common)
 
 void add_delete(CLI::App& app, int& exit_code)
 {
-  CLI::App* const verb = app.add_subcommand("delete", description);
+  VerbOptions verb(app, "delete", description, footer);
   auto const common = std::make_shared<EditVerb>();
-  common->add_to(*verb, {{"XPATH", "What to delete"}});
-  verb->footer(footer);
-  verb->callback([common, &exit_code] { exit_code = delete_nodes(*common); });
+  common->add_to(verb, {{"XPATH", "What to delete"}});
+  verb.run([common, &exit_code] { exit_code = delete_nodes(*common); });
 }

@@ -5,10 +5,9 @@
 #include "Loading.h"
 #include "OutputFile.h"
 #include "SourceLine.h"
+#include "VerbOptions.h"
 
 #include <axsComparison.h>
-
-#include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <memory>
@@ -173,18 +172,17 @@ int diff(Request const& request)
 
 void add_diff(CLI::App& app, int& exit_code)
 {
-  CLI::App* const verb = app.add_subcommand("diff", description);
+  VerbOptions verb(app, "diff", description, footer);
   auto const request = std::make_shared<Request>();
-  verb->add_option("FIRST", request->first, "The one document; - is standard input")->type_name("FILE")->required();
-  verb->add_option("SECOND", request->second, "The other one")->type_name("FILE")->required();
-  verb->add_flag("--ignore-layout", request->compare.ignores_layout, "Do not count white space between elements");
-  verb->add_flag("-w,--ignore-space", request->compare.ignores_space,
+  verb.add("FIRST", request->first, "The one document; - is standard input").value_name("FILE").required();
+  verb.add("SECOND", request->second, "The other one").value_name("FILE").required();
+  verb.add_flag("--ignore-layout", request->compare.ignores_layout, "Do not count white space between elements");
+  verb.add_flag("-w,--ignore-space", request->compare.ignores_space,
     "Do not count white space between elements and around texts, nor how much of it is within them");
-  verb->add_flag("--ignore-comments", request->compare.ignores_comments, "Do not count comments");
-  verb->add_flag("-q,--brief", request->brief, "Say only whether they differ");
-  verb->add_flag("-n,--line-number", request->with_line, "Write the lines in both documents");
-  verb->add_flag("--full", request->full, "Write long values whole");
-  CommonOptions::add_colour(*verb, request->colour);
-  verb->footer(footer);
-  verb->callback([request, &exit_code] { exit_code = diff(*request); });
+  verb.add_flag("--ignore-comments", request->compare.ignores_comments, "Do not count comments");
+  verb.add_flag("-q,--brief", request->brief, "Say only whether they differ");
+  verb.add_flag("-n,--line-number", request->with_line, "Write the lines in both documents");
+  verb.add_flag("--full", request->full, "Write long values whole");
+  CommonOptions::add_colour(verb, request->colour);
+  verb.run([request, &exit_code] { exit_code = diff(*request); });
 }

@@ -8,11 +8,8 @@
 #include "Loading.h"
 #include "NamespaceHint.h"
 #include "Namespaces.h"
-#include "OptionRow.h"
 
 #include <axmElement.h>
-
-#include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <filesystem>
@@ -89,34 +86,30 @@ bool is_utf8(std::string const& text)
 }
 }
 
-void EditVerb::add_to(CLI::App& verb, std::vector<std::pair<std::string, std::string>> const& after_files)
+void EditVerb::add_to(VerbOptions& verb, std::vector<std::pair<std::string, std::string>> const& after_files)
 {
   CommonOptions::add_files(verb, arguments);
-  auto const shown_only = std::make_shared<std::string>();
   for (auto const& [name, description] : after_files)
-    verb
-      .add_option_function<std::string>(
-        name, [shown_only](std::string const& given) { *shown_only = given; }, description)
-      ->option_text(OptionRow::filled_by_verb);
+    verb.add_filled_by_verb(name, description);
   CommonOptions::add_namespaces(verb, spaces);
   verb.add_flag("-i,--in-place", in_place, "Write each document to its file, which is what is done without --output");
   verb
-    .add_option("--output", output_name,
+    .add("--output", output_name,
       "The file to write instead, whole or not at all; - for standard output. Compressed if its name ends so")
-    ->type_name("FILE")
-    ->check(OutputFile::wrong_name);
+    .value_name("FILE")
+    .checked_by(OutputFile::wrong_name);
   CommonOptions::add_jobs(verb, jobs);
 }
 
-void EditVerb::add_targets(CLI::App& verb)
+void EditVerb::add_targets(VerbOptions& verb)
 {
-  std::vector<CLI::Option*> added;
+  std::vector<VerbOption> added;
   for (std::size_t i = 0; i < std::size(place_options); ++i)
   {
-    CLI::Option* const option =
-      verb.add_option(place_options[i].name, targets[i], place_options[i].description)->type_name("XPATH");
-    for (CLI::Option* const other : added)
-      option->excludes(other);
+    VerbOption const option =
+      verb.add(place_options[i].name, targets[i], place_options[i].description).value_name("XPATH");
+    for (VerbOption const& other : added)
+      option.excludes(other);
     added.push_back(option);
   }
 }

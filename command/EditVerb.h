@@ -2,6 +2,7 @@
 
 #include "JobOutput.h"
 #include "Verb.h"
+#include "VerbOptions.h"
 
 #include <axsEditor.h>
 
@@ -23,7 +24,7 @@ public:
   std::vector<std::string> arguments;
 
   /// Adds the options to the verb; this object must live as long. `after_files` names what follows the documents.
-  void add_to(CLI::App& verb, std::vector<std::pair<std::string, std::string>> const& after_files);
+  void add_to(VerbOptions& verb, std::vector<std::pair<std::string, std::string>> const& after_files);
 
   /// Takes the last of the arguments; empty if that would leave no document.
   std::string take_last();
@@ -37,7 +38,7 @@ public:
     axsEditPlace place = axsEditPlace::after;
     std::string xpath;
   };
-  void add_targets(CLI::App& verb);
+  void add_targets(VerbOptions& verb);
 
   /// The one of them that was given; of none or several, with an empty expression.
   Target target() const;

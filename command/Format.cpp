@@ -4,11 +4,10 @@
 #include "InputStream.h"
 #include "Loading.h"
 #include "MemoryStream.h"
+#include "VerbOptions.h"
 
 #include <axsComparison.h>
 #include <axsFormatter.h>
-
-#include <CLI/CLI.hpp>
 
 #include <memory>
 #include <string>
@@ -131,32 +130,32 @@ int format(Request const& request)
 
 void add_format(CLI::App& app, int& exit_code)
 {
-  CLI::App* const verb = app.add_subcommand("format", description);
+  VerbOptions verb(app, "format", description, footer);
   auto const request = std::make_shared<Request>();
-  CommonOptions::add_files(*verb, request->files);
-  verb->add_option("--indent", request->layout.indent, "How many blanks a level is indented by (2 without it)")
-    ->type_name("N")
-    ->check(CLI::Range(0, 100));
-  verb->add_flag("--tabs", request->layout.has_tabs, "Indent by tabs, --indent of them (1 without it)");
+  CommonOptions::add_files(verb, request->files);
+  VerbOption const indent =
+    verb.add("--indent", request->layout.indent, "How many blanks a level is indented by (2 without it)")
+      .value_name("N")
+      .in_range(0, 100);
+  verb.add_flag("--tabs", request->layout.has_tabs, "Indent by tabs, --indent of them (1 without it)");
   verb
-    ->add_option("--width", request->layout.width,
+    .add("--width", request->layout.width,
       "How long a start tag may be before its attributes take several lines (100 without it); 0 for no bound")
-    ->type_name("N")
-    ->check(CLI::Range(0, 1000000));
+    .value_name("N")
+    .in_range(0, 1000000);
   verb
-    ->add_option("--attributes-per-line", request->layout.attributes_per_line,
+    .add("--attributes-per-line", request->layout.attributes_per_line,
       "How many attributes stand on a line; as many as there is room for without it")
-    ->type_name("N")
-    ->check(CLI::Range(1, 1000000));
-  verb->add_flag("-i,--in-place", request->in_place, "Write each document to its file");
-  verb->add_flag("--check", request->check, "Write nothing but the names of files that would change");
-  CommonOptions::add_output(*verb, request->output);
-  CommonOptions::add_jobs(*verb, request->jobs);
-  verb->footer(footer);
-  verb->callback(
-    [verb, request, &exit_code]
+    .value_name("N")
+    .in_range(1, 1000000);
+  verb.add_flag("-i,--in-place", request->in_place, "Write each document to its file");
+  verb.add_flag("--check", request->check, "Write nothing but the names of files that would change");
+  CommonOptions::add_output(verb, request->output);
+  CommonOptions::add_jobs(verb, request->jobs);
+  verb.run(
+    [indent, request, &exit_code]
     {
-      if (request->layout.has_tabs && verb->count("--indent") == 0)
+      if (request->layout.has_tabs && !indent.is_given())
         request->layout.indent = 1;
       exit_code = format(*request);
     });

@@ -1,7 +1,6 @@
 #include "Complaint.h"
 #include "EditVerb.h"
-
-#include <CLI/CLI.hpp>
+#include "VerbOptions.h"
 
 #include <memory>
 #include <string>
@@ -38,10 +37,9 @@ int insert(EditVerb& common)
 
 void add_insert(CLI::App& app, int& exit_code)
 {
-  CLI::App* const verb = app.add_subcommand("insert", description);
+  VerbOptions verb(app, "insert", description, footer);
   auto const common = std::make_shared<EditVerb>();
-  common->add_to(*verb, {{"FRAGMENT", "What to insert"}});
-  common->add_targets(*verb);
-  verb->footer(footer);
-  verb->callback([common, &exit_code] { exit_code = insert(*common); });
+  common->add_to(verb, {{"FRAGMENT", "What to insert"}});
+  common->add_targets(verb);
+  verb.run([common, &exit_code] { exit_code = insert(*common); });
 }

@@ -1,7 +1,6 @@
 #include "Complaint.h"
 #include "EditVerb.h"
-
-#include <CLI/CLI.hpp>
+#include "VerbOptions.h"
 
 #include <memory>
 #include <string>
@@ -35,10 +34,9 @@ int move_nodes(EditVerb& common)
 
 void add_move(CLI::App& app, int& exit_code)
 {
-  CLI::App* const verb = app.add_subcommand("move", description);
+  VerbOptions verb(app, "move", description, footer);
   auto const common = std::make_shared<EditVerb>();
-  common->add_to(*verb, {{"XPATH", "What to move"}});
-  common->add_targets(*verb);
-  verb->footer(footer);
-  verb->callback([common, &exit_code] { exit_code = move_nodes(*common); });
+  common->add_to(verb, {{"XPATH", "What to move"}});
+  common->add_targets(verb);
+  verb.run([common, &exit_code] { exit_code = move_nodes(*common); });
 }

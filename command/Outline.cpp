@@ -6,10 +6,9 @@
 #include "OutputFile.h"
 #include "RowFormat.h"
 #include "SourceLine.h"
+#include "VerbOptions.h"
 
 #include <axsOutline.h>
-
-#include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <iostream>
@@ -195,19 +194,17 @@ int show_outline(Request const& request)
 
 void add_outline(CLI::App& app, int& exit_code)
 {
-  CLI::App* const verb = app.add_subcommand("outline", description);
+  VerbOptions verb(app, "outline", description, footer);
   auto const request = std::make_shared<Request>();
-  CommonOptions::add_files(*verb, request->files);
-  verb->add_option("--depth", request->depth, "How many names a path may have (100 without it)")
-    ->type_name("N")
-    ->check(CLI::Range(1, 1000));
-  verb->add_option("--paths", request->paths, "How many paths are told apart (10000 without it)")
-    ->type_name("N")
-    ->check(CLI::Range(1, 10000000));
-  verb->add_option("--format", request->format, "text (the default), csv or jsonl")
-    ->check(CLI::IsMember({"text", "csv", "jsonl"}));
-  CommonOptions::add_output(*verb, request->output);
-  CommonOptions::add_jobs(*verb, request->jobs);
-  verb->footer(footer);
-  verb->callback([request, &exit_code] { exit_code = show_outline(*request); });
+  CommonOptions::add_files(verb, request->files);
+  verb.add("--depth", request->depth, "How many names a path may have (100 without it)")
+    .value_name("N")
+    .in_range(1, 1000);
+  verb.add("--paths", request->paths, "How many paths are told apart (10000 without it)")
+    .value_name("N")
+    .in_range(1, 10000000);
+  verb.add("--format", request->format, "text (the default), csv or jsonl").one_of({"text", "csv", "jsonl"});
+  CommonOptions::add_output(verb, request->output);
+  CommonOptions::add_jobs(verb, request->jobs);
+  verb.run([request, &exit_code] { exit_code = show_outline(*request); });
 }

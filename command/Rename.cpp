@@ -1,7 +1,6 @@
 #include "Complaint.h"
 #include "EditVerb.h"
-
-#include <CLI/CLI.hpp>
+#include "VerbOptions.h"
 
 #include <memory>
 #include <string>
@@ -33,9 +32,8 @@ int rename_nodes(EditVerb& common)
 
 void add_rename(CLI::App& app, int& exit_code)
 {
-  CLI::App* const verb = app.add_subcommand("rename", description);
+  VerbOptions verb(app, "rename", description, footer);
   auto const common = std::make_shared<EditVerb>();
-  common->add_to(*verb, {{"XPATH", "What to rename"}, {"NAME", "The new name"}});
-  verb->footer(footer);
-  verb->callback([common, &exit_code] { exit_code = rename_nodes(*common); });
+  common->add_to(verb, {{"XPATH", "What to rename"}, {"NAME", "The new name"}});
+  verb.run([common, &exit_code] { exit_code = rename_nodes(*common); });
 }

@@ -6,12 +6,10 @@
 #include "Loading.h"
 #include "NamespaceHint.h"
 #include "Namespaces.h"
-#include "OptionRow.h"
 #include "RowFormat.h"
+#include "VerbOptions.h"
 
 #include <axmElement.h>
-
-#include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <memory>
@@ -267,28 +265,25 @@ std::string take_expression(Request& request)
 
 void add_select(CLI::App& app, int& exit_code)
 {
-  CLI::App* const verb = app.add_subcommand("select", description);
+  VerbOptions verb(app, "select", description, footer);
   auto const request = std::make_shared<Request>();
-  CommonOptions::add_files(*verb, request->files);
-  auto const xpath = std::make_shared<std::string>();
-  verb->add_option("XPATH", *xpath, "What to select")->option_text(OptionRow::filled_by_verb);
-  CLI::Option* const format =
-    verb->add_option("--format", request->format, "How to write it: text (the default), xml, csv, jsonl or count")
-      ->check(CLI::IsMember({"text", "xml", "csv", "jsonl", "count"}));
-  CLI::Option* const text = verb->add_flag("--text", request->as_text, "The same as --format text");
-  CLI::Option* const xml = verb->add_flag("--xml", request->as_xml, "The same as --format xml");
-  CLI::Option* const attribute =
-    verb->add_option("--attribute", request->attribute, "Write the attribute NAME of each node that has it")
-      ->type_name("NAME");
-  text->excludes(xml)->excludes(attribute)->excludes(format);
-  xml->excludes(attribute)->excludes(format);
-  CommonOptions::add_namespaces(*verb, request->spaces);
-  verb->add_flag("-H,--with-filename", request->with_filename, "Write the name of the file before each line");
-  verb->add_flag("-n,--line-number", request->with_line, "Write the line in which each node begins");
-  CommonOptions::add_colour(*verb, request->colour);
-  CommonOptions::add_jobs(*verb, request->jobs);
-  verb->footer(footer);
-  verb->callback(
+  CommonOptions::add_files(verb, request->files);
+  verb.add_filled_by_verb("XPATH", "What to select");
+  VerbOption const format =
+    verb.add("--format", request->format, "How to write it: text (the default), xml, csv, jsonl or count")
+      .one_of({"text", "xml", "csv", "jsonl", "count"});
+  VerbOption const text = verb.add_flag("--text", request->as_text, "The same as --format text");
+  VerbOption const xml = verb.add_flag("--xml", request->as_xml, "The same as --format xml");
+  VerbOption const attribute =
+    verb.add("--attribute", request->attribute, "Write the attribute NAME of each node that has it").value_name("NAME");
+  text.excludes(xml).excludes(attribute).excludes(format);
+  xml.excludes(attribute).excludes(format);
+  CommonOptions::add_namespaces(verb, request->spaces);
+  verb.add_flag("-H,--with-filename", request->with_filename, "Write the name of the file before each line");
+  verb.add_flag("-n,--line-number", request->with_line, "Write the line in which each node begins");
+  CommonOptions::add_colour(verb, request->colour);
+  CommonOptions::add_jobs(verb, request->jobs);
+  verb.run(
     [request, &exit_code]
     {
       std::string const wrong = take_expression(*request);

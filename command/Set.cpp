@@ -1,9 +1,8 @@
 #include "Complaint.h"
 #include "EditVerb.h"
+#include "VerbOptions.h"
 
 #include <apString.h>
-
-#include <CLI/CLI.hpp>
 
 #include <memory>
 #include <string>
@@ -82,11 +81,9 @@ int set(Request& request, bool has_value)
 
 void add_set(CLI::App& app, int& exit_code)
 {
-  CLI::App* const verb = app.add_subcommand("set", description);
+  VerbOptions verb(app, "set", description, footer);
   auto const request = std::make_shared<Request>();
-  request->common.add_to(
-    *verb, {{"XPATH", "What to set"}, {"NAME=VALUE", "The attributes to set; any number of them"}});
-  CLI::Option* const value = verb->add_option("--value", request->value, "The value to set")->type_name("TEXT");
-  verb->footer(footer);
-  verb->callback([request, value, &exit_code] { exit_code = set(*request, value->count() > 0); });
+  request->common.add_to(verb, {{"XPATH", "What to set"}, {"NAME=VALUE", "The attributes to set; any number of them"}});
+  VerbOption const value = verb.add("--value", request->value, "The value to set").value_name("TEXT");
+  verb.run([request, value, &exit_code] { exit_code = set(*request, value.is_given()); });
 }

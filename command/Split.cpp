@@ -5,10 +5,9 @@
 #include "OutputFile.h"
 #include "SplitIndex.h"
 #include "Verb.h"
+#include "VerbOptions.h"
 
 #include <axsRecordReader.h>
-
-#include <CLI/CLI.hpp>
 
 #include <memory>
 #include <string>
@@ -67,16 +66,13 @@ int split(Request const& request)
 
 void add_split(CLI::App& app, int& exit_code)
 {
-  CLI::App* const verb = app.add_subcommand("split", description);
+  VerbOptions verb(app, "split", description, footer);
   auto const request = std::make_shared<Request>();
-  verb->add_option("FILE", request->file, "The document")->type_name("FILE")->required();
-  verb->add_option("PATH", request->path, "The names from the root to the record, as in osm/node")->required();
-  verb->add_option("--parts", request->count, "How many parts (2 without it)")
-    ->type_name("N")
-    ->check(CLI::Range(1, 1000000));
-  CommonOptions::add_namespaces(*verb, request->spaces);
-  verb->add_option("--output", request->output, "The index, written whole or not at all; standard output without it")
-    ->type_name("FILE");
-  verb->footer(footer);
-  verb->callback([request, &exit_code] { exit_code = split(*request); });
+  verb.add("FILE", request->file, "The document").value_name("FILE").required();
+  verb.add("PATH", request->path, "The names from the root to the record, as in osm/node").required();
+  verb.add("--parts", request->count, "How many parts (2 without it)").value_name("N").in_range(1, 1000000);
+  CommonOptions::add_namespaces(verb, request->spaces);
+  verb.add("--output", request->output, "The index, written whole or not at all; standard output without it")
+    .value_name("FILE");
+  verb.run([request, &exit_code] { exit_code = split(*request); });
 }

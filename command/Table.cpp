@@ -5,12 +5,11 @@
 #include "TableOutput.h"
 #include "TableRequest.h"
 #include "Verb.h"
+#include "VerbOptions.h"
 
 #if defined(AXM_HAS_ENGINE)
 #  include "ExactTable.h"
 #endif
-
-#include <CLI/CLI.hpp>
 
 #include <memory>
 
@@ -116,38 +115,33 @@ int table(TableRequest const& request, std::string const& reader)
 
 void add_table(CLI::App& app, int& exit_code)
 {
-  CLI::App* const verb = app.add_subcommand("table", description);
+  VerbOptions verb(app, "table", description, footer);
   auto const request = std::make_shared<TableRequest>();
   auto const first_file = std::make_shared<std::string>();
   auto const spaces = std::make_shared<std::vector<std::string>>();
   auto const reader = std::make_shared<std::string>("exact");
-  verb->add_option("FILE", *first_file, "The document; - is standard input, and .gz, .xz and .zst are decompressed")
-    ->type_name("FILE")
-    ->required();
-  verb->add_option("PATH", request->path, "The names from the root to the record, as in osm/node")->required();
-  verb->add_option("COLUMN", request->columns, "What to write of each record")->required();
-  verb->add_option("--more", request->files, "Further documents, whose rows follow in the same table")
-    ->type_name("FILE");
-  verb->add_option("--format", request->format, "csv (the default), tsv or jsonl")
-    ->check(CLI::IsMember({"csv", "tsv", "jsonl"}));
-  CommonOptions::add_output(*verb, request->output);
-  verb->add_flag("--header", request->header, "Write the columns' names first (csv, tsv)");
+  verb.add("FILE", *first_file, "The document; - is standard input, and .gz, .xz and .zst are decompressed")
+    .value_name("FILE")
+    .required();
+  verb.add("PATH", request->path, "The names from the root to the record, as in osm/node").required();
+  verb.add("COLUMN", request->columns, "What to write of each record").required();
+  verb.add("--more", request->files, "Further documents, whose rows follow in the same table").value_name("FILE");
+  verb.add("--format", request->format, "csv (the default), tsv or jsonl").one_of({"csv", "tsv", "jsonl"});
+  CommonOptions::add_output(verb, request->output);
+  verb.add_flag("--header", request->header, "Write the columns' names first (csv, tsv)");
   verb
-    ->add_option("--repeat", request->repeat,
+    .add("--repeat", request->repeat,
       "What becomes of a column that a record has several values of: first (the default) takes the first, join=SEP all "
       "with SEP between them, rows makes a row of each")
-    ->type_name("HOW")
-    ->check(is_repeat);
-  verb->add_option("--missing", request->missing, "What stands where a record has no such value");
-  CommonOptions::add_namespaces(*verb, *spaces);
-  verb->add_option("--index", request->index, "The index that axm split wrote: take the rows of one part of FILE only")
-    ->type_name("FILE");
-  verb->add_option("--part", request->part, "Which part, counted from 0")
-    ->type_name("K")
-    ->check(CLI::NonNegativeNumber);
-  verb->add_option("--reader", *reader, "exact (the default) or simple")->check(CLI::IsMember({"exact", "simple"}));
-  verb->footer(footer);
-  verb->callback(
+    .value_name("HOW")
+    .checked_by(is_repeat);
+  verb.add("--missing", request->missing, "What stands where a record has no such value");
+  CommonOptions::add_namespaces(verb, *spaces);
+  verb.add("--index", request->index, "The index that axm split wrote: take the rows of one part of FILE only")
+    .value_name("FILE");
+  verb.add("--part", request->part, "Which part, counted from 0").value_name("K").not_negative();
+  verb.add("--reader", *reader, "exact (the default) or simple").one_of({"exact", "simple"});
+  verb.run(
     [=, &exit_code]
     {
       request->files.insert(request->files.begin(), *first_file);

@@ -1,6 +1,9 @@
 #pragma once
 
-#include <CLI/App.hpp>
+namespace CLI
+{
+class App;
+}
 
 /// The exit codes of the command.
 enum ExitCode : int
