@@ -83,6 +83,8 @@ private:
 
 std::string SimpleTable::complaint(TableRequest const& request)
 {
+  if (request.path[0] == '/')
+    return "the path '" + request.path + "' begins with '/'; the names from the root to the record stand without one";
   if (split_path(request.path).empty())
     return "the path '" + request.path + "' has an empty name in it";
   return Columns::complaint(request.columns);

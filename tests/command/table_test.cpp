@@ -195,10 +195,13 @@ TEST_F(Table, wrong_usage_is_exit_code_2)
 
 TEST_F(Table, a_path_that_begins_with_a_slash_is_told_what_to_do)
 {
-  ProgramRun const run = table("<r k='1'/>", {"/r", "@k"});
-  EXPECT_EQ(run.exit_code, 2);
-  EXPECT_EQ(
-    run.err, "axm: table: the path '/r' begins with '/'; the names from the root to the record stand without one\n");
+  for (char const* const reader : {"exact", "simple"})
+  {
+    ProgramRun const run = table("<r k='1'/>", {"/r", "@k", "--reader", reader});
+    EXPECT_EQ(run.exit_code, 2);
+    EXPECT_EQ(
+      run.err, "axm: table: the path '/r' begins with '/'; the names from the root to the record stand without one\n");
+  }
 }
 
 TEST_F(Table, help_has_two_examples)
