@@ -237,12 +237,28 @@ void axsAttributeReader::intersect(axsAttributeSet& set, axsWildcard const& othe
     set.wildcard = other;
     return;
   }
-  std::optional<axsWildcard> both = axsNamespaceConstraint::intersected(*set.wildcard, other);
+  std::optional<axsWildcard> both = common(*set.wildcard, other);
   if (both.has_value())
     set.wildcard = std::move(both);
   else
     context.errors.add(reference.place, "what two attribute wildcards both allow cannot be expressed"
                                         " (intensional intersection)");
+}
+
+// Many types may refer to the same two groups: they share one list, made once.
+std::optional<axsWildcard> axsAttributeReader::common(axsWildcard const& left, axsWildcard const& right)
+{
+  using Namespaces = axsWildcard::Namespaces;
+  void const* const first = left.spaces.identity();
+  void const* const second = right.spaces.identity();
+  if (left.kind != Namespaces::one_of || right.kind != Namespaces::one_of || first == nullptr || second == nullptr)
+    return axsNamespaceConstraint::intersected(left, right);
+  auto const [at, is_new] = known_common.try_emplace({first, second});
+  if (is_new)
+    at->second = {left.spaces, right.spaces, left.spaces.common_with(right.spaces)};
+  axsWildcard made = left;
+  made.spaces = at->second.both;
+  return made;
 }
 
 // ct-props-correct.4 and ag-props-correct.2. One use that comes in by several groups is one use. Those of the largest group
@@ -288,16 +304,16 @@ axsWildcard axsAttributeReader::wildcard(axsSchemaUnit const& unit, axsSchemaEle
   if (names == "##other")
   {
     made.kind = axsWildcard::Namespaces::not_one;
-    made.spaces = {unit.target};
+    made.spaces = axsNamespaceList({unit.target});
     return made;
   }
   made.kind = axsWildcard::Namespaces::one_of;
+  std::vector<std::string> spaces;
   for (std::string_view item = axsSchemaText::next_item(names); !item.empty(); item = axsSchemaText::next_item(names))
     if (item == "##targetNamespace")
-      made.spaces.push_back(unit.target);
+      spaces.push_back(unit.target);
     else
-      made.spaces.emplace_back(item == "##local" ? std::string_view() : item);
-  std::sort(made.spaces.begin(), made.spaces.end());
-  made.spaces.erase(std::unique(made.spaces.begin(), made.spaces.end()), made.spaces.end());
+      spaces.emplace_back(item == "##local" ? std::string_view() : item);
+  made.spaces = axsNamespaceList(std::move(spaces));
   return made;
 }

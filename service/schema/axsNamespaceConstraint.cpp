@@ -1,22 +1,21 @@
 #include "axsNamespaceConstraint.h"
 
-#include <algorithm>
-#include <iterator>
+#include <utility>
 
 namespace
 {
 using Namespaces = axsWildcard::Namespaces;
-using Spaces = std::vector<std::string>;
-
-bool has(Spaces const& sorted, std::string_view name_space)
-{
-  auto const at = std::lower_bound(sorted.begin(), sorted.end(), name_space);
-  return at != sorted.end() && *at == name_space;
-}
+using Spaces = axsNamespaceList;
 
 bool is_same(axsWildcard const& left, axsWildcard const& right)
 {
   return left.kind == right.kind && left.spaces == right.spaces;
+}
+
+// The one that a negation is about.
+std::string_view negated_by(axsWildcard const& wildcard)
+{
+  return wildcard.spaces.names().front();
 }
 
 axsWildcard with(axsWildcard const& like, Namespaces kind, Spaces spaces)
@@ -29,26 +28,23 @@ axsWildcard with(axsWildcard const& like, Namespaces kind, Spaces spaces)
 
 axsWildcard not_absent(axsWildcard const& like)
 {
-  return with(like, Namespaces::not_one, {std::string()});
+  return with(like, Namespaces::not_one, Spaces({std::string()}));
 }
 
-// The union of a negation with a set, which is `listed`.
-std::optional<axsWildcard> united_with_set(axsWildcard const& like, std::string const& negated, Spaces const& listed)
+// The union of a negation with a set.
+std::optional<axsWildcard> united_with_set(axsWildcard const& like, axsWildcard const& negation, Spaces const& listed)
 {
-  bool const has_absent = has(listed, std::string_view());
-  if (negated.empty())
+  bool const has_absent = listed.has({});
+  if (negation.spaces.has({}))
     return has_absent ? with(like, Namespaces::any, {}) : not_absent(like);
-  if (!has(listed, negated))
-    return has_absent ? std::nullopt : std::optional(with(like, Namespaces::not_one, {negated}));
+  if (!listed.has(negated_by(negation)))
+    return has_absent ? std::nullopt : std::optional(with(like, Namespaces::not_one, negation.spaces));
   return has_absent ? with(like, Namespaces::any, {}) : not_absent(like);
 }
 
-axsWildcard intersected_with_set(axsWildcard const& like, std::string const& negated, Spaces const& listed)
+axsWildcard intersected_with_set(axsWildcard const& like, axsWildcard const& negation, Spaces const& listed)
 {
-  Spaces left;
-  std::copy_if(listed.begin(), listed.end(), std::back_inserter(left),
-    [&](std::string const& space) { return !space.empty() && space != negated; });
-  return with(like, Namespaces::one_of, std::move(left));
+  return with(like, Namespaces::one_of, listed.without({}).without(negated_by(negation)));
 }
 }
 
@@ -59,9 +55,9 @@ bool axsNamespaceConstraint::allows(axsWildcard const& wildcard, std::string_vie
   case Namespaces::any:
     return true;
   case Namespaces::not_one:
-    return !name_space.empty() && name_space != wildcard.spaces.front();
+    return !name_space.empty() && !wildcard.spaces.has(name_space);
   case Namespaces::one_of:
-    return has(wildcard.spaces, name_space);
+    return wildcard.spaces.has(name_space);
   }
   return false;
 }
@@ -73,9 +69,10 @@ bool axsNamespaceConstraint::is_subset(axsWildcard const& narrow, axsWildcard co
   if (narrow.kind == Namespaces::any)
     return false;
   if (narrow.kind == Namespaces::not_one)
-    return wide.kind == Namespaces::not_one && (narrow.spaces == wide.spaces || wide.spaces.front().empty());
-  return std::all_of(
-    narrow.spaces.begin(), narrow.spaces.end(), [&](std::string const& space) { return allows(wide, space); });
+    return wide.kind == Namespaces::not_one && (narrow.spaces == wide.spaces || wide.spaces.has({}));
+  if (wide.kind == Namespaces::one_of)
+    return wide.spaces.has_all_of(narrow.spaces);
+  return !narrow.spaces.has({}) && !narrow.spaces.has(negated_by(wide));
 }
 
 std::optional<axsWildcard> axsNamespaceConstraint::united(axsWildcard const& left, axsWildcard const& right)
@@ -87,13 +84,10 @@ std::optional<axsWildcard> axsNamespaceConstraint::united(axsWildcard const& lef
   if (left.kind == Namespaces::not_one && right.kind == Namespaces::not_one)
     return not_absent(left);
   if (left.kind == Namespaces::not_one)
-    return united_with_set(left, left.spaces.front(), right.spaces);
+    return united_with_set(left, left, right.spaces);
   if (right.kind == Namespaces::not_one)
-    return united_with_set(left, right.spaces.front(), left.spaces);
-  Spaces all;
-  std::set_union(
-    left.spaces.begin(), left.spaces.end(), right.spaces.begin(), right.spaces.end(), std::back_inserter(all));
-  return with(left, Namespaces::one_of, std::move(all));
+    return united_with_set(left, right, left.spaces);
+  return with(left, Namespaces::one_of, left.spaces.with(right.spaces));
 }
 
 std::optional<axsWildcard> axsNamespaceConstraint::intersected(axsWildcard const& left, axsWildcard const& right)
@@ -104,16 +98,13 @@ std::optional<axsWildcard> axsNamespaceConstraint::intersected(axsWildcard const
     return with(left, right.kind, right.spaces);
   if (left.kind == Namespaces::not_one && right.kind == Namespaces::not_one)
   {
-    if (left.spaces.front().empty())
+    if (left.spaces.has({}))
       return with(left, Namespaces::not_one, right.spaces);
-    return right.spaces.front().empty() ? std::optional(left) : std::nullopt;
+    return right.spaces.has({}) ? std::optional(left) : std::nullopt;
   }
   if (left.kind == Namespaces::not_one)
-    return intersected_with_set(left, left.spaces.front(), right.spaces);
+    return intersected_with_set(left, left, right.spaces);
   if (right.kind == Namespaces::not_one)
-    return intersected_with_set(left, right.spaces.front(), left.spaces);
-  Spaces both;
-  std::set_intersection(
-    left.spaces.begin(), left.spaces.end(), right.spaces.begin(), right.spaces.end(), std::back_inserter(both));
-  return with(left, Namespaces::one_of, std::move(both));
+    return intersected_with_set(left, right, left.spaces);
+  return with(left, Namespaces::one_of, left.spaces.common_with(right.spaces));
 }

@@ -1,9 +1,7 @@
 #pragma once
 
+#include "axsNamespaceList.h"
 #include "axsSchemaPlace.h"
-
-#include <string>
-#include <vector>
 
 /// A wildcard (Part 1, 3.10.1), of elements or attributes.
 struct axsWildcard
@@ -23,8 +21,7 @@ struct axsWildcard
   };
 
   Namespaces kind = Namespaces::any;
-  /// The empty one stands for "absent": names without a namespace. Sorted, without doubles.
-  std::vector<std::string> spaces;
+  axsNamespaceList spaces;
   Process process = Process::strict;
   axsSchemaPlace place;
 };

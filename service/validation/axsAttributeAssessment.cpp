@@ -4,6 +4,7 @@
 #include "axsBuiltInTypes.h"
 #include "axsComplexType.h"
 #include "axsName.h"
+#include "axsNamespaceConstraint.h"
 #include "axsShownText.h"
 #include "axsSimpleType.h"
 #include "axsWildcard.h"
@@ -19,17 +20,6 @@ axsValueConstraint const& constraint_of(axsAttributeUse const& use) noexcept
 {
   return use.constraint.kind != Kind::none ? use.constraint : use.decl->constraint;
 }
-
-bool allows(axsWildcard const& wildcard, std::string_view name_space)
-{
-  using Spaces = axsWildcard::Namespaces;
-  if (wildcard.kind == Spaces::any)
-    return true;
-  bool const is_listed =
-    std::any_of(wildcard.spaces.begin(), wildcard.spaces.end(), [&](std::string const& s) { return s == name_space; });
-  return wildcard.kind == Spaces::one_of ? is_listed : !is_listed && !name_space.empty();
-}
-
 }
 
 bool axsAttributeAssessment::is_exempt(axsTagAttribute const& attribute) noexcept
@@ -159,7 +149,7 @@ void axsAttributeAssessment::assess_use(axsTagAttribute const& attribute, axsAtt
 void axsAttributeAssessment::assess_wild(axsTagAttribute const& attribute, axsComplexType const& type)
 {
   std::string const name(attribute.name->utf8());
-  if (!type.attribute_wildcard || !allows(*type.attribute_wildcard, attribute.name_space))
+  if (!type.attribute_wildcard || !axsNamespaceConstraint::allows(*type.attribute_wildcard, attribute.name_space))
     return findings.report("attribute '" + name + "' is not declared for element '" + element() + "'");
   axsWildcard const& wildcard = *type.attribute_wildcard;
   if (wildcard.process == axsWildcard::Process::skip)

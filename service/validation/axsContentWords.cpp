@@ -12,9 +12,9 @@ namespace
 {
 using Expected = axsContentStack::Expected;
 
-std::string in_space(std::string const& name_space)
+std::string in_space(std::string_view name_space)
 {
-  return name_space.empty() ? " in no namespace" : " of the namespace '" + name_space + "'";
+  return name_space.empty() ? " in no namespace" : " of the namespace '" + std::string(name_space) + "'";
 }
 
 std::string of_wildcard(axsWildcard const& wildcard)
@@ -25,7 +25,8 @@ std::string of_wildcard(axsWildcard const& wildcard)
     return "an element of another namespace";
   if (wildcard.spaces.empty())
     return "";
-  return "an element" + in_space(wildcard.spaces.front()) + (wildcard.spaces.size() > 1 ? " or some others" : "");
+  return "an element" + in_space(wildcard.spaces.names().front()) +
+         (wildcard.spaces.size() > 1 ? " or some others" : "");
 }
 
 bool differs_in_namespace_only(axsSchemaName const& name, axsKnownName const* child)

@@ -201,7 +201,7 @@ axsContentWildcard const& axsContentModels::wildcard_of(axsWildcard const& wildc
   made.wildcard = &wildcard;
   made.is_broad = wildcard.kind != axsWildcard::Namespaces::one_of;
   if (wildcard.kind != axsWildcard::Namespaces::any)
-    for (std::string const& space : wildcard.spaces)
+    for (std::string_view const space : wildcard.spaces.names())
       made.spaces.push_back(names.add_space(space));
   if (wildcard.kind == axsWildcard::Namespaces::not_one)
     made.spaces.push_back(names.add_space({}));

@@ -18,7 +18,7 @@ axsWildcard other_than(std::string const& space)
 {
   axsWildcard made;
   made.kind = Namespaces::not_one;
-  made.spaces = {space};
+  made.spaces = axsNamespaceList({space});
   return made;
 }
 
@@ -26,7 +26,7 @@ axsWildcard one_of(std::vector<std::string> const& spaces)
 {
   axsWildcard made;
   made.kind = Namespaces::one_of;
-  made.spaces = spaces;
+  made.spaces = axsNamespaceList(spaces);
   return made;
 }
 
@@ -38,8 +38,8 @@ std::string shown(std::optional<axsWildcard> const& wildcard)
   if (wildcard->kind == Namespaces::any)
     return "any";
   std::string text = wildcard->kind == Namespaces::not_one ? "not" : "";
-  for (std::string const& space : wildcard->spaces)
-    text += (text.empty() ? "" : " ") + (space.empty() ? std::string("-") : space);
+  for (std::string_view const space : wildcard->spaces.names())
+    text += (text.empty() ? "" : " ") + (space.empty() ? std::string("-") : std::string(space));
   return text;
 }
 

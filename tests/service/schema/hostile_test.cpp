@@ -37,8 +37,8 @@ std::string in_type(std::string const& content)
 
 TEST(hostile_schemas, types_are_derived_from_each_other_over_10000_levels)
 {
-  for (char const* const content :
-    {"", "<xs:attribute name='a%'/>", "<xs:sequence><xs:element name='a%'/></xs:sequence>"})
+  for (char const* const content : {"", "<xs:attribute name='a%'/>",
+         "<xs:sequence><xs:element name='a%'/></xs:sequence>", "<xs:anyAttribute namespace='urn:%'/>"})
   {
     auto const type = [&](int i)
     {
@@ -57,6 +57,36 @@ TEST(hostile_schemas, types_are_derived_from_each_other_over_10000_levels)
            "'/></xs:restriction></xs:simpleType>\n";
   };
   EXPECT_EQ(error_of_schema(repeated(many, restricted)), "");
+}
+
+// Types that have the wildcard of a group, or what is left of it, hold its names together with that.
+TEST(hostile_schemas, types_with_long_lists_of_namespaces_share_them)
+{
+  std::string const names = repeated(many, [](int i) { return " urn:" + number(i); });
+  auto const group = [&](std::string const& name, std::string const& more)
+  {
+    return "<xs:attributeGroup name='" + name + "'><xs:anyAttribute namespace='" + more + names +
+           "'/></xs:attributeGroup>";
+  };
+  std::string const groups = group("g", "##local") + group("h", "urn:x");
+  std::string const reference = "<xs:attributeGroup ref='g'/>";
+  for (std::string const& content : {reference, reference + "<xs:anyAttribute namespace='##other'/>",
+         reference + "<xs:attributeGroup ref='h'/>", reference + "<xs:anyAttribute namespace='urn:1'/>"})
+  {
+    auto const type = [&](int i)
+    { return "<xs:complexType name='t" + number(i) + "'>" + content + "</xs:complexType>"; };
+    EXPECT_EQ(error_of_schema(groups + repeated(many, type)), "") << content;
+  }
+  auto const extended = [](int i)
+  {
+    return "<xs:complexType name='t" + number(i) +
+           "'><xs:complexContent><xs:extension base='base'>"
+           "<xs:anyAttribute namespace='urn:x" +
+           number(i) + "'/></xs:extension></xs:complexContent></xs:complexType>";
+  };
+  EXPECT_EQ(error_of_schema(
+              groups + "<xs:complexType name='base'>" + reference + "</xs:complexType>" + repeated(many, extended)),
+    "");
 }
 
 TEST(hostile_schemas, circles_over_10000_definitions_are_found)
