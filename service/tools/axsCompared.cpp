@@ -153,11 +153,8 @@ bool axsCompared::compare(Step step, axsComparison::Take const& take)
     Node const& after = second.nodes[step.after];
     if (before.hash == after.hash)
       return true;
-    bool const are_of_one_name = before.kind == after.kind && before.number == after.number;
     is_same = false;
-    if (!are_of_one_name)
-      return take(difference(Difference::removed, {step.before, none})) &&
-             take(difference(Difference::added, {none, step.after}));
+    // What has been matched is of one kind and name.
     if (before.kind != Kind::element && before.kind != Kind::document)
       return take(difference(Difference::changed, step));
     if (!compare_attributes(step, take))

@@ -100,7 +100,7 @@ void axsFlatTreeBuilder::start_element(axsStartTag const& tag)
     tree.attributes.push_back(
       {names.shared(attribute.name->utf8()), names.number(attribute.name_space, attribute.name->local()),
         attribute.is_declaration, names.kept(attribute.value)});
-    if (rules.heeds_preserve && attribute.name->utf8() == "xml:space")
+    if (attribute.name->utf8() == "xml:space")
       is_preserved = attribute.value == "preserve";
   }
   Node& node = add(Kind::element);
@@ -124,8 +124,6 @@ void axsFlatTreeBuilder::end_element()
 
 void axsFlatTreeBuilder::text(std::string_view text, bool)
 {
-  if (open.size() == 1)
-    return;
   if (!has_pending)
     pending_line = locator->begin().line;
   has_pending = true;

@@ -11,7 +11,7 @@
 
 class axsFlatTreeNames;
 
-/// What a flat tree leaves out. A plain value.
+/// What a flat tree leaves out; xml:space="preserve" keeps white space. A plain value.
 struct axsFlatTreeRules
 {
   /// White space between elements where there is no other text beside them.
@@ -19,8 +19,6 @@ struct axsFlatTreeRules
   /// Instead of the white space in a text one blank, and none at its ends; a text of which nothing is left is left out.
   bool joins_space = false;
   bool leaves_out_comments = false;
-  /// Whether xml:space="preserve" keeps white space from the first two.
-  bool heeds_preserve = true;
 };
 
 /// Builds a flat tree from the events of a parser, in a time linear in them.

@@ -1,4 +1,7 @@
-#include <axsByteStream.h>
+#include "TextStream.h"
+
+#include "../Engine.h"
+
 #include <axsCanonicalForm.h>
 
 #include <gtest/gtest.h>
@@ -7,27 +10,10 @@
 
 namespace
 {
-class Text final : public axsByteStream
-{
-public:
-  explicit Text(std::string given) : left(std::move(given)) {}
-
-  std::size_t read(char* to, std::size_t size) override
-  {
-    std::size_t const count = left.copy(to, size);
-    left.erase(0, count);
-    return count;
-  }
-  apString fault() const override { return {}; }
-
-private:
-  std::string left;
-};
-
 // The canonical form or, behind "!", why there is none.
 std::string canonical(std::string const& document, axsCanonicalOptions const& options = {})
 {
-  Text source(document);
+  TextStream source(document);
   std::string made;
   axmParseError error;
   auto const write = [&](std::string_view piece)
@@ -108,4 +94,54 @@ TEST(axsCanonicalForm, what_has_none_is_refused)
 TEST(axsCanonicalForm, other_encodings_become_utf_8)
 {
   EXPECT_EQ(canonical("<?xml version='1.0' encoding='ISO-8859-1'?><a>\xE4</a>"), "<a>\xC3\xA4</a>");
+}
+
+TEST(axsCanonicalForm, line_ends_in_comments_and_instructions_survive)
+{
+  axsCanonicalOptions options;
+  options.has_comments = true;
+  EXPECT_EQ(canonical("<!DOCTYPE a [<!ENTITY e '<!--x&#13;y--><?p x&#13;y?>'>]><a>&e;</a>", options),
+    "<a><!--x&#xD;y--><?p x&#xD;y?></a>");
+}
+
+TEST(axsCanonicalForm, a_namespace_has_the_name_of_a_scheme)
+{
+  for (std::string const uri : {"u:", "Ab9+-.:x", "z:/", "A:0"})
+    EXPECT_EQ(canonical("<a xmlns='" + uri + "'/>"), "<a xmlns=\"" + uri + "\"></a>");
+  for (std::string const uri : {":x", "9:x", "a_b:x", "a{:x", "[:x", "x"})
+    EXPECT_EQ(canonical("<a xmlns='" + uri + "'/>")[0], '!') << uri;
+}
+
+TEST(axsCanonicalForm, the_prefix_xml_is_declared_nowhere)
+{
+  std::string const document = "<a xmlns:xml='http://www.w3.org/XML/1998/namespace' xml:lang='en'/>";
+  EXPECT_EQ(canonical(document), "<a xml:lang=\"en\"></a>");
+  EXPECT_EQ(exclusive(document), "<a xml:lang=\"en\"></a>");
+}
+
+TEST(axsCanonicalForm, a_form_that_cannot_be_written_is_an_error)
+{
+  TextStream source("<a/>");
+  axmParseError error;
+  EXPECT_FALSE(axsCanonicalForm::write(source, {}, error, [](std::string_view) { return false; }));
+  EXPECT_EQ(narrow(error.message()), "The canonical form cannot be written");
+}
+
+TEST(axsCanonicalForm, a_file_is_read_with_what_it_refers_to)
+{
+  TestFile const part("axsCanonicalForm.txt", "part");
+  TestFile const file("axsCanonicalForm.xml", "<!DOCTYPE a [<!ENTITY e SYSTEM 'axsCanonicalForm.txt'>]><a>&e;</a>");
+  axmLoadOptions reading(axmValidateNone);
+  reading.set_disable_entity_resolution(false);
+  std::string made;
+  axmParseError error;
+  auto const write = [&](std::string_view piece)
+  {
+    made += piece;
+    return true;
+  };
+  EXPECT_TRUE(axsCanonicalForm::write(file.path(), reading, {}, error, write)) << narrow(error.message());
+  EXPECT_EQ(made, "<a>part</a>");
+  EXPECT_FALSE(axsCanonicalForm::write(apPath("no/such/file.xml"), reading, {}, error, write));
+  EXPECT_EQ(narrow(error.url()), "no/such/file.xml");
 }

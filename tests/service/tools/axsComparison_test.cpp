@@ -1,43 +1,26 @@
+#include "TextStream.h"
+
+#include "../Engine.h"
+
 #include <axsComparison.h>
 
 #include <apString.h>
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cstring>
 #include <string>
 #include <string_view>
 
 namespace
 {
-class Bytes final : public axsByteStream
-{
-public:
-  explicit Bytes(std::string_view given) : left(given) {}
-
-  std::size_t read(char* to, std::size_t size) override
-  {
-    std::size_t const count = std::min(size, left.size());
-    std::memcpy(to, left.data(), count);
-    left.remove_prefix(count);
-    return count;
-  }
-
-  apString fault() const override { return apString(); }
-
-private:
-  std::string_view left;
-};
-
 // The differences, a line each.
 std::string compared(
   std::string const& before, std::string const& after, axsCompareOptions const& options = axsCompareOptions())
 {
   axsComparison comparison(options);
   axmParseError error;
-  Bytes first(before);
-  Bytes second(after);
+  TextStream first(before);
+  TextStream second(after);
   EXPECT_TRUE(comparison.read_first(first, error) && comparison.read_second(second, error))
     << error.message().to_utf8().c_str();
   std::string lines;
@@ -162,8 +145,8 @@ TEST(axsComparison, long_lists_that_differ_everywhere_take_no_quadratic_time)
   axmParseError error;
   std::string const first_text = one + "</l>";
   std::string const second_text = other + "</l>";
-  Bytes before(first_text);
-  Bytes after(second_text);
+  TextStream before(first_text);
+  TextStream after(second_text);
   ASSERT_TRUE(comparison.read_first(before, error) && comparison.read_second(after, error));
   int differences = 0;
   EXPECT_FALSE(comparison.run([&](axsDifference const&) { return ++differences > 0; }));
@@ -201,8 +184,8 @@ TEST(axsComparison, comparing_ends_where_no_more_is_wanted)
   axmParseError error;
   std::string const one = "<a x='1'><b/><c/></a>";
   std::string const other = "<a/>";
-  Bytes first(one);
-  Bytes second(other);
+  TextStream first(one);
+  TextStream second(other);
   ASSERT_TRUE(comparison.read_first(first, error) && comparison.read_second(second, error));
   int differences = 0;
   EXPECT_FALSE(comparison.run([&](axsDifference const&) { return ++differences < 2; }));
@@ -213,7 +196,90 @@ TEST(axsComparison, a_document_that_is_wrong_is_an_error_with_its_place)
 {
   axsComparison comparison{axsCompareOptions()};
   axmParseError error;
-  Bytes bad("<a>\n</b>");
+  TextStream bad("<a>\n</b>");
   EXPECT_FALSE(comparison.read_first(bad, error));
   EXPECT_EQ(error.line_number(), 2);
+}
+
+TEST(axsComparison, what_is_added_is_shown_as_it_would_be_written)
+{
+  EXPECT_EQ(
+    compared("<a/>", "<a><b><!--c--><?d e?>f</b><!--g--></a>"), "+/a/b |<b><!--c--><?d e?>f</b>\n+/a/comment() |g\n");
+  // A character is shown whole or not at all.
+  std::string const shown = compared("<a/>", "<a><b>" + std::string(196, 'x') + "\xC3\xA4</b></a>");
+  EXPECT_EQ(shown, "+/a/b |<b>" + std::string(196, 'x') + "...\n");
+  std::string const attributes = compared("<a/>", "<a><b c='" + std::string(300, 'x') + "' d='1'/></a>");
+  EXPECT_EQ(attributes, "+/a/b |<b c=\"" + std::string(194, 'x') + "...\n");
+}
+
+TEST(axsComparison, a_deep_path_is_shown_by_its_end)
+{
+  std::string begin;
+  std::string end;
+  for (int i = 0; i < 60; ++i)
+  {
+    begin += "<a>";
+    end += "</a>";
+  }
+  std::string path = "...";
+  for (int i = 0; i < 48; ++i)
+    path += "/a";
+  EXPECT_EQ(compared(begin + "<b x='1'/>" + end, begin + "<b x='2'/>" + end), "!" + path + "/a/b/@x 1|2\n");
+}
+
+TEST(axsComparison, comparing_ends_in_the_middle_of_attributes)
+{
+  axsComparison comparison{axsCompareOptions()};
+  axmParseError error;
+  TextStream first("<a x='1' y='2'/>");
+  TextStream second("<a x='2' y='3'/>");
+  ASSERT_TRUE(comparison.read_first(first, error) && comparison.read_second(second, error));
+  int differences = 0;
+  EXPECT_FALSE(comparison.run([&](axsDifference const&) { return ++differences < 1; }));
+  EXPECT_EQ(differences, 1);
+}
+
+TEST(axsComparison, declarations_of_prefixes_are_no_attributes)
+{
+  EXPECT_EQ(compared("<a xmlns:p='u' x='1'/>", "<a xmlns:q='v' x='2'/>"), "!/a/@x 1|2\n");
+}
+
+TEST(axsComparison, preserved_white_space_ends_where_it_is_ended)
+{
+  std::string const before = "<a xml:space='preserve'><b xml:space='default'> <c/></b></a>";
+  EXPECT_EQ(compared(before, "<a xml:space='preserve'><b xml:space='default'><c/></b></a>", no_layout), "");
+}
+
+TEST(axsComparison, a_joined_document_type_and_comment_differ_in_words_only)
+{
+  EXPECT_EQ(compared("<!DOCTYPE  a><a><!-- b\n c --></a>", "<!DOCTYPE a><a><!--b c--></a>", no_space), "");
+  EXPECT_EQ(compared("<a><!-- b --></a>", "<a><!--bc--></a>", no_space), "!/a/comment() b|bc\n");
+}
+
+TEST(axsComparison, large_texts_are_compared_to_their_ends)
+{
+  std::string const text(100000, 'x');
+  EXPECT_EQ(compared("<a>" + text + "y</a>", "<a>" + text + "y</a>"), "");
+  EXPECT_EQ(compared("<a>" + text + "y</a>", "<a>" + text + "z</a>"), "!/a/text() " + text + "y|" + text + "z\n");
+}
+
+TEST(axsComparison, files_are_compared_and_one_that_is_not_there_is_told)
+{
+  TestFile const one("axsComparison_1.xml", "<a>1</a>");
+  TestFile const other("axsComparison_2.xml", "<a>2</a>");
+  axsComparison comparison{axsCompareOptions()};
+  axmParseError error;
+  ASSERT_TRUE(comparison.read_first(one.path(), error) && comparison.read_second(other.path(), error));
+  std::string path;
+  EXPECT_FALSE(comparison.run(
+    [&](axsDifference const& difference)
+    {
+      path = difference.path;
+      return true;
+    }));
+  EXPECT_EQ(path, "/a/text()");
+  axsComparison missing{axsCompareOptions()};
+  EXPECT_FALSE(missing.read_first(apPath("no/such/file.xml"), error));
+  EXPECT_EQ(narrow(error.url()), "no/such/file.xml");
+  EXPECT_FALSE(missing.read_second(apPath("no/such/file.xml"), error));
 }

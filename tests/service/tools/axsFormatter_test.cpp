@@ -166,3 +166,29 @@ TEST(axsFormatter, writing_ends_where_no_more_is_wanted)
     apByteArray(text.data(), text.size()), axsFormatOptions(), error, [&](std::string_view) { return ++pieces < 2; }));
   EXPECT_EQ(pieces, 2);
 }
+
+TEST(axsFormatter, a_document_type_that_nothing_parts_from_markup_is_parted)
+{
+  EXPECT_EQ(formatted_twice("<!DOCTYPE a [<!ENTITY e '<]>\"'><!-- ]> ' --><?p ]> ' ?>]><a/>"),
+    "<!DOCTYPE a [<!ENTITY e '<]>\"'><!-- ]> ' --><?p ]> ' ?>]>\n<a/>\n");
+  EXPECT_EQ(formatted_twice("<?xml-stylesheet a?><a b='>' c=\"'>\"/>"), "<?xml-stylesheet a?>\n<a b='>' c=\"'>\"/>\n");
+}
+
+TEST(axsFormatter, tabs_indent_where_they_are_wanted)
+{
+  axsFormatOptions options;
+  options.has_tabs = true;
+  options.indent = 1;
+  EXPECT_EQ(formatted_twice("<a><b><c/></b></a>", options), "<a>\n\t<b>\n\t\t<c/>\n\t</b>\n</a>\n");
+}
+
+TEST(axsFormatter, empty_elements_with_preserved_white_space_keep_the_place_of_the_next)
+{
+  EXPECT_EQ(formatted_twice("<a><b xml:space='preserve'/><c xml:space='preserve'> <d/></c> <e/></a>"),
+    "<a>\n  <b xml:space='preserve'/>\n  <c xml:space='preserve'> <d/></c>\n  <e/>\n</a>\n");
+}
+
+TEST(axsFormatter, line_ends_of_xml_1_1_of_two_characters_are_one)
+{
+  EXPECT_EQ(formatted_twice("<?xml version='1.1'?><a>x\r\xC2\x85y</a>"), "<?xml version='1.1'?>\n<a>x\ny</a>\n");
+}
