@@ -1,7 +1,6 @@
 #include "axsAssessment.h"
 
 #include "axsAttributeDecl.h"
-#include "axsAttributeUse.h"
 #include "axsBuiltInTypes.h"
 #include "axsComplexType.h"
 #include "axsContentAutomaton.h"
@@ -128,7 +127,8 @@ void axsAssessment::start_element(axsStartTag const& tag)
     findings.identity.begin(*element.name, element.decl, [this] { return findings.locator->end(); });
   assess_attributes(tag, element);
   open(element);
-  pass_on(tag);
+  if (next != nullptr)
+    next->start_element(tag);
 }
 
 // A root element that is not declared is not assessed if nothing of its namespace is known.
@@ -300,34 +300,6 @@ void axsAssessment::open(Element& element)
   elements.push_back(element);
 }
 
-void axsAssessment::pass_on(axsStartTag const& tag)
-{
-  if (next == nullptr)
-    return;
-  if (adds_defaults && !attributes.defaults().empty())
-    pass_on_with_defaults(tag);
-  else
-    next->start_element(tag);
-}
-
-// A default in a namespace has a prefix only where one is bound to it; without, it cannot be written and is left out.
-void axsAssessment::pass_on_with_defaults(axsStartTag const& tag)
-{
-  extended = *tag.attributes;
-  for (axsAttributeUse const* const use : attributes.defaults())
-  {
-    if (!use->decl->name.name_space.empty())
-      continue;
-    axsValueConstraint const& constraint = use->constraint.kind != Kind::none ? use->constraint : use->decl->constraint;
-    axsTagAttribute attribute{&name(use->decl->name.local), {}, constraint.value};
-    attribute.is_specified = false;
-    extended.push_back(attribute);
-  }
-  axsStartTag longer = tag;
-  longer.attributes = &extended;
-  next->start_element(longer);
-}
-
 axsAssessment::Text axsAssessment::text_of(Element const& element) const
 {
   if (element.is_nil)
@@ -463,23 +435,14 @@ void axsAssessment::end_with_default(Element const& element, axsSimpleType const
     return findings.report(shown(*element.name) + ": " + type.fault(constraint.value, findings.context));
   if (is_field())
     findings.identity.value({constraint.value, constraint.bytes}, element.decl->is_nillable);
-  if (adds_defaults && next != nullptr)
-    next->text(constraint.value, false);
 }
 
 // cvc-elt.5.2.2
 void axsAssessment::end_mixed(Element& element)
 {
   axsValueConstraint const& constraint = element.decl->constraint;
-  if (constraint.kind == Kind::none)
-    return;
-  if (value.empty() && !element.has_children)
-  {
-    if (adds_defaults && next != nullptr)
-      next->text(constraint.value, false);
-    return;
-  }
-  if (constraint.kind == Kind::fixed && (element.has_children || value != constraint.value))
+  bool const is_empty = value.empty() && !element.has_children;
+  if (constraint.kind == Kind::fixed && !is_empty && (element.has_children || value != constraint.value))
     findings.report(shown(*element.name) + ": its content is not allowed: it must be \"" +
                     axsShownText::shortened(constraint.value) + "\"");
 }

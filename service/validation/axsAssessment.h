@@ -20,7 +20,7 @@ struct axsElementDecl;
 /// and its keys only.
 ///
 /// A root element of a namespace that the schema does not know is not assessed; below it, as wherever the schema lets
-/// anything in, all that is declared is (lax assessment).
+/// anything in, all that is declared is (lax assessment). What the schema gives as a default is assessed, but not passed on.
 class axsAssessment final : public axsParseHandler
 {
 public:
@@ -31,9 +31,6 @@ public:
   axsAssessment(axsAssessment const&) = delete;
   axsAssessment& operator=(axsAssessment const&) = delete;
   ~axsAssessment() override;
-
-  /// Tells `next` also of the attributes and texts that the schema gives as defaults. By default, not.
-  void add_defaults() noexcept { adds_defaults = true; }
 
   axsName const& name(std::string_view text) override;
   void start_document(axsLocator const& locator) override;
@@ -98,8 +95,6 @@ private:
   void read_nil(Element& element, Instance const& instance);
   void open(Element& element);
   void assess_attributes(axsStartTag const& tag, Element const& element);
-  void pass_on(axsStartTag const& tag);
-  void pass_on_with_defaults(axsStartTag const& tag);
   Text text_of(Element const& element) const;
   Text simple_text_of(Element const& element) const;
   void refuse_text(Element& element);
@@ -117,9 +112,7 @@ private:
   axsKnownNames names;
   axsParseHandler* next;
   axsNameTable own_names; // where nobody else keeps them
-  bool adds_defaults = false;
   std::vector<Element> elements;
   axsContentStack contents;
   std::string value; // the text of the innermost element, where that collects it
-  std::vector<axsTagAttribute> extended;
 };

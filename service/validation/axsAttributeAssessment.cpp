@@ -35,7 +35,6 @@ bool axsAttributeAssessment::is_exempt(axsTagAttribute const& attribute) noexcep
 void axsAttributeAssessment::assess(axsStartTag const& tag, axsComplexType const& type)
 {
   start = &tag;
-  added.clear();
   Known& known = known_of(type);
   if (!assess_usual(known))
     assess_each(type, known);
@@ -104,7 +103,6 @@ void axsAttributeAssessment::assess_each(axsComplexType const& type, Known& know
 void axsAttributeAssessment::assess_simple(axsStartTag const& tag)
 {
   start = &tag;
-  added.clear();
   for (axsTagAttribute const& attribute : *tag.attributes)
     if (!is_exempt(attribute))
       findings.report(
@@ -114,7 +112,6 @@ void axsAttributeAssessment::assess_simple(axsStartTag const& tag)
 void axsAttributeAssessment::assess_lax(axsStartTag const& tag)
 {
   start = &tag;
-  added.clear();
   for (axsTagAttribute const& attribute : *tag.attributes)
   {
     axsAttributeDecl const* const decl =
@@ -130,7 +127,6 @@ void axsAttributeAssessment::assess_lax(axsStartTag const& tag)
 void axsAttributeAssessment::skip(axsStartTag const& tag)
 {
   start = &tag;
-  added.clear();
   for (axsTagAttribute const& attribute : *tag.attributes)
     tell_identity(attribute);
 }
@@ -174,7 +170,7 @@ void axsAttributeAssessment::assess_wild(axsTagAttribute const& attribute, axsCo
     findings.report("attribute '" + name + "' of element '" + element() + "' is an ID beside another one");
 }
 
-bool axsAttributeAssessment::check_value(
+void axsAttributeAssessment::check_value(
   axsTagAttribute const& attribute, axsSimpleType const& type, std::string const* fixed, std::string const& shown_fixed)
 {
   findings.has_assessed = true;
@@ -185,7 +181,7 @@ bool axsAttributeAssessment::check_value(
     findings.report(subject(attribute) + type.fault(attribute.value, findings.context));
     if (is_field)
       findings.identity.attribute(attribute.name_space, attribute.name->local(), {attribute.value, {}});
-    return false;
+    return;
   }
   if (fixed != nullptr && findings.value.bytes() != *fixed)
     findings.report(subject(attribute) + "\"" + axsShownText::shortened(attribute.value) +
@@ -196,7 +192,6 @@ bool axsAttributeAssessment::check_value(
   if (is_field)
     findings.identity.attribute(
       attribute.name_space, attribute.name->local(), {attribute.value, findings.value.bytes()});
-  return true;
 }
 
 // An attribute of which no type is known is a text (Part 1, 3.2.7).
@@ -209,7 +204,7 @@ void axsAttributeAssessment::tell_identity(axsTagAttribute const& attribute)
   findings.identity.attribute(attribute.name_space, attribute.name->local(), {attribute.value, findings.value.bytes()});
 }
 
-// cvc-complex-type.4; and the attributes with defaults (3.4.5, attribute default). Whether there are any of either.
+// cvc-complex-type.4; and the attributes with defaults (3.4.5, attribute default). Whether any of either are missing.
 bool axsAttributeAssessment::add_missing(axsComplexType const& type, Known const& known)
 {
   bool is_any_missing = false;
@@ -227,7 +222,6 @@ bool axsAttributeAssessment::add_missing(axsComplexType const& type, Known const
     else if (constraint.kind != Kind::none)
     {
       is_any_missing = true;
-      added.push_back(&use);
       add_references(use, constraint.value);
       if (findings.identity.is_active() && findings.identity.wants_attributes())
         findings.identity.attribute(

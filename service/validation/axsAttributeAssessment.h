@@ -31,9 +31,6 @@ public:
   /// Nothing is looked at.
   void skip(axsStartTag const& tag);
 
-  /// The attributes that the type adds to the element assessed last.
-  std::vector<axsAttributeUse const*> const& defaults() const noexcept { return added; }
-
 private:
   struct Usual
   {
@@ -56,7 +53,7 @@ private:
   void assess_each(axsComplexType const& type, Known& known);
   void assess_use(axsTagAttribute const& attribute, axsAttributeUse const& use);
   void assess_wild(axsTagAttribute const& attribute, axsComplexType const& type);
-  bool check_value(axsTagAttribute const& attribute, axsSimpleType const& type, std::string const* fixed,
+  void check_value(axsTagAttribute const& attribute, axsSimpleType const& type, std::string const* fixed,
     std::string const& shown_fixed);
   bool add_missing(axsComplexType const& type, Known const& known);
   void add_references(axsAttributeUse const& use, std::string const& value);
@@ -68,6 +65,5 @@ private:
   axsStartTag const* start = nullptr;
   std::vector<char> is_seen; // by the number of the use
   std::size_t wild_ids = 0;
-  std::vector<axsAttributeUse const*> added;
   std::vector<Known> known_types; // by the number of the type
 };

@@ -406,3 +406,171 @@ TEST(axsAssessment, a_long_value_is_shown_by_its_beginning)
   EXPECT_NE(wrong.find("\xC3\xA4...\""), std::string::npos) << wrong;
   EXPECT_LT(wrong.size(), value.size());
 }
+
+// cvc-elt.4: whatever is not declared is assessed by the type that the document names.
+TEST(axsAssessment, an_undeclared_element_has_the_type_that_the_document_names)
+{
+  Schema const schema(types + with_type("r", "<xs:sequence><xs:any/></xs:sequence>"));
+  EXPECT_EQ(schema.wrong("<none/>"), "1: no declaration found for element 'none'\n");
+  EXPECT_EQ(schema.wrong("<none" + xsi + " xsi:type='base'><a/></none>"), "");
+  EXPECT_EQ(schema.wrong("<none" + xsi + " xsi:type='less'><a/></none>"),
+    "1: element 'a' may not stand here in 'none', which must be empty\n");
+  EXPECT_EQ(schema.wrong("<r><none/></r>"), "1: no declaration found for element 'none'\n");
+  EXPECT_EQ(schema.wrong("<r" + xsi + "><none xsi:type='base'/></r>"), "");
+  EXPECT_EQ(schema.wrong("<none" + xsi + " xsi:type='abstract'/>"),
+    "1: element 'none': its type 'abstract' is abstract; xsi:type must name one that is derived from it\n");
+}
+
+TEST(axsAssessment, whether_an_undeclared_element_is_nil_is_a_boolean_at_least)
+{
+  Schema const schema(types);
+  EXPECT_EQ(schema.wrong("<u xmlns='u'" + xsi + " xsi:nil='true'>x</u>"), "");
+  EXPECT_EQ(schema.wrong("<u xmlns='u'" + xsi + " xsi:nil='x'/>"),
+    "1: attribute 'xsi:nil' of element 'u': \"x\" is not of the type xs:boolean, which is true, false, 1 or 0\n");
+}
+
+TEST(axsAssessment, a_mixed_element_may_have_no_elements)
+{
+  Schema const schema("<xs:element name='m'><xs:complexType mixed='true'/></xs:element>");
+  EXPECT_EQ(schema.wrong("<m>text</m>"), "");
+  EXPECT_EQ(schema.wrong("<m><a/></m>"), "1: element 'a' may not stand here in 'm', which has no elements\n");
+}
+
+TEST(axsAssessment, of_what_is_expected_twelve_names_are_told_at_most)
+{
+  auto const wrong_of = [](int count)
+  {
+    std::string choice;
+    for (int i = 0; i < count; ++i)
+      choice += "<xs:element name='e" + std::to_string(i) + "'/>";
+    Schema const schema(with_type("r", "<xs:choice>" + choice + "</xs:choice>"));
+    return schema.wrong("<r/>");
+  };
+  std::string const some = "1: element 'r' ends too early; expected is 'e0', 'e1', 'e2', 'e3', 'e4', 'e5', 'e6', 'e7', "
+                           "'e8', 'e9', 'e10'";
+  EXPECT_EQ(wrong_of(12), some + " or 'e11'\n");
+  EXPECT_EQ(wrong_of(13), some + " or others\n");
+  EXPECT_EQ(wrong_of(100), some + " or others\n");
+}
+
+TEST(axsAssessment, what_is_expected_twice_is_told_once)
+{
+  Schema const schema(with_type("r", "<xs:choice><xs:any namespace='u' processContents='skip'/>"
+                                     "<xs:sequence><xs:any namespace='v' processContents='skip'/></xs:sequence>"
+                                     "<xs:element name='a'/></xs:choice>"));
+  EXPECT_EQ(schema.wrong("<r/>"), "1: element 'r' ends too early; expected is an element of the namespace 'u', an "
+                                  "element of the namespace 'v' or 'a'\n");
+  Schema const bounded(with_type("r", "<xs:sequence><xs:element name='a' minOccurs='0' maxOccurs='3'/>"
+                                      "<xs:element name='b'/></xs:sequence>"));
+  EXPECT_EQ(bounded.wrong("<r><a/></r>"), "1: element 'r' ends too early; expected is 'a' or 'b'\n");
+}
+
+TEST(axsAssessment, each_reference_without_an_id_is_told_once)
+{
+  Schema const schema(with_type("r", sequence("<xs:element name='i' type='xs:ID' minOccurs='0' maxOccurs='9'/>"
+                                              "<xs:element name='f' type='xs:IDREFS' minOccurs='0' maxOccurs='9'/>")));
+  EXPECT_EQ(schema.wrong("<r><i>a</i><i>b</i><f>a b a</f></r>"), "");
+  EXPECT_EQ(
+    schema.wrong("<r><i>a</i>\n<i>a</i><f>a</f></r>"), "2: element 'i': ID value 'a' is not unique; first at line 1\n");
+  EXPECT_EQ(schema.wrong("<r><f>x y x</f>\n<f>x</f></r>"),
+    "1: there is no ID 'x', to which an IDREF refers\n1: there is no ID 'y', to which an IDREF refers\n");
+  Schema const lists("<xs:simpleType name='ids'><xs:list itemType='xs:ID'/></xs:simpleType>" +
+                     with_type("r", sequence("<xs:element name='i' type='ids' maxOccurs='9'/>")));
+  EXPECT_EQ(
+    lists.wrong("<r><i>a b</i><i>b a</i></r>"), "1: element 'i': ID value 'b' is not unique; first at line 1\n");
+}
+
+TEST(axsAssessment, attributes_that_are_declared_are_looked_at_wherever_they_stand)
+{
+  Schema const schema("<xs:attribute name='g' type='xs:int' fixed='1'/><xs:attribute name='i' type='xs:int'/>");
+  EXPECT_EQ(schema.wrong("<u xmlns='u' g='01' i='2' other='x'/>"), "");
+  EXPECT_EQ(
+    schema.wrong("<u xmlns='u' g='2'/>"), "1: attribute 'g' of element 'u': \"2\" is not allowed: it must be \"1\"\n");
+  EXPECT_EQ(schema.wrong("<u xmlns='u' i='x'/>"), "1: attribute 'i' of element 'u': \"x\" is not of the type xs:int\n");
+}
+
+TEST(axsAssessment, an_id_by_a_wildcard_does_not_stand_beside_a_declared_one)
+{
+  Schema const schema("<xs:attribute name='g' type='xs:ID'/>" +
+                      with_type("r", "<xs:attribute name='i' type='xs:ID'/><xs:attribute name='n' type='xs:int'/>"
+                                     "<xs:anyAttribute/>"));
+  EXPECT_EQ(schema.wrong("<r i='a' n='1'/>"), "");
+  EXPECT_EQ(schema.wrong("<r g='a'/>"), "1: attribute 'g' of element 'r' is an ID beside another one\n");
+}
+
+TEST(axsAssessment, a_default_that_refers_to_notations_or_lists_counts_as_a_value)
+{
+  Schema const schema(with_type("r", "<xs:attribute name='f' type='xs:IDREFS' default='x y'/>"
+                                     "<xs:attribute name='i' type='xs:ID'/>"));
+  EXPECT_EQ(schema.wrong("<r i='x'/>"), "1: there is no ID 'y', to which an IDREF refers\n");
+}
+
+TEST(axsValidation, without_schemas_a_document_is_only_read)
+{
+  axsValidation const reading{axmLoadOptions(axmValidateNone)};
+  EXPECT_FALSE(reading.has_schemas());
+  std::string const document = "<!DOCTYPE r [<!ELEMENT r ANY>]><r a='1'>text<!--c--><?p q?></r>";
+  axsValidation::Result const good = reading.check(bytes(document));
+  EXPECT_TRUE(good.errors.empty());
+  EXPECT_TRUE(good.is_whole);
+  EXPECT_FALSE(good.has_assessed);
+  axsValidation::Result const bad = reading.check(bytes("<r>\n</s>"));
+  ASSERT_EQ(bad.errors.size(), 1u);
+  EXPECT_EQ(bad.errors.front().line_number(), 2);
+}
+
+TEST(axsValidation, options_that_name_no_schema_validate_nothing)
+{
+  axsValidation const reading{axmLoadOptions(axmValidateWithSchemas)};
+  EXPECT_FALSE(reading.has_schemas());
+  EXPECT_TRUE(reading.check(bytes("<r/>")).errors.empty());
+}
+
+TEST(axsValidation, progress_is_told_in_bytes_up_to_the_size_of_the_file)
+{
+  std::string document = "<r>";
+  for (int i = 0; i < 20000; ++i)
+    document += "<a/>";
+  TestFile const file("axsValidation_progress.xml", document + "</r>");
+  axsValidation const reading{axmLoadOptions(axmValidateNone)};
+  std::uint64_t last = 0;
+  int calls = 0;
+  auto const progress = [&](std::uint64_t count)
+  {
+    EXPECT_GE(count, last);
+    last = count;
+    ++calls;
+  };
+  EXPECT_TRUE(reading.check(file.path(), 1, progress).errors.empty());
+  EXPECT_GT(calls, 1);
+  EXPECT_GT(last, 0u);
+  EXPECT_LE(last, document.size() + 4);
+}
+
+TEST(axsValidation, a_file_that_is_not_there_is_an_error_with_its_name)
+{
+  axsValidation const reading{axmLoadOptions(axmValidateNone)};
+  axsValidation::Result const result = reading.check(apPath("no/such/file.xml"));
+  ASSERT_EQ(result.errors.size(), 1u);
+  EXPECT_EQ(narrow(result.errors.front().url()), "no/such/file.xml");
+}
+
+TEST(axsValidation, a_schema_is_checked_by_itself_for_whatever_namespace)
+{
+  std::string const begin = "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' targetNamespace='urn:t'>\n";
+  TestFile const good("axsValidation_good.xsd", begin + "<xs:element name='r'/></xs:schema>");
+  EXPECT_TRUE(axsValidation::check_schema(good.path()).empty());
+
+  TestFile const bad("axsValidation_bad.xsd", begin + "<xs:element name='r' type='xs:none'/>\n"
+                                                      "<xs:element name='s' type='xs:none'/></xs:schema>");
+  std::vector<axmParseError> const errors = axsValidation::check_schema(bad.path());
+  ASSERT_EQ(errors.size(), 2u);
+  EXPECT_EQ(errors[0].line_number(), 2);
+  EXPECT_EQ(errors[1].line_number(), 3);
+  EXPECT_EQ(narrow(errors[0].url()), "axsValidation_bad.xsd");
+  EXPECT_EQ(axsValidation::check_schema(bad.path(), 1).size(), 1u);
+
+  std::vector<axmParseError> const missing = axsValidation::check_schema(apPath("no/such/schema.xsd"));
+  ASSERT_EQ(missing.size(), 1u);
+  EXPECT_EQ(narrow(missing.front().url()), "no/such/schema.xsd");
+}

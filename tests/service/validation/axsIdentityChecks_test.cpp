@@ -259,3 +259,43 @@ TEST(axsIdentityChecks, two_thousand_keys_at_once_are_checked)
   EXPECT_EQ(schema.wrong(text + "</r>"), "");
   EXPECT_NE(schema.wrong(text + "<i k='7'/></r>"), "");
 }
+
+TEST(axsIdentityChecks, a_value_that_is_wrong_by_its_type_is_a_value_of_the_key)
+{
+  Schema const schema(items + root(constraint("key", "k", "i", {"@k"})));
+  EXPECT_EQ(schema.wrong("<r><i k='x'/></r>"),
+    "1: attribute 'k' of element 'i': \"x\" is not of the type xs:decimal, as in 1.5\n");
+}
+
+TEST(axsIdentityChecks, names_of_a_namespace_are_selected_whatever_they_are)
+{
+  Schema const schema("<xs:element name='i'/>" + root("<xs:unique name='u'><xs:selector xpath='t:*'/>"
+                                                      "<xs:field xpath='@*'/></xs:unique>"),
+    "xmlns:t='u'");
+  EXPECT_EQ(schema.wrong("<r><i a='1'/><i a='1'/></r>").find("must be unique"), std::string::npos);
+  Schema const lax(
+    "<xs:element name='r'><xs:complexType><xs:sequence><xs:any processContents='lax' maxOccurs='9'/></xs:sequence>"
+    "</xs:complexType><xs:unique name='u'><xs:selector xpath='t:*'/><xs:field "
+    "xpath='@t:*|@k'/></xs:unique></xs:element>",
+    "xmlns:t='u'");
+  std::string const begin = "<r xmlns:t='u' xmlns:o='o'>";
+  EXPECT_EQ(lax.wrong(begin + "<t:a k='1'/><t:b k='2'/><o:a k='1'/><a k='1'/></r>"), "");
+  EXPECT_NE(lax.wrong(begin + "<t:a k='1'/><t:b k='1'/></r>"), "");
+  EXPECT_NE(lax.wrong(begin + "<t:a t:x='1'/><t:b t:y='1'/></r>"), "");
+  EXPECT_EQ(lax.wrong(begin + "<t:a o:x='1'/><t:b o:x='1'/></r>"), "");
+  EXPECT_NE(lax.wrong(begin + "<t:a k='1' t:x='2'/></r>"), "");
+}
+
+TEST(axsIdentityChecks, a_field_may_be_at_any_depth)
+{
+  Schema const schema(
+    items +
+    "<xs:element name='g'><xs:complexType><xs:sequence><xs:any minOccurs='0' maxOccurs='9'/></xs:sequence>"
+    "</xs:complexType></xs:element>" +
+    root(constraint("unique", "u", "g", {".//i/@k"}) + constraint("unique", "v", "i", {"@k"})));
+  EXPECT_EQ(schema.wrong("<r><g><g><i k='1'/></g></g><g><i k='2'/></g><i k='1'/></r>"), "");
+  EXPECT_EQ(schema.wrong("<r><g><g><i k='1'/></g></g>\n<g><i k='1.0'/></g></r>"),
+    "2: element 'g': what must be unique in the element 'r' is not: \"1.0\"; first at line 1\n");
+  EXPECT_EQ(schema.wrong("<r><g><i k='1'/><g><i k='2'/></g></g></r>"),
+    "1: element 'g': a field of a key has several values here\n");
+}
