@@ -32,7 +32,8 @@ std::string in_seconds(milliseconds time)
 
 ConformRun::ConformRun(std::vector<std::string> given, milliseconds given_limit, utUnitTest& given_tester)
   : arguments(std::move(given)),
-    limit(given_limit),
+    end_limit(given_limit),
+    group_limit(given_limit),
     tester(given_tester)
 {
 }
@@ -65,7 +66,7 @@ ConformRun::Outcome ConformRun::run_process()
 ConformRun::Outcome ConformRun::listen(ChildProcess& process)
 {
   ConformRecordReader reader;
-  deadline = Clock::now() + limit;
+  grant(group_limit);
   while (true)
   {
     auto const left = std::chrono::duration_cast<milliseconds>(deadline - Clock::now());
@@ -94,12 +95,12 @@ ConformRun::Outcome ConformRun::judge(ChildProcess& process)
   if (ran_out_of_time)
   {
     process.kill();
-    fail("the group took more than " + in_seconds(limit));
-    limit = std::min(limit, std::max(limit / 10, milliseconds(1000)));
+    fail("the group took more than " + in_seconds(granted));
+    group_limit = std::min(group_limit, std::max(group_limit / 10, milliseconds(1000)));
   }
   else
   {
-    ChildProcess::End const end = process.wait(limit);
+    ChildProcess::End const end = process.wait(end_limit);
     if (is_finished && end.well)
       return Outcome::done;
     fail("the process " + end.how);
@@ -109,20 +110,26 @@ ConformRun::Outcome ConformRun::judge(ChildProcess& process)
   return begun_here > 0 ? Outcome::go_on : Outcome::give_up;
 }
 
+void ConformRun::grant(milliseconds time)
+{
+  granted = time;
+  deadline = Clock::now() + time;
+}
+
 void ConformRun::take(ConformRecord const& record)
 {
   std::vector<std::string> const& texts = record.texts;
   switch (record.kind)
   {
   case ConformRecord::begins:
-    deadline = Clock::now() + limit;
+    grant(group_limit);
     ++begun;
     ++begun_here;
     group = texts.empty() ? "" : texts[0];
     step.clear();
     break;
   case ConformRecord::ended:
-    deadline = Clock::now() + limit;
+    grant(group_limit);
     break;
   case ConformRecord::reported:
     take_report(texts);
@@ -136,6 +143,7 @@ void ConformRun::take(ConformRecord const& record)
     break;
   case ConformRecord::finished:
     is_finished = true;
+    grant(end_limit);
     break;
   }
 }

@@ -16,7 +16,8 @@ class ConformRun
 {
 public:
   /// `arguments` are those of the worker. A group that takes longer than `limit` is ended; from then on a tenth of that,
-  /// but no less than a second, is enough. The tester is not owned.
+  /// but no less than a second, is enough for a group. The process may take `limit` to end after the last of them. The
+  /// tester is not owned.
   ConformRun(std::vector<std::string> arguments, std::chrono::milliseconds limit, utUnitTest& tester);
 
   /// Whether the first check that fails is the last one; not by default.
@@ -41,12 +42,15 @@ private:
   Outcome run_process();
   Outcome listen(ChildProcess& process);
   Outcome judge(ChildProcess& process);
+  void grant(std::chrono::milliseconds time);
   void take(ConformRecord const& record);
   void take_report(std::vector<std::string> const& texts);
   void fail(std::string const& description);
 
   std::vector<std::string> const arguments;
-  std::chrono::milliseconds limit;
+  std::chrono::milliseconds const end_limit;
+  std::chrono::milliseconds group_limit;
+  std::chrono::milliseconds granted{0};
   utUnitTest& tester;
   std::string no_engine;
   // Groups that have begun in all processes, and in the present one.

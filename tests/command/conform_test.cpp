@@ -22,9 +22,12 @@
 
 namespace
 {
-// With as few random operations as a test can afford.
+// With as few random operations as a test can afford, and, unless the test is about the limit, with time for builds that count
+// what they run.
 ProgramRun conform(std::vector<std::string> arguments)
 {
+  if (std::find(arguments.begin(), arguments.end(), "--time-limit") == arguments.end())
+    arguments.insert(arguments.begin(), {"--time-limit", "600"});
   arguments.insert(arguments.begin(), {"conform", "--rounds", "20"});
   return run_axm(testing::UnitTest::GetInstance()->current_test_info()->name(), arguments);
 }
@@ -172,12 +175,12 @@ void set_misbehaviour(char const* how)
 
 // That an engine which misbehaves fails, and that its report is whole: the group in which it happens fails with a
 // description that holds `told`, all others pass.
-void expect_told(char const* how, std::string const& group, std::string const& told)
+void expect_told(char const* how, std::string const& group, std::string const& told, char const* seconds = "60")
 {
   set_misbehaviour(how);
   GoneAtTheEnd const report("conform misbehaving report.xml");
   ProgramRun const run =
-    conform({"--service", AXM_MISBEHAVING_ENGINE, "--time-limit", "2", "--junit", report.name, "axmNodeUtest"});
+    conform({"--service", AXM_MISBEHAVING_ENGINE, "--time-limit", seconds, "--junit", report.name, "axmNodeUtest"});
   EXPECT_EQ(run.exit_code, 1) << run.err;
   EXPECT_TRUE(holds(run.out, "FAILED " + group + ": ")) << run.out;
   EXPECT_TRUE(holds(run.out, told)) << run.out;
@@ -225,7 +228,12 @@ TEST(conform, an_engine_that_runs_out_of_stack_fails_where_it_does)
 
 TEST(conform, an_engine_that_hangs_fails_where_it_does)
 {
-  expect_told("hang", in_group, "the group took more than 2 seconds");
+  expect_told("hang", in_group, "the group took more than 5 seconds", "5");
+}
+
+TEST(conform, after_a_group_that_hung_the_process_still_has_the_whole_time_to_end)
+{
+  expect_told("hang and slow end", in_group, "the group took more than 8 seconds", "8");
 }
 
 TEST(conform, an_engine_that_throws_fails_where_it_does)

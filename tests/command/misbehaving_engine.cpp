@@ -57,6 +57,12 @@ void close_standard_output()
 #endif
 }
 
+// For longer than a group has once one has hung.
+void wait_at_the_end()
+{
+  std::this_thread::sleep_for(std::chrono::milliseconds(1500));
+}
+
 void misbehave(std::string const& how)
 {
   if (how == "crash")
@@ -69,7 +75,7 @@ void misbehave(std::string const& how)
     std::_Exit(0);
   else if (how == "stack overflow")
     overflow_stack(0);
-  else if (how == "hang")
+  else if (how == "hang" || how == "hang and slow end")
     run_for_ever();
   else if (how == "exception")
     throw std::runtime_error("thrown by the engine");
@@ -109,6 +115,9 @@ private:
 
 extern "C" void axm_register_engine()
 {
+  char const* const how = std::getenv("AXM_MISBEHAVIOUR");
+  if (how != nullptr && std::string_view(how) == "hang and slow end")
+    std::atexit(wait_at_the_end);
   axs_register();
   utServiceName const name(ut_lit("XMLService"));
   utServiceName resolved;
