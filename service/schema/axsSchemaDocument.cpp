@@ -40,11 +40,18 @@ bool is_collapsed(std::string_view text)
   return text.empty() || before != ' ';
 }
 
-// Attributes of other namespaces are no business of ours, but for those that only look like ours.
+bool is_language(axsTagAttribute const& attribute)
+{
+  return attribute.name_space == axsSchemaVocabulary::xml_namespace && attribute.name->local() == "lang";
+}
+
+// Attributes of other namespaces are no business of ours, but for those that only look like ours, and for the language of a
+// documentation, whose type is known (Part 1, 3.13.2).
 bool is_of_schemas(axsTagAttribute const& attribute)
 {
   return !attribute.is_declaration &&
-         (attribute.name_space.empty() || attribute.name_space == axsSchemaVocabulary::schema_namespace);
+         (attribute.name_space.empty() || attribute.name_space == axsSchemaVocabulary::schema_namespace ||
+           is_language(attribute));
 }
 
 // Part 2, 4.3.6 whiteSpace, collapse.
@@ -220,7 +227,9 @@ void axsSchemaDocument::Builder::add_attributes(axsSchemaElement& element, Attri
 axsSchemaAttributeText axsSchemaDocument::Builder::made(axsTagAttribute const& attribute)
 {
   axsSchemaAttributeText made;
-  if (attribute.name_space.empty())
+  if (is_language(attribute))
+    made.field = axsSchemaField::xml_lang;
+  else if (attribute.name_space.empty())
     made.field = axsSchemaVocabulary::field(attribute.name->utf8());
   if (made.field == axsSchemaField::other)
     made.value = kept(attribute.name->utf8());

@@ -9,8 +9,8 @@
 #include <cstdint>
 #include <string_view>
 
-/// An attribute of an element of a schema document. Attributes of other namespaces than the schema language's are not kept:
-/// they may stand anywhere and say nothing to us.
+/// An attribute of an element of a schema document. Attributes of other namespaces than the schema language's are not kept,
+/// but for xml:lang: they may stand anywhere and say nothing to us.
 struct axsSchemaAttributeText
 {
   /// White space collapsed, but for `value`, `default` and `fixed`. Of `other` the name instead.

@@ -1,5 +1,6 @@
 #include "axsSchemaGrammar.h"
 
+#include "axsDecimal.h"
 #include "axsSchemaDocument.h"
 #include "axsSchemaErrors.h"
 #include "axsSchemaText.h"
@@ -127,6 +128,8 @@ char const* fault_of(Field field, Role role, std::string_view text)
 {
   switch (field)
   {
+  case Field::xml_lang:
+    return text.empty() || axsTextForm::is_language(text) ? nullptr : "a language code (xs:language)";
   case Field::id:
   case Field::name:
     return is_ncname(text) ? nullptr : "a name without a colon";
@@ -173,6 +176,9 @@ char const* fault_of(Field field, Role role, std::string_view text)
     return nullptr;
   }
 }
+
+// Attributes of other namespaces may stand on any.
+std::uint64_t const of_all_elements = bit(Field::xml_lang);
 
 // Checks the elements of one document.
 class Check
@@ -244,7 +250,7 @@ void Check::attributes(axsSchemaElement const& checked, axsSchemaProduction cons
     axsSchemaAttributeText const& attribute = checked.attributes[i];
     bool const is_known = attribute.field != Field::other;
     std::string_view const name = is_known ? axsSchemaVocabulary::name(attribute.field) : attribute.value;
-    if (!is_known || (production.fields & bit(attribute.field)) == 0)
+    if (!is_known || ((production.fields | of_all_elements) & bit(attribute.field)) == 0)
     {
       errors.add(
         attribute.place, "attribute " + quoted(name) + " may not stand on " + quoted(checked.name()) + " here");
@@ -402,7 +408,13 @@ void Check::occurrences(axsSchemaElement const& checked)
   std::optional<std::uint64_t> const min = checked.has(Field::min_occurs) ? count(checked.value(Field::min_occurs)) : 1;
   bool const is_unbounded = checked.value(Field::max_occurs) == "unbounded";
   std::optional<std::uint64_t> const max = checked.has(Field::max_occurs) ? count(checked.value(Field::max_occurs)) : 1;
-  if (!is_unbounded && min.has_value() && max.has_value() && *min > *max)
+  if (is_unbounded || !min.has_value() || !max.has_value())
+    return;
+  // Numbers that are too large for anything are told apart, too.
+  bool const is_less = *max < *min || (*max == *min && *max > 1 &&
+                                        axsDecimal::compare_counts(
+                                          checked.value(Field::max_occurs), checked.value(Field::min_occurs)) < 0);
+  if (is_less)
     errors.add(checked.place_of(Field::max_occurs), "maxOccurs of " + quoted(checked.name()) +
                                                       " is less than its minOccurs" +
                                                       (checked.has(Field::max_occurs) ? "" : "; without one it is 1"));

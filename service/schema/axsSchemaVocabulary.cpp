@@ -17,7 +17,7 @@ constexpr std::string_view tags[] = {"all", "annotation", "any", "anyAttribute",
 constexpr std::string_view fields[] = {"abstract", "attributeFormDefault", "base", "block", "blockDefault", "default",
   "elementFormDefault", "final", "finalDefault", "fixed", "form", "id", "itemType", "maxOccurs", "memberTypes",
   "minOccurs", "mixed", "name", "namespace", "nillable", "processContents", "public", "ref", "refer", "schemaLocation",
-  "source", "substitutionGroup", "system", "targetNamespace", "type", "use", "value", "version", "xpath"};
+  "source", "substitutionGroup", "system", "targetNamespace", "type", "use", "value", "version", "xml:lang", "xpath"};
 
 static_assert(std::size(tags) == static_cast<std::size_t>(axsSchemaTag::other));
 static_assert(std::size(fields) == static_cast<std::size_t>(axsSchemaField::other));

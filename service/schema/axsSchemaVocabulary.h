@@ -87,6 +87,7 @@ enum class axsSchemaField : std::uint8_t
   use,
   value,
   version,
+  xml_lang,
   xpath,
   other // none of these
 };

@@ -101,6 +101,17 @@ bool axsDecimal::parse(std::string_view text, Parts& parts) noexcept
   return true;
 }
 
+int axsDecimal::compare_counts(std::string_view left, std::string_view right) noexcept
+{
+  Parts one;
+  Parts other;
+  parse(left, one);
+  parse(right, other);
+  if (one.whole.size() != other.whole.size())
+    return one.whole.size() < other.whole.size() ? -1 : 1;
+  return one.whole.compare(other.whole);
+}
+
 void axsDecimal::append(Parts const& parts, std::string& bytes)
 {
   if (parts.digits() == 0)

@@ -23,6 +23,9 @@ struct Parts
 /// Reads the lexical form: an optional sign, digits, at most one point. Whether it is one.
 bool parse(std::string_view text, Parts& parts) noexcept;
 
+/// Compares texts of numbers that are whole and not negative: below 0 if `left` is less, 0 if it is equal, else above.
+int compare_counts(std::string_view left, std::string_view right) noexcept;
+
 /// Appends the number in a form that memcmp orders as the numbers are, that is the same exactly for the same number, and
 /// that ends itself: sign, decimal exponent, digits in half bytes.
 void append(Parts const& parts, std::string& bytes);

@@ -88,6 +88,14 @@ bool read_count(std::string_view text, std::size_t& count)
   return true;
 }
 
+// The digits tell apart what is too large for anything.
+int compared(std::size_t left, std::string_view left_text, std::size_t right, std::string_view right_text)
+{
+  if (left != right)
+    return left < right ? -1 : 1;
+  return left == largest ? axsDecimal::compare_counts(axsWhiteSpaces::trimmed(left_text), right_text) : 0;
+}
+
 std::string quoted(std::string_view text)
 {
   return "'" + axsTypeFault::shown(text) + "'";
@@ -158,7 +166,8 @@ void axsRestriction::add_length(axsFacet const& facet)
   if (!read_count(facet.value, length))
     return report(facet, "cvc-datatype-valid.1.2.1", "must be a number of at least 0");
   std::size_t& own = made.lengths[static_cast<std::size_t>(facet.kind)];
-  if (!keeps_fixed(facet, own == length) || !is_length_within_base(facet, length))
+  bool const is_same = compared(length, facet.value, own, base.facet_text(facet.kind)) == 0;
+  if (!keeps_fixed(facet, is_same) || !is_length_within_base(facet, length))
     return;
   own = length;
   set(facet);
@@ -170,12 +179,13 @@ bool axsRestriction::is_length_within_base(axsFacet const& facet, std::size_t le
   if (!base.has_facet(facet.kind))
     return true;
   std::size_t const before = base.lengths[static_cast<std::size_t>(facet.kind)];
+  int const order = compared(length, facet.value, before, base.facet_text(facet.kind));
   std::string const of_base = base.facet_text(facet.kind) + " of " + name_of(base) + ", which it restricts";
-  if (facet.kind == Kind::length && length != before)
+  if (facet.kind == Kind::length && order != 0)
     report(facet, "length-valid-restriction", "must be the " + of_base);
-  else if (facet.kind == Kind::min_length && length < before)
+  else if (facet.kind == Kind::min_length && order < 0)
     report(facet, "minLength-valid-restriction", "must not be less than the " + of_base);
-  else if (facet.kind == Kind::max_length && length > before)
+  else if (facet.kind == Kind::max_length && order > 0)
     report(facet, "maxLength-valid-restriction", "must not be greater than the " + of_base);
   else
     return true;
@@ -190,9 +200,10 @@ void axsRestriction::add_digits(axsFacet const& facet)
     return report(facet, "cvc-datatype-valid.1.2.1",
       is_total ? "must be a number of at least 1" : "must be a number of at least 0");
   std::size_t& own = is_total ? made.total_digits : made.fraction_digits;
-  if (!keeps_fixed(facet, own == count))
+  int const order = compared(count, facet.value, own, base.facet_text(facet.kind));
+  if (!keeps_fixed(facet, order == 0))
     return;
-  if (base.has_facet(facet.kind) && count > own)
+  if (base.has_facet(facet.kind) && order > 0)
     return report(facet, is_total ? "totalDigits-valid-restriction" : "fractionDigits-valid-restriction",
       "must not be greater than the " + base.facet_text(facet.kind) + " of " + name_of(base) + ", which it restricts");
   own = count;
@@ -332,14 +343,17 @@ void axsRestriction::check_lengths()
     if (!has_length || !made.has_facet(kind))
       continue;
     std::size_t const bound = made.lengths[static_cast<std::size_t>(kind)];
-    bool const is_inside = kind == Kind::min_length ? bound <= length : length <= bound;
+    int const order = compared(bound, made.facet_text(kind), length, made.facet_text(Kind::length));
+    bool const is_inside = kind == Kind::min_length ? order <= 0 : order >= 0;
     bool const is_of_ancestor = base.has_facet(kind) && base.lengths[static_cast<std::size_t>(kind)] == bound;
     if (!is_inside || !is_of_ancestor)
       report(place_of(is_own(kind) ? kind : Kind::length), "length-minLength-maxLength",
         "length " + quoted(made.facet_text(Kind::length)) + " and " + std::string(axsFacets::name(kind)) + " " +
           quoted(made.facet_text(kind)) + " do not go together");
   }
-  if (made.has_facet(Kind::min_length) && made.has_facet(Kind::max_length) && made.lengths[1] > made.lengths[2])
+  if (made.has_facet(Kind::min_length) && made.has_facet(Kind::max_length) &&
+      compared(made.lengths[1], made.facet_text(Kind::min_length), made.lengths[2], made.facet_text(Kind::max_length)) >
+        0)
     report(place_of(is_own(Kind::min_length) ? Kind::min_length : Kind::max_length),
       "minLength-less-than-equal-to-maxLength",
       "minLength " + quoted(made.facet_text(Kind::min_length)) + " is greater than maxLength " +
@@ -372,7 +386,8 @@ void axsRestriction::check_bounds()
 void axsRestriction::check_digits()
 {
   if (!made.has_facet(Kind::total_digits) || !made.has_facet(Kind::fraction_digits) ||
-      made.fraction_digits <= made.total_digits)
+      compared(made.fraction_digits, made.facet_text(Kind::fraction_digits), made.total_digits,
+        made.facet_text(Kind::total_digits)) <= 0)
     return;
   report(place_of(is_own(Kind::fraction_digits) ? Kind::fraction_digits : Kind::total_digits),
     "fractionDigits-less-than-equal-to-totalDigits",

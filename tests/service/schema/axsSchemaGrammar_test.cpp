@@ -129,6 +129,18 @@ TEST(axsSchemaGrammar, attributes_have_values_of_their_types)
       "<xs:complexType name='t'><xs:sequence minOccurs='+0' maxOccurs='99999999999999999999999'/></xs:complexType>",
       "<xs:complexType name='t'><xs:sequence minOccurs='-1'/></xs:complexType>",
       "2: attribute 'minOccurs' of 'sequence': '-1' is not a number that is not negative"},
+    {"occurrence",
+      "<xs:complexType name='t'><xs:sequence minOccurs='99999999999999999999998' "
+      "maxOccurs='099999999999999999999998'/></xs:complexType>",
+      "<xs:complexType name='t'><xs:sequence minOccurs='99999999999999999999999' "
+      "maxOccurs='99999999999999999999998'/></xs:complexType>",
+      "2: maxOccurs of 'sequence' is less than its minOccurs"},
+    {"language", "<xs:annotation xml:lang='x-2'><xs:documentation xml:lang=''/></xs:annotation>",
+      "<xs:annotation><xs:documentation xml:lang='1 2'/></xs:annotation>",
+      "2: attribute 'xml:lang' of 'documentation': '1 2' is not a language code (xs:language)"},
+    {"language", "<xs:annotation><xs:documentation><p xml:lang='1 2'/></xs:documentation></xs:annotation>",
+      "<xs:element name='a' xml:lang='de_DE'/>",
+      "2: attribute 'xml:lang' of 'element': 'de_DE' is not a language code (xs:language)"},
     {"occurrence", "<xs:complexType name='t'><xs:sequence maxOccurs='unbounded'/></xs:complexType>",
       "<xs:complexType name='t'><xs:sequence minOccurs='unbounded'/></xs:complexType>",
       "2: attribute 'minOccurs' of 'sequence': 'unbounded' is not a number that is not negative"},
