@@ -71,10 +71,9 @@ void axsComplexTypeCheck::check_extension(axsComplexType const& type)
   if (type.base.simple != nullptr)
     return;
   axsComplexType const& base = *type.base.complex;
-  bool const is_same_simple = type.content == Content::simple && base.content == Content::simple;
   bool const is_same = type.content == base.content;
   bool const extends_elements = type.has_element_content() && (base.content == Content::empty || is_same);
-  if (!is_same_simple && !is_same && !extends_elements) // cos-ct-extends.1.4
+  if (!is_same && !extends_elements) // cos-ct-extends.1.4
     context.errors.add(type.place,
       "the content cannot extend that of " + base_words + ": both must be mixed, or both consist of elements only");
 }

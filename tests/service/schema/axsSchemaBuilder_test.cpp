@@ -2,6 +2,7 @@
 
 #include <axsComplexType.h>
 #include <axsElementDecl.h>
+#include <axsNamespaceConstraint.h>
 #include <axsSimpleType.h>
 
 namespace
@@ -490,4 +491,152 @@ TEST(axsSchemaBuilder, a_substitution_group_is_restricted_by_some_of_its_members
   EXPECT_EQ(
     error_of(sequence("<xs:element ref='x'/><xs:element ref='h'/>"), sequence("<xs:element ref='x'/>" + choice("cb"))),
     "");
+}
+
+namespace
+{
+std::string simple(std::string const& name, std::string const& how, std::string const& base, std::string const& content)
+{
+  return complex(
+    name, "<xs:simpleContent><xs:" + how + " base='" + base + "'>" + content + "</xs:" + how + "></xs:simpleContent>");
+}
+
+std::string type_inside(std::string const& base)
+{
+  return "<xs:simpleType><xs:restriction base='" + base + "'/></xs:simpleType>";
+}
+}
+
+TEST(axsSchemaBuilder, simple_contents_are_derived_from_simple_contents)
+{
+  std::string const base = simple("b", "extension", "xs:decimal", "");
+  EXPECT_EQ(error_of_schema(base + simple("d", "restriction", "b", type_inside("xs:integer"))), "");
+  EXPECT_EQ(error_of_schema(base + simple("d", "restriction", "b", type_inside("xs:string"))),
+    "s.xsd:3: the content is not derived from that of 'b'");
+  EXPECT_EQ(error_of_schema(base + simple("d", "extension", "b", "<xs:attribute name='a'/>")), "");
+  EXPECT_EQ(error_of_schema(base + derived("d", "extension", "b", "<xs:attribute name='a'/>")), "");
+  EXPECT_EQ(error_of_schema(base + derived("d", "extension", "b", sequence(element("a")))),
+    "s.xsd:3: the content cannot extend that of 'b': both must be mixed, or both consist of elements only");
+
+  SchemaFiles files;
+  files.schema("s.xsd", base + simple("d", "extension", "b", "") + derived("e", "extension", "d", ""));
+  auto const schema = files.compile({"s.xsd"});
+  ASSERT_NE(schema, nullptr) << files.first_error();
+  axsSimpleType const* const decimal = schema->type("http://www.w3.org/2001/XMLSchema", "decimal").simple;
+  EXPECT_EQ(schema->type("", "d").complex->simple_content, decimal);
+  EXPECT_EQ(schema->type("", "e").complex->simple_content, decimal);
+  EXPECT_EQ(schema->type("", "e").complex->content, axsComplexType::Content::simple);
+}
+
+TEST(axsSchemaBuilder, a_mixed_extension_takes_what_its_base_has)
+{
+  auto const mixed = [](std::string const& base)
+  {
+    return complex("b", base) + complex("d", "<xs:complexContent mixed='true'><xs:extension base='b'/>"
+                                             "</xs:complexContent>");
+  };
+  EXPECT_EQ(error_of_schema(mixed("")), "");
+  EXPECT_EQ(error_of_schema(mixed(sequence(element("a")))),
+    "s.xsd:3: the content cannot extend that of 'b': both must be mixed, or both consist of elements only");
+  SchemaFiles files;
+  files.schema("s.xsd", "<xs:complexType name='b' mixed='true'>" + sequence(element("a")) + "</xs:complexType>" +
+                          derived("d", "extension", "b", ""));
+  auto const schema = files.compile({"s.xsd"});
+  ASSERT_NE(schema, nullptr) << files.first_error();
+  EXPECT_EQ(schema->type("", "d").complex->content, axsComplexType::Content::mixed);
+  EXPECT_NE(schema->type("", "d").complex->automaton, nullptr);
+}
+
+TEST(axsSchemaBuilder, a_restriction_is_as_strict_about_attributes_as_its_base)
+{
+  std::string const required = "<xs:attribute name='a' use='required'/>";
+  EXPECT_EQ(error_of_schema(restriction(required, required)), "");
+  EXPECT_EQ(error_of_schema(restriction(required, "<xs:attribute name='a'/>")),
+    "s.xsd:3: attribute 'a' is required by the base type, so it must be here, too");
+  std::string const strict = "<xs:anyAttribute/>";
+  std::string const lax = "<xs:anyAttribute processContents='lax'/>";
+  EXPECT_EQ(error_of_schema(restriction(lax, strict)), "");
+  EXPECT_EQ(error_of_schema(restriction(strict, lax)),
+    "s.xsd:3: the attribute wildcard is processed less strictly than that of the base type");
+}
+
+TEST(axsSchemaBuilder, a_reference_to_an_attribute_keeps_its_fixed_value)
+{
+  auto const used = [](std::string const& constraint)
+  {
+    return "<xs:attribute name='g' type='xs:int' fixed='1'/>" +
+           complex("t", "\n<xs:attribute ref='g' " + constraint + "/>");
+  };
+  std::string const changed = "s.xsd:3: attribute 'g' has the fixed value '1', which a reference cannot change";
+  EXPECT_EQ(error_of_schema(used("")), "");
+  EXPECT_EQ(error_of_schema(used("fixed='01'")), "");
+  EXPECT_EQ(error_of_schema(used("fixed='2'")), changed);
+  EXPECT_EQ(error_of_schema(used("default='1'")), changed);
+
+  SchemaFiles files;
+  files.schema("s.xsd", used("") + "<xs:attribute name='h' type='xs:int' default='3'/>" +
+                          complex("u", "<xs:attribute ref='h'/>") +
+                          complex("v", "<xs:attribute ref='h' default='4'/>"));
+  auto const schema = files.compile({"s.xsd"});
+  ASSERT_NE(schema, nullptr) << files.first_error();
+  EXPECT_EQ(schema->type("", "t").complex->attributes[0].constraint.kind, axsValueConstraint::Kind::fixed);
+  EXPECT_EQ(schema->type("", "u").complex->attributes[0].constraint.value, "3");
+  EXPECT_EQ(schema->type("", "v").complex->attributes[0].constraint.value, "4");
+}
+
+TEST(axsSchemaBuilder, a_group_with_two_ids_is_told_of_once)
+{
+  std::string const two = "<xs:attributeGroup name='g'><xs:attribute name='a' type='xs:ID'/>"
+                          "<xs:attribute name='b' type='xs:ID'/></xs:attributeGroup>\n";
+  SchemaFiles files;
+  files.schema("s.xsd", two + "<xs:attributeGroup name='h'><xs:attributeGroup ref='g'/></xs:attributeGroup>");
+  EXPECT_EQ(files.compile({"s.xsd"}), nullptr);
+  EXPECT_EQ(
+    files.errors(), (std::vector<std::string>{"s.xsd:2: the attributes 'a' and 'b' are both of the type xs:ID; a "
+                                              "group may have one such attribute"}));
+}
+
+TEST(axsSchemaBuilder, wildcards_of_several_attribute_groups_are_intersected)
+{
+  auto const group = [](std::string const& name, std::string const& spaces) {
+    return "<xs:attributeGroup name='" + name + "'><xs:anyAttribute namespace='" + spaces + "'/></xs:attributeGroup>";
+  };
+  SchemaFiles files;
+  files.schema("s.xsd",
+    group("g", "u v") + group("h", "v w") + complex("t", "<xs:attributeGroup ref='g'/><xs:attributeGroup ref='h'/>"));
+  auto const schema = files.compile({"s.xsd"});
+  ASSERT_NE(schema, nullptr) << files.first_error();
+  axsWildcard const& wildcard = *schema->type("", "t").complex->attribute_wildcard;
+  EXPECT_TRUE(axsNamespaceConstraint::allows(wildcard, "v"));
+  EXPECT_FALSE(axsNamespaceConstraint::allows(wildcard, "u"));
+  EXPECT_FALSE(axsNamespaceConstraint::allows(wildcard, "w"));
+}
+
+TEST(axsSchemaBuilder, prefixes_of_types_are_declared)
+{
+  std::string const told = "s.xsd:2: the prefix 'p' is not declared";
+  for (std::string const wrong : {"<xs:attribute name='a' type='p:t'/>",
+         "<xs:simpleType name='t'><xs:union memberTypes='xs:int p:t'/></xs:simpleType>",
+         "<xs:simpleType name='t'><xs:restriction base='p:t'/></xs:simpleType>",
+         "<xs:simpleType name='t'><xs:list itemType='p:t'/></xs:simpleType>"})
+    EXPECT_EQ(error_of_schema(wrong), told) << wrong;
+}
+
+TEST(axsSchemaBuilder, a_value_may_name_an_entity_of_the_document_to_come)
+{
+  EXPECT_EQ(error_of_schema("<xs:attribute name='a' type='xs:ENTITY' fixed='e'/>"), "");
+  EXPECT_NE(error_of_schema("<xs:attribute name='a' type='xs:ENTITY' fixed='1'/>"), "");
+}
+
+TEST(axsSchemaBuilder, a_long_name_is_shown_by_its_beginning)
+{
+  std::string name;
+  for (int i = 0; i < 200; ++i)
+    name += "\xC3\xA4";
+  for (std::string const shift : {"", "a"})
+  {
+    std::string const error = error_of_schema("<xs:element name='e' type='" + shift + name + "'/>");
+    EXPECT_NE(error.find("\xC3\xA4...'"), std::string::npos) << error;
+    EXPECT_LT(error.size(), name.size());
+  }
 }

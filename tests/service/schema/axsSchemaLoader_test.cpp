@@ -249,3 +249,72 @@ TEST(axsSchemaLoader, documents_in_a_circle_are_read_once)
   EXPECT_EQ(schema->files().size(), 200u);
   EXPECT_TRUE(schema->type("", "t199"));
 }
+
+TEST(axsSchemaLoader, a_schema_that_is_given_for_a_namespace_is_for_that)
+{
+  SchemaFiles files;
+  files.schema("u.xsd", "<xs:element name='a'/>", "targetNamespace='u'");
+  files.schema("none.xsd", "<xs:element name='a'/>");
+  auto const error_of = [&](std::string const& name_space, apPath const& path)
+  {
+    axsSchemaCompiler compiler;
+    compiler.add(name_space, path);
+    bool const is_good = compiler.compile() != nullptr;
+    EXPECT_EQ(is_good, compiler.errors().empty());
+    return is_good ? std::string() : compiler.errors().front().message;
+  };
+  EXPECT_EQ(error_of("u", files.path("u.xsd")), "");
+  EXPECT_EQ(error_of("", files.path("none.xsd")), "");
+  EXPECT_EQ(error_of("v", files.path("u.xsd")), "The schema is for the namespace \"u\", not for the namespace \"v\"");
+  EXPECT_EQ(
+    error_of("v", files.path("none.xsd")), "The schema is for elements in no namespace, not for the namespace \"v\"");
+  EXPECT_EQ(
+    error_of("", files.path("u.xsd")), "The schema is for the namespace \"u\", not for elements in no namespace");
+  EXPECT_EQ(error_of("u", apPath()), "There is no file name of the schema for the namespace \"u\"");
+}
+
+TEST(axsSchemaLoader, what_says_nothing_is_passed_over)
+{
+  SchemaFiles files;
+  files.write("s.xsd", "<!DOCTYPE xs:schema [<!ATTLIST xs:schema id ID #IMPLIED>]>\n<!-- c --><?p q?>\n"
+                       "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'><?p q?>\n"
+                       "<xs:annotation><xs:documentation>text <b xmlns=''>of <i/></b></xs:documentation>"
+                       "<xs:appinfo><any/>more</xs:appinfo></xs:annotation>\n"
+                       "<xs:element name='a' type='&#10;xs:int&#9; '/><!-- c -->\n"
+                       "<xs:simpleType name='t'><xs:union memberTypes='xs:int&#9;&#13;xs:string '/></xs:simpleType>\n"
+                       "</xs:schema>");
+  auto const schema = files.compile({"s.xsd"});
+  ASSERT_NE(schema, nullptr) << files.first_error();
+  EXPECT_EQ(schema->element("", "a")->type, schema->type("http://www.w3.org/2001/XMLSchema", "int"));
+  EXPECT_NE(error_of_schema("text"), "");
+}
+
+TEST(axsSchemaLoader, an_attribute_group_is_redefined_by_itself_once)
+{
+  SchemaFiles files;
+  files.schema("r.xsd", "<xs:attributeGroup name='g'><xs:attribute name='a'/></xs:attributeGroup>");
+  auto const redefined = [&](std::string const& content)
+  {
+    files.schema("s.xsd", "<xs:redefine schemaLocation='r.xsd'><xs:attributeGroup name='g'>" + content +
+                            "</xs:attributeGroup></xs:redefine>");
+    files.compile({"s.xsd"});
+    return files.first_error();
+  };
+  std::string const itself = "<xs:attributeGroup ref='g'/>";
+  EXPECT_EQ(redefined(itself + "<xs:attribute name='b'/>"), "");
+  EXPECT_EQ(
+    redefined(itself + itself), "s.xsd:2: the attribute group 'g' is redefined; it may refer to itself once only");
+}
+
+TEST(axsSchemaLoader, a_copy_of_the_schema_of_xml_that_is_none_is_told_of)
+{
+  SchemaFiles files;
+  std::string const import = "<xs:import namespace='http://www.w3.org/XML/1998/namespace' schemaLocation='xml.xsd'/>"
+                             "<xs:complexType name='t'><xs:attribute ref='xml:lang'/></xs:complexType>";
+  files.schema("s.xsd", import);
+  EXPECT_NE(files.compile({"s.xsd"}), nullptr) << files.first_error();
+  files.schema("xml.xsd", "<xs:element name='a'/>", "targetNamespace='u'");
+  EXPECT_NE(files.compile({"s.xsd"}), nullptr) << files.first_error();
+  files.write("xml.xsd", "<xs:schema");
+  EXPECT_EQ(files.compile({"s.xsd"}), nullptr);
+}
