@@ -78,7 +78,8 @@ class Runs:
             start = time.time()
             unfinished = path.with_suffix(".part")
             if not run({"AXM_MUTANTS_SEEN": str(unfinished)}):
-                print(f"{name} fails without a change: {what_failed(self.results)}", flush=True)
+                # Whatever came of the changes then would be worth nothing.
+                sys.exit(f"{name} fails without a change: {what_failed(self.results)}")
             print(f"{name}: {time.time() - start:.1f} s", flush=True)
             if not unfinished.exists():
                 unfinished.write_bytes(bytes(1 << 16))

@@ -19,7 +19,7 @@ import shutil
 import sys
 
 # What is replaced by what: a pattern, its replacements, of which one is drawn, and how far what is exchanged reaches.
-TOKEN, SUM, CONDITION, STATEMENT = range(4)
+TOKEN, SUM, CONDITION, STATEMENT, ASSIGNMENT = range(5)
 CHANGES = [
     (r" == ", [" != "], SUM),
     (r" != ", [" == "], SUM),
@@ -36,7 +36,7 @@ CHANGES = [
     (r"(?<=\()!(?!=)", [""], SUM),
     (r"\b0\b", ["1"], TOKEN),
     (r"\b1\b", ["2", "0"], TOKEN),
-    (r" \+= ", [" -= "], SUM),
+    (r" \+= ", [" -= "], ASSIGNMENT),
     (r"\+\+", ["--"], SUM),
     (r"\bcontinue;", ["break;"], STATEMENT),
     (r"\bbreak;", ["continue;"], STATEMENT),
@@ -58,7 +58,12 @@ def ends_expression(code, at, kind):
     """Whether an expression ends at the sign `at`, which is in no brackets within it."""
     here, two = code[at], code[at : at + 2]
     before = code[at - 1] if at > 0 else " "
-    if here in ";,{}?":
+    if here in ";,{}":
+        return True
+    # What is assigned may be a choice.
+    if kind == ASSIGNMENT and (here in "?&|" or (here == ":" and before == " ")):
+        return False
+    if here == "?":
         return True
     if here == ":":
         return two != "::" and before != ":"
