@@ -3,6 +3,7 @@
 #include <libxml/xmlschemas.h>
 
 #include <string>
+#include <string_view>
 
 namespace
 {
@@ -78,6 +79,16 @@ void note(void* data, xmlError* given)
     error.set_line_number(given->line);
 }
 
+// The same of a schema. The text that takes in all of them has no lines that anybody knows.
+void note_of_schema(void* data, xmlError* given)
+{
+  auto& error = *static_cast<axmParseError*>(data);
+  bool const is_first = error.invalid();
+  note(data, given);
+  if (is_first && (given->file == nullptr || std::string_view(given->file) == "in_memory_buffer"))
+    error.set_line_number(-1);
+}
+
 bool is_valid_under(xmlDoc* document, xmlSchema* schema, axmParseError& error)
 {
   xmlSchemaValidCtxt* const context = xmlSchemaNewValidCtxt(schema);
@@ -100,7 +111,7 @@ bool xml2_is_valid(xmlDoc* document, apString const& url, axmLoadOptions const& 
   {
     std::string const text = schema_of_all(options);
     xmlSchemaParserCtxt* const context = xmlSchemaNewMemParserCtxt(text.data(), static_cast<int>(text.size()));
-    xmlSchemaSetParserStructuredErrors(context, note, &found);
+    xmlSchemaSetParserStructuredErrors(context, note_of_schema, &found);
     xmlSchema* const schema = xmlSchemaParse(context);
     xmlSchemaFreeParserCtxt(context);
     is_usable = schema != nullptr && found.invalid();

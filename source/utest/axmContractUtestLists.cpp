@@ -4,6 +4,12 @@
 #include "axmTextNode.h"
 #include "axmUtestAccess.h"
 #include "axmUtestGroup.h"
+#include "model/axmModelRandom.h"
+
+#include <algorithm>
+#include <map>
+#include <string>
+#include <vector>
 
 using namespace axmUtestAccess;
 
@@ -12,6 +18,127 @@ namespace
 using Factory = std::shared_ptr<axmDocumentFactory>;
 
 char const file[] = "source/utest/axmContractUtestLists";
+
+// The attributes of an element as they must be, and a map of it that is held while they change.
+class HeldMap
+{
+public:
+  HeldMap(std::shared_ptr<axmDocument> const& given_document, std::vector<apString> const& given_names)
+    : document(given_document),
+      names(given_names),
+      element(created(given_document, APSTRING("element"))),
+      map(map_of(element))
+  {
+  }
+
+  bool is_there() const { return map != nullptr; }
+
+  void edit(axmModelRandom& random)
+  {
+    apString const& name = random.one_of(names);
+    apString const value(std::to_string(random.below(1000)).c_str());
+    switch (random.below(5))
+    {
+    case 0:
+    case 1:
+      element->setAttribute(name, value);
+      break;
+    case 2:
+      map->setNamedItem(detached_attribute(document, name, value));
+      break;
+    case 3:
+      element->removeAttribute(name);
+      promised.erase(name);
+      return;
+    default:
+      map->removeNamedItem(name);
+      promised.erase(name);
+      return;
+    }
+    promised[name] = value;
+  }
+
+  // The attribute of that name, asked for in every way.
+  bool is_right(apString const& name) const
+  {
+    auto const found = promised.find(name);
+    bool const is_present = found != promised.end();
+    apString const value = is_present ? found->second : apString();
+    apString typed;
+    Node const item = map->getNamedItem(name);
+    return element->hasAttribute(name) == is_present && element->getAttribute(name) == value &&
+           element->get_attribute(name, typed) == is_present && typed == value && (item != nullptr) == is_present &&
+           (!is_present || (item->getNodeName() == name && item->getNodeValue() == value));
+  }
+
+  // All items, by their indexes.
+  bool is_whole() const
+  {
+    int const length = static_cast<int>(promised.size());
+    if (map->getLength() != length || element->hasAttributes() != (length > 0))
+      return false;
+    auto left = promised;
+    for (int index = 0; index < length; ++index)
+    {
+      Node const item = map->item(index);
+      auto const found = left.find(name_of(item));
+      if (found == left.end() || found->second != value_of(item) || !same(item, map->getNamedItem(found->first)))
+        return false;
+      left.erase(found);
+    }
+    return true;
+  }
+
+private:
+  std::shared_ptr<axmDocument> const document;
+  std::vector<apString> const names;
+  std::shared_ptr<axmElement> const element;
+  std::shared_ptr<axmNamedNodeMap> const map;
+  std::map<apString, apString> promised;
+};
+
+// Names that have much in common: a prefix is a part of a name.
+std::vector<apString> alike_names()
+{
+  return {APSTRING("k"), APSTRING("p:k"), APSTRING("q:k"), APSTRING("k:p"), APSTRING("K"), APSTRING("kk"),
+    APSTRING("p"), APSTRING("\u0444"), APSTRING("p:\u0444"), APSTRING("\U00010437")};
+}
+
+std::vector<apString> many_names()
+{
+  std::vector<apString> names = alike_names();
+  for (int number = 0; number < 300; ++number)
+    names.emplace_back(("a" + std::to_string(number)).c_str());
+  return names;
+}
+
+// Whether a map that is held follows every edit; all items are asked for now and then.
+bool follows_edits(std::shared_ptr<axmDocument> const& document, std::vector<apString> const& names, int edits)
+{
+  HeldMap held(document, names);
+  axmModelRandom random(static_cast<std::uint64_t>(edits));
+  int const period = static_cast<int>(names.size()) / 10;
+  for (int count = 0; count < edits && held.is_there(); ++count)
+  {
+    held.edit(random);
+    if (!held.is_right(random.one_of(names)) || (count % period == 0 && !held.is_whole()))
+      return false;
+  }
+  return held.is_there() && held.is_whole() &&
+         std::all_of(names.begin(), names.end(), [&held](apString const& name) { return held.is_right(name); });
+}
+
+// Whether what is no element answers operations of elements as what it is.
+bool is_no_element(std::shared_ptr<axmElement> const& item)
+{
+  apString const name = APSTRING("k");
+  if (item == nullptr || item->selectNodes(APSTRING("//*")) == nullptr || item->selectNodes(APSTRING("*")) == nullptr)
+    return false;
+  item->setAttribute(name, APSTRING("v"));
+  bool const has_none = !item->hasAttribute(name) && item->getAttribute(name).empty() && !item->hasAttributes();
+  item->removeAttribute(name);
+  return has_none && item->selectSingleNode(APSTRING("*")) == nullptr;
+}
 }
 
 void axmContractUtest::test_list_cursor(Factory const& factory) const
@@ -122,6 +249,13 @@ void axmContractUtest::test_list_items(Factory const& factory) const
   group.check(
     same(previous_of(remark), a), "*children->at(2)->getPreviousSibling() == *a", __LINE__, "sibling of a comment");
 
+  auto const mixed = load_root(*factory, "<root>text<!--comment--><?p?></root>");
+  bool are_no_elements = mixed != nullptr;
+  for (int index = 0; index < 3; ++index)
+    are_no_elements = are_no_elements && is_no_element(child_of(mixed, index));
+  group.check(are_no_elements && !mixed->hasAttributes(), "what is no element has no attributes", __LINE__,
+    "operations of elements on other items");
+
   Node const removed = remove(root, text);
   group.check(same(removed, text), "*root->removeChild(text) == *text", __LINE__, "an item can be removed");
   group.check(number_of_children(root), 2, "root->getChildNodes()->length() == 2", __LINE__, "it is out then");
@@ -170,6 +304,21 @@ void axmContractUtest::test_live_maps(Factory const& factory) const
   root->setAttribute(APSTRING("D"), APSTRING("4"));
   group.check(other != nullptr && other->getLength() == 1 && map->getLength() == 1,
     "other->getLength() == 1 && map->getLength() == 1", __LINE__, "two maps of an element are of one mind");
+  group.check(follows_edits(document, alike_names(), 600), "the map holds what was set", __LINE__,
+    "a map that is held while attributes of similar names change");
+  group.check(follows_edits(document, many_names(), 3000), "the map holds what was set", __LINE__,
+    "a map that is held while many attributes change");
+
+  auto const with_default =
+    load_root(*factory, "<!DOCTYPE r [<!ATTLIST r k CDATA 'given' l CDATA 'other'>]><r k='own'/>");
+  auto const defaults = map_of(with_default);
+  if (!group.prerequisite(defaults != nullptr && defaults->getLength() == 2, "map->getLength() == 2", __LINE__,
+        "Prerequisite: an attribute with a default"))
+    return;
+  with_default->removeAttribute(APSTRING("k"));
+  with_default->removeAttribute(APSTRING("l"));
+  group.check(!with_default->hasAttributes() && defaults->getLength() == 0, "!root->hasAttributes()", __LINE__,
+    "an attribute is taken away whatever a document type says");
 }
 
 void axmContractUtest::test_map_items(Factory const& factory) const

@@ -5,7 +5,9 @@
 #include "axmUtestGroup.h"
 #include "axmUtestUtils.h"
 
+#include <filesystem>
 #include <string>
+#include <system_error>
 
 using namespace axmUtestAccess;
 
@@ -28,6 +30,13 @@ char const invalid_machine[] = "<machine xmlns=\"ContractTest\">\n  <part>1</par
 apPath unique(apString const& name, apString const& extension)
 {
   return axmUtestUtils::uniquify_filename(APSTRING("./contract_") + name, extension);
+}
+
+apPath absolute(apPath const& path)
+{
+  std::error_code ignored;
+  std::filesystem::path const found = std::filesystem::absolute(std::filesystem::u8path(path.path().c_str()), ignored);
+  return apPath(found.generic_u8string().c_str());
 }
 
 bool fails(Factory const& factory, apByteArray const& data, axmLoadOptions const& options = axmLoadOptions())
@@ -390,6 +399,10 @@ void axmContractUtest::test_file_names(Factory const& factory) const
     {unique(APSTRING("a\u00A0b"), APSTRING("xml")), "a name with a non-breaking space"},
     {unique(APSTRING("\u0444"), APSTRING("xml")), "a name in other letters"},
     {unique(APSTRING("a+b#c"), APSTRING("xml")), "a name with a plus and a hash sign"},
+    {unique(APSTRING("a;b&c='d',e@(f)"), APSTRING("xml")), "a name with other signs"},
+    {unique(APSTRING("\U00010437"), APSTRING("xml")), "a name beyond U+FFFF"},
+    {unique(apString(std::string(100, 'n').c_str()), APSTRING("xml")), "a long name"},
+    {absolute(unique(APSTRING("absolute"), APSTRING("xml"))), "an absolute name"},
   };
   int number = 0;
   for (auto const& [path, description] : cases)
@@ -408,7 +421,7 @@ void axmContractUtest::test_file_names(Factory const& factory) const
     group.check(loaded != nullptr && loaded->get_attribute(APSTRING("N"), read) && read == number,
       "loaded->get_attribute(\"N\", read) && read == number", __LINE__, description);
   }
-  group.check(number, 6, "number == 6", __LINE__, "number of names");
+  group.check(number, 10, "number == 10", __LINE__, "number of names");
 
   apPath const encoded = unique(APSTRING("both%20names"), APSTRING("xml"));
   apPath const plain = unique(APSTRING("both names"), APSTRING("xml"));

@@ -4,6 +4,7 @@
 #include "axmTextNode.h"
 #include "axmUtestAccess.h"
 #include "axmUtestGroup.h"
+#include "axmXmlTables.h"
 
 #include <utUnitTest.h>
 
@@ -174,6 +175,12 @@ void axmContractUtest::test_owner_document(Factory const& factory) const
   group.check(owner != nullptr && document != nullptr && owner->getDocumentURI() == document->getDocumentURI(),
     "a->getOwnerDocument()->getDocumentURI() == document->getDocumentURI()", __LINE__,
     "one text identifies a document");
+  apString const before = document != nullptr ? document->getDocumentURI() : apString();
+  append(document, comment(document, APSTRING("x")));
+  bool const is_kept = document != nullptr && document->getDocumentURI() == before;
+  remove(document, root);
+  group.check(is_kept && document->getDocumentURI() == before, "document->getDocumentURI() == before", __LINE__,
+    "whatever it holds");
 }
 
 void axmContractUtest::test_append_child(Factory const& factory) const
@@ -507,6 +514,31 @@ void axmContractUtest::test_text(Factory const& factory) const
   group.check(text_of(fresh), APSTRING("filled"), "fresh->get_text()", __LINE__, "an element that was empty");
 }
 
+namespace
+{
+// Whether the XML of each element in `root` is that element with all that it holds; out of the tree, if that is asked for.
+bool are_their_xml(Factory const& factory, Node const& root, bool is_in_tree)
+{
+  std::vector<Node> waiting = {root};
+  // A wrong tree may have no end.
+  int steps = 0;
+  while (!waiting.empty())
+  {
+    Node const element = waiting.back();
+    waiting.pop_back();
+    for (Node child = first_of(element); child != nullptr && ++steps < 100; child = next_of(child))
+      if (std::dynamic_pointer_cast<axmElement>(child) != nullptr)
+        waiting.push_back(child);
+    if (!is_in_tree)
+      remove(parent_of(element), element);
+    auto const copy = reloaded(factory, element);
+    if (axmXmlTables::shape_of(copy) != axmXmlTables::shape_of(element))
+      return false;
+  }
+  return root != nullptr;
+}
+}
+
 void axmContractUtest::test_xml(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_xml");
@@ -570,4 +602,9 @@ void axmContractUtest::test_xml(Factory const& factory) const
     group.check(xml_of(node), apString(), "node->get_xml()", __LINE__, description);
   group.check(xml_of(created(document, APSTRING("only"))).find(APSTRING("<only")), 0, "only->get_xml()", __LINE__,
     "the XML of an element begins with its tag");
+  auto const mixed = load(
+    *factory, "<r k='1'>a<b l='2' m='&lt;'>c<d>e<!--f--></d> <?g h?></b><![CDATA[<i>]]><j><k><l/></k>&amp;</j></r>");
+  for (bool const is_in_tree : {true, false})
+    group.check(are_their_xml(factory, root_of(mixed), is_in_tree), "loaded(element->get_xml()) is the element",
+      __LINE__, is_in_tree ? "every element of a document" : "and where it is taken out");
 }

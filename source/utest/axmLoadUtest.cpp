@@ -12,6 +12,7 @@
 #include <utUnitTest.h>
 
 #include <cctype>
+#include <climits>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
@@ -47,11 +48,26 @@ struct Load
   bool is_consistent;
 };
 
+// Lines and columns are counted from 1, or not known.
+bool is_counted(int number)
+{
+  return number == -1 || number >= 1;
+}
+
+// Whether a document comes with an error that is as it was made, and none with one that says something.
+bool is_consistent(Document const& document, axmParseError const& error)
+{
+  if (document == nullptr)
+    return !error.invalid() && is_counted(error.line_number()) && is_counted(error.column_number());
+  return error.invalid() && error.message().empty() && error.url().empty() && error.line_number() == -1 &&
+         error.column_number() == -1;
+}
+
 Load load_of(Factory const& factory, std::string const& text, axmLoadOptions const& options = axmLoadOptions())
 {
   Load result = {nullptr, axmParseError(), false};
   result.document = factory->loadDocument(bytes_in(text), options, result.error);
-  result.is_consistent = (result.document != nullptr) == result.error.invalid();
+  result.is_consistent = is_consistent(result.document, result.error);
   return result;
 }
 
@@ -72,7 +88,7 @@ Load load_of_file(Factory const& factory, std::string const& text, axmLoadOption
   write(path, text);
   Load result = {nullptr, axmParseError(), false};
   result.document = factory->loadDocument(path, options, result.error);
-  result.is_consistent = (result.document != nullptr) == result.error.invalid();
+  result.is_consistent = is_consistent(result.document, result.error);
   return result;
 }
 
@@ -143,6 +159,7 @@ void axmLoadUtest::run_tests(Factory const& factory) const
     {&Utest::test_large_documents, "axmLoadUtest::test_large_documents"},
     {&Utest::test_places, "axmLoadUtest::test_places"},
     {&Utest::test_schemas, "axmLoadUtest::test_schemas"},
+    {&Utest::test_schema_places, "axmLoadUtest::test_schema_places"},
     {&Utest::test_schema_sets, "axmLoadUtest::test_schema_sets"},
     {&Utest::test_saved_sizes, "axmLoadUtest::test_saved_sizes"},
     {&Utest::test_second_saves, "axmLoadUtest::test_second_saves"},
@@ -193,6 +210,8 @@ void axmLoadUtest::test_entity_limits(Factory const& factory) const
         fails(load_of_file(factory, text, with_limit(limit))), "fails with a smaller limit", __LINE__, description);
     }
   }
+  group.check(loads(load_of(factory, dtd + "<r k='&c;'>&c;</r>", with_limit(INT_MAX))), "loads", __LINE__,
+    "the largest of all limits");
   group.check(text_of(root_of(load_of(factory, dtd + "<r>&c;</r>").document)), APSTRING("xxxx"), "root->get_text()",
     __LINE__, "what nested entities come to");
   group.check(fails(load_of(factory, "<!DOCTYPE r [<!ENTITY a '&b;'><!ENTITY b '&a;'>]><r>&a;</r>")), "fails", __LINE__,
@@ -302,7 +321,7 @@ public:
     write(in("document.xml"), document);
     Load result = {nullptr, axmParseError(), false};
     result.document = factory->loadDocument(in("document.xml"), options, result.error);
-    result.is_consistent = (result.document != nullptr) == result.error.invalid();
+    result.is_consistent = is_consistent(result.document, result.error);
     return result;
   }
 
@@ -529,6 +548,27 @@ Bytes const sequences[] = {{"\x7F", true}, {"\xC2\x80", true}, {"\xDF\xBF", true
   {"\xF4\x90\x80\x80", false}, {"\xF4\xBF\xBF\xBF", false}, {"\xF5\x80\x80\x80", false},
   {"\xF8\x88\x80\x80\x80", false}, {"\xFE", false}, {"\xFF", false}};
 
+struct OtherEncoding
+{
+  char const* name;
+  char const* bytes;
+  wchar_t const* text;
+};
+
+OtherEncoding const other_encodings[] = {{"ISO-8859-1", "\xE4", L"\u00E4"}, {"ISO-8859-1", "\xA4", L"\u00A4"},
+  {"ISO-8859-2", "\xB1", L"\u0105"}, {"ISO-8859-5", "\xE4", L"\u0444"}, {"ISO-8859-7", "\xE1", L"\u03B1"},
+  {"ISO-8859-15", "\xA4", L"\u20AC"}, {"windows-1251", "\xF4", L"\u0444"}, {"windows-1252", "\x80", L"\u20AC"},
+  {"KOI8-R", "\xC6", L"\u0444"}, {"Shift_JIS", "\x83\x41", L"\u30A2"}, {"EUC-JP", "\xA5\xA2", L"\u30A2"},
+  {"US-ASCII", "x", L"x"}};
+
+// Whether that is UTF-8 without a zero: anything else is another text once it was read as that.
+bool is_utf8(apByteArray const& output)
+{
+  std::string const text(output.data(), output.size());
+  utString const read_as_utf8 = apString(text.c_str()).to_utf8();
+  return !text.empty() && text == read_as_utf8.c_str();
+}
+
 // Whether a sequence is taken or refused wherever it stands, for an engine may look at many bytes at once.
 bool is_judged_everywhere(Factory const& factory, Bytes const& sequence)
 {
@@ -579,6 +619,7 @@ void axmLoadUtest::test_encodings(Factory const& factory) const
     axmParseError error;
     auto const copy = saved ? factory->loadDocument(output, axmLoadOptions(), error) : nullptr;
     group.check(text_of(root_of(copy)), promised, "root->get_text(), saved and loaded", __LINE__, description);
+    group.check(is_utf8(output), "output is UTF-8", __LINE__, description);
   }
   std::string const pair("\xFF\xFE<\0r\0>\0\x01\xD8\x37\xDC<\0/\0r\0>\0", 20);
   std::string const halves[] = {std::string("\xFF\xFE<\0r\0>\0\x01\xD8<\0/\0r\0>\0", 18),
@@ -593,9 +634,18 @@ void axmLoadUtest::test_encodings(Factory const& factory) const
     group.check(fails(load_of(factory, std::string("<?xml version='1.0' encoding='") + encoding + "'?><r/>")), "fails",
       __LINE__, "an encoding that nobody knows");
   // Other encodings an engine may refuse, but not mistake.
-  Load const latin = load_of(factory, "<?xml version='1.0' encoding='ISO-8859-1'?><r>\xE4</r>");
-  group.check(fails(latin) || text_of(root_of(latin.document)) == APSTRING("\u00E4"), "root->get_text()", __LINE__,
-    "ISO-8859-1 is read as that or not at all");
+  for (auto const& [encoding, bytes, text] : other_encodings)
+  {
+    Load const load =
+      load_of(factory, std::string("<?xml version='1.0' encoding='") + encoding + "'?><r>" + bytes + "</r>");
+    group.check(fails(load) || text_of(root_of(load.document)) == apString(text), "root->get_text()", __LINE__,
+      "other encodings are read as those or not at all");
+  }
+  for (std::string const& text : {std::string("<?xml version='1.0' encoding='UTF-16'?><r/>"),
+         utf16(L"<?xml version='1.0' encoding='UTF-8'?><r/>", false),
+         std::string("<?xml version='1.0' encoding='US-ASCII'?><r>\xE4</r>")})
+    group.check(fails(load_of(factory, text)) && fails(load_of_file(factory, text)), "fails", __LINE__,
+      "another encoding than the declared one");
   for (std::string const& text :
     {std::string("<r>\xC3</r>"), std::string("<r>\xE4\xB8</r>"), std::string("<r>\xC0\x80</r>"),
       std::string("<r>\xED\xA0\x80</r>"), std::string("<r>\xF5\x80\x80\x80</r>"), std::string("<r k='\xFF'/>")})
@@ -728,6 +778,18 @@ void axmLoadUtest::test_large_documents(Factory const& factory) const
     std::string const broken = "<r>" + many(3, written) + "</s>";
     group.check(fails(load_of(factory, broken)), "fails", __LINE__, "a large document with an error at its end");
   }
+  for (char const* const white : {" ", "\n", "\t", "\r\n", " \n\t"})
+  {
+    std::string const much = many(70000, white);
+    std::string const text = "<r>" + much + "<a>x" + many(70000, " ") + "</a>" + much + "</r>";
+    for (Load const& load : {load_of(factory, text), load_of_file(factory, text)})
+    {
+      auto const root = root_of(load.document);
+      group.check(number_of_children(root), 1, "root->getChildNodes()->length() == 1", __LINE__, "much white space");
+      group.check(text_of(root) == apString(("x" + many(70000, " ")).c_str()), "root->get_text()", __LINE__,
+        "and much of it beside a text");
+    }
+  }
   for (std::string const& name : {std::string(40000, 'n'), many(20000, "\xC3\xA4"), many(10000, "\xE4\xB8\x80")})
   {
     std::string const content = many(3, "<" + name + "></" + name + ">");
@@ -775,6 +837,10 @@ void axmLoadUtest::test_places(Factory const& factory) const
     {"<r k='\r'>\r<!--\r-->\r&x;</r>", 5, 1, 4, "returns in all that may hold them"},
     {"<!DOCTYPE r [<!ENTITY e '" + many(50, "x") + "'>]><r>&e;</s>", 1, 86, 90,
       "an entity is as long as its reference"},
+    {utf16(L"<r>\n" + std::wstring(50, L'\u00E4') + L"</s>", false), 2, 51, 55, "in UTF-16, the low byte first"},
+    {utf16(L"<r>\r\n" + std::wstring(50, L'\u20AC') + L"</s>", true), 2, 51, 55, "in UTF-16, the high byte first"},
+    {"<r>" + many(70000, "\n") + "</s>", 70001, 1, 5, "many lines"},
+    {"<r>" + many(70000, "x") + "</s>", 1, 70004, 70008, "many columns"},
   };
   for (auto const& [text, line, first, last, description] : cases)
     for (Load const& load : {load_of(factory, text), load_of_file(factory, text)})
@@ -785,9 +851,20 @@ void axmLoadUtest::test_places(Factory const& factory) const
       int const column = load.error.column_number();
       group.check(column == -1 || (first <= column && column <= last), "error.column_number()", __LINE__, description);
     }
+  for (char const* const text : {"<r></s>", "<r k=1/>", "<?xml version='1.0'?><r>&x;</r>"})
+  {
+    axmParseError const plain = load_of(factory, text).error;
+    axmParseError const marked = load_of(factory, std::string("\xEF\xBB\xBF") + text).error;
+    group.check(plain.line_number() == marked.line_number() && plain.column_number() == marked.column_number(),
+      "the place", __LINE__, "a mark at the beginning is no character of the document");
+  }
   Load const in_memory = load_of(factory, "<r>");
+  group.check(in_memory.error.url(), APSTRING(""), "error.url()", __LINE__, "what is in memory is in no file");
+  axmParseError missing;
+  bool const is_missing =
+    factory->loadDocument(apPath("./load_no_such_file.xml"), axmLoadOptions(), missing) == nullptr;
   group.check(
-    in_memory.error.url().find(APSTRING("load_file")) < 0, "error.url()", __LINE__, "what is in memory is in no file");
+    is_missing && is_consistent(nullptr, missing), "!error.invalid()", __LINE__, "a file that is missing has no line");
   group.check(
     fails(in_memory) && !in_memory.error.message().empty(), "!error.message().empty()", __LINE__, "and has a message");
 }
@@ -868,6 +945,68 @@ void axmLoadUtest::test_schemas(Factory const& factory) const
   }
 }
 
+namespace
+{
+struct Place
+{
+  char const* text;
+  int line;
+};
+
+// What stands in an order that breaks its schema, and where: in one line, so that there is no doubt.
+Place const places_in_orders[] = {{"\n<item n='1'/>\n<sum>x</sum>", 3}, {"<!--\n\n--><item n='0'/><sum>1</sum>", 3},
+  {"<?p\nq?>\n<item n='1'/><other/>", 3}, {"<item\nn='1'\n/>\n<sum>1</sum>\n<other/>", 5},
+  {"\r\n<item n='1' more='x'/>\r\n<sum>1</sum>", 2}, {"<item n='1'><![CDATA[\n\n]]></item>\n<sum>1,5</sum>", 4},
+  {"<item n='1' unit='g'/>\n<sum>1</sum>", 1}, {"\r\r<item n='1'/><sum>1</sum>text<other/>", 3}};
+
+// The same of schemas that cannot be used.
+Place const places_in_schemas[] = {{"\n<xs:element name='a'/>\n<xs:element name='order' type='none'/>\n", 3},
+  {"<!--\n-->\n<xs:simpleType name='t'><xs:restriction base='xs:int'><xs:minInclusive value='x'/></xs:restriction>"
+   "</xs:simpleType>\n<xs:element name='order'/>",
+    3},
+  {"\n\n\n<xs:element name='order' name='a'/>\n", 4}, {"\r\n<xs:element name='order'>&none;</xs:element>\n", 2},
+  {"<xs:annotation>\n<xs:documentation>a\nb</xs:documentation>\n</xs:annotation>\n<xs:element name='order' "
+   "minOccurs='2'/>\n",
+    5}};
+}
+
+void axmLoadUtest::test_schema_places(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmLoadUtest::test_schema_places");
+  OutsideFolder const folder;
+  axmLoadOptions options(axmValidateWithSchemas);
+  options.set_no_namespace_schema(folder.in("schema.xsd"));
+  auto const fails_at = [&](std::string const& document, char const* name, int line)
+  {
+    Load const in_memory = load_of(factory, document, options);
+    Load const in_file = folder.load(factory, document.c_str(), options);
+    int const told = in_memory.error.line_number();
+    bool const is_right = fails(in_memory) && fails(in_file) && (told == -1 || told == line) &&
+                          (in_file.error.url().empty() || is_place(in_file.error, name, line));
+    if (!is_right)
+      tester->printf("Expected line %d of %s\nActual   line %d of %s\n%s", line, name, in_file.error.line_number(),
+        in_file.error.url().to_utf8().c_str(), document.c_str());
+    return is_right;
+  };
+  write(folder.in("schema.xsd"), schema("", order));
+  for (auto const& [content, line] : places_in_orders)
+    group.check(fails_at("<order>" + std::string(content) + "</order>", "document.xml", line), "the place", __LINE__,
+      "what breaks a schema is in the document");
+  for (auto const& [content, line] : places_in_schemas)
+  {
+    write(folder.in("schema.xsd"), schema("", content));
+    group.check(fails_at("\n\n\n\n\n\n<order/>", "schema.xsd", line), "the place", __LINE__,
+      "what is wrong in a schema is there");
+  }
+  write(folder.in("schema.xsd"), schema("", "<xs:include schemaLocation='sub/outer.xsd'/>"));
+  write(
+    folder.in("sub/outer.xsd"), schema("", "<xs:include schemaLocation='inner.xsd'/><xs:element name='v' type='t'/>"));
+  write(
+    folder.in("sub/inner.xsd"), schema("", "<xs:simpleType name='t'><xs:restriction base='xs:int'/></xs:simpleType>"));
+  group.check(loads(load_of(factory, "<v>1</v>", options)) && fails(load_of(factory, "<v>x</v>", options)),
+    "loads(valid) && fails(invalid)", __LINE__, "schemas name each other from where they are");
+}
+
 void axmLoadUtest::test_schema_sets(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmLoadUtest::test_schema_sets");
@@ -877,12 +1016,15 @@ void axmLoadUtest::test_schema_sets(Factory const& factory) const
   axmUtestFile const plain_removed_at_the_end(plain);
   axmUtestFile const one_removed_at_the_end(one);
   axmUtestFile const two_removed_at_the_end(two);
+  apPath const more = unique(APSTRING("more"), APSTRING("xsd"));
+  axmUtestFile const more_removed_at_the_end(more);
   std::string const holder = "<xs:element name='h'><xs:complexType><xs:sequence><xs:any namespace='##any' "
                              "processContents='strict' minOccurs='0' maxOccurs='unbounded'/></xs:sequence>"
                              "</xs:complexType></xs:element><xs:element name='v' type='xs:int'/>";
   axmUtestUtils::write_data(plain, schema("", holder).c_str());
   axmUtestUtils::write_data(one, schema("urn:one", holder).c_str());
   axmUtestUtils::write_data(two, schema("urn:two", "<xs:element name='v' type='xs:boolean'/>").c_str());
+  axmUtestUtils::write_data(more, schema("urn:two", "<xs:element name='w' type='xs:int'/>").c_str());
   axmLoadOptions options(axmValidateWithSchemas);
   options.set_no_namespace_schema(plain);
   options.add_external_schema(APSTRING("urn:one"), one);
@@ -907,7 +1049,17 @@ void axmLoadUtest::test_schema_sets(Factory const& factory) const
     {"<h><h><h><h><h><v>x</v></h></h></h></h></h>", false, "what is far down counts"},
     {"<h><v>1</v><w/></h>", false, "an element that nothing declares"},
   };
+  // The namespace is that of a third schema, too.
+  options.add_external_schema(APSTRING("urn:two"), more);
+  Case const cases_of_two[] = {
+    {"<h xmlns='urn:one' xmlns:t='urn:two'><t:v>true</t:v><t:w>1</t:w></h>", true, "two schemas for one namespace"},
+    {"<h xmlns='urn:one' xmlns:t='urn:two'><t:v>12</t:v><t:w>1</t:w></h>", false, "the first of the two counts"},
+    {"<h xmlns='urn:one' xmlns:t='urn:two'><t:v>true</t:v><t:w>x</t:w></h>", false, "and the second one"},
+  };
   for (auto const& [text, is_valid, description] : cases)
+    for (Load const& load : {load_of(factory, text, options), load_of_file(factory, text, options)})
+      group.check(is_valid ? loads(load) : fails(load), is_valid ? "loads" : "fails", __LINE__, description);
+  for (auto const& [text, is_valid, description] : cases_of_two)
     for (Load const& load : {load_of(factory, text, options), load_of_file(factory, text, options)})
       group.check(is_valid ? loads(load) : fails(load), is_valid ? "loads" : "fails", __LINE__, description);
   std::string const name = plain.path().c_str();
@@ -1069,6 +1221,8 @@ Edit const edits[] = {
   {"<r><?t x?></r>", [](axmDocument&, axmElement& r) { set_first(r, L"a\x01"); }, true, "what no document holds"},
   {"<r><!--x--></r>", [](axmDocument&, axmElement& r) { set_first(r, L"a -> b <c> &d; ]]>"); }, false, "a comment"},
   {"<r><!--x--></r>", [](axmDocument&, axmElement& r) { set_first(r, L"-a"); }, false, "a hyphen at its beginning"},
+  {"<r><!--x--></r>", [](axmDocument&, axmElement& r) { set_first(r, L"a\rb\r\n"); }, true, "a return in a comment"},
+  {"<r><?t x?></r>", [](axmDocument&, axmElement& r) { set_first(r, L"a\rb\r\n"); }, true, "one in an instruction"},
   {"<r><![CDATA[x]]></r>", [](axmDocument&, axmElement& r) { set_first(r, L"a]]>b"); }, true, "the end of a section"},
   {"<r><![CDATA[x]]></r>", [](axmDocument&, axmElement& r) { set_first(r, L"a\rb"); }, true, "a return in a section"},
   {"<r><![CDATA[x]]></r>", [](axmDocument&, axmElement& r) { set_first(r, L"<&>\"'"); }, false, "markup in a section"},
@@ -1131,7 +1285,9 @@ void axmLoadUtest::test_refused_saves(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmLoadUtest::test_refused_saves");
   apPath const path = unique(APSTRING("refused"), APSTRING("xml"));
+  apPath const absent = unique(APSTRING("absent"), APSTRING("xml"));
   axmUtestFile const removed_at_the_end(path);
+  axmUtestFile const absent_at_the_end(absent);
   auto const refuses = [&](Document const& document)
   {
     axmUtestUtils::write_data(path, "<before/>");
@@ -1139,7 +1295,8 @@ void axmLoadUtest::test_refused_saves(Factory const& factory) const
     axmParseError error;
     return document != nullptr && !factory->saveDocument(document, path) && !factory->saveDocument(document, output) &&
            output == bytes_of("before") &&
-           name_of(root_of(factory->loadDocument(path, axmLoadOptions(), error))) == APSTRING("before");
+           name_of(root_of(factory->loadDocument(path, axmLoadOptions(), error))) == APSTRING("before") &&
+           !factory->saveDocument(document, absent) && !absent.exists();
   };
   for (wchar_t const* const text : {L"\x01", L"a\x08", L"\x0B", L"\x0C", L"\x1F", L"\uFFFE", L"\uFFFF"})
   {

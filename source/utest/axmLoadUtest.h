@@ -28,6 +28,7 @@ protected:
   void test_large_documents(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_places(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_schemas(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_schema_places(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_schema_sets(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_saved_sizes(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_second_saves(std::shared_ptr<axmDocumentFactory> const& factory) const;

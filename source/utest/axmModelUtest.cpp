@@ -82,6 +82,8 @@ void axmModelUtest::run_tests(Factory const& factory) const
     {&Utest::test_many_children, "axmModelUtest::test_many_children"},
     {&Utest::test_many_attributes, "axmModelUtest::test_many_attributes"},
     {&Utest::test_long_texts, "axmModelUtest::test_long_texts"},
+    {&Utest::test_many_levels, "axmModelUtest::test_many_levels"},
+    {&Utest::test_many_documents, "axmModelUtest::test_many_documents"},
   };
   axm_run_groups(*this, factory, groups, tester, file);
 }

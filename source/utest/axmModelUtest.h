@@ -40,6 +40,8 @@ protected:
   void test_many_children(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_many_attributes(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_long_texts(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_many_levels(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_many_documents(std::shared_ptr<axmDocumentFactory> const& factory) const;
 
 private:
   utUnitTest* tester;

@@ -73,6 +73,105 @@ bool append_numbered(Document const& document, Element const& parent, int from, 
   return true;
 }
 
+// A list and the elements that are to be in it, changed at any place.
+class HeldList
+{
+public:
+  HeldList(Document const& given_document, Element const& given_parent, int size)
+    : document(given_document),
+      parent(given_parent),
+      list(children_of(given_parent))
+  {
+    for (int index = 0; index < size; ++index)
+      insert_at(index);
+  }
+
+  void edit(axmModelRandom& random)
+  {
+    int const at = random.below(static_cast<int>(promised.size()));
+    if (random.once_in(2))
+      return insert_at(at);
+    remove(parent, promised[static_cast<std::size_t>(at)]);
+    promised.erase(promised.begin() + at);
+  }
+
+  bool is_right_at(int index) const { return same(item_of(list, index), promised[static_cast<std::size_t>(index)]); }
+
+  bool is_right(axmModelRandom& random) const
+  {
+    int const size = static_cast<int>(promised.size());
+    return length_of(list) == size && is_right_at(random.below(size)) && is_right_at(size - 1) &&
+           is_right_at(random.below(size)) && list->at(size) == nullptr;
+  }
+
+  bool is_whole() const
+  {
+    Node child = first_of(parent);
+    for (int index = 0; index < static_cast<int>(promised.size()); ++index, child = next_of(child))
+      if (!is_right_at(index) || !same(child, promised[static_cast<std::size_t>(index)]))
+        return false;
+    return child == nullptr;
+  }
+
+private:
+  void insert_at(int index)
+  {
+    bool const is_end = index == static_cast<int>(promised.size());
+    Node const made = created(document, APSTRING("c"));
+    insert(parent, made, is_end ? nullptr : promised[static_cast<std::size_t>(index)]);
+    promised.insert(promised.begin() + index, made);
+  }
+
+  Document const document;
+  Element const parent;
+  std::shared_ptr<axmNodeList> const list;
+  std::vector<Node> promised;
+};
+
+bool follows_edits(Document const& document, axmModelRandom random)
+{
+  Element const parent = created(document, APSTRING("parent"));
+  HeldList held(document, parent, 2000);
+  for (int count = 0; count < 1000; ++count)
+  {
+    held.edit(random);
+    if (!held.is_right(random))
+      return false;
+  }
+  return held.is_whole();
+}
+
+// `levels` elements, each in the one before, below the root of the document; the last one.
+Element nested(Document const& document, int levels)
+{
+  Element lowest = root_of(document);
+  for (int level = 0; level < levels; ++level)
+  {
+    Element const made = created(document, level + 1 < levels ? APSTRING("level") : APSTRING("bottom"));
+    append(lowest, made);
+    lowest = made;
+  }
+  return lowest;
+}
+
+// Whether a root with `levels` elements in each other says so in every way.
+bool is_nested(Document const& document, int levels)
+{
+  Element const root = root_of(document);
+  auto const found = document != nullptr ? document->getElementsByTagName(APSTRING("bottom")) : nullptr;
+  auto const selected = root != nullptr ? root->selectNodes(APSTRING("//bottom[text()='deep']")) : nullptr;
+  if (text_of(root) != APSTRING("deep") || length_of(found) != 1 || length_of(selected) != 1)
+    return false;
+  Node up = found->at(0);
+  Node down = root;
+  for (int level = 0; level < levels; ++level)
+  {
+    up = parent_of(up);
+    down = last_of(down);
+  }
+  return same(up, root) && same(down, found->at(0)) && same(selected->at(0), found->at(0));
+}
+
 bool has_attributes(Element const& element, int count)
 {
   auto const map = map_of(element);
@@ -94,12 +193,17 @@ apString long_text(int size, wchar_t const* end)
   return apString(std::wstring_view(text + last));
 }
 
-Element saved_and_loaded(Factory const& factory, Document const& document)
+Document copy_of(Factory const& factory, Document const& document)
 {
   apByteArray output;
   axmParseError error;
   bool const saved = factory->saveDocument(document, output);
-  return saved ? root_of(factory->loadDocument(output, axmLoadOptions(), error)) : nullptr;
+  return saved ? factory->loadDocument(output, axmLoadOptions(), error) : nullptr;
+}
+
+Element saved_and_loaded(Factory const& factory, Document const& document)
+{
+  return root_of(copy_of(factory, document));
 }
 
 // Whether a text of that length comes back as text, attribute, comment and, saved, as all of them.
@@ -166,6 +270,8 @@ void axmModelUtest::test_many_children(Factory const& factory) const
       break;
   }
   group.check(is_numbered(held, 60000, random), "list after removals", __LINE__, "a list that has become shorter");
+  group.check(follows_edits(document, random), "list after edits at any place", __LINE__,
+    "a long list that is held while its middle changes");
 }
 
 void axmModelUtest::test_many_attributes(Factory const& factory) const
@@ -211,4 +317,46 @@ void axmModelUtest::test_long_texts(Factory const& factory) const
     right += name_comes_back(factory, long_text(size, L"")) ? 1 : 0;
   group.check(right, static_cast<int>(sizes.size()), "names that come back, of all lengths", __LINE__,
     "a name of every length comes back, also saved and loaded");
+}
+
+void axmModelUtest::test_many_levels(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmModelUtest::test_many_levels");
+  for (int const levels : {1, 15, 64, 255, 256, 257, 2000})
+  {
+    auto const document = factory->createDocument(APSTRING("root"));
+    auto const bottom = nested(document, levels);
+    if (!group.prerequisite(bottom != nullptr, "bottom.get()", __LINE__, "Prerequisite: elements in each other"))
+      return;
+    Node const top = first_of(root_of(document));
+    group.check(append(bottom, top) == nullptr && insert(bottom, top, nullptr) == nullptr && !bottom->hasChildNodes(),
+      "!bottom->appendChild(top).get()", __LINE__, "what is far below a node does not hold it");
+    bottom->set_text(APSTRING("deep"));
+    group.check(is_nested(document, levels), "document of that many levels", __LINE__, "many levels");
+    group.check(is_nested(copy_of(factory, document), levels), "loaded(saved) has them all", __LINE__,
+      "many levels survive a save and a load");
+    utString const xml = xml_of(document).to_utf8();
+    group.check(is_nested(load(*factory, xml.c_str()), levels), "loaded(document->get_xml()) has them all", __LINE__,
+      "and as the XML of the document");
+  }
+}
+
+void axmModelUtest::test_many_documents(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmModelUtest::test_many_documents");
+  std::vector<Document> documents;
+  for (int number = 0; number < 300; ++number)
+  {
+    utString const text = (APSTRING("<") + numbered(L"d", number) + APSTRING("/>")).to_utf8();
+    documents.push_back(
+      number % 2 == 0 ? factory->createDocument(numbered(L"d", number)) : load(*factory, text.c_str()));
+  }
+  int right = 0;
+  for (int number = 0; number < 300; ++number)
+    right += name_of(root_of(documents[static_cast<std::size_t>(number)])) == numbered(L"d", number) ? 1 : 0;
+  group.check(right, 300, "documents with their roots", __LINE__, "many documents at one time");
+  for (int count = 0; count < 300; ++count)
+    load(*factory, "<r>");
+  group.check(name_of(load_root(*factory, "<r/>")), APSTRING("r"), "root->getNodeName()", __LINE__,
+    "a load after many that failed");
 }

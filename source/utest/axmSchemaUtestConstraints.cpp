@@ -113,6 +113,21 @@ std::vector<Case> const& constraint_cases()
           "<r><g><i k='1'/><g><i k='1'/></g></g><f to='1'/></r>"},
         {"<r><g><g><i k='2'/></g><g><i k='2'/></g></g><f to='2'/></r>",
           "<r><g><i k='1'/><g><i k='2'/></g></g><f to='3'/></r>"}}},
+    {"keys handed up through elements without constraints",
+      {items() +
+          "<xs:element name='w'><xs:complexType><xs:sequence><xs:any minOccurs='0' "
+          "maxOccurs='unbounded'/></xs:sequence></xs:complexType></xs:element><xs:element "
+          "name='g'><xs:complexType><xs:sequence><xs:any minOccurs='0' "
+          "maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:key name='k'><xs:selector xpath='i'/><xs:field "
+          "xpath='@k'/></xs:key></xs:element><xs:element name='r'><xs:complexType><xs:sequence><xs:any minOccurs='0' "
+          "maxOccurs='unbounded'/></xs:sequence></xs:complexType><xs:keyref name='f' refer='k'><xs:selector "
+          "xpath='.//f'/><xs:field xpath='@to'/></xs:keyref></xs:element>",
+        {"<r><w><g><i k='1'/></g></w><f to='1'/></r>", "<r><w><w><w><g><i k='1'/></g></w></w></w><f to='1'/></r>",
+          "<r><w><g><i k='1'/></g><w><g><i k='2'/></g></w></w><g><i k='3'/></g><f to='1'/><f to='2'/><f to='3'/></r>",
+          "<r><w><g><i k='1'/></g></w><w><f to='1'/></w></r>"},
+        {"<r><w><g><i k='1'/></g></w><f to='2'/></r>", "<r><w><i k='1'/></w><f to='1'/></r>",
+          "<r><w><w><g><i k='1'/></g></w><g><i k='1'/></g></w><f to='1'/></r>",
+          "<r><w><g><i k='1'/></g></w><w><g><i k='1'/></g></w><f to='1'/></r>"}}},
     {"references within and around",
       {items() +
           "<xs:element name='g'><xs:complexType><xs:sequence><xs:any minOccurs='0' "
@@ -226,6 +241,16 @@ std::vector<Case> const& constraint_cases()
               {"<r><e refs='b a'/><e id='a'/><e id='b'/></r>", "<r><e id='a' ref='a'/></r>"},
               {"<r><e id='a'/><e id='a'/></r>", "<r><e refs='a b'/><e id='a'/></r>", "<r><e ref='x'/><e id='a'/></r>",
                 "<r><e refs=''/></r>"}}},
+    {"IDs beside other values",
+      {"<xs:element name='r'><xs:complexType><xs:sequence><xs:element name='e' "
+       "maxOccurs='unbounded'><xs:complexType><xs:simpleContent><xs:extension base='xs:int'><xs:attribute name='id' "
+       "type='xs:ID'/><xs:attribute name='n' type='xs:int'/><xs:attribute name='s'/><xs:attribute name='l' "
+       "type='xs:NMTOKENS'/></xs:extension></xs:simpleContent></xs:complexType></xs:element></xs:sequence>"
+       "</xs:complexType></xs:element>",
+        {"<r><e id='a' n='1' s='a' l='a b'>1</e></r>", "<r><e n='1' id='a' s='b'>1</e><e s='a' n='1' id='b'>2</e></r>",
+          "<r><e id='a'>1</e><e n='2'>1</e><e l='a' id='b'>1</e></r>"},
+        {"<r><e id='a' n='1'>1</e><e n='1' id='a'>2</e></r>", "<r><e id='a' s='b'>1</e><e s='a' id='a' n='2'>1</e></r>",
+          "<r><e id='a' n='b'>1</e></r>"}}},
     {"IDs of elements",
       {"<xs:element name='r'><xs:complexType><xs:sequence><xs:element name='e' type='xs:ID' maxOccurs='9'/><xs:element "
        "name='f' type='xs:IDREF' minOccurs='0'/></xs:sequence></xs:complexType></xs:element>",

@@ -24,6 +24,9 @@ using Kind = axmModelKind;
 
 char const file[] = "source/utest/axmSearchUtest";
 
+wchar_t const* const attribute_names[] = {L"k", L"K", L"id", L"a"};
+wchar_t const* const values[] = {L"v", L"0", L"x", L" x "};
+
 // A document in the model and in the engine, node by node.
 class Pair
 {
@@ -63,6 +66,22 @@ public:
       return;
     handles[static_cast<std::size_t>(parent)]->removeChild(handles[static_cast<std::size_t>(number)]);
     model.remove(number);
+  }
+
+  // Another value of an attribute of an element, or of a text among its children. The tree stays as it is.
+  void change(int number, axmModelRandom& random)
+  {
+    std::wstring const value = random.one_of(values);
+    for (int const child : model.node(number).children)
+      if (model.node(child).kind == Kind::text && random.once_in(2))
+      {
+        handles[static_cast<std::size_t>(child)]->set_text(apString(std::wstring_view(value)));
+        model.set_text(child, value);
+        return;
+      }
+    std::wstring const name = random.one_of(attribute_names);
+    element(number)->setAttribute(apString(std::wstring_view(name)), apString(std::wstring_view(value)));
+    model.set_attribute(number, name, value);
   }
 
   axmModel model;
@@ -127,6 +146,23 @@ bool are_attributes(Pair const& pair, axmNodeList& list, int first, std::vector<
   return promised == came;
 }
 
+// Whether the cursor goes over all items, past the end and to the first one again, and back where a reset puts it.
+bool is_walked(axmNodeList& list, int length)
+{
+  for (int index = 0; index < length; ++index)
+    if (!++list || list.invalid() || !same(list(), list.at(index)))
+      return false;
+  if (++list || !list.invalid() || ++list != (length > 0))
+    return false;
+  list.reset();
+  if (!list.invalid())
+    return false;
+  for (int index = 0; index < length; ++index)
+    if (!same(list.next_node(), list.at(index)))
+      return false;
+  return list.next_node() == nullptr && list.invalid();
+}
+
 bool are_found(Pair const& pair, axmNodeList& list, std::vector<int> const& promised)
 {
   int const length = static_cast<int>(promised.size());
@@ -151,7 +187,7 @@ bool are_found(Pair const& pair, axmNodeList& list, std::vector<int> const& prom
       return false;
     index += of_one.size();
   }
-  return list.at(length) == nullptr && list.at(-1) == nullptr && list.at(INT_MAX) == nullptr;
+  return list.at(length) == nullptr && list.at(-1) == nullptr && list.at(INT_MAX) == nullptr && is_walked(list, length);
 }
 
 // Whether a search from the element `context` finds what it must; if not, what was searched and what came is told.
@@ -177,19 +213,36 @@ bool search(utUnitTest& tester, Pair const& pair, int context, axmModelSearch co
   return false;
 }
 
+// Whether searches that were made before find what they must once attributes and texts have other values.
+bool search_again(utUnitTest& tester, Pair& pair, std::vector<int> const& elements,
+  std::vector<std::pair<int, axmModelSearch>> const& searches, axmModelRandom& random)
+{
+  for (int count = 0; count < 3; ++count)
+    pair.change(random.one_of(elements), random);
+  return std::all_of(
+    searches.begin(), searches.end(), [&](auto const& made) { return search(tester, pair, made.first, made.second); });
+}
+
 bool search_in(utUnitTest& tester, axmDocumentFactory const& factory, std::uint64_t number)
 {
   Pair pair(factory, static_cast<int>(number % 1000003U));
   if (!pair.is_whole)
     return false;
   axmModelRandom random(number);
+  std::vector<std::pair<int, axmModelSearch>> searches;
   for (int count = 0; count < 24; ++count)
   {
     std::vector<int> const contexts = pair.elements();
-    if (!search(tester, pair, random.one_of(contexts), axmModelSearch(random)))
+    searches.emplace_back(random.one_of(contexts), axmModelSearch(random));
+    if (!search(tester, pair, searches.back().first, searches.back().second))
       return false;
     if (random.once_in(8))
+    {
       pair.remove(random.one_of(contexts));
+      searches.clear();
+    }
+    else if (random.once_in(4) && !search_again(tester, pair, contexts, searches, random))
+      return false;
   }
   return true;
 }
@@ -250,4 +303,8 @@ void axmSearchUtest::test_lists(Factory const& factory) const
   remove(root, first->at(2));
   group.check(length_of(root->selectNodes(APSTRING("a"))), 2, "root->selectNodes(\"a\")->length()", __LINE__,
     "a search after a removal is a new one");
+  bool are_there = true;
+  for (int index = 0; index < loop_length_of(first); ++index)
+    are_there = are_there && first->at(index) != nullptr;
+  group.check(are_there, "first->at(index) for each index", __LINE__, "an item of a list is never missing");
 }

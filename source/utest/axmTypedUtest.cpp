@@ -147,9 +147,17 @@ bool gets(std::optional<Value> const& promised, Value before, Get get)
   return got == promised.has_value() && equal(value, got ? *promised : before);
 }
 
-bool getters_are_right(axmElement& element, std::wstring const& text)
+// Names under which values are set and asked for: what holds for one holds for all.
+apString drawn_name(axmModelRandom& random)
 {
-  apString const name = APSTRING("N");
+  if (random.once_in(8))
+    return wide(std::wstring(static_cast<std::size_t>(1 + random.below(300)), L'n'));
+  wchar_t const* const names[] = {L"N", L"p:k", L"\u0444", L"a.b-c_1", L"\U00010437", L"k"};
+  return random.one_of(names);
+}
+
+bool getters_are_right(axmElement& element, apString const& name, std::wstring const& text)
+{
   element.setAttribute(name, wide(text));
   auto const truth = promised_bool(text);
   apString as_text = APSTRING("before");
@@ -192,9 +200,8 @@ apString printed(char const* format, double value, bool with_point)
   return result;
 }
 
-bool setters_are_right(axmElement& element, axmModelRandom& random)
+bool setters_are_right(axmElement& element, apString const& name, axmModelRandom& random)
 {
-  apString const name = APSTRING("N");
   auto const holds = [&](bool set, apString const& text) { return set && element.getAttribute(name) == text; };
   int const counts[] = {0, 1, -1, INT_MAX, INT_MIN, INT_MAX - 1, 255, 65536, static_cast<int>(random.next())};
   unsigned int const sizes[] = {0U, 1U, UINT_MAX, 2147483648U, static_cast<unsigned int>(random.next())};
@@ -217,9 +224,11 @@ bool run_getters(utUnitTest& tester, axmElement& element, axmModelRandom random,
   for (int round = 0; round < fixed + rounds; ++round)
   {
     std::wstring const text = round < fixed ? words[round] : drawn_text(random);
-    if (getters_are_right(element, text))
+    apString const name = drawn_name(random);
+    if (getters_are_right(element, name, text))
       continue;
-    tester.printf("a getter does not do what it must with the text %s", axmModelText::quoted(text).c_str());
+    tester.printf("a getter does not do what it must with the text %s under the name %s",
+      axmModelText::quoted(text).c_str(), axmModelText::quoted(name.view()).c_str());
     return false;
   }
   return true;
@@ -241,7 +250,7 @@ bool run_setters(axmElement& element, axmModelRandom random, int rounds)
   if (!keeps_not_a_number(element))
     return false;
   for (int round = 0; round < rounds; ++round)
-    if (!setters_are_right(element, random))
+    if (!setters_are_right(element, drawn_name(random), random))
       return false;
   return true;
 }

@@ -488,6 +488,10 @@ Taken const taken_comments[] = {
   {"<r><!---a--></r>", "<r><!---a--></r>"},
   {"<r><!--\xC3\xA4\n\t--></r>", "<r><!--\xC3\xA4\n\t--></r>"},
   {"<r><!--a\xEF\xBF\xBD\xED\x9F\xBF--></r>", "<r><!--a\xEF\xBF\xBD\xED\x9F\xBF--></r>"},
+  {"<r><!--a\r\nb\rc\n\r--></r>", "<r><!--a\nb\nc\n\n--></r>"},
+  {"<!--a\r\nb--><r/><!--\rc-->", "<!--a\nb--><r></r><!--\nc-->"},
+  {"<r><?a b\r\nc\rd\n\r?></r>", "<r><?a b\nc\nd\n\n?></r>"},
+  {"<?a\r\nb\rc?><r/><?d \re\r\n?>", "<?a b\nc?><r></r><?d e\n?>"},
   {"<r>a<!--b-->c</r>", "<r>a<!--b-->c</r>"},
   {"<r> <!--b--> </r>", "<r> <!--b--> </r>"},
   {"<r><?a?></r>", "<r><?a ?></r>"},
@@ -768,7 +772,11 @@ bool is_judged(axmDocumentFactory const& factory, std::string const& text)
   auto const document = factory.createDocument(APSTRING("r"));
   auto const named = factory.createDocument(name);
   auto const root = axmUtestAccess::root_of(document);
-  if (root == nullptr || (named != nullptr) != is_name || (document->createElement(name) != nullptr) != is_name)
+  auto const element = document != nullptr ? document->createElement(name) : nullptr;
+  if (root == nullptr || (named != nullptr) != is_name || (element != nullptr) != is_name)
+    return false;
+  axmUtestAccess::append(root, element);
+  if (axmUtestAccess::length_of(document->getElementsByTagName(name)) != (is_name ? 1 : 0))
     return false;
   root->setAttribute(name, APSTRING("v"));
   if (root->hasAttribute(name) != is_name || root->hasAttributes() != is_name)

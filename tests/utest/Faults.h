@@ -30,6 +30,9 @@ std::vector<Fault> const& promise_faults();
 // Those against the rules that the headers refer to.
 std::vector<Fault> const& rule_faults();
 
+// Those of what is held while others change, of what is deep, large or rare.
+std::vector<Fault> const& held_faults();
+
 // The text with every `wanted` replaced.
 apString replaced(apString text, apString const& wanted, apString const& replacement);
 

@@ -1,6 +1,6 @@
 // Writes the table of the faulty engines and of what sees them, as faults.txt holds it. An argument is a part of the names
 // of the faults wanted, --subtle for those that only the generated cases see, --promises for those read off the headers,
-// or --rules for those against what the headers refer to.
+// --rules for those against what the headers refer to, or --held for those of what is held, deep, large or rare.
 
 #include "Faults.h"
 #include "SuiteRun.h"
@@ -37,4 +37,6 @@ int main(int argc, char** argv)
     write(promise_faults(), run_all_classes, wanted);
   if (is_every || first == "--rules")
     write(rule_faults(), run_all_classes, wanted);
+  if (is_every || first == "--held")
+    write(held_faults(), run_all_classes, wanted);
 }

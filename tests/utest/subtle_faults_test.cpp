@@ -23,6 +23,11 @@ TEST(faults, those_against_rules_that_the_headers_refer_to_are_seen)
   expect_seen(rule_faults(), run_all_classes);
 }
 
+TEST(faults, those_of_what_is_held_deep_large_or_rare_are_seen)
+{
+  expect_seen(held_faults(), run_all_classes);
+}
+
 TEST(faults, subtle_ones_of_factories_are_seen)
 {
   expect_seen(subtle_factory_faults(), run_generated_classes);
