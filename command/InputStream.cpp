@@ -90,6 +90,8 @@ bool InputStream::read_compressed()
 
 std::size_t InputStream::read_bytes(char* to, std::size_t size)
 {
+  if (std::feof(file) != 0)
+    return 0; // the system would be asked once more
   std::size_t const count = std::fread(to, 1, size, file);
   if (count == 0 && std::ferror(file) != 0)
     wrong = std::string("cannot be read: ") + std::strerror(errno);
