@@ -160,29 +160,50 @@ void axsIdentityChecks::select(axsKnownName const& name, std::function<axsPlace(
 
 void axsIdentityChecks::select_in(std::size_t scope, axsKnownName const& name, axsPlace place)
 {
-  Plan const& plan = *scopes[scope].plan;
+  Plan& plan = *scopes[scope].plan;
+  if (plan.has_deep_fields)
+  {
+    if (plan.selections.empty())
+      plans_with_deep_fields.push_back(&plan);
+    plan.selections.push_back(selections.size());
+  }
   selections.push_back({open.size(), scope, &name, place, {}, {}});
   selections.back().fields.resize(plan.fields.size());
-  selections_with_deep_fields += plan.has_deep_fields ? 1U : 0U;
 }
 
-// Visits the selections of which a field may lead to the innermost element.
-template <class Visit>
-void axsIdentityChecks::for_each_near(Visit visit)
+// The last one.
+void axsIdentityChecks::deselect()
 {
-  for (std::size_t i = selections.size(); i-- > 0;)
-  {
-    if (selections_with_deep_fields == 0 && selections[i].level + depth_of_fields < open.size())
-      return;
-    visit(i);
-  }
+  Plan& plan = *scopes[selections.back().scope].plan;
+  selections.pop_back();
+  if (!plan.has_deep_fields)
+    return;
+  plan.selections.pop_back();
+  if (plan.selections.empty())
+    plans_with_deep_fields.pop_back();
+}
+
+// Visits the selections of which a field may lead to the innermost element: those of the last levels, and of those further
+// out the ones whose fields lead there to any depth. As a field has one value, these are not visited often.
+template <class Visit, class Leads>
+void axsIdentityChecks::for_each_led_here(Visit visit, Leads leads_deep)
+{
+  std::size_t near = selections.size();
+  for (; near > 0 && selections[near - 1].level + depth_of_fields >= open.size(); --near)
+    visit(near - 1);
+  for (Plan const* const plan : plans_with_deep_fields)
+    if (plan->selections.front() < near && std::any_of(plan->fields.begin(), plan->fields.end(), leads_deep))
+      for (std::size_t i = 0; i < plan->selections.size() && plan->selections[i] < near; ++i)
+        visit(plan->selections[i]);
 }
 
 void axsIdentityChecks::await_fields()
 {
-  attributes_wanted = false;
-  for_each_near(
-    [this](std::size_t number)
+  auto const has_attributes = [](axsIdentityMatcher const& field) { return field.has_attributes(); };
+  attributes_wanted = std::any_of(plans_with_deep_fields.begin(), plans_with_deep_fields.end(),
+    [&](Plan const* plan) { return std::any_of(plan->fields.begin(), plan->fields.end(), has_attributes); });
+  for_each_led_here(
+    [&](std::size_t number)
     {
       Selection& selection = selections[number];
       std::vector<axsIdentityMatcher> const& fields = scopes[selection.scope].plan->fields;
@@ -192,12 +213,13 @@ void axsIdentityChecks::await_fields()
         if (fields[i].leads_to_element(open, selection.level - 1) && found_field(selection, i) != nullptr)
           awaited.push_back({open.size(), number, i});
       }
-    });
+    },
+    [this](axsIdentityMatcher const& field) { return field.innermost_origin(open) != 0; });
 }
 
 void axsIdentityChecks::attribute(std::string_view name_space, std::string_view local, Value const& value)
 {
-  for_each_near(
+  for_each_led_here(
     [&](std::size_t number)
     {
       Selection& selection = selections[number];
@@ -206,7 +228,8 @@ void axsIdentityChecks::attribute(std::string_view name_space, std::string_view 
         if (fields[i].leads_to_attribute(open, selection.level - 1, name_space, local))
           if (Field* const field = found_field(selection, i))
             set(selection, *field, value);
-    });
+    },
+    [&](axsIdentityMatcher const& field) { return field.leads_deep_to_attribute(open, name_space, local); });
 }
 
 // A field has one value at most (cvc-identity-constraint.3).
@@ -262,8 +285,7 @@ void axsIdentityChecks::end()
   while (!selections.empty() && selections.back().level == open.size())
   {
     complete(selections.back());
-    selections_with_deep_fields -= scopes[selections.back().scope].plan->has_deep_fields ? 1U : 0U;
-    selections.pop_back();
+    deselect();
   }
   close_scopes();
   open.pop_back();

@@ -85,7 +85,8 @@ private:
     std::vector<axsIdentityMatcher> fields;
     std::size_t depth_of_fields = 0;
     bool has_deep_fields = false;
-    std::vector<std::size_t> scopes; // that are open, by their numbers
+    std::vector<std::size_t> selections; // with deep fields: those that are open, by their numbers
+    std::vector<std::size_t> scopes;     // that are open, by their numbers
 
     bool is_reference() const noexcept { return constraint->category == axsIdentityConstraint::Category::keyref; }
     // Whether what is selected in an element is so in all those around it that have the constraint.
@@ -144,8 +145,9 @@ private:
   void select(axsKnownName const& name, std::function<axsPlace()> const& place);
   void select_in(std::size_t scope, axsKnownName const& name, axsPlace place);
   void await_fields();
-  template <class Visit>
-  void for_each_near(Visit visit);
+  void deselect();
+  template <class Visit, class Leads>
+  void for_each_led_here(Visit visit, Leads leads_deep);
   Field* found_field(Selection& selection, std::size_t field);
   void set(Selection& selection, Field& field, Value const& value);
   void complete(Selection& selection);
@@ -171,7 +173,7 @@ private:
   std::size_t depth_of_selectors = 0;
   std::vector<Selection> selections;
   std::size_t depth_of_fields = 0;
-  std::size_t selections_with_deep_fields = 0;
+  std::vector<Plan*> plans_with_deep_fields; // that have selections
   std::vector<Awaited> awaited;
   // What the elements within an open one have as keys that it refers to.
   std::map<LevelAndKey, std::unique_ptr<axsIdentityTable>> inherited;

@@ -58,11 +58,17 @@ bool axsIdentityMatcher::is_at(
   return is_within && has_names(alternative, open);
 }
 
+bool axsIdentityMatcher::is_deep_at(
+  Alternative const& alternative, std::vector<axsKnownName const*> const& open) noexcept
+{
+  return alternative.from_descendants && open.size() > alternative.children.size() && has_names(alternative, open);
+}
+
 std::size_t axsIdentityMatcher::innermost_origin(std::vector<axsKnownName const*> const& open) const
 {
   std::size_t level = 0;
   for (Alternative const& alternative : alternatives)
-    if (alternative.from_descendants && open.size() > alternative.children.size() && has_names(alternative, open))
+    if (alternative.attribute == nullptr && is_deep_at(alternative, open))
       level = std::max(level, open.size() - alternative.children.size());
   return level;
 }
@@ -81,5 +87,16 @@ bool axsIdentityMatcher::leads_to_attribute(std::vector<axsKnownName const*> con
     {
       return alternative.attribute != nullptr && fits(*alternative.attribute, name_space, local) &&
              is_at(alternative, open, from);
+    });
+}
+
+bool axsIdentityMatcher::leads_deep_to_attribute(
+  std::vector<axsKnownName const*> const& open, std::string_view name_space, std::string_view local) const
+{
+  return std::any_of(alternatives.begin(), alternatives.end(),
+    [&](Alternative const& alternative)
+    {
+      return alternative.attribute != nullptr && fits(*alternative.attribute, name_space, local) &&
+             is_deep_at(alternative, open);
     });
 }

@@ -18,12 +18,16 @@ public:
   bool leads_to_element(std::vector<axsKnownName const*> const& open, std::size_t from) const;
 
   /// The innermost level, counted from 1, from which the path leads to the last of them to any depth, as it then does from
-  /// all levels around that; 0 if it does from none.
+  /// all levels around that; 0 if it does from none. Of a field, by elements.
   std::size_t innermost_origin(std::vector<axsKnownName const*> const& open) const;
 
   /// Whether it leads to the attribute of the last one.
   bool leads_to_attribute(std::vector<axsKnownName const*> const& open, std::size_t from, std::string_view name_space,
     std::string_view local) const;
+
+  /// Whether it leads there to any depth, from some level.
+  bool leads_deep_to_attribute(
+    std::vector<axsKnownName const*> const& open, std::string_view name_space, std::string_view local) const;
 
   /// Whether it leads to attributes at all.
   bool has_attributes() const noexcept { return attributes; }
@@ -43,6 +47,7 @@ private:
   };
 
   static bool has_names(Alternative const& alternative, std::vector<axsKnownName const*> const& open) noexcept;
+  static bool is_deep_at(Alternative const& alternative, std::vector<axsKnownName const*> const& open) noexcept;
   static bool is_at(
     Alternative const& alternative, std::vector<axsKnownName const*> const& open, std::size_t from) noexcept;
 

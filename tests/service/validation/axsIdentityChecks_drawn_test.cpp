@@ -52,6 +52,7 @@ struct Constraints
   char reference_on;
   Path keys;
   Path references;
+  bool is_field_deep; // of the keys
 };
 
 std::string declaration(char name, Constraints const& constraints)
@@ -64,8 +65,8 @@ std::string declaration(char name, Constraints const& constraints)
     text += "<xs:keyref name='f' refer='u'><xs:selector xpath='" + xpath_of(constraints.references) +
             "'/><xs:field xpath='@t'/></xs:keyref>";
   if (name == constraints.key_on)
-    text +=
-      "<xs:unique name='u'><xs:selector xpath='" + xpath_of(constraints.keys) + "'/><xs:field xpath='@k'/></xs:unique>";
+    text += "<xs:unique name='u'><xs:selector xpath='" + xpath_of(constraints.keys) + "'/><xs:field xpath='" +
+            (constraints.is_field_deep ? ".//@k" : "@k") + "'/></xs:unique>";
   return text + "</xs:element>";
 }
 
@@ -125,13 +126,26 @@ private:
     return selected;
   }
 
+  int value_of(Node const& key)
+  {
+    int value = key.key;
+    if (constraints.is_field_deep)
+      for (Node const& child : key.children)
+        if (int const found = value_of(child); found != 0)
+        {
+          valid = valid && value == 0;
+          value = found;
+        }
+    return value;
+  }
+
   Table table_of(Node const& node)
   {
     Table table;
     if (node.name == constraints.key_on)
       for (Node const* const key : selected_in(node, constraints.keys))
-        if (key->key != 0)
-          valid = table.emplace(key->key, key).second && valid;
+        if (int const value = value_of(*key); value != 0)
+          valid = table.emplace(value, key).second && valid;
     std::map<int, std::vector<Node const*>> inherited;
     for (Node const& child : node.children)
       for (auto const& [value, key] : table_of(child))
@@ -204,8 +218,8 @@ TEST(axsIdentityChecks, drawn_keys_and_references_are_judged_as_the_recommendati
   std::array<int, 2> verdicts{};
   for (int i = 0; i < 400; ++i)
   {
-    Constraints const constraints{
-      "ab"[draw.below(2)], "abc"[draw.below(3)], paths[draw.below(paths.size())], paths[draw.below(paths.size())]};
+    Constraints const constraints{"ab"[draw.below(2)], "abc"[draw.below(3)], paths[draw.below(paths.size())],
+      paths[draw.below(paths.size())], draw.below(4) == 0};
     Schema const schema(schema_of(constraints));
     ASSERT_EQ(schema.fault(), "");
     for (int j = 0; j < 40; ++j)

@@ -195,6 +195,29 @@ TEST(axsIdentityChecks, keys_and_references_of_any_depth_in_each_of_many_levels_
   }
 }
 
+// Fields that may lead to any element within are not looked for once in each for each level around it.
+TEST(axsIdentityChecks, fields_of_any_depth_in_each_of_many_levels_are_held)
+{
+  Schema const schema(items + root(constraint("unique", "u", ".//r", {".//@l|.//v"})));
+  ASSERT_EQ(schema.fault(), "");
+  std::string open;
+  std::string close;
+  for (int i = 0; i < 30000; ++i)
+  {
+    open += "<r><i k='1'/>";
+    close += "</r>";
+  }
+  EXPECT_EQ(schema.wrong(open + close), "");
+  EXPECT_EQ(schema.wrong("<r><r><i l='1'/></r><r><i><v>1</v></i></r></r>"), "");
+  EXPECT_NE(schema.wrong(open + "<i l='x'/>" + close), "");
+  EXPECT_NE(schema.wrong(open + "<i><v>1</v></i>" + close), "");
+  EXPECT_NE(schema.wrong(open + "<i l='x'><v>1</v></i>" + close), "");
+  EXPECT_EQ(
+    schema.wrong("<r><r><i l='1'><v>1</v></i></r></r>"), "1: element 'r': a field of a key has several values here\n");
+  EXPECT_EQ(schema.wrong("<r>\n<r><i l='1'/></r>\n<r><i l='1'/></r></r>"),
+    "3: element 'r': what must be unique in the element 'r' is not: \"1\"; first at line 2\n");
+}
+
 // What is unique for elements of any depth is so for each level; what is wrong with it is told once.
 TEST(axsIdentityChecks, what_is_wrong_at_several_levels_is_told_once)
 {
