@@ -12,7 +12,9 @@ void write_whole(axsSource& source, axmLoadOptions const& reading, axsCanonicalO
   axsCanonicalForm::Write const& write)
 {
   axsCanonicalWriter writer(options, write);
-  axsParser(source, reading, writer).run();
+  // It tells the writer where it is, also in what is written last.
+  axsParser parser(source, reading, writer);
+  parser.run();
   writer.finish();
 }
 }

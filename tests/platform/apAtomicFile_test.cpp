@@ -334,6 +334,13 @@ TEST(apAtomicFile, writes_to_a_descriptor_of_the_process_whatever_it_leads_to)
   EXPECT_FALSE(put(apPath("/dev/fd/12345"), "new"));
 }
 
+TEST(apAtomicFile, a_name_that_only_looks_like_that_of_a_descriptor_is_none)
+{
+  for (char const* const name :
+    {"/dev/fd/", "/dev/fd/x", "/dev/fd/1x", "/dev/fd/-1", "/dev/fd/99999999999", "/proc/self/fd/2 "})
+    EXPECT_FALSE(put(apPath(name), "new")) << name;
+}
+
 TEST(apAtomicFile, writes_straight_to_what_is_no_regular_file)
 {
   Folder const folder;
