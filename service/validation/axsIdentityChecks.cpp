@@ -99,12 +99,10 @@ void axsIdentityChecks::open_scopes(axsElementDecl const& decl, axsKnownName con
 
 void axsIdentityChecks::open_scope(Plan& plan, axsKnownName const& name)
 {
-  Scope scope{open.size(), &plan, &name, nullptr, {}};
-  if (!plan.is_reference())
-    scope.table = table_for(plan, scope.level);
-  else if (plan.key != nullptr)
-    if (Scope const* const around = nesting_scope_of(*plan.key))
-      scope.first_key = around->table->size();
+  Scope scope{open.size(), &plan, &name, nullptr, nullptr};
+  if (plan.is_reference() && plan.key != nullptr)
+    if (Plan const* const key = plan.key->plan; key != nullptr && key->table != nullptr)
+      scope.first_key = key->table->size();
   if (plan.is_nesting() && plan.scopes.empty())
     nesting_plans.push_back(&plan);
   if (!plan.is_nesting() && plan.selector.is_deep())
@@ -113,18 +111,13 @@ void axsIdentityChecks::open_scope(Plan& plan, axsKnownName const& name)
   scopes.push_back(std::move(scope));
 }
 
-std::shared_ptr<axsIdentityTable> axsIdentityChecks::table_for(Plan const& plan, std::size_t level)
+axsIdentityTable& axsIdentityChecks::table_of(Scope& scope)
 {
-  if (Scope const* const around = nesting_scope_of(*plan.key))
-    return around->table;
-  return std::make_shared<axsIdentityTable>(level);
-}
-
-// The innermost scope of a key whose scopes have one table. Null without one.
-axsIdentityChecks::Scope const* axsIdentityChecks::nesting_scope_of(Key const& key) const noexcept
-{
-  bool const is_open = key.plan != nullptr && key.plan->is_nesting() && !key.plan->scopes.empty();
-  return is_open ? &scopes[key.plan->scopes.back()] : nullptr;
+  bool const is_shared = scope.plan->is_nesting();
+  std::unique_ptr<axsIdentityTable>& table = is_shared ? scope.plan->table : scope.table;
+  if (table == nullptr)
+    table = std::make_unique<axsIdentityTable>(is_shared ? scopes[scope.plan->scopes.front()].level : scope.level);
+  return *table;
 }
 
 // What is unique in an element is so in each within it: where an outer element has the same constraint, the inner one needs
@@ -303,10 +296,15 @@ void axsIdentityChecks::complete(Selection& selection)
     for (Field const& field : selection.fields)
       append(key, field.bytes);
   if (scope.plan->is_reference())
-    return scope.references.add(key, std::move(selection.text), selection.place);
-  std::size_t const known = scope.table->add(key, selection.place, scope.level);
+  {
+    if (scope.references == nullptr)
+      scope.references = std::make_unique<axsIdentityReferences>();
+    return scope.references->add(key, std::move(selection.text), selection.place);
+  }
+  axsIdentityTable& table = table_of(scope);
+  std::size_t const known = table.add(key, selection.place, scope.level);
   if (known != axsIdentityTable::none)
-    report_duplicate(selection, scope.table->place(known));
+    report_duplicate(selection, table.place(known));
 }
 
 // Only of a key, each part must have a value (cvc-identity-constraint.4.2.1).
@@ -341,10 +339,10 @@ void axsIdentityChecks::report_duplicate(Selection const& selection, axsPlace fi
 // Each reference must find a key in the element or within it (cvc-identity-constraint.4.3).
 void axsIdentityChecks::check_references(Scope& scope)
 {
-  if (!scope.plan->is_reference() || scope.plan->key == nullptr)
+  if (scope.references == nullptr || scope.plan->key == nullptr)
     return;
   auto const has_key = keys_in(scope);
-  scope.references.visit_open(
+  scope.references->visit_open(
     [&](std::string_view value, std::string const& text, axsPlace place)
     {
       if (!has_key(value))
@@ -356,26 +354,25 @@ void axsIdentityChecks::check_references(Scope& scope)
 std::function<bool(std::string_view)> axsIdentityChecks::keys_in(Scope const& scope)
 {
   Key const& key = *scope.plan->key;
-  if (Scope const* const around = nesting_scope_of(key))
-    return [&scope, table = around->table](std::string_view value)
-    { return table->has_within(value, scope.first_key, scope.level); };
-  return [table = table_of(key, scope.level)](std::string_view value) { return table != nullptr && table->has(value); };
+  if (key.plan != nullptr && key.plan->is_open_and_nesting())
+    return [&scope, table = key.plan->table.get()](std::string_view value)
+    { return table != nullptr && table->has_within(value, scope.first_key, scope.level); };
+  return [table = table_at(key, scope.level)](std::string_view value) { return table != nullptr && table->has(value); };
 }
 
 // The keys that an element and those within it have.
-axsIdentityTable const* axsIdentityChecks::table_of(Key const& key, std::size_t level)
+axsIdentityTable const* axsIdentityChecks::table_at(Key const& key, std::size_t level)
 {
   Plan const* const plan = key.plan;
-  bool const has_own = plan != nullptr && !plan->scopes.empty() && scopes[plan->scopes.back()].level == level;
-  if (!has_own)
+  Scope const* const scope = plan == nullptr || plan->scopes.empty() ? nullptr : &scopes[plan->scopes.back()];
+  if (scope == nullptr || scope->level != level || scope->table == nullptr)
   {
     auto const found = inherited.find({level, key.number});
     return found == inherited.end() ? nullptr : found->second.get();
   }
-  axsIdentityTable& own = *scopes[plan->scopes.back()].table;
   if (std::unique_ptr<axsIdentityTable> const inner = take_inherited(level, key))
-    own.inherit(std::move(*inner), [&](std::string_view value) { look_again(key, value); });
-  return &own;
+    scope->table->inherit(std::move(*inner), [&](std::string_view value) { look_again(key, value); });
+  return scope->table.get();
 }
 
 void axsIdentityChecks::close_scopes()
@@ -386,10 +383,14 @@ void axsIdentityChecks::close_scopes()
     --first;
   for (std::size_t i = first; i < scopes.size(); ++i)
     check_references(scopes[i]);
-  std::vector<std::pair<Key const*, std::shared_ptr<axsIdentityTable>>> closed;
+  std::vector<std::pair<Key const*, std::unique_ptr<axsIdentityTable>>> closed;
   for (; scopes.size() > first; close_scope())
-    if (!scopes.back().plan->is_reference() && !scopes.back().plan->shares_table())
-      closed.emplace_back(scopes.back().plan->key, std::move(scopes.back().table));
+  {
+    Plan& plan = *scopes.back().plan;
+    bool const is_last = plan.is_nesting() && plan.scopes.size() == 1;
+    if (auto& table = is_last ? plan.table : scopes.back().table; table != nullptr)
+      closed.emplace_back(plan.key, std::move(table));
+  }
   // Of equal values, those of the element itself count, not those within it.
   for (auto& [key, table] : closed)
   {
@@ -418,9 +419,18 @@ void axsIdentityChecks::close_scope()
     deep_scopes.pop_back();
   if (plan.is_reference() && plan.key != nullptr)
     --plan.key->references;
-  if (plan.is_reference() && plan.is_nesting() && !plan.scopes.empty())
-    scopes[plan.scopes.back()].references.take(std::move(scopes.back().references));
+  if (scopes.back().references != nullptr && plan.is_open_and_nesting())
+    hand_out(std::move(scopes.back().references), scopes[plan.scopes.back()]);
   scopes.pop_back();
+}
+
+// To the next scope around.
+void axsIdentityChecks::hand_out(std::unique_ptr<axsIdentityReferences> references, Scope& around)
+{
+  if (around.references == nullptr)
+    around.references = std::move(references);
+  else
+    around.references->take(std::move(*references));
 }
 
 std::unique_ptr<axsIdentityTable> axsIdentityChecks::take_inherited(std::size_t level, Key const& key)
@@ -450,6 +460,6 @@ void axsIdentityChecks::hand_up(Key const& key, axsIdentityTable&& table)
 void axsIdentityChecks::look_again(Key const& key, std::string_view value)
 {
   for (Plan const* const plan : key.referring)
-    if (plan->is_nesting() && !plan->scopes.empty())
-      scopes[plan->scopes.back()].references.look_again(value);
+    if (plan->is_open_and_nesting() && scopes[plan->scopes.back()].references != nullptr)
+      scopes[plan->scopes.back()].references->look_again(value);
 }

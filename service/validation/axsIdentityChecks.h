@@ -85,14 +85,14 @@ private:
     std::vector<axsIdentityMatcher> fields;
     std::size_t depth_of_fields = 0;
     bool has_deep_fields = false;
-    std::vector<std::size_t> selections; // with deep fields: those that are open, by their numbers
-    std::vector<std::size_t> scopes;     // that are open, by their numbers
+    std::vector<std::size_t> selections;     // with deep fields: those that are open, by their numbers
+    std::vector<std::size_t> scopes;         // that are open, by their numbers
+    std::unique_ptr<axsIdentityTable> table; // of a nesting key: that of all scopes, null without values
 
     bool is_reference() const noexcept { return constraint->category == axsIdentityConstraint::Category::keyref; }
     // Whether what is selected in an element is so in all those around it that have the constraint.
     bool is_nesting() const noexcept { return selector.is_deep_only(); }
-    // Whether the table of the innermost scope is that of others, too.
-    bool shares_table() const noexcept { return is_nesting() && scopes.size() > 1; }
+    bool is_open_and_nesting() const noexcept { return is_nesting() && !scopes.empty(); }
   };
 
   // An element with a constraint. Levels count the open elements from 1, from the outermost one with a constraint on.
@@ -101,9 +101,9 @@ private:
     std::size_t level;
     Plan* plan;
     axsKnownName const* name;
-    std::shared_ptr<axsIdentityTable> table; // of a key; where the constraint is nesting, that of the outermost scope
-    axsIdentityReferences references;        // of a keyref
-    std::size_t first_key = 0;               // of a keyref: how many keys there were in the table around it
+    std::unique_ptr<axsIdentityTable> table; // of a key that is not nesting; null without values, as the next one
+    std::unique_ptr<axsIdentityReferences> references; // of a keyref
+    std::size_t first_key = 0;                         // of a keyref to a nesting key: how many values that had before
   };
 
   struct Field
@@ -140,8 +140,7 @@ private:
   void open_scopes(axsElementDecl const& decl, axsKnownName const& name);
   void open_scope(Plan& plan, axsKnownName const& name);
   static bool is_covered(Plan const& plan) noexcept;
-  std::shared_ptr<axsIdentityTable> table_for(Plan const& plan, std::size_t level);
-  Scope const* nesting_scope_of(Key const& key) const noexcept;
+  axsIdentityTable& table_of(Scope& scope);
   void select(axsKnownName const& name, std::function<axsPlace()> const& place);
   void select_in(std::size_t scope, axsKnownName const& name, axsPlace place);
   void await_fields();
@@ -155,9 +154,10 @@ private:
   void report_duplicate(Selection const& selection, axsPlace first);
   void check_references(Scope& scope);
   std::function<bool(std::string_view)> keys_in(Scope const& scope);
-  axsIdentityTable const* table_of(Key const& key, std::size_t level);
+  axsIdentityTable const* table_at(Key const& key, std::size_t level);
   void close_scopes();
   void close_scope();
+  static void hand_out(std::unique_ptr<axsIdentityReferences> references, Scope& around);
   std::unique_ptr<axsIdentityTable> take_inherited(std::size_t level, Key const& key);
   void hand_up(Key const& key, axsIdentityTable&& table);
   void look_again(Key const& key, std::string_view value);
