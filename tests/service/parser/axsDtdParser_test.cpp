@@ -399,3 +399,95 @@ TEST(axsDtdParser, tokens_may_nearly_fill_a_piece)
   expect_taken({list("a NMTOKENS #IMPLIED", "<r b='&lt;first' a='&#65;  " + many + "'/>"),
     list("a NMTOKENS #IMPLIED", "<r b='&lt;first' a='A  " + many + "'/>")});
 }
+
+namespace
+{
+axmLoadOptions resolving()
+{
+  axmLoadOptions options(axmValidateNone);
+  options.set_disable_entity_resolution(false);
+  return options;
+}
+
+std::string const part_name = "axsDtdParser_part.txt";
+
+std::string with_part(std::string const& declared = {})
+{
+  return declared + with("<!ENTITY e SYSTEM '" + part_name + "'>", "<r>&e;</r>");
+}
+
+// The text of an external entity with these bytes.
+std::string text_of_part(std::string const& part, std::string const& declared = {})
+{
+  TestFile const file(part_name, part);
+  return narrow(load(with_part(declared), resolving())->getDocumentElement()->get_text());
+}
+
+std::string error_of_part(std::string const& part, std::string const& declared = {})
+{
+  TestFile const file(part_name, part);
+  return narrow(error_of(with_part(declared), resolving()).message());
+}
+
+bool tells(std::string const& message, std::string const& part)
+{
+  return message.find(part) != std::string::npos;
+}
+}
+
+// 4.3.1, 4.3.4
+TEST(axsDtdParser, an_external_entity_may_begin_with_a_text_declaration)
+{
+  EXPECT_EQ(text_of_part("text"), "text");
+  EXPECT_EQ(text_of_part("<?xml encoding='UTF-8'?>text"), "text");
+  EXPECT_EQ(text_of_part("<?xml version='1.0' encoding='ISO-8859-1' ?>\xE4"), "\xC3\xA4");
+  EXPECT_TRUE(tells(error_of_part("<?xml version='1.0'?>text"), "must have an encoding"));
+  EXPECT_TRUE(tells(error_of_part("<?xml encoding='UTF-8' standalone='yes'?>text"), "holds version and encoding only"));
+  std::string const xml_1_1 = "<?xml version='1.1'?>";
+  std::string const part_1_1 = "<?xml version='1.1' encoding='UTF-8'?>text";
+  EXPECT_TRUE(
+    tells(error_of_part(part_1_1), "the entity says that it is XML 1.1, and the document that it is XML 1.0"));
+  EXPECT_EQ(text_of_part(part_1_1, xml_1_1), "text");
+  EXPECT_EQ(text_of_part("<?xml version='1.0' encoding='UTF-8'?>text", xml_1_1), "text");
+}
+
+// XML 1.1, 2.11: the document's version is that of its entities.
+TEST(axsDtdParser, line_ends_of_an_external_entity_are_those_of_the_version_of_the_document)
+{
+  EXPECT_EQ(text_of_part("a\r\xC2\x85"
+                         "b\xC2\x85"
+                         "c\xE2\x80\xA8"
+                         "d\r\n",
+              "<?xml version='1.1'?>"),
+    "a\nb\nc\nd\n");
+  EXPECT_EQ(text_of_part("a\xC2\x85"
+                         "b\r\nc\r"),
+    "a\xC2\x85"
+    "b\nc\n");
+}
+
+TEST(axsDtdParser, an_external_entity_is_a_local_file_that_is_there)
+{
+  EXPECT_TRUE(
+    tells(narrow(error_of(with("<!ENTITY e SYSTEM 'http://localhost/e'>", "<r>&e;</r>"), resolving()).message()),
+      "is not a local file"));
+  EXPECT_TRUE(tells(narrow(error_of(with("<!ENTITY e SYSTEM 'not_there.txt'>", "<r>&e;</r>"), resolving()).message()),
+    "not_there.txt"));
+  axmParseError const wrong = [&]
+  {
+    TestFile const file(part_name, "one\n\xFF");
+    return error_of(with_part(), resolving());
+  }();
+  EXPECT_TRUE(tells(narrow(wrong.url()), part_name));
+  EXPECT_EQ(wrong.line_number(), 2);
+}
+
+// WFC: Entity Declared (4.1)
+TEST(axsDtdParser, a_document_that_stands_alone_does_not_use_what_is_declared_elsewhere)
+{
+  TestFile const subset("axsDtdParser_part.dtd", "<!ENTITY e 'x'><!ATTLIST r a CDATA '&e;'>");
+  std::string const document = "<!DOCTYPE r SYSTEM 'axsDtdParser_part.dtd'><r>&e;</r>";
+  EXPECT_EQ(narrow(load(document, resolving())->getDocumentElement()->get_text()), "x");
+  EXPECT_TRUE(tells(narrow(error_of("<?xml version='1.0' standalone='yes'?>" + document, resolving()).message()),
+    "which says that it is standalone"));
+}
