@@ -123,7 +123,7 @@ void axsContentModels::add_item(axsParticle const& particle, axsContentGroup& gr
   if (particle.element != nullptr)
     item.names = &names_of(*particle.element);
   else if (particle.wildcard != nullptr)
-    item.wildcard = &wildcard_of(*particle.wildcard);
+    item.wildcard = &wildcard_of(particle);
   else
     item.group = groups.at(particle.group).get();
   bool const is_complete = item.group == nullptr || sets.count(item.group) != 0;
@@ -192,8 +192,9 @@ axsContentNames const& axsContentModels::names_of(axsElementDecl const& decl)
   return made;
 }
 
-axsContentWildcard const& axsContentModels::wildcard_of(axsWildcard const& wildcard)
+axsContentWildcard const& axsContentModels::wildcard_of(axsParticle const& particle)
 {
+  axsWildcard const& wildcard = *particle.wildcard;
   auto const [at, is_new] = wildcards.try_emplace(&wildcard);
   axsContentWildcard& made = at->second;
   if (!is_new)
@@ -207,5 +208,14 @@ axsContentWildcard const& axsContentModels::wildcard_of(axsWildcard const& wildc
     made.spaces.push_back(names.add_space({}));
   std::sort(made.spaces.begin(), made.spaces.end());
   made.spaces.erase(std::unique(made.spaces.begin(), made.spaces.end()), made.spaces.end());
+  if (made.is_broad)
+    return made;
+  axsContentItem& item = items_of_wildcards.emplace_back();
+  item.wildcard = &made;
+  item.particle = &particle;
+  std::vector<axsSymbolSet::Span> spans;
+  for (std::uint32_t const space : made.spaces)
+    spans.push_back({space, space, &item});
+  made.reach.add(std::move(spans));
   return made;
 }

@@ -49,12 +49,13 @@ private:
   void compile_groups(axsModelGroup const& outermost, axsContentProblem& problem);
   void complete(axsContentGroup& group, axsContentProblem& problem);
   void add_item(axsParticle const& particle, axsContentGroup& group);
-  axsContentWildcard const& wildcard_of(axsWildcard const& wildcard);
+  axsContentWildcard const& wildcard_of(axsParticle const& particle);
 
   axsSymbols names;
   bool is_guarded = false; // whether any declaration or type blocks what could stand in its place
   std::unordered_map<axsElementDecl const*, axsContentNames> names_of_decls;
   std::unordered_map<axsWildcard const*, axsContentWildcard> wildcards;
+  std::deque<axsContentItem> items_of_wildcards; // one of each, to which their sets refer
   std::unordered_map<axsModelGroup const*, std::unique_ptr<axsContentGroup>> groups;
   std::unordered_map<axsContentGroup const*, axsAttribution::Sets> sets;
   std::deque<axsContentGroup> tops; // of the automata

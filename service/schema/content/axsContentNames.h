@@ -1,5 +1,6 @@
 #pragma once
 
+#include "axsSymbolSet.h"
 #include "axsSymbols.h"
 
 #include <algorithm>
@@ -47,6 +48,7 @@ struct axsContentWildcard
   axsWildcard const* wildcard = nullptr;
   bool is_broad = false;             // takes all but `spaces`
   std::vector<std::uint32_t> spaces; // sorted
+  axsSymbolSet reach;                // those that it takes, unless it is broad; shared by all contents that have it
 
   /// `space` is axsSymbols::none for a namespace that the schema does not know.
   bool allows(std::uint32_t space) const noexcept

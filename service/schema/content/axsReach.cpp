@@ -1,29 +1,26 @@
 #include "axsReach.h"
 
 #include <algorithm>
+#include <utility>
 
 void axsReach::add(axsContentItem const& leaf)
 {
   axsReach own;
   std::vector<axsSymbolSet::Span> spans;
-  auto const add_spaces = [&](std::vector<std::uint32_t> const& numbers, axsSymbolSet& to)
-  {
-    spans.clear();
-    for (std::uint32_t const number : numbers)
-      spans.push_back({number, number, &leaf});
-    to.add(spans);
-  };
   if (leaf.names != nullptr)
   {
     for (axsContentNames::Span const& span : leaf.names->spans)
       spans.push_back({span.first, span.last, &leaf});
-    own.names.add(spans);
-    add_spaces(leaf.names->spaces, own.spaces);
+    own.names.add(std::move(spans));
+    spans.clear();
+    for (std::uint32_t const space : leaf.names->spaces)
+      spans.push_back({space, space, &leaf});
+    own.spaces.add(std::move(spans));
   }
   else if (leaf.wildcard != nullptr && leaf.wildcard->is_broad)
     own.broad.push_back(&leaf);
   else if (leaf.wildcard != nullptr)
-    add_spaces(leaf.wildcard->spaces, own.narrow);
+    own.narrow = leaf.wildcard->reach;
   unite(own);
 }
 

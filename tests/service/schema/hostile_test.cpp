@@ -89,6 +89,25 @@ TEST(hostile_schemas, types_with_long_lists_of_namespaces_share_them)
     "");
 }
 
+TEST(hostile_schemas, contents_with_long_lists_of_namespaces_share_them)
+{
+  std::string const names = repeated(many, [](int i) { return " urn:" + number(i); });
+  std::string const group =
+    "<xs:group name='g'><xs:sequence><xs:any namespace='" + names + "'/></xs:sequence></xs:group>";
+  for (char const* const before : {"", "<xs:element name='a' minOccurs='0'/>"})
+  {
+    auto const type = [&](int i)
+    {
+      return "<xs:complexType name='t" + number(i) + "'><xs:sequence>" + before +
+             "<xs:group ref='g' minOccurs='0'/><xs:element name='b'/></xs:sequence></xs:complexType>";
+    };
+    EXPECT_EQ(error_of_schema(group + repeated(many, type)), "") << before;
+  }
+  EXPECT_NE(error_of_schema(group + in_type("<xs:sequence><xs:group ref='g' minOccurs='0'/><xs:any namespace='urn:1'/>"
+                                            "</xs:sequence>")),
+    "");
+}
+
 TEST(hostile_schemas, circles_over_10000_definitions_are_found)
 {
   std::pair<char const*, char const*> const parts[] = {
