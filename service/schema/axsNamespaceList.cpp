@@ -54,34 +54,48 @@ bool axsNamespaceList::shares(std::shared_ptr<Block const> const& block) const n
   return std::find(blocks.begin(), blocks.end(), block) != blocks.end();
 }
 
-// Visits the names that do not lie in a block of both lists, until a visit says no; whether none did.
 template <class Visit>
-bool axsNamespaceList::all_apart_from(axsNamespaceList const& other, Visit visit) const
+void axsNamespaceList::for_each(Visit visit) const
 {
   for (std::shared_ptr<Block const> const& block : blocks)
-    if (!other.shares(block))
-      for (std::string const& name : *block)
-        if (!is_left_out(name) && !visit(name))
-          return false;
-  return true;
+    for (std::string const& name : *block)
+      if (!is_left_out(name))
+        visit(name);
 }
 
-bool axsNamespaceList::has_all_of(axsNamespaceList const& other) const noexcept
+// The names that another list has, and this one has not.
+axsNamespaceList::Block axsNamespaceList::missing_of(axsNamespaceList const& other) const
 {
-  auto const is_in_other = [&](std::string const& name) { return other.has(name); };
-  return std::none_of(left_out.begin(), left_out.end(), is_in_other) &&
-         other.all_apart_from(*this, [this](std::string const& name) { return has(name); });
+  Block missing;
+  if (identity() != nullptr && other.identity() != nullptr)
+  {
+    Block const& own = *blocks.front();
+    Block const& its = *other.blocks.front();
+    if (&own != &its)
+      std::set_difference(its.begin(), its.end(), own.begin(), own.end(), std::back_inserter(missing));
+    return missing;
+  }
+  for (std::shared_ptr<Block const> const& block : other.blocks)
+    if (!shares(block))
+      std::copy_if(block->begin(), block->end(), std::back_inserter(missing),
+        [&](std::string const& name) { return !other.is_left_out(name) && !has(name); });
+    else
+      std::copy_if(left_out.begin(), left_out.end(), std::back_inserter(missing),
+        [&](std::string const& name)
+        { return !other.is_left_out(name) && std::binary_search(block->begin(), block->end(), name); });
+  std::sort(missing.begin(), missing.end());
+  return missing;
+}
+
+bool axsNamespaceList::has_all_of(axsNamespaceList const& other) const
+{
+  return missing_of(other).empty();
 }
 
 std::vector<std::string_view> axsNamespaceList::names() const
 {
   std::vector<std::string_view> all;
-  all_apart_from({},
-    [&](std::string const& name)
-    {
-      all.emplace_back(name);
-      return true;
-    });
+  for_each([&](std::string const& name) { all.emplace_back(name); });
   std::sort(all.begin(), all.end());
   return all;
 }
@@ -94,16 +108,7 @@ axsNamespaceList axsNamespaceList::with(axsNamespaceList const& other) const
   axsNamespaceList both = *this;
   auto const is_in_other = [&](std::string const& name) { return other.has(name); };
   both.left_out.erase(std::remove_if(both.left_out.begin(), both.left_out.end(), is_in_other), both.left_out.end());
-  Block own;
-  other.all_apart_from(*this,
-    [&](std::string const& name)
-    {
-      if (!both.has(name))
-        own.push_back(name);
-      return true;
-    });
-  std::sort(own.begin(), own.end());
-  both.add(std::move(own));
+  both.add(both.missing_of(other));
   return both;
 }
 
@@ -114,12 +119,11 @@ axsNamespaceList axsNamespaceList::common_with(axsNamespaceList const& other) co
   if (other.has_all_of(*this))
     return *this;
   Block common;
-  all_apart_from({},
+  for_each(
     [&](std::string const& name)
     {
       if (other.has(name))
         common.push_back(name);
-      return true;
     });
   return axsNamespaceList(std::move(common));
 }

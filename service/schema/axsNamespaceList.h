@@ -20,7 +20,7 @@ public:
   std::size_t size() const noexcept;
   bool empty() const noexcept { return size() == 0; }
   bool has(std::string_view name) const noexcept;
-  bool has_all_of(axsNamespaceList const& other) const noexcept;
+  bool has_all_of(axsNamespaceList const& other) const;
 
   /// All names, sorted; they live as long as a list that has them.
   std::vector<std::string_view> names() const;
@@ -37,14 +37,11 @@ public:
     return blocks.size() == 1 && left_out.empty() ? blocks.front().get() : nullptr;
   }
 
-  friend bool operator==(axsNamespaceList const& left, axsNamespaceList const& right) noexcept
+  friend bool operator==(axsNamespaceList const& left, axsNamespaceList const& right)
   {
     return left.size() == right.size() && left.has_all_of(right);
   }
-  friend bool operator!=(axsNamespaceList const& left, axsNamespaceList const& right) noexcept
-  {
-    return !(left == right);
-  }
+  friend bool operator!=(axsNamespaceList const& left, axsNamespaceList const& right) { return !(left == right); }
 
 private:
   // Names that were added together, sorted.
@@ -54,7 +51,8 @@ private:
   bool shares(std::shared_ptr<Block const> const& block) const noexcept;
   void add(Block names);
   template <class Visit>
-  bool all_apart_from(axsNamespaceList const& other, Visit visit) const;
+  void for_each(Visit visit) const;
+  Block missing_of(axsNamespaceList const& other) const;
 
   // No two have a name in common. Each is larger than the next one, so that there are few.
   std::vector<std::shared_ptr<Block const>> blocks;
