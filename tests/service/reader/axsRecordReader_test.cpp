@@ -197,3 +197,14 @@ TEST(axsRecordReader, reads_streams_and_tells_of_their_faults)
     EXPECT_EQ(good ? "" : "the line is cut", std::string(error.message().to_utf8().view()));
   }
 }
+
+TEST(axsRecordReader, records_and_their_rows_are_counted)
+{
+  axsRecordReader reader(request("r/c", {"n"}, Repeat::rows));
+  std::string const document = "<r><c><n>1</n><n>2</n></c><c/></r>";
+  axmParseError error;
+  EXPECT_TRUE(reader.read(apByteArray(document.data(), document.size()), axmLoadOptions(), error,
+    [](axsRecordReader::Row const&) { return true; }));
+  EXPECT_EQ(reader.records(), 2u);
+  EXPECT_EQ(reader.rows(), 3u);
+}

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -359,4 +360,15 @@ TEST(axsXmlReader, deep_documents_need_no_stack)
   for (; reached > 0; --reached)
     reader->up();
   EXPECT_FALSE(reader->has_error_occurred()) << errors_of(*reader);
+}
+
+TEST(axsXmlReader, a_text_that_is_not_well_formed_is_none_and_an_error_with_its_place)
+{
+  Reader const reader = exact("<r>one\n&none;</r>");
+  ASSERT_TRUE(down(reader, "r"));
+  EXPECT_EQ("", text(reader));
+  ASSERT_TRUE(reader->has_error_occurred());
+  std::vector<axmParseError> const& errors = dynamic_cast<axsXmlReader const&>(*reader).errors();
+  ASSERT_EQ(errors.size(), 1u);
+  EXPECT_EQ(errors.front().line_number(), 2);
 }

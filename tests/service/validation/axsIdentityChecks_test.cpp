@@ -322,3 +322,15 @@ TEST(axsIdentityChecks, a_field_may_be_at_any_depth)
   EXPECT_EQ(schema.wrong("<r><g><i k='1'/><g><i k='2'/></g></g></r>"),
     "1: element 'g': a field of a key has several values here\n");
 }
+
+TEST(axsIdentityChecks, elements_of_one_written_name_in_two_namespaces_are_told_apart)
+{
+  Schema const schema(
+    "<xs:element name='r'><xs:complexType><xs:sequence><xs:any processContents='lax' maxOccurs='9'/></xs:sequence>"
+    "</xs:complexType><xs:unique name='u'><xs:selector xpath='t:a'/><xs:field xpath='@k'/></xs:unique></xs:element>",
+    "xmlns:t='u'");
+  std::string const begin = "<r xmlns:t='u'><t:a k='1'/><t:a xmlns:t='o' k='1'/>";
+  EXPECT_EQ(schema.wrong(begin + "<t:a k='2'/><t:a xmlns:t='o' k='2'/></r>"), "");
+  EXPECT_EQ(schema.wrong(begin + "\n<t:a k='1'/></r>"),
+    "2: element 'a': what must be unique in the element 'r' is not: \"1\"; first at line 1\n");
+}
