@@ -395,7 +395,7 @@ void axsIdentityChecks::close_scopes()
   for (auto& [key, table] : closed)
   {
     if (std::unique_ptr<axsIdentityTable> const inner = take_inherited(level, *key))
-      table->inherit(std::move(*inner), [&](std::string_view value) { look_again(*key, value); });
+      table->inherit(std::move(*inner), [this, of = key](std::string_view value) { look_again(*of, value); });
     hand_up(*key, std::move(*table));
   }
   while (!inherited.empty() && inherited.rbegin()->first.first == level)
