@@ -116,7 +116,7 @@ void axsAttributeAssessment::assess_lax(axsStartTag const& tag)
   {
     axsAttributeDecl const* const decl =
       is_exempt(attribute) ? nullptr : findings.schema.attribute(attribute.name_space, attribute.name->local());
-    if (decl == nullptr || decl->type == nullptr)
+    if (decl == nullptr)
       tell_identity(attribute);
     else
       check_value(attribute, *decl->type, decl->constraint.kind == Kind::fixed ? &decl->constraint.bytes : nullptr,
@@ -134,8 +134,6 @@ void axsAttributeAssessment::skip(axsStartTag const& tag)
 // cvc-attribute, cvc-au
 void axsAttributeAssessment::assess_use(axsTagAttribute const& attribute, axsAttributeUse const& use)
 {
-  if (use.decl->type == nullptr)
-    return;
   axsValueConstraint const& constraint = constraint_of(use);
   check_value(
     attribute, *use.decl->type, constraint.kind == Kind::fixed ? &constraint.bytes : nullptr, constraint.value);
@@ -158,14 +156,11 @@ void axsAttributeAssessment::assess_wild(axsTagAttribute const& attribute, axsCo
         "attribute '" + name + "' of element '" + element() + "' must be declared in the schema, and is not");
     return tell_identity(attribute);
   }
-  if (decl->type == nullptr)
-    return;
   check_value(attribute, *decl->type, decl->constraint.kind == Kind::fixed ? &decl->constraint.bytes : nullptr,
     decl->constraint.value);
   // cvc-complex-type.5: beside an ID that is declared, or another such one, none may come in.
   bool const is_id = decl->type->role() == axsSimpleType::Role::id;
-  auto const is_id_use = [](axsAttributeUse const& use)
-  { return use.decl->type != nullptr && use.decl->type->role() == axsSimpleType::Role::id; };
+  auto const is_id_use = [](axsAttributeUse const& use) { return use.decl->type->role() == axsSimpleType::Role::id; };
   if (is_id && (++wild_ids > 1 || std::any_of(type.attributes.begin(), type.attributes.end(), is_id_use)))
     findings.report("attribute '" + name + "' of element '" + element() + "' is an ID beside another one");
 }
@@ -212,29 +207,28 @@ bool axsAttributeAssessment::add_missing(axsComplexType const& type, Known const
   {
     if (is_seen[number] != 0)
       continue;
+    is_any_missing = true;
     axsAttributeUse const& use = type.attributes[number];
-    axsValueConstraint const& constraint = constraint_of(use);
     if (use.is_required)
-    {
-      is_any_missing = true;
       findings.report("element '" + element() + "': missing required attribute '" + use.decl->name.local + "'");
-    }
-    else if (constraint.kind != Kind::none)
-    {
-      is_any_missing = true;
-      add_references(use, constraint.value);
-      if (findings.identity.is_active() && findings.identity.wants_attributes())
-        findings.identity.attribute(
-          use.decl->name.name_space, use.decl->name.local, {constraint.value, constraint.bytes});
-    }
+    else
+      add_default(use);
   }
   return is_any_missing;
+}
+
+void axsAttributeAssessment::add_default(axsAttributeUse const& use)
+{
+  axsValueConstraint const& constraint = constraint_of(use);
+  add_references(use, constraint.value);
+  if (findings.identity.is_active() && findings.identity.wants_attributes())
+    findings.identity.attribute(use.decl->name.name_space, use.decl->name.local, {constraint.value, constraint.bytes});
 }
 
 // A default may refer to IDs (cvc-id); it cannot be one.
 void axsAttributeAssessment::add_references(axsAttributeUse const& use, std::string const& value)
 {
-  if (use.decl->type == nullptr || !use.decl->type->has_references())
+  if (!use.decl->type->has_references())
     return;
   findings.value.clear();
   if (use.decl->type->check(value, findings.context, &findings.value) && !findings.value.identifiers().empty())

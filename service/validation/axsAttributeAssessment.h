@@ -56,6 +56,7 @@ private:
   void check_value(axsTagAttribute const& attribute, axsSimpleType const& type, std::string const* fixed,
     std::string const& shown_fixed);
   bool add_missing(axsComplexType const& type, Known const& known);
+  void add_default(axsAttributeUse const& use);
   void add_references(axsAttributeUse const& use, std::string const& value);
   void tell_identity(axsTagAttribute const& attribute);
   std::string subject(axsTagAttribute const& attribute) const;
