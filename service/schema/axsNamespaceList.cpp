@@ -103,26 +103,27 @@ std::vector<std::string_view> axsNamespaceList::names() const
 // The larger list is shared.
 axsNamespaceList axsNamespaceList::with(axsNamespaceList const& other) const
 {
-  if (other.size() > size())
-    return other.with(*this);
-  axsNamespaceList both = *this;
-  auto const is_in_other = [&](std::string const& name) { return other.has(name); };
-  both.left_out.erase(std::remove_if(both.left_out.begin(), both.left_out.end(), is_in_other), both.left_out.end());
-  both.add(both.missing_of(other));
+  bool const is_larger = size() >= other.size();
+  axsNamespaceList both = is_larger ? *this : other;
+  axsNamespaceList const& more = is_larger ? other : *this;
+  auto const is_in_more = [&](std::string const& name) { return more.has(name); };
+  both.left_out.erase(std::remove_if(both.left_out.begin(), both.left_out.end(), is_in_more), both.left_out.end());
+  both.add(both.missing_of(more));
   return both;
 }
 
+// The smaller one is, if the other has all of it.
 axsNamespaceList axsNamespaceList::common_with(axsNamespaceList const& other) const
 {
-  if (other.size() < size())
-    return other.common_with(*this);
-  if (other.has_all_of(*this))
-    return *this;
+  axsNamespaceList const& smaller = size() <= other.size() ? *this : other;
+  axsNamespaceList const& larger = &smaller == this ? other : *this;
+  if (larger.has_all_of(smaller))
+    return smaller;
   Block common;
-  for_each(
+  smaller.for_each(
     [&](std::string const& name)
     {
-      if (other.has(name))
+      if (larger.has(name))
         common.push_back(name);
     });
   return axsNamespaceList(std::move(common));
