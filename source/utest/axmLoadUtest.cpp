@@ -58,7 +58,8 @@ bool is_counted(int number)
 bool is_consistent(Document const& document, axmParseError const& error)
 {
   if (document == nullptr)
-    return !error.invalid() && is_counted(error.line_number()) && is_counted(error.column_number());
+    return !error.invalid() && !error.message().empty() && is_counted(error.line_number()) &&
+           is_counted(error.column_number());
   return error.invalid() && error.message().empty() && error.url().empty() && error.line_number() == -1 &&
          error.column_number() == -1;
 }
@@ -739,6 +740,35 @@ Piece const pieces[] = {{"x", "x", "x"}, {" ", " ", " "}, {"]", "]", "]"}, {"\xC
   {"&#8364;", "\xE2\x82\xAC", "\xE2\x82\xAC"}, {"&e;", "y", "y"}, {"word", "word", "word"}};
 }
 
+namespace
+{
+// Entities that hold each other, each the one before it.
+std::string nested_entities(int levels)
+{
+  std::string declarations = "<!ENTITY e0 'x'>";
+  for (int level = 1; level <= levels; ++level)
+    declarations += "<!ENTITY e" + std::to_string(level) + " '&e" + std::to_string(level - 1) + ";'>";
+  return declarations;
+}
+
+// Documents of which one piece is long, or holds many others, and what they are.
+std::vector<std::pair<std::string, std::string>> long_pieces()
+{
+  std::string const text = many(30000, "long ");
+  return {{"<r><?p " + text + "?></r>", "<r><?p " + text + "?></r>"},
+    {"<r><!--" + text + "--></r>", "<r><!--" + text + "--></r>"},
+    {"<r><![CDATA[" + text + "]]></r>", "<r>" + text + "</r>"},
+    {"<r>" + many(20000, "<![CDATA[x]]>") + "</r>", "<r>" + many(20000, "x") + "</r>"},
+    {"<!DOCTYPE r [<!ENTITY e '" + text + "'>]><r k='&e;'>&e;</r>", "<r k='" + text + "'>" + text + "</r>"},
+    {"<!DOCTYPE r [<!ATTLIST r k CDATA '" + text + "'>]><r/>", "<r k='" + text + "'></r>"},
+    {"<!DOCTYPE r [<!--" + text + "-->" + many(5000, "<!ELEMENT a ANY><?p q?>") + "]><r/>", "<r></r>"},
+    {"<!DOCTYPE r [" + nested_entities(200) + "]><r k='&e200;'>&e200;</r>", "<r k='x'>x</r>"},
+    {"<r k='x'" + many(30000, " ") + "l='y'" + many(30000, "\n") + "/>", "<r k='x' l='y'></r>"},
+    {many(3000, "<!--x--> ") + "<r/>" + many(3000, "\n<?p q?>"),
+      many(3000, "<!--x-->") + "<r></r>" + many(3000, "<?p q?>")}};
+}
+}
+
 void axmLoadUtest::test_large_documents(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmLoadUtest::test_large_documents");
@@ -790,6 +820,10 @@ void axmLoadUtest::test_large_documents(Factory const& factory) const
         "and much of it beside a text");
     }
   }
+  for (auto const& [text, shape] : long_pieces())
+    for (Load const& load : {load_of(factory, text), load_of_file(factory, text)})
+      group.check(loads(load) && axmXmlTables::shape_of(load.document) == shape, "shape of the document", __LINE__,
+        "long pieces of markup");
   for (std::string const& name : {std::string(40000, 'n'), many(20000, "\xC3\xA4"), many(10000, "\xE4\xB8\x80")})
   {
     std::string const content = many(3, "<" + name + "></" + name + ">");

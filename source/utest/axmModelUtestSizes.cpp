@@ -236,6 +236,61 @@ bool name_comes_back(Factory const& factory, apString const& name)
 }
 }
 
+namespace
+{
+constexpr int many_nodes = 5000;
+
+// Whether an element holds that many elements, texts, comments and instructions, however they are asked for.
+bool is_mixed(Element const& element, std::string const& text)
+{
+  auto const document = element != nullptr ? element->getOwnerDocument() : nullptr;
+  auto const found = document != nullptr ? document->getElementsByTagName(APSTRING("a")) : nullptr;
+  auto const selected = element != nullptr ? element->selectNodes(APSTRING(".//a")) : nullptr;
+  auto const texts = element != nullptr ? element->selectNodes(APSTRING("text()")) : nullptr;
+  if (length_of(found) != many_nodes || length_of(selected) != many_nodes || length_of(texts) != many_nodes)
+    return false;
+  Node const last = item_of(children_of(element), 4 * many_nodes - 4);
+  return text_of(element) == apString(text.c_str()) && number_of_children(element) == 4 * many_nodes &&
+         same(found->at(many_nodes - 1), last) && same(selected->at(many_nodes - 1), last) &&
+         same(texts->at(many_nodes - 1), next_of(last));
+}
+
+void check_mixed(axmUtestGroup const& group, Factory const& factory)
+{
+  std::string written = "<r>";
+  std::string text;
+  for (int number = 0; number < many_nodes; ++number)
+  {
+    written += "<a>x</a>y<!--c--><?p q?>";
+    text += "xy";
+  }
+  auto const document = load(*factory, (written + "</r>").c_str());
+  auto const root = root_of(document);
+  if (!group.prerequisite(root != nullptr, "root.get()", __LINE__, "Prerequisite: load document"))
+    return;
+  group.check(is_mixed(root, text), "element of that many nodes", __LINE__, "many nodes of all kinds");
+  group.check(is_mixed(saved_and_loaded(factory, document), text), "loaded(saved) has them all", __LINE__,
+    "many nodes survive a save and a load");
+  utString const xml = xml_of(root).to_utf8();
+  group.check(is_mixed(load_root(*factory, xml.c_str()), text), "loaded(root->get_xml()) has them all", __LINE__,
+    "and as the XML of the element");
+  Node const replaced = child_of(root, 2 * many_nodes);
+  replace(root, created(document, APSTRING("b")), replaced);
+  group.check(name_of(child_of(root, 2 * many_nodes)), APSTRING("b"), "root->getChildNodes()->at()->getNodeName()",
+    __LINE__, "one of many is replaced");
+  root->set_text(APSTRING("only"));
+  group.check(number_of_children(root), 1, "root->getChildNodes()->length() == 1", __LINE__,
+    "one text in the place of many nodes");
+  for (int number = 1; number < many_nodes; ++number)
+    append(root, document->createTextNode(APSTRING("more")));
+  group.check(
+    number_of_children(root), many_nodes, "root->getChildNodes()->length()", __LINE__, "many texts beside each other");
+  auto const copy = saved_and_loaded(factory, document);
+  group.check(number_of_children(copy) == 1 && text_of(copy) == text_of(root), "loaded(saved) has one text", __LINE__,
+    "many texts are one after a load");
+}
+}
+
 void axmModelUtest::test_many_children(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmModelUtest::test_many_children");
@@ -272,6 +327,7 @@ void axmModelUtest::test_many_children(Factory const& factory) const
   group.check(is_numbered(held, 60000, random), "list after removals", __LINE__, "a list that has become shorter");
   group.check(follows_edits(document, random), "list after edits at any place", __LINE__,
     "a long list that is held while its middle changes");
+  check_mixed(group, factory);
 }
 
 void axmModelUtest::test_many_attributes(Factory const& factory) const

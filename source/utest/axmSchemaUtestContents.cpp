@@ -57,6 +57,15 @@ std::string many_elements(int count, std::string const& after = "")
   return text + after + "</r>";
 }
 
+// A document of elements in each other and what the innermost one holds.
+std::string many_levels(int count, std::string const& inside)
+{
+  std::string text = inside;
+  for (int number = 0; number < count; ++number)
+    text = "<r>" + text + "</r>";
+  return text;
+}
+
 std::string many_declarations()
 {
   std::string text;
@@ -143,8 +152,9 @@ std::vector<Case> const& content_cases()
     {"elements below each other",
       {"<xs:element name='r' type='t'/><xs:complexType name='t'><xs:sequence><xs:element name='r' type='t' "
        "minOccurs='0'/><xs:element name='v' type='xs:int' minOccurs='0'/></xs:sequence></xs:complexType>",
-        {"<r></r>", "<r><r><r><v>1</v></r></r><v>2</v></r>"},
-        {"<r><r><r><v>x</v></r></r></r>", "<r><v>1</v><r/></r>", "<r><r><v>1</v><v>2</v></r></r>"}}},
+        {"<r></r>", "<r><r><r><v>1</v></r></r><v>2</v></r>", many_levels(1000, "<v>1</v>")},
+        {"<r><r><r><v>x</v></r></r></r>", "<r><v>1</v><r/></r>", "<r><r><v>1</v><v>2</v></r></r>",
+          many_levels(1000, "<v>x</v>"), many_levels(1000, "<v>1</v><v>2</v>")}}},
     {"one name with one type",
       {sequence("<xs:element name='a' type='xs:int'/><xs:element name='b' minOccurs='0'/><xs:element name='a' "
                 "type='xs:int' minOccurs='0'/>"),

@@ -1310,6 +1310,17 @@ void axmXPathUtest::test_many_nodes(Factory const& factory) const
     group.check(are_in_order(*root, expression, names), expression, __LINE__, "many nodes in document order");
   check_many_values(group, *root);
   group.check(are_found_in_texts(*root), "texts are found where they are", __LINE__, "long texts in texts");
+  std::string alternatives = "a[1]/b";
+  std::string conditions = "1=1";
+  for (int number = 2; number <= 600; ++number)
+  {
+    alternatives += " | a[" + std::to_string(number) + "]/b";
+    conditions += " and 1=1";
+  }
+  group.check(length_of(root->selectNodes(apString(alternatives.c_str()))), 600,
+    "root->selectNodes(expression)->length() == 600", __LINE__, "many alternatives");
+  group.check(length_of(root->selectNodes(apString(("self::r[" + conditions + "]").c_str()))), 1,
+    "root->selectNodes(expression)->length() == 1", __LINE__, "many conditions");
   // A node is put elsewhere, and new ones among the others.
   Node const last = root->getLastChild();
   remove(root, last);

@@ -354,6 +354,20 @@ bool is_deep(std::string const& text, int levels)
   return false;
 }
 
+// Refuses documents in which something between `begin` and `end` is long.
+void refuse_long(Hooks& hooks, char const* begin, char const* end)
+{
+  hooks.load_bytes =
+    [begin, end](Factory const& factory, apByteArray const& data, axmLoadOptions const& options, axmParseError& error)
+  {
+    std::string const text = text_of(data);
+    for (std::size_t at = 0; (at = text.find(begin, at)) != std::string::npos; ++at)
+      if (std::size_t const last = text.find(end, at); last != std::string::npos && last - at > 65535)
+        return refused(error);
+    return factory->loadDocument(data, options, error);
+  };
+}
+
 // Takes the comments and instructions of a document that were written with line ends of two characters as they were.
 template <class Kind>
 void keep_line_ends(Document const& document, std::string const& text)
@@ -1108,6 +1122,152 @@ std::vector<Fault> const& held_faults()
                lowest = lowest->getLastChild())
             ++levels;
           return levels <= 1024 && factory->saveDocument(document, output);
+        };
+      }},
+    {"get_text", "more than 256 texts are left out",
+      [](Hooks& h)
+      {
+        h.node_text = [](Node const& n)
+        {
+          int texts = 0;
+          for (Node child = n->getFirstChild(); child != nullptr; child = child->getNextSibling())
+            texts += child->getFirstChild() == nullptr && is_text(child) ? 1 : 0;
+          return texts > 256 ? APSTRING("many") : n->get_text();
+        };
+      }},
+    {"set_text", "of more than 64 children the others stay",
+      [](Hooks& h)
+      {
+        h.set_text = [](Node const& n, apString const& text)
+        {
+          std::vector<Node> others;
+          int number = 0;
+          for (Node child = n->getFirstChild(); child != nullptr; child = child->getNextSibling())
+            if (++number > 64)
+              others.push_back(child);
+          n->set_text(text);
+          for (Node const& other : others)
+            n->appendChild(other);
+        };
+      }},
+    {"getElementsByTagName", "more than 1000 are cut off",
+      [](Hooks& h)
+      {
+        h.by_name = [](Document const& d, apString const& name) -> List
+        {
+          List const list = d->getElementsByTagName(name);
+          return std::make_shared<ListAs>([list](int index) { return index < 1000 ? list->at(index) : nullptr; },
+            [list] { return std::min(list->length(), 1000); });
+        };
+      }},
+    {"selectNodes", "more than 4096 are cut off",
+      [](Hooks& h)
+      {
+        h.select = [](Element const& e, apString const& xpath) -> List
+        {
+          List const list = e->selectNodes(xpath);
+          return std::make_shared<ListAs>([list](int index) { return index < 4096 ? list->at(index) : nullptr; },
+            [list] { return std::min(list->length(), 4096); });
+        };
+      }},
+    {"selectNodes", "an expression of more than 4096 characters is wrong",
+      [](Hooks& h)
+      {
+        h.select = [](Element const& e, apString const& xpath)
+        { return e->selectNodes(xpath.length() > 4096 ? APSTRING("//[") : xpath); };
+      }},
+    {"replaceChild", "of more than 256 children the new one comes last",
+      [](Hooks& h)
+      {
+        h.replace = [](Node const& n, Node const& child, Node const& old)
+        {
+          Node const done = n->replaceChild(child, old);
+          if (done != nullptr && n->getChildNodes()->length() > 256)
+            n->appendChild(child);
+          return done;
+        };
+      }},
+    {"get_xml", "more than 65535 characters are cut off",
+      [](Hooks& h) { h.xml = [](Node const& n) { return apString(n->get_xml().view().substr(0, 65535)); }; }},
+    {"saveDocument", "of more than 16 texts beside each other the others are lost",
+      [](Hooks& h)
+      {
+        h.save_bytes = [](Factory const& factory, Document const& document, apByteArray& output)
+        {
+          Node const root = document != nullptr ? document->getDocumentElement() : nullptr;
+          int texts = 0;
+          for (Node child = root != nullptr ? root->getFirstChild() : nullptr; child != nullptr && is_text(child);
+               child = child->getNextSibling())
+            ++texts;
+          return factory->saveDocument(texts > 16 ? factory->createDocument(root->getNodeName()) : document, output);
+        };
+      }},
+    {"loadDocument", "entities in entities over 16 levels are refused",
+      [](Hooks& h)
+      {
+        h.load_bytes =
+          [](Factory const& factory, apByteArray const& data, axmLoadOptions const& options, axmParseError& error)
+        {
+          std::string const text = text_of(data);
+          return text.find("&e17;") != std::string::npos ? refused(error) : factory->loadDocument(data, options, error);
+        };
+      }},
+    {"loadDocument", "an instruction of more than 65535 characters is refused",
+      [](Hooks& h) { refuse_long(h, "<?", "?>"); }},
+    {"loadDocument", "a CDATA section of more than 65535 characters is refused",
+      [](Hooks& h) { refuse_long(h, "<![CDATA[", "]]>"); }},
+    {"loadDocument", "a document type of more than 65535 characters is refused",
+      [](Hooks& h) { refuse_long(h, "<!DOCTYPE", "]>"); }},
+    {"loadDocument", "an entity of more than 65535 characters is refused",
+      [](Hooks& h) { refuse_long(h, "<!ENTITY", "'>"); }},
+    {"loadDocument", "validation goes down 256 levels only",
+      [](Hooks& h)
+      {
+        h.load_bytes = [](Factory const& factory, apByteArray const& data, axmLoadOptions options, axmParseError& error)
+        {
+          if (is_deep(text_of(data), 256))
+            options.set_validate_mode(axmValidateNone);
+          return factory->loadDocument(data, options, error);
+        };
+      }},
+    {"loadDocument", "what breaks a schema in memory has no message",
+      [](Hooks& h)
+      {
+        h.load_bytes =
+          [](Factory const& factory, apByteArray const& data, axmLoadOptions const& options, axmParseError& error)
+        {
+          Document const document = factory->loadDocument(data, options, error);
+          if (document == nullptr && options.validate_mode() == axmValidateWithSchemas)
+            error = axmParseError(APSTRING(""));
+          return document;
+        };
+      }},
+    {"loadDocument", "an encoding that is not known has no message",
+      [](Hooks& h)
+      {
+        tell_of_bytes(h,
+          [](std::string const& text, Document const& document, axmParseError& error)
+          {
+            if (document == nullptr && text.find("encoding=") != std::string::npos)
+              error = axmParseError(APSTRING(""));
+          });
+      }},
+    {"get_attribute", "an int of more than sixteen digits is none",
+      [](Hooks& h)
+      {
+        h.get_int = [](Node const& n, apString const& name, int& value)
+        {
+          apString text;
+          return n->get_attribute(name, text) && text.length() <= 16 && n->get_attribute(name, value);
+        };
+      }},
+    {"get_attribute", "a double of more than sixty-four characters is none",
+      [](Hooks& h)
+      {
+        h.get_double = [](Node const& n, apString const& name, double& value)
+        {
+          apString text;
+          return n->get_attribute(name, text) && text.length() <= 64 && n->get_attribute(name, value);
         };
       }},
   };
