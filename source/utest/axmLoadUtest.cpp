@@ -1,6 +1,7 @@
 #include "axmLoadUtest.h"
 
 #include "axmCommentNode.h"
+#include "axmSaveObstacles.h"
 #include "axmTextNode.h"
 #include "axmUtestAccess.h"
 #include "axmUtestFile.h"
@@ -166,6 +167,7 @@ void axmLoadUtest::run_tests(Factory const& factory) const
     {&Utest::test_second_saves, "axmLoadUtest::test_second_saves"},
     {&Utest::test_saved_edits, "axmLoadUtest::test_saved_edits"},
     {&Utest::test_refused_saves, "axmLoadUtest::test_refused_saves"},
+    {&Utest::test_save_obstacles, "axmLoadUtest::test_save_obstacles"},
   };
   axm_run_groups(*this, factory, groups, tester, file);
 }
@@ -507,6 +509,17 @@ void axmLoadUtest::test_external_files(Factory const& factory) const
     folder.load(factory, "<!DOCTYPE r [<!ENTITY e SYSTEM 'lines.ent'>]>\n<r>&e;\n</s>", options).error;
   group.check(
     after.url().empty() || is_place(after, "document.xml", 3), "the place", __LINE__, "a failure after another file");
+  std::string const declarations = many(10000, "<!ENTITY unused 'x'>\r\n");
+  write(folder.in("large.dtd"), declarations + "<!ENTITY s 'last'>" + declarations);
+  write(folder.in("large.ent"), many(30000, "\xC3\xA4 x\r\n"));
+  std::string const large = many(30000, "\xC3\xA4 x\n");
+  std::pair<char const*, std::string> const of_large_files[] = {{"<!DOCTYPE r SYSTEM 'large.dtd'><r>&s;</r>", "last"},
+    {"<!DOCTYPE r [<!ENTITY % p SYSTEM 'large.dtd'>%p;]><r>&s;</r>", "last"},
+    {"<!DOCTYPE r [<!ENTITY e SYSTEM 'large.ent'>]><r>a&e;b</r>", "a" + large + "b"},
+    {"<!DOCTYPE r SYSTEM 'large.dtd' [<!ENTITY e SYSTEM 'large.ent'>]><r>&e;&s;&e;</r>", large + "last" + large}};
+  for (auto const& [text, promised] : of_large_files)
+    group.check(text_of(root_of(folder.load(factory, text, options).document)) == apString(promised.c_str()),
+      "root->get_text()", __LINE__, "large files");
   options.set_entity_expansion_limit(2);
   char const three[] = "<!DOCTYPE r [<!ENTITY e SYSTEM 'plain.ent'>]><r>&e;&e;&e;</r>";
   group.check(fails(folder.load(factory, three, options)), "fails", __LINE__, "external entities count as others do");
@@ -1365,4 +1378,33 @@ void axmLoadUtest::test_refused_saves(Factory const& factory) const
   auto const large = load_of(factory, "<r>" + many(20000, "<a>a text of some length</a>") + "</r>").document;
   group.check(!full.exists() || (large != nullptr && !factory->saveDocument(large, full)),
     "!factory->saveDocument(large, full)", __LINE__, "nor a large document");
+}
+
+void axmLoadUtest::test_save_obstacles(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmLoadUtest::test_save_obstacles");
+  auto const obstacles = std::dynamic_pointer_cast<axmSaveObstacles>(factory);
+  // A sentence without its end where a save is refused, nothing where it is done.
+  auto const is_told = [&](Document const& document)
+  {
+    apByteArray output;
+    apString const told = obstacles->obstacle(*document);
+    return factory->saveDocument(document, output) ? told.empty() : !told.empty() && told.view().back() != L'.';
+  };
+  bool are_told = true;
+  for (auto const& [text, edit, may_be_refused, description] : edits)
+  {
+    auto const document = load_of(factory, text).document;
+    auto const root = root_of(document);
+    if (obstacles == nullptr || root == nullptr)
+      continue;
+    edit(*document, *root);
+    are_told = are_told && is_told(document);
+    root->set_text(APSTRING("\u0001"));
+    are_told = are_told && is_told(document);
+    remove(document, root);
+    are_told = are_told && is_told(document);
+  }
+  group.check(are_told, "obstacles->obstacle(*document)", __LINE__,
+    "what keeps a document from being saved, where the factory tells it");
 }

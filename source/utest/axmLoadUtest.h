@@ -34,6 +34,7 @@ protected:
   void test_second_saves(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_saved_edits(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_refused_saves(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_save_obstacles(std::shared_ptr<axmDocumentFactory> const& factory) const;
 
 private:
   utUnitTest* tester;

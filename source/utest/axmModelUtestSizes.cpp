@@ -238,7 +238,7 @@ bool name_comes_back(Factory const& factory, apString const& name)
 
 namespace
 {
-constexpr int many_nodes = 5000;
+constexpr int many_nodes = 3000;
 
 // Whether an element holds that many elements, texts, comments and instructions, however they are asked for.
 bool is_mixed(Element const& element, std::string const& text)
@@ -246,13 +246,13 @@ bool is_mixed(Element const& element, std::string const& text)
   auto const document = element != nullptr ? element->getOwnerDocument() : nullptr;
   auto const found = document != nullptr ? document->getElementsByTagName(APSTRING("a")) : nullptr;
   auto const selected = element != nullptr ? element->selectNodes(APSTRING(".//a")) : nullptr;
-  auto const texts = element != nullptr ? element->selectNodes(APSTRING("text()")) : nullptr;
-  if (length_of(found) != many_nodes || length_of(selected) != many_nodes || length_of(texts) != many_nodes)
+  auto const texts = element != nullptr ? element->selectNodes(APSTRING(".//text()")) : nullptr;
+  if (length_of(found) != many_nodes || length_of(selected) != many_nodes || length_of(texts) != 2 * many_nodes)
     return false;
   Node const last = item_of(children_of(element), 4 * many_nodes - 4);
   return text_of(element) == apString(text.c_str()) && number_of_children(element) == 4 * many_nodes &&
          same(found->at(many_nodes - 1), last) && same(selected->at(many_nodes - 1), last) &&
-         same(texts->at(many_nodes - 1), next_of(last));
+         same(texts->at(2 * many_nodes - 1), next_of(last));
 }
 
 void check_mixed(axmUtestGroup const& group, Factory const& factory)
@@ -397,6 +397,42 @@ void axmModelUtest::test_many_levels(Factory const& factory) const
   }
 }
 
+namespace
+{
+// Whether documents of any size hold what they did when they were loaded, while others are let go.
+bool are_as_loaded(axmDocumentFactory const& factory, axmModelRandom random)
+{
+  struct Held
+  {
+    Document document;
+    std::string text;
+  };
+  std::vector<Held> held(16);
+  for (int count = 0; count < 200; ++count)
+  {
+    Held& one = held[static_cast<std::size_t>(random.below(16))];
+    one.document = nullptr;
+    std::string written;
+    one.text.clear();
+    int const size = random.below(1 << (1 + random.below(11)));
+    for (int number = 0; number < size; ++number)
+    {
+      std::string const digits = std::to_string(random.below(1000));
+      written += "<a k='" + digits + "'>" + digits + "</a>";
+      one.text += digits;
+    }
+    one.document = load(factory, ("<r>" + written + "</r>").c_str());
+    Held const& another = random.one_of(held);
+    for (Held const* const checked : {static_cast<Held const*>(&one), &another})
+      if (checked->document != nullptr && text_of(root_of(checked->document)) != apString(checked->text.c_str()))
+        return false;
+    if (one.document == nullptr)
+      return false;
+  }
+  return true;
+}
+}
+
 void axmModelUtest::test_many_documents(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmModelUtest::test_many_documents");
@@ -411,6 +447,8 @@ void axmModelUtest::test_many_documents(Factory const& factory) const
   for (int number = 0; number < 300; ++number)
     right += name_of(root_of(documents[static_cast<std::size_t>(number)])) == numbered(L"d", number) ? 1 : 0;
   group.check(right, 300, "documents with their roots", __LINE__, "many documents at one time");
+  group.check(are_as_loaded(*factory, axmModelRandom(seed)), "documents with their texts", __LINE__,
+    "documents of all sizes, made and let go in any order");
   for (int count = 0; count < 300; ++count)
     load(*factory, "<r>");
   group.check(name_of(load_root(*factory, "<r/>")), APSTRING("r"), "root->getNodeName()", __LINE__,

@@ -2,6 +2,7 @@
 
 #include <axmCommentNode.h>
 #include <axmProcessingInstruction.h>
+#include <axmSaveObstacles.h>
 #include <axmTextNode.h>
 
 #include <utility>
@@ -14,6 +15,11 @@ Node Hooks::make_text(Document const& document, apString const& data)
 Node Hooks::make_comment(Document const& document, apString const& data)
 {
   return document->createComment(data);
+}
+
+apString Hooks::obstacle_of(Factory const& factory, Document const& document)
+{
+  return std::dynamic_pointer_cast<axmSaveObstacles>(factory)->obstacle(*document);
 }
 
 apString Hooks::data_of(Node const& node)
@@ -223,7 +229,7 @@ private:
   Map map;
 };
 
-class HookedFactory : public axmDocumentFactory
+class HookedFactory : public axmDocumentFactory, public axmSaveObstacles
 {
 public:
   HookedFactory(Shared given_hooks, Factory given_engine)
@@ -252,6 +258,12 @@ public:
   bool saveDocument(Document document, apPath const& path) override
   {
     return hooks->save_file(engine, behind(document), path);
+  }
+
+  apString obstacle(axmDocument const& document) const override
+  {
+    auto const& hooked = dynamic_cast<Behind const&>(document);
+    return hooks->obstacle(engine, std::dynamic_pointer_cast<axmDocument>(hooked.node));
   }
 
 private:

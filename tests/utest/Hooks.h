@@ -114,7 +114,11 @@ struct Hooks
     [](Factory const& factory, Document const& document, apPath const& path)
   { return factory->saveDocument(document, path); };
 
+  // Why a document is not saved.
+  std::function<apString(Factory const&, Document const&)> obstacle = &Hooks::obstacle_of;
+
 private:
+  static apString obstacle_of(Factory const& factory, Document const& document);
   static Node make_text(Document const& document, apString const& data);
   static Node make_comment(Document const& document, apString const& data);
   static apString data_of(Node const& node);

@@ -13,6 +13,7 @@
 #include <axmNamedNodeMapUtest.h>
 #include <axmNodeListUtest.h>
 #include <axmNodeUtest.h>
+#include <axmSaveObstacles.h>
 #include <axmSchemaUtest.h>
 #include <axmSearchUtest.h>
 #include <axmTextNodeUtest.h>
@@ -68,7 +69,7 @@ private:
   utAssertListener* const replaced;
 };
 
-class QuickFactory : public axmDocumentFactory
+class QuickFactory : public axmDocumentFactory, public axmSaveObstacles
 {
 public:
   explicit QuickFactory(Factory given) : engine(std::move(given)) {}
@@ -93,6 +94,10 @@ public:
   }
   bool saveDocument(Document document, apByteArray& output) override { return engine->saveDocument(document, output); }
   bool saveDocument(Document document, apPath const& path) override { return engine->saveDocument(document, path); }
+  apString obstacle(axmDocument const& document) const override
+  {
+    return std::dynamic_pointer_cast<axmSaveObstacles>(engine)->obstacle(document);
+  }
 
 private:
   struct Load

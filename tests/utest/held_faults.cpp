@@ -1270,6 +1270,32 @@ std::vector<Fault> const& held_faults()
           return n->get_attribute(name, text) && text.length() <= 64 && n->get_attribute(name, value);
         };
       }},
+    {"obstacle", "there is never one",
+      [](Hooks& h) { h.obstacle = [](Factory const&, Document const&) { return apString(); }; }},
+    {"obstacle", "there is one where a document is saved",
+      [](Hooks& h)
+      {
+        h.obstacle = [](Factory const& factory, Document const& document)
+        {
+          apByteArray output;
+          return factory->saveDocument(document, output) ? APSTRING("the file") : Hooks().obstacle(factory, document);
+        };
+      }},
+    {"obstacle", "it ends with a full stop",
+      [](Hooks& h)
+      {
+        h.obstacle = [](Factory const& factory, Document const& document)
+        {
+          apString const told = Hooks().obstacle(factory, document);
+          return told.empty() ? told : told + APSTRING(".");
+        };
+      }},
+    {"obstacle", "a text that no document holds is none",
+      [](Hooks& h)
+      {
+        h.obstacle = [](Factory const& factory, Document const& document)
+        { return document->get_text() == APSTRING("\u0001") ? apString() : Hooks().obstacle(factory, document); };
+      }},
   };
   return faults;
 }

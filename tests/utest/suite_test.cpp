@@ -16,7 +16,7 @@
 namespace
 {
 // All checks of all classes, as one run reports them. Whoever adds a check changes it.
-std::size_t const number_of_reports = 1923;
+std::size_t const number_of_reports = 1929;
 
 using Texts = std::vector<std::string>;
 
