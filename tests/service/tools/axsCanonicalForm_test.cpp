@@ -145,3 +145,8 @@ TEST(axsCanonicalForm, a_file_is_read_with_what_it_refers_to)
   EXPECT_FALSE(axsCanonicalForm::write(apPath("no/such/file.xml"), reading, {}, error, write));
   EXPECT_EQ(narrow(error.url()), "no/such/file.xml");
 }
+
+TEST(axsCanonicalForm, an_attribute_without_a_prefix_needs_no_declaration)
+{
+  EXPECT_EQ(exclusive("<p:a xmlns:p='u:1' xmlns='u:2' b='1'/>"), "<p:a xmlns:p=\"u:1\" b=\"1\"></p:a>");
+}

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -282,4 +283,33 @@ TEST(axsComparison, files_are_compared_and_one_that_is_not_there_is_told)
   EXPECT_FALSE(missing.read_first(apPath("no/such/file.xml"), error));
   EXPECT_EQ(narrow(error.url()), "no/such/file.xml");
   EXPECT_FALSE(missing.read_second(apPath("no/such/file.xml"), error));
+}
+
+TEST(axsComparison, of_a_long_list_of_which_halves_are_exchanged_one_half_has_moved)
+{
+  auto const items = [](int begin, int end)
+  {
+    std::string made;
+    for (int i = begin; i < end; ++i)
+      made += "<r>" + std::to_string(i) + "</r>";
+    return made;
+  };
+  std::string const lines = compared(
+    "<l>" + items(0, 300) + "<gone/>" + items(300, 600) + "</l>", "<l>" + items(300, 600) + items(0, 300) + "</l>");
+  EXPECT_EQ(std::count(lines.begin(), lines.end(), '\n'), 601);
+  EXPECT_NE(lines.find("-/l/gone <gone/>|\n"), std::string::npos);
+  EXPECT_EQ(lines.find('!'), std::string::npos);
+  EXPECT_NE(lines.find(" <r>0</r>|\n"), std::string::npos);
+  EXPECT_NE(lines.find("|<r>0</r>\n"), std::string::npos);
+  EXPECT_EQ(lines.find("<r>300</r>"), std::string::npos);
+}
+
+TEST(axsComparison, elements_in_what_is_added_are_closed_where_they_end)
+{
+  EXPECT_EQ(compared("<a/>", "<a><b><c>x</c><d><e/></d>y</b></a>"), "+/a/b |<b><c>x</c><d><e/></d>y</b>\n");
+}
+
+TEST(axsComparison, attributes_are_added_before_others_too)
+{
+  EXPECT_EQ(compared("<a y='1'><b z='1'/></a>", "<a y='1'><b y='2' z='1'/></a>"), "+/a/b/@y |2\n");
 }

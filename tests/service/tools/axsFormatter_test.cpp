@@ -192,3 +192,46 @@ TEST(axsFormatter, line_ends_of_xml_1_1_of_two_characters_are_one)
 {
   EXPECT_EQ(formatted_twice("<?xml version='1.1'?><a>x\r\xC2\x85y</a>"), "<?xml version='1.1'?>\n<a>x\ny</a>\n");
 }
+
+TEST(axsFormatter, a_declaration_says_no_more_than_it_did)
+{
+  std::string const text = "<?xml version='1.0'?><a/>";
+  std::string utf16 = "\xFF\xFE";
+  for (char const c : text)
+    utf16.append(1, c).append(1, '\0');
+  EXPECT_EQ(formatted(utf16), "<?xml version='1.0'?>\n<a/>\n");
+  EXPECT_EQ(formatted_twice("<?xml version='1.0' encoding='US-ASCII'?><a/>"),
+    "<?xml version='1.0' encoding='US-ASCII'?>\n<a/>\n");
+}
+
+TEST(axsFormatter, line_ends_before_the_root_element_go)
+{
+  EXPECT_EQ(formatted_twice("\n\n<a/>"), "<a/>\n");
+}
+
+TEST(axsFormatter, a_comment_that_comes_first_in_an_element_stands_on_a_line_of_its_own)
+{
+  EXPECT_EQ(formatted_twice("<a> <!--c--><b/> <!--d--></a>"), "<a>\n  <!--c-->\n  <b/> <!--d-->\n</a>\n");
+}
+
+TEST(axsFormatter, lines_are_as_long_as_they_come_where_no_width_is_wanted)
+{
+  axsFormatOptions options;
+  options.width = 0;
+  std::string const tag = "<a b='" + std::string(500, 'x') + "' c='" + std::string(500, 'y') + "'/>\n";
+  EXPECT_EQ(formatted_twice(tag, options), tag);
+}
+
+TEST(axsFormatter, nothing_follows_a_mark_that_nobody_wants)
+{
+  int pieces = 0;
+  axmParseError error;
+  std::string const text = "\xEF\xBB\xBF<a/>";
+  EXPECT_TRUE(axsFormatter::format(apByteArray(text.data(), text.size()), axsFormatOptions(), error,
+    [&](std::string_view)
+    {
+      ++pieces;
+      return false;
+    }));
+  EXPECT_EQ(pieces, 1);
+}
