@@ -53,7 +53,8 @@ class Counts:
                 self.number = int(place[2])
                 # gcov marks with it a block that has not run and that only an exception reaches.
                 self.is_left_out = place[1] == "$$$$$"
-                if place[3] == ":" and place[1] != "-":
+                is_clearing_up = place[1] == "=====" and text[place.end() :].strip() == "}"
+                if place[3] == ":" and place[1] != "-" and not is_clearing_up:
                     self.count(self.lines, self.number, int(place[1]) if place[1].isdigit() else 0)
             elif file := FILE.match(text):
                 self.end_block()
