@@ -2,6 +2,10 @@
 
 #include "Hooks.h"
 
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
 #include <vector>
 
 // An engine with one promise broken.
@@ -42,6 +46,30 @@ apString trimmed(apString const& text);
 apString lower_case(apString const& text);
 
 bool is_element(Node const& node);
+
+template <class Kind>
+bool is(Node const& node)
+{
+  return std::dynamic_pointer_cast<Kind>(node) != nullptr;
+}
+
+// How many nodes it lies in.
+int depth_of(Node const& node);
+
+std::string text_of(apByteArray const& data);
+apByteArray bytes_of(std::string const& text);
+bool holds(apByteArray const& data, std::string_view part);
+
+// The text with every `wanted` replaced.
+std::string with(std::string text, std::string const& wanted, std::string const& replacement);
+
+// Empty if it cannot be read.
+std::string contents_of(apPath const& path);
+void write(apPath const& path, std::string const& text);
+
+// Loads other text than what is in the memory.
+void read_as(Hooks& hooks, std::function<std::string(std::string const& text)> const& change);
+void read_as(Hooks& hooks, char const* wanted, char const* meant);
 
 // A list of the items given, and the items of a list.
 List list_of(std::vector<Element> const& items);

@@ -16,23 +16,6 @@ bool wants_schema(axmLoadOptions const& options)
          (options.num_external_schemas() > 0 || !options.no_namespace_schema().empty());
 }
 
-apByteArray bytes_of(std::string const& text)
-{
-  return apByteArray(text.data(), text.size());
-}
-
-std::string string_of(apByteArray const& bytes)
-{
-  return std::string(bytes.data(), bytes.size());
-}
-
-std::string replaced_bytes(std::string text, std::string const& wanted, std::string const& replacement)
-{
-  for (std::size_t at = 0; (at = text.find(wanted, at)) != std::string::npos; at += replacement.size())
-    text.replace(at, wanted.size(), replacement);
-  return text;
-}
-
 apPath decoded(apPath const& path)
 {
   return apPath(replaced(apString(path.path()), APSTRING("%20"), APSTRING(" ")));
@@ -102,14 +85,6 @@ void with_options(Hooks& hooks, Change change)
                        axmParseError& error) { return factory->loadDocument(data, change(options), error); };
   hooks.load_file = [change](Factory const& factory, apPath const& path, axmLoadOptions const& options,
                       axmParseError& error) { return factory->loadDocument(path, change(options), error); };
-}
-
-template <class Change>
-void with_bytes(Hooks& hooks, Change change)
-{
-  hooks.load_bytes =
-    [change](Factory const& factory, apByteArray const& data, axmLoadOptions const& options, axmParseError& error)
-  { return factory->loadDocument(bytes_of(change(string_of(data))), options, error); };
 }
 
 // The options without the schemas that `unwanted` names.
@@ -340,20 +315,20 @@ std::vector<Fault> const& factory_faults()
     {"loadDocument", "what is not XML becomes a text",
       [](Hooks& h)
       {
-        with_bytes(h, [](std::string const& text)
+        read_as(h, [](std::string const& text)
           { return text.empty() || text.find('<') != std::string::npos ? text : "<text>" + text + "</text>"; });
       }},
     {"loadDocument", "the data ends at a zero byte",
-      [](Hooks& h) { with_bytes(h, [](std::string const& text) { return std::string(text.c_str()); }); }},
+      [](Hooks& h) { read_as(h, [](std::string const& text) { return std::string(text.c_str()); }); }},
     {"loadDocument", "a second root is ignored",
       [](Hooks& h)
-      { with_bytes(h, [](std::string const& text) { return text == "<a/><b/>" ? std::string("<a/>") : text; }); }},
+      { read_as(h, [](std::string const& text) { return text == "<a/><b/>" ? std::string("<a/>") : text; }); }},
     {"loadDocument", "bytes that are not UTF-8 are replaced",
-      [](Hooks& h) { with_bytes(h, [](std::string const& text) { return replaced_bytes(text, "\xFF", "?"); }); }},
+      [](Hooks& h) { read_as(h, [](std::string const& text) { return with(text, "\xFF", "?"); }); }},
     {"loadDocument", "UTF-8 is taken for one byte a character",
       [](Hooks& h)
       {
-        with_bytes(h,
+        read_as(h,
           [](std::string const& text)
           {
             std::string wide;
@@ -365,7 +340,7 @@ std::vector<Fault> const& factory_faults()
           });
       }},
     {"loadDocument", "undeclared entities are left out",
-      [](Hooks& h) { with_bytes(h, [](std::string const& text) { return replaced_bytes(text, "&undefined;", ""); }); }},
+      [](Hooks& h) { read_as(h, [](std::string const& text) { return with(text, "&undefined;", ""); }); }},
 
     {"loadDocument", "schemas are skipped in silence",
       [](Hooks& h)
@@ -524,9 +499,9 @@ std::vector<Fault> const& factory_faults()
           });
       }},
     {"white space", "white space between tags is kept",
-      [](Hooks& h) { with_bytes(h, [](std::string const& text) { return replaced_bytes(text, ">  <", "> <"); }); }},
+      [](Hooks& h) { read_as(h, [](std::string const& text) { return with(text, ">  <", "> <"); }); }},
     {"white space", "line ends are kept as spaces",
-      [](Hooks& h) { with_bytes(h, [](std::string const& text) { return replaced_bytes(text, ">\n<", "> <"); }); }},
+      [](Hooks& h) { read_as(h, [](std::string const& text) { return with(text, ">\n<", "> <"); }); }},
     {"white space", "texts are trimmed",
       [](Hooks& h)
       {
@@ -557,7 +532,7 @@ std::vector<Fault> const& factory_faults()
         {
           if (options.validate_mode() == axmValidateNone)
             return f->loadDocument(data, options, error);
-          return f->loadDocument(bytes_of(replaced_bytes(string_of(data), ">  <", "> <")), options, error);
+          return f->loadDocument(bytes_of(with(text_of(data), ">  <", "> <")), options, error);
         };
       }},
 
@@ -593,7 +568,7 @@ std::vector<Fault> const& factory_faults()
         h.save_bytes = [](Factory const& f, Document const& document, apByteArray& output)
         {
           bool const ok = f->saveDocument(document, output);
-          output = bytes_of(replaced_bytes(string_of(output), "&lt;", "<"));
+          output = bytes_of(with(text_of(output), "&lt;", "<"));
           return ok;
         };
       }},
@@ -603,7 +578,7 @@ std::vector<Fault> const& factory_faults()
         h.save_bytes = [](Factory const& f, Document const& document, apByteArray& output)
         {
           bool const ok = f->saveDocument(document, output);
-          output = bytes_of(replaced_bytes(string_of(output), "\xC3\xA4", "\xE4"));
+          output = bytes_of(with(text_of(output), "\xC3\xA4", "\xE4"));
           return ok;
         };
       }},
@@ -613,7 +588,7 @@ std::vector<Fault> const& factory_faults()
         h.save_bytes = [](Factory const& f, Document const& document, apByteArray& output)
         {
           bool const ok = f->saveDocument(document, output);
-          std::string text = string_of(output);
+          std::string text = text_of(output);
           std::size_t const start = text.find("<!--");
           if (start != std::string::npos)
             text.erase(start, text.find("-->") + 3 - start);
@@ -629,7 +604,7 @@ std::vector<Fault> const& factory_faults()
           if (f->saveDocument(document, path))
             return true;
           apByteArray const bytes =
-            bytes_of(replaced_bytes(string_of(bytes_of(document->get_xml().to_utf8().c_str())), "\x01", ""));
+            bytes_of(with(text_of(bytes_of(document->get_xml().to_utf8().c_str())), "\x01", ""));
           return write(path, bytes, apPath::write_mode());
         };
       }},

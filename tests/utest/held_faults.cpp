@@ -19,23 +19,9 @@
 
 namespace
 {
-template <class Kind>
-bool is(Node const& node)
-{
-  return std::dynamic_pointer_cast<Kind>(node) != nullptr;
-}
-
 bool is_text(Node const& node)
 {
   return node->getNodeName() == APSTRING("#text");
-}
-
-int depth_of(Node const& node)
-{
-  int depth = 0;
-  for (Node above = node->getParentNode(); above != nullptr; above = above->getParentNode())
-    ++depth;
-  return depth;
 }
 
 // The node after `node` in document order among those below `top`.
@@ -61,45 +47,6 @@ bool has_beyond(apString const& text, wchar_t limit)
 {
   std::wstring_view const view = text.view();
   return std::any_of(view.begin(), view.end(), [limit](wchar_t character) { return character > limit; });
-}
-
-std::string text_of(apByteArray const& data)
-{
-  return std::string(data.data(), data.size());
-}
-
-apByteArray bytes_of(std::string const& text)
-{
-  return apByteArray(text.data(), text.size());
-}
-
-std::string with(std::string text, std::string const& wanted, std::string const& replacement)
-{
-  for (std::size_t at = 0; (at = text.find(wanted, at)) != std::string::npos; at += replacement.size())
-    text.replace(at, wanted.size(), replacement);
-  return text;
-}
-
-std::string contents_of(apPath const& path)
-{
-  std::string text;
-  std::FILE* const file = path.file_open(apPath::read_mode());
-  if (file == nullptr)
-    return text;
-  char part[4096];
-  for (std::size_t size; (size = std::fread(part, 1, sizeof part, file)) > 0;)
-    text.append(part, size);
-  std::fclose(file);
-  return text;
-}
-
-void write(apPath const& path, std::string const& text)
-{
-  if (std::FILE* const file = path.file_open(apPath::write_mode()))
-  {
-    std::fwrite(text.data(), 1, text.size(), file);
-    std::fclose(file);
-  }
 }
 
 void remove_file(apPath const& path)
@@ -270,20 +217,6 @@ private:
   State state;
   std::vector<Search> searches;
 };
-
-// Loads other text than what is in the memory.
-template <class Change>
-void read_as(Hooks& hooks, Change change)
-{
-  hooks.load_bytes =
-    [change](Factory const& factory, apByteArray const& data, axmLoadOptions const& options, axmParseError& error)
-  { return factory->loadDocument(bytes_of(change(text_of(data))), options, error); };
-}
-
-void read_as(Hooks& hooks, char const* wanted, char const* meant)
-{
-  read_as(hooks, [wanted, meant](std::string const& text) { return with(text, wanted, meant); });
-}
 
 // Changes what is told of a load from memory: `change` has the text, the document and the error.
 template <class Change>

@@ -14,12 +14,6 @@
 
 namespace
 {
-template <class Kind>
-bool is(Node const& node)
-{
-  return std::dynamic_pointer_cast<Kind>(node) != nullptr;
-}
-
 bool is_attribute(Node const& node)
 {
   return !is<axmElement>(node) && !is<axmDocument>(node) && !is<axmCharacterData>(node) &&
@@ -32,52 +26,9 @@ apString cut(apString const& text, std::size_t length)
   return apString(text.view().substr(0, length));
 }
 
-int depth_of(Node const& node)
-{
-  int depth = 0;
-  for (Node above = node->getParentNode(); above != nullptr; above = above->getParentNode())
-    ++depth;
-  return depth;
-}
-
-std::string text_of(apByteArray const& data)
-{
-  return std::string(data.data(), data.size());
-}
-
-apByteArray bytes_of(std::string const& text)
-{
-  return apByteArray(text.data(), text.size());
-}
-
-bool holds(apByteArray const& data, std::string_view part)
-{
-  return std::string_view(data.data(), data.size()).find(part) != std::string_view::npos;
-}
-
-std::string with(std::string text, std::string const& wanted, std::string const& replacement)
-{
-  for (std::size_t at = 0; (at = text.find(wanted, at)) != std::string::npos; at += replacement.size())
-    text.replace(at, wanted.size(), replacement);
-  return text;
-}
-
 bool is_folder(apPath const& path)
 {
   return std::filesystem::is_directory(std::filesystem::u8path(path.path().c_str()));
-}
-
-apByteArray contents_of(apPath const& path)
-{
-  apByteArray data;
-  std::FILE* const file = path.file_open(apPath::read_mode());
-  if (file == nullptr)
-    return data;
-  char part[4096];
-  for (std::size_t size; (size = std::fread(part, 1, sizeof part, file)) > 0;)
-    data.append(part, size);
-  std::fclose(file);
-  return data;
 }
 
 // Loads what is in a file only if `may` says so, and fails otherwise.
@@ -87,7 +38,7 @@ void refuse_files_unless(Hooks& hooks, May may)
   hooks.load_file = [may](Factory const& factory, apPath const& path, axmLoadOptions const& options,
                       axmParseError& error) -> Document
   {
-    if (may(contents_of(path)))
+    if (may(bytes_of(contents_of(path))))
       return factory->loadDocument(path, options, error);
     error = axmParseError(APSTRING("refused"));
     return nullptr;
@@ -101,7 +52,7 @@ void put_into_files(Hooks& hooks, Change change)
   hooks.load_file = [change](
                       Factory const& factory, apPath const& path, axmLoadOptions const& options, axmParseError& error)
   {
-    return path.exists() ? factory->loadDocument(bytes_of(change(text_of(contents_of(path)))), options, error)
+    return path.exists() ? factory->loadDocument(bytes_of(change(contents_of(path))), options, error)
                          : factory->loadDocument(path, options, error);
   };
 }

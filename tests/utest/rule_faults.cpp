@@ -17,66 +17,6 @@
 
 namespace
 {
-template <class Kind>
-bool is(Node const& node)
-{
-  return std::dynamic_pointer_cast<Kind>(node) != nullptr;
-}
-
-std::string text_of(apByteArray const& data)
-{
-  return std::string(data.data(), data.size());
-}
-
-apByteArray bytes_of(std::string const& text)
-{
-  return apByteArray(text.data(), text.size());
-}
-
-std::string with(std::string text, std::string const& wanted, std::string const& replacement)
-{
-  for (std::size_t at = 0; (at = text.find(wanted, at)) != std::string::npos; at += replacement.size())
-    text.replace(at, wanted.size(), replacement);
-  return text;
-}
-
-std::string contents_of(apPath const& path)
-{
-  std::string text;
-  std::FILE* const file = path.file_open(apPath::read_mode());
-  if (file == nullptr)
-    return text;
-  char part[4096];
-  for (std::size_t size; (size = std::fread(part, 1, sizeof part, file)) > 0;)
-    text.append(part, size);
-  std::fclose(file);
-  return text;
-}
-
-void write(apPath const& path, std::string const& text)
-{
-  if (std::FILE* const file = path.file_open(apPath::write_mode()))
-  {
-    std::fwrite(text.data(), 1, text.size(), file);
-    std::fclose(file);
-  }
-}
-
-// Loads other text than what is in the memory.
-template <class Change>
-void read_as(Hooks& hooks, Change change)
-{
-  hooks.load_bytes =
-    [change](Factory const& factory, apByteArray const& data, axmLoadOptions const& options, axmParseError& error)
-  { return factory->loadDocument(bytes_of(change(text_of(data))), options, error); };
-}
-
-// Takes `wanted` for `meant` in documents, expressions or schemas.
-void read_as(Hooks& hooks, char const* wanted, char const* meant)
-{
-  read_as(hooks, [wanted, meant](std::string const& text) { return with(text, wanted, meant); });
-}
-
 template <class Change>
 void search_as(Hooks& hooks, Change change)
 {

@@ -9,37 +9,6 @@
 
 namespace
 {
-std::string text_of(apByteArray const& data)
-{
-  return std::string(data.data(), data.size());
-}
-
-apByteArray bytes_of(std::string const& text)
-{
-  return apByteArray(text.data(), text.size());
-}
-
-bool holds(apByteArray const& data, char const* part)
-{
-  return std::string_view(data.data(), data.size()).find(part) != std::string_view::npos;
-}
-
-std::string with(std::string text, std::string const& wanted, std::string const& replacement)
-{
-  for (std::size_t at = 0; (at = text.find(wanted, at)) != std::string::npos; at += replacement.size())
-    text.replace(at, wanted.size(), replacement);
-  return text;
-}
-
-// Loads other bytes than were given.
-template <class Change>
-void put_into_data(Hooks& hooks, Change change)
-{
-  hooks.load_bytes =
-    [change](Factory const& factory, apByteArray const& data, axmLoadOptions const& options, axmParseError& error)
-  { return factory->loadDocument(bytes_of(change(text_of(data))), options, error); };
-}
-
 // Loads with other options than were given.
 template <class Change>
 void put_into_options(Hooks& hooks, Change change)
@@ -177,34 +146,34 @@ std::vector<Fault> const& subtle_factory_faults()
     {"loadDocument", "a document that needs an external entity loads without it",
       [](Hooks& h)
       {
-        put_into_data(h, [](std::string const& text)
+        read_as(h, [](std::string const& text)
           { return text.find("SYSTEM") != std::string::npos ? with(text, "&e;</r>", "</r>") : text; });
       }},
     {"loadDocument", "a mark before UTF-8 is no XML",
-      [](Hooks& h) { put_into_data(h, [](std::string const& text) { return with(text, "\xEF\xBB\xBF", "x"); }); }},
+      [](Hooks& h) { read_as(h, [](std::string const& text) { return with(text, "\xEF\xBB\xBF", "x"); }); }},
     {"loadDocument", "UTF-16 is not understood",
       [](Hooks& h)
       {
-        put_into_data(
+        read_as(
           h, [](std::string const& text) { return text.find('\0') != std::string::npos ? std::string("x") : text; });
       }},
     {"loadDocument", "other encodings are taken for UTF-8",
       [](Hooks& h)
       {
-        put_into_data(h, [](std::string const& text)
+        read_as(h, [](std::string const& text)
           { return text.find("ISO-8859-1") != std::string::npos ? std::string("<r>\xC3\x83</r>") : text; });
       }},
     {"loadDocument", "surrogates in UTF-8 are characters",
-      [](Hooks& h) { put_into_data(h, [](std::string const& text) { return with(text, "\xED\xA0\x80", "x"); }); }},
+      [](Hooks& h) { read_as(h, [](std::string const& text) { return with(text, "\xED\xA0\x80", "x"); }); }},
     {"loadDocument", "a line end of two characters stays one",
-      [](Hooks& h) { put_into_data(h, [](std::string const& text) { return with(text, "a\r\nb", "a&#13;\nb"); }); }},
+      [](Hooks& h) { read_as(h, [](std::string const& text) { return with(text, "a\r\nb", "a&#13;\nb"); }); }},
     {"loadDocument", "CDATA sections are left out",
-      [](Hooks& h) { put_into_data(h, [](std::string const& text) { return with(text, "<![CDATA[b]]>", ""); }); }},
+      [](Hooks& h) { read_as(h, [](std::string const& text) { return with(text, "<![CDATA[b]]>", ""); }); }},
     {"loadDocument", "line ends in attributes are kept",
-      [](Hooks& h) { put_into_data(h, [](std::string const& text) { return with(text, "a\tb\nc", "a b&#10;c"); }); }},
+      [](Hooks& h) { read_as(h, [](std::string const& text) { return with(text, "a\tb\nc", "a b&#10;c"); }); }},
     {"loadDocument", "defaults of attributes are not there",
       [](Hooks& h)
-      { put_into_data(h, [](std::string const& text) { return with(text, "k CDATA 'given'", "k CDATA #IMPLIED"); }); }},
+      { read_as(h, [](std::string const& text) { return with(text, "k CDATA 'given'", "k CDATA #IMPLIED"); }); }},
     {"loadDocument", "empty attributes are left out",
       [](Hooks& h)
       {
@@ -244,9 +213,9 @@ std::vector<Fault> const& subtle_factory_faults()
         };
       }},
     {"white space", "a no-break space is dropped",
-      [](Hooks& h) { put_into_data(h, [](std::string const& text) { return with(text, ">\xC2\xA0<", "><"); }); }},
+      [](Hooks& h) { read_as(h, [](std::string const& text) { return with(text, ">\xC2\xA0<", "><"); }); }},
     {"white space", "an ideographic space is dropped",
-      [](Hooks& h) { put_into_data(h, [](std::string const& text) { return with(text, ">\xE2\x80\x83<", "><"); }); }},
+      [](Hooks& h) { read_as(h, [](std::string const& text) { return with(text, ">\xE2\x80\x83<", "><"); }); }},
     {"loadDocument", "lines are counted by returns and line ends",
       [](Hooks& h)
       {
@@ -311,7 +280,7 @@ std::vector<Fault> const& subtle_factory_faults()
         };
       }},
     {"loadDocument", "attributes that a schema does not know are left alone",
-      [](Hooks& h) { put_into_data(h, [](std::string const& text) { return with(text, " more='x'", ""); }); }},
+      [](Hooks& h) { read_as(h, [](std::string const& text) { return with(text, " more='x'", ""); }); }},
     {"loadDocument", "validation trims texts",
       [](Hooks& h)
       {
