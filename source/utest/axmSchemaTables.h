@@ -15,7 +15,8 @@ class utUnitTest;
 // Tables of schemas and documents, and how engines are held to them. Not installed.
 namespace axmSchemaTables
 {
-// What stands in a schema, documents that follow it, and documents that do not.
+// What stands in a schema, documents that follow it, and documents that do not. Documents may say xsi: and xs: without a
+// declaration of these prefixes.
 struct Rule
 {
   std::string schema;

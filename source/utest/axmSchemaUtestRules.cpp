@@ -515,32 +515,11 @@ Rules const& derivation_rules()
      "name='l'><xs:complexContent><xs:restriction base='b'/></xs:complexContent></xs:complexType><xs:complexType "
      "name='xl'><xs:complexContent><xs:restriction base='x'/></xs:complexContent></xs:complexType><xs:element name='r' "
      "type='b'/>",
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'><a/></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='b'><a/></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='x' k=''><a/><c/></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='l'></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xl'></r>"},
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'><c/></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='b'><c/></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='l'><a/></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xl'><a/></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='x'><c/><a/></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xs:string'></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xs:anyType'></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='none'></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='p:b'></r>"}},
+      {"<r><a/></r>", "<r xsi:type='b'><a/></r>", "<r xsi:type='x' k=''><a/><c/></r>", "<r xsi:type='l'></r>",
+        "<r xsi:type='xl'></r>"},
+      {"<r><c/></r>", "<r xsi:type='b'><c/></r>", "<r xsi:type='l'><a/></r>", "<r xsi:type='xl'><a/></r>",
+        "<r xsi:type='x'><c/><a/></r>", "<r xsi:type='xs:string'></r>", "<r xsi:type='xs:anyType'></r>",
+        "<r xsi:type='none'></r>", "<r xsi:type='p:b'></r>"}},
     {"<xs:complexType name='b'><xs:sequence><xs:element name='a' "
      "minOccurs='0'/></xs:sequence></xs:complexType><xs:complexType name='x'><xs:complexContent><xs:extension "
      "base='b'><xs:sequence><xs:element name='c' minOccurs='0'/></xs:sequence><xs:attribute "
@@ -548,15 +527,7 @@ Rules const& derivation_rules()
      "name='l'><xs:complexContent><xs:restriction base='b'/></xs:complexContent></xs:complexType><xs:complexType "
      "name='xl'><xs:complexContent><xs:restriction base='x'/></xs:complexContent></xs:complexType><xs:element name='r' "
      "type='b' block='extension'/>",
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='b'></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='l'></r>"},
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='x'></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xl'></r>"}},
+      {"<r></r>", "<r xsi:type='b'></r>", "<r xsi:type='l'></r>"}, {"<r xsi:type='x'></r>", "<r xsi:type='xl'></r>"}},
     {"<xs:complexType name='b'><xs:sequence><xs:element name='a' "
      "minOccurs='0'/></xs:sequence></xs:complexType><xs:complexType name='x'><xs:complexContent><xs:extension "
      "base='b'><xs:sequence><xs:element name='c' minOccurs='0'/></xs:sequence><xs:attribute "
@@ -564,13 +535,7 @@ Rules const& derivation_rules()
      "name='l'><xs:complexContent><xs:restriction base='b'/></xs:complexContent></xs:complexType><xs:complexType "
      "name='xl'><xs:complexContent><xs:restriction base='x'/></xs:complexContent></xs:complexType><xs:element name='r' "
      "type='b' block='restriction'/>",
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='x'></r>"},
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='l'></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xl'></r>"}},
+      {"<r></r>", "<r xsi:type='x'></r>"}, {"<r xsi:type='l'></r>", "<r xsi:type='xl'></r>"}},
     {"<xs:complexType name='b'><xs:sequence><xs:element name='a' "
      "minOccurs='0'/></xs:sequence></xs:complexType><xs:complexType name='x'><xs:complexContent><xs:extension "
      "base='b'><xs:sequence><xs:element name='c' minOccurs='0'/></xs:sequence><xs:attribute "
@@ -578,15 +543,7 @@ Rules const& derivation_rules()
      "name='l'><xs:complexContent><xs:restriction base='b'/></xs:complexContent></xs:complexType><xs:complexType "
      "name='xl'><xs:complexContent><xs:restriction base='x'/></xs:complexContent></xs:complexType><xs:element name='r' "
      "type='b' block='#all'/>",
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='b'></r>"},
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='x'></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='l'></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xl'></r>"}},
+      {"<r></r>", "<r xsi:type='b'></r>"}, {"<r xsi:type='x'></r>", "<r xsi:type='l'></r>", "<r xsi:type='xl'></r>"}},
     {"<xs:complexType name='b' block='extension'><xs:sequence><xs:element name='a' "
      "minOccurs='0'/></xs:sequence></xs:complexType><xs:complexType name='x'><xs:complexContent><xs:extension "
      "base='b'><xs:sequence><xs:element name='c' minOccurs='0'/></xs:sequence><xs:attribute "
@@ -594,12 +551,7 @@ Rules const& derivation_rules()
      "name='l'><xs:complexContent><xs:restriction base='b'/></xs:complexContent></xs:complexType><xs:complexType "
      "name='xl'><xs:complexContent><xs:restriction base='x'/></xs:complexContent></xs:complexType><xs:element name='r' "
      "type='b'/>",
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='l'></r>"},
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='x'></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xl'></r>"}},
+      {"<r xsi:type='l'></r>"}, {"<r xsi:type='x'></r>", "<r xsi:type='xl'></r>"}},
     {"<xs:complexType name='b' block='restriction'><xs:sequence><xs:element name='a' "
      "minOccurs='0'/></xs:sequence></xs:complexType><xs:complexType name='x'><xs:complexContent><xs:extension "
      "base='b'><xs:sequence><xs:element name='c' minOccurs='0'/></xs:sequence><xs:attribute "
@@ -607,12 +559,7 @@ Rules const& derivation_rules()
      "name='l'><xs:complexContent><xs:restriction base='b'/></xs:complexContent></xs:complexType><xs:complexType "
      "name='xl'><xs:complexContent><xs:restriction base='x'/></xs:complexContent></xs:complexType><xs:element name='r' "
      "type='b'/>",
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='x'></r>"},
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='l'></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xl'></r>"}},
+      {"<r xsi:type='x'></r>"}, {"<r xsi:type='l'></r>", "<r xsi:type='xl'></r>"}},
     {"<xs:complexType name='b' block='#all'><xs:sequence><xs:element name='a' "
      "minOccurs='0'/></xs:sequence></xs:complexType><xs:complexType name='x'><xs:complexContent><xs:extension "
      "base='b'><xs:sequence><xs:element name='c' minOccurs='0'/></xs:sequence><xs:attribute "
@@ -620,12 +567,7 @@ Rules const& derivation_rules()
      "name='l'><xs:complexContent><xs:restriction base='b'/></xs:complexContent></xs:complexType><xs:complexType "
      "name='xl'><xs:complexContent><xs:restriction base='x'/></xs:complexContent></xs:complexType><xs:element name='r' "
      "type='b'/>",
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='b'></r>"},
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='x'></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='l'></r>"}},
+      {"<r xsi:type='b'></r>"}, {"<r xsi:type='x'></r>", "<r xsi:type='l'></r>"}},
     {"<xs:complexType name='b' abstract='true'><xs:sequence><xs:element name='a' "
      "minOccurs='0'/></xs:sequence></xs:complexType><xs:complexType name='x'><xs:complexContent><xs:extension "
      "base='b'><xs:sequence><xs:element name='c' minOccurs='0'/></xs:sequence><xs:attribute "
@@ -633,13 +575,7 @@ Rules const& derivation_rules()
      "name='l'><xs:complexContent><xs:restriction base='b'/></xs:complexContent></xs:complexType><xs:complexType "
      "name='xl'><xs:complexContent><xs:restriction base='x'/></xs:complexContent></xs:complexType><xs:element name='r' "
      "type='b'/>",
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='x'></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='l'></r>"},
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='b'></r>"}},
+      {"<r xsi:type='x'></r>", "<r xsi:type='l'></r>"}, {"<r></r>", "<r xsi:type='b'></r>"}},
     {"<xs:complexType name='b'><xs:sequence><xs:element name='a' "
      "minOccurs='0'/></xs:sequence></xs:complexType><xs:complexType name='x'><xs:complexContent><xs:extension "
      "base='b'><xs:sequence><xs:element name='c' minOccurs='0'/></xs:sequence><xs:attribute "
@@ -647,60 +583,20 @@ Rules const& derivation_rules()
      "name='l'><xs:complexContent><xs:restriction base='b'/></xs:complexContent></xs:complexType><xs:complexType "
      "name='xl'><xs:complexContent><xs:restriction base='x'/></xs:complexContent></xs:complexType><xs:element name='r' "
      "type='x'/>",
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='x'></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xl'></r>"},
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='b'></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='l'></r>"}},
+      {"<r xsi:type='x'></r>", "<r xsi:type='xl'></r>"}, {"<r xsi:type='b'></r>", "<r xsi:type='l'></r>"}},
     {"<xs:element name='r' type='xs:anyType'/>",
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='xs:int'>1</r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xs:string'>x</r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' "
-        "xmlns:xs='http://www.w3.org/2001/XMLSchema'><a/></r>"},
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='xs:int'>x</r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xs:int'><a/></r>"}},
+      {"<r xsi:type='xs:int'>1</r>", "<r xsi:type='xs:string'>x</r>", "<r><a/></r>"},
+      {"<r xsi:type='xs:int'>x</r>", "<r xsi:type='xs:int'><a/></r>"}},
     {"<xs:element name='r' type='xs:anySimpleType'/>",
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='xs:int'>1</r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xs:NMTOKENS'>a b</r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'>x</r>"},
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='xs:int'>x</r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xs:anyType'></r>"}},
-    {"<xs:element name='r' type='xs:decimal'/>",
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='xs:byte'>127</r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xs:integer'>1</r>"},
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='xs:byte'>128</r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xs:double'>1</r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xs:string'>1</r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xs:integer'>1.0</r>"}},
+      {"<r xsi:type='xs:int'>1</r>", "<r xsi:type='xs:NMTOKENS'>a b</r>", "<r>x</r>"},
+      {"<r xsi:type='xs:int'>x</r>", "<r xsi:type='xs:anyType'></r>"}},
+    {"<xs:element name='r' type='xs:decimal'/>", {"<r xsi:type='xs:byte'>127</r>", "<r xsi:type='xs:integer'>1</r>"},
+      {"<r xsi:type='xs:byte'>128</r>", "<r xsi:type='xs:double'>1</r>", "<r xsi:type='xs:string'>1</r>",
+        "<r xsi:type='xs:integer'>1.0</r>"}},
     {"<xs:simpleType name='u'><xs:union memberTypes='xs:int xs:boolean'/></xs:simpleType><xs:element name='r' "
      "type='u'/>",
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='xs:int'>1</r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xs:boolean'>true</r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='u'>1</r>"},
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:type='xs:int'>true</r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:type='xs:string'>x</r>"}},
+      {"<r xsi:type='xs:int'>1</r>", "<r xsi:type='xs:boolean'>true</r>", "<r xsi:type='u'>1</r>"},
+      {"<r xsi:type='xs:int'>true</r>", "<r xsi:type='xs:string'>x</r>"}},
     {"<xs:element name='h' type='xs:decimal'/><xs:element name='m' substitutionGroup='h'/><xs:element name='i' "
      "type='xs:int' substitutionGroup='h'/><xs:element name='j' type='xs:byte' substitutionGroup='i'/><xs:element "
      "name='r'><xs:complexType><xs:sequence><xs:element ref='h' "
@@ -739,48 +635,16 @@ Rules const& derivation_rules()
     {"<xs:element name='r'><xs:complexType><xs:choice><xs:element name='n' type='xs:int' nillable='true'/><xs:element "
      "name='o' type='xs:int'/><xs:element name='d' type='xs:int' nillable='true' "
      "default='1'/></xs:choice></xs:complexType></xs:element>",
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'><n "
-       "xsi:nil='true'></n></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'><n "
-        "xsi:nil='1'></n></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'><n "
-        "xsi:nil='false'>1</n></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'><n "
-        "xsi:nil='0'>1</n></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'><n "
-        "xsi:nil='true'><!--x--></n></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'><d "
-        "xsi:nil='true'></d></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'><d "
-        "xsi:nil='false'></d></r>"},
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'><n "
-       "xsi:nil='true'>1</n></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'><n "
-        "xsi:nil='true'> </n></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'><n "
-        "xsi:nil='false'></n></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'><n "
-        "xsi:nil=''>1</n></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'><n "
-        "xsi:nil='TRUE'></n></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'><o "
-        "xsi:nil='true'></o></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'><o "
-        "xsi:nil='true'>1</o></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema'><d "
-        "xsi:nil='true'>1</d></r>"}},
+      {"<r><n xsi:nil='true'></n></r>", "<r><n xsi:nil='1'></n></r>", "<r><n xsi:nil='false'>1</n></r>",
+        "<r><n xsi:nil='0'>1</n></r>", "<r><n xsi:nil='true'><!--x--></n></r>", "<r><d xsi:nil='true'></d></r>",
+        "<r><d xsi:nil='false'></d></r>"},
+      {"<r><n xsi:nil='true'>1</n></r>", "<r><n xsi:nil='true'> </n></r>", "<r><n xsi:nil='false'></n></r>",
+        "<r><n xsi:nil=''>1</n></r>", "<r><n xsi:nil='TRUE'></n></r>", "<r><o xsi:nil='true'></o></r>",
+        "<r><o xsi:nil='true'>1</o></r>", "<r><d xsi:nil='true'>1</d></r>"}},
     {"<xs:element name='r' nillable='true'><xs:complexType mixed='true'><xs:sequence><xs:element "
      "name='a'/></xs:sequence><xs:attribute name='k' type='xs:int'/></xs:complexType></xs:element>",
-      {"<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-       "xsi:nil='true' k='1'/>",
-        "<r>x<a/></r>"},
-      {"<r/>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:nil='true'>x</r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:nil='true'><a/></r>",
-        "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:xs='http://www.w3.org/2001/XMLSchema' "
-        "xsi:nil='true' k='x'/>"}},
+      {"<r xsi:nil='true' k='1'/>", "<r>x<a/></r>"},
+      {"<r/>", "<r xsi:nil='true'>x</r>", "<r xsi:nil='true'><a/></r>", "<r xsi:nil='true' k='x'/>"}},
     {"<xs:complexType name='b'><xs:sequence><xs:element name='a'/></xs:sequence></xs:complexType><xs:complexType "
      "name='x' mixed='false'><xs:complexContent><xs:extension base='b'><xs:choice><xs:element name='c'/><xs:element "
      "name='d'/></xs:choice></xs:extension></xs:complexContent></xs:complexType><xs:element name='r' type='x'/>",
