@@ -1,6 +1,7 @@
 // Canonical forms of the well-formed documents of the W3C's XML conformance suite against those of libxml2. Both read the
 // external subset and external entities. What is known to come out otherwise is held one document at a time.
 
+#include "../service/TextStream.h"
 #include "KnownExceptions.h"
 #include "XmlSuite.h"
 
@@ -40,11 +41,7 @@ Form axs_form(std::string const& file, axsCanonicalOptions const& options)
   reading.set_disable_entity_resolution(false);
   Form form;
   axmParseError error;
-  auto const write = [&](std::string_view piece)
-  {
-    form.text += piece;
-    return true;
-  };
+  auto const write = appending_to(form.text);
   form.is_there = axsCanonicalForm::write(apPath(file.c_str()), reading, options, error, write);
   if (!form.is_there)
     form.text = error.message().to_utf8().view();

@@ -1,9 +1,9 @@
 // The layout of axsFormatter on the W3C's XML conformance suite and, where AXM_DOCUMENTS names a folder, on the documents in
 // it: what is laid out says what it said, and stays as it is when it is laid out again.
 
+#include "../service/TextStream.h"
 #include "XmlSuite.h"
 
-#include <axsByteStream.h>
 #include <axsComparison.h>
 #include <axsFormatter.h>
 
@@ -11,34 +11,13 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdlib>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 
 namespace
 {
-class Bytes final : public axsByteStream
-{
-public:
-  explicit Bytes(std::string_view given) : left(given) {}
-
-  std::size_t read(char* to, std::size_t size) override
-  {
-    std::size_t const count = std::min(size, left.size());
-    std::memcpy(to, left.data(), count);
-    left.remove_prefix(count);
-    return count;
-  }
-
-  apString fault() const override { return apString(); }
-
-private:
-  std::string_view left;
-};
-
 std::string contents(std::string const& file)
 {
   std::ifstream stream(file, std::ios::binary);
@@ -49,12 +28,7 @@ bool format(std::string const& text, axsFormatOptions const& options, std::strin
 {
   axmParseError error;
   result.clear();
-  return axsFormatter::format(apByteArray(text.data(), text.size()), options, error,
-    [&](std::string_view piece)
-    {
-      result += piece;
-      return true;
-    });
+  return axsFormatter::format(apByteArray(text.data(), text.size()), options, error, appending_to(result));
 }
 
 std::string first_difference(std::string const& before, std::string const& after)
@@ -63,8 +37,8 @@ std::string first_difference(std::string const& before, std::string const& after
   options.ignores_layout = true;
   axsComparison comparison(options);
   axmParseError error;
-  Bytes first(before);
-  Bytes second(after);
+  TextStream first(before);
+  TextStream second(after);
   if (!comparison.read_first(first, error) || !comparison.read_second(second, error))
     return error.message().to_utf8().c_str();
   std::string path;

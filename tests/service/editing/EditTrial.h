@@ -1,5 +1,6 @@
 #pragma once
 
+#include "../TextStream.h"
 #include "Markup.h"
 
 #include <apByteArray.h>
@@ -7,7 +8,6 @@
 #include <axmDocument.h>
 #include <axmDocumentFactory.h>
 #include <axmElement.h>
-#include <axsByteStream.h>
 #include <axsCanonicalForm.h>
 #include <axsEditor.h>
 #include <axsRegister.h>
@@ -84,23 +84,6 @@ public:
 private:
   using Ranges = std::vector<Markup::Range>;
 
-  class Bytes final : public axsByteStream
-  {
-  public:
-    explicit Bytes(std::string_view given) : left(given) {}
-
-    std::size_t read(char* to, std::size_t size) override
-    {
-      std::size_t const count = left.copy(to, size);
-      left.remove_prefix(count);
-      return count;
-    }
-    apString fault() const override { return {}; }
-
-  private:
-    std::string_view left;
-  };
-
   std::shared_ptr<axmDocument> load(std::string const& bytes) const
   {
     axmParseError error;
@@ -154,14 +137,10 @@ private:
   {
     axsCanonicalOptions options;
     options.has_comments = true;
-    Bytes source({document.data(), document.size()});
+    TextStream source({document.data(), document.size()});
     std::string text;
     axmParseError error;
-    auto const write = [&](std::string_view piece)
-    {
-      text += piece;
-      return true;
-    };
+    auto const write = appending_to(text);
     return axsCanonicalForm::write(source, options, error, write) ? text : std::string();
   }
 

@@ -1,6 +1,5 @@
-#include "TextStream.h"
-
 #include "../Engine.h"
+#include "../TextStream.h"
 
 #include <axsCanonicalForm.h>
 
@@ -16,11 +15,7 @@ std::string canonical(std::string const& document, axsCanonicalOptions const& op
   TextStream source(document);
   std::string made;
   axmParseError error;
-  auto const write = [&](std::string_view piece)
-  {
-    made += piece;
-    return true;
-  };
+  auto const write = appending_to(made);
   return axsCanonicalForm::write(source, options, error, write) ? made
                                                                 : "!" + std::string(error.message().to_utf8().view());
 }
@@ -135,11 +130,7 @@ TEST(axsCanonicalForm, a_file_is_read_with_what_it_refers_to)
   reading.set_disable_entity_resolution(false);
   std::string made;
   axmParseError error;
-  auto const write = [&](std::string_view piece)
-  {
-    made += piece;
-    return true;
-  };
+  auto const write = appending_to(made);
   EXPECT_TRUE(axsCanonicalForm::write(file.path(), reading, {}, error, write)) << narrow(error.message());
   EXPECT_EQ(made, "<a>part</a>");
   EXPECT_FALSE(axsCanonicalForm::write(apPath("no/such/file.xml"), reading, {}, error, write));

@@ -1,3 +1,5 @@
+#include "../TextStream.h"
+
 #include <axsFormatter.h>
 
 #include <apString.h>
@@ -12,11 +14,7 @@ std::string formatted(std::string const& text, axsFormatOptions const& options =
 {
   std::string result;
   axmParseError error;
-  auto const write = [&](std::string_view piece)
-  {
-    result += piece;
-    return true;
-  };
+  auto const write = appending_to(result);
   if (!axsFormatter::format(apByteArray(text.data(), text.size()), options, error, write))
     return "line " + std::to_string(error.line_number());
   return result;

@@ -1,6 +1,5 @@
-#include "TextStream.h"
-
 #include "../Engine.h"
+#include "../TextStream.h"
 
 #include <axsJsonText.h>
 
@@ -16,11 +15,7 @@ std::string json(std::string const& document, unsigned indent = 0)
   TextStream source(document);
   std::string made;
   axmParseError error;
-  auto const write = [&](std::string_view piece)
-  {
-    made += piece;
-    return true;
-  };
+  auto const write = appending_to(made);
   return axsJsonText::convert(source, indent, error, write) ? made : "!" + made + std::to_string(error.line_number());
 }
 }
@@ -99,11 +94,7 @@ TEST(axsJsonText, a_file_is_read_and_one_that_is_not_there_is_told)
   TestFile const file("axsJsonText.xml", "<a/>");
   std::string made;
   axmParseError error;
-  auto const write = [&](std::string_view piece)
-  {
-    made += piece;
-    return true;
-  };
+  auto const write = appending_to(made);
   EXPECT_TRUE(axsJsonText::convert(file.path(), 0, error, write));
   EXPECT_EQ(made, "{\"a\":null}\n");
   EXPECT_FALSE(axsJsonText::convert(apPath("no/such/file.xml"), 0, error, write));

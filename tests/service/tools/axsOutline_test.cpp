@@ -1,6 +1,5 @@
-#include "TextStream.h"
-
 #include "../Engine.h"
+#include "../TextStream.h"
 
 #include <axsOutline.h>
 

@@ -1,6 +1,5 @@
+#include "../TextStream.h"
 #include "Schema.h"
-
-#include <axsByteStream.h>
 
 #include <gtest/gtest.h>
 
@@ -257,28 +256,12 @@ TEST(axsAssessment, a_wrong_schema_is_told_by_each_check)
 
 TEST(axsAssessment, errors_in_a_stream_have_the_name_that_it_is_given)
 {
-  class Stream final : public axsByteStream
-  {
-  public:
-    explicit Stream(std::string given) : text(std::move(given)) {}
-    std::size_t read(char* to, std::size_t size) override
-    {
-      std::size_t const count = text.copy(to, size, at);
-      at += count;
-      return count;
-    }
-    apString fault() const override { return {}; }
-
-  private:
-    std::string text;
-    std::size_t at = 0;
-  };
   Schema const schema("<xs:element name='r' type='xs:int'/>");
-  Stream named("<r>x</r>");
+  TextStream named("<r>x</r>");
   axsValidation::Result const result = schema.validation().check(named, apPath("named.xml"));
   ASSERT_EQ(result.errors.size(), 1U);
   EXPECT_EQ(narrow(result.errors.front().url()), "named.xml");
-  Stream unnamed("<r>x</r>");
+  TextStream unnamed("<r>x</r>");
   EXPECT_EQ(narrow(schema.validation().check(unnamed).errors.front().url()), "");
 }
 

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <utility>
 
 /// A text as a stream.
@@ -27,3 +28,13 @@ private:
   std::string text;
   std::size_t done = 0;
 };
+
+/// Takes pieces of a text and puts them together in `text`, which must live longer.
+inline auto appending_to(std::string& text)
+{
+  return [&text](std::string_view piece)
+  {
+    text += piece;
+    return true;
+  };
+}
