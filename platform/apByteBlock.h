@@ -7,11 +7,12 @@
 
 // The one place that asks which vectors there are: those of SSE2 everywhere, those of AVX2 in functions that are compiled
 // for them and called where the processor has them. Windows lacks these: there the compiler may put them on a stack that
-// is not aligned for them. A build with AP_WITHOUT_VECTORS does as machines do that have none.
+// is not aligned for them. A build with AP_WITHOUT_VECTORS does as machines do that have none, one with AP_WITHOUT_AVX2 as
+// those that have SSE2 alone.
 #if (defined(__SSE2__) || defined(_M_X64)) && !defined(AP_WITHOUT_VECTORS)
 #  define AP_HAS_SSE2
 #  include <emmintrin.h>
-#  if defined(__GNUC__) && !defined(_WIN32)
+#  if defined(__GNUC__) && !defined(_WIN32) && !defined(AP_WITHOUT_AVX2)
 #    define AP_HAS_AVX2
 #    include <immintrin.h>
 #  endif

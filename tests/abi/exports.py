@@ -2,10 +2,11 @@
 
 exports.py [--renew] OBJDUMP LIBRARY MAJOR LIST HEADER...
 
-Three rules hold. Every exported symbol belongs to a class, or is a function, of a public HEADER (those of the library and
+Four rules hold. Every exported symbol belongs to a class, or is a function, of a public HEADER (those of the library and
 of what it stands on). The set of them is the reviewed one in LIST, which is the same for ELF and DLL but for lines that
-begin with "elf " or "dll ". And the name under which the system looks for the library bears the MAJOR version. With --renew
-the list is made to hold what this library exports.
+begin with "elf " or "dll ". The name under which the system looks for the library bears the MAJOR version. And an ELF
+library has its symbols bound when it is loaded, so that the table of them is read-only from then on. With --renew the
+list is made to hold what this library exports.
 """
 
 import pathlib
@@ -14,6 +15,8 @@ import subprocess
 import sys
 
 OBJECT = re.compile(r"^(?:vtable|VTT|typeinfo|construction vtable|virtual thunk|non-virtual thunk|guard variable) (?:for|to) ")
+
+DF_BIND_NOW = 8
 
 
 def printed(tool, option, library):
@@ -28,6 +31,11 @@ def name_within(tool, library):
     """What the system looks for when it starts a program that was linked to the library."""
     found = re.search(r"^(?:  SONAME +|Name\s+[0-9a-f]+ )(\S+)$", printed(tool, "-p", library), re.M)
     return found[1] if found else "nothing"
+
+
+def is_bound_when_loaded(tool, library):
+    flags = re.search(r"^  FLAGS +(0x[0-9a-f]+)$", printed(tool, "-p", library), re.M)
+    return flags is not None and int(flags[1], 16) & DF_BIND_NOW != 0
 
 
 def expected_name(list_path, kind, major):
@@ -107,6 +115,8 @@ def main():
     name, expected = name_within(tool, library), expected_name(list_path, kind, major)
     if name != expected:
         failures.append(f"programs would look for {name}, not {expected}")
+    if kind == "elf" and not is_bound_when_loaded(tool, library):
+        failures.append("its symbols are bound one by one, as they are called")
 
     print(*failures, f"{library.name}: {len(actual)} symbols exported, {len(failures)} faults", sep="\n")
     sys.exit(1 if failures or not actual else 0)

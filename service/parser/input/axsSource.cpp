@@ -187,6 +187,8 @@ std::size_t axsSource::read_file(char* to, std::size_t size)
 {
   if (bytes != nullptr)
     return read_stream(to, size);
+  if (std::feof(stream) != 0)
+    return 0; // the system would be asked once more
   std::size_t const count = std::fread(to, 1, size, stream);
   if (count < size && std::ferror(stream) != 0)
     fail(L"Cannot read the file ", path, errno);

@@ -165,8 +165,7 @@ template <class Bytes>
     return made;
   made.e0 = bytes.is('\xE0');
   made.ed = bytes.is('\xED');
-  if ((made.e0 | made.ed | before.e0 | before.ed) != 0)
-    made.from_a0 = bytes.is_at_least('\xA0');
+  made.from_a0 = bytes.is_at_least('\xA0');
   made.ef = bytes.is('\xEF');
   made.bf = bytes.is('\xBF');
   made.from_be = bytes.is_at_least('\xBE');
