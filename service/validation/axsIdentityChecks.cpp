@@ -99,59 +99,45 @@ void axsIdentityChecks::open_scopes(axsElementDecl const& decl, axsKnownName con
 
 void axsIdentityChecks::open_scope(Plan& plan, axsKnownName const& name)
 {
-  Scope scope{open.size(), &plan, &name, nullptr, nullptr};
-  if (plan.is_reference() && plan.key != nullptr)
-    if (Plan const* const key = plan.key->plan; key != nullptr && key->table != nullptr)
-      scope.first_key = key->table->size();
-  if (plan.is_nesting() && plan.scopes.empty())
-    nesting_plans.push_back(&plan);
-  if (!plan.is_nesting() && plan.selector.is_deep())
-    deep_scopes.push_back(scopes.size());
+  if (plan.is_deep() && !plan.is_open())
+    deep_plans.push_back(&plan);
   plan.scopes.push_back(scopes.size());
-  scopes.push_back(std::move(scope));
+  scopes.push_back({open.size(), &plan, &name, plan.values.deep_count(), nullptr, nullptr, nullptr});
 }
 
 axsIdentityTable& axsIdentityChecks::table_of(Scope& scope)
 {
-  bool const is_shared = scope.plan->is_nesting();
-  std::unique_ptr<axsIdentityTable>& table = is_shared ? scope.plan->table : scope.table;
-  if (table == nullptr)
-    table = std::make_unique<axsIdentityTable>(is_shared ? scopes[scope.plan->scopes.front()].level : scope.level);
-  return *table;
+  if (scope.table == nullptr)
+    scope.table = std::make_unique<axsIdentityTable>(axsIdentityTable::of_element(scope.level, scope.plan->is_deep()));
+  return *scope.table;
 }
 
 // What is unique in an element is so in each within it: where an outer element has the same constraint, the inner one needs
 // none, unless it is referred to.
 bool axsIdentityChecks::is_covered(Plan const& plan) noexcept
 {
-  return !plan.is_reference() && plan.is_nesting() && !plan.scopes.empty() && plan.key->references == 0;
+  return !plan.is_reference() && plan.selector.is_deep_only() && plan.is_open() && plan.key->references == 0;
 }
 
-// Of a nesting constraint, an element is selected once, in the innermost scope that has it.
+// By ".//", an element is selected once, in the innermost scope that has it; only what other alternatives of the selector
+// select in scopes within that is their own.
 void axsIdentityChecks::select(axsKnownName const& name, std::function<axsPlace()> const& place)
 {
-  for (Plan const* const plan : nesting_plans)
+  for (Plan* const plan : deep_plans)
   {
-    std::size_t const origin = plan->selector.innermost_origin(open);
-    if (origin < scopes[plan->scopes.front()].level)
-      continue;
-    auto const is_within = [&](std::size_t number) { return scopes[number].level <= origin; };
-    select_in(*std::find_if(plan->scopes.rbegin(), plan->scopes.rend(), is_within), name, place());
+    plan->origin = plan->selector.innermost_origin(open);
+    auto const is_within = [&](std::size_t number) { return scopes[number].level <= plan->origin; };
+    auto const found = std::find_if(plan->scopes.rbegin(), plan->scopes.rend(), is_within);
+    if (found != plan->scopes.rend())
+      select_in(*found, true, name, place());
   }
-  auto const try_scope = [&](std::size_t number)
-  {
-    Scope const& scope = scopes[number];
-    if (scope.plan->selector.leads_to_element(open, scope.level - 1))
-      select_in(number, name, place());
-  };
-  for (std::size_t const number : deep_scopes)
-    try_scope(number);
   for (std::size_t i = scopes.size(); i-- > 0 && scopes[i].level + depth_of_selectors >= open.size();)
-    if (!scopes[i].plan->selector.is_deep())
-      try_scope(i);
+    if (scopes[i].level > scopes[i].plan->origin &&
+        scopes[i].plan->selector.leads_near_to_element(open, scopes[i].level - 1))
+      select_in(i, false, name, place());
 }
 
-void axsIdentityChecks::select_in(std::size_t scope, axsKnownName const& name, axsPlace place)
+void axsIdentityChecks::select_in(std::size_t scope, bool is_deep, axsKnownName const& name, axsPlace place)
 {
   Plan& plan = *scopes[scope].plan;
   if (plan.has_deep_fields)
@@ -160,7 +146,7 @@ void axsIdentityChecks::select_in(std::size_t scope, axsKnownName const& name, a
       plans_with_deep_fields.push_back(&plan);
     plan.selections.push_back(selections.size());
   }
-  selections.push_back({open.size(), scope, &name, place, {}, {}});
+  selections.push_back({open.size(), scope, is_deep, &name, place, {}, {}});
   selections.back().fields.resize(plan.fields.size());
 }
 
@@ -297,14 +283,26 @@ void axsIdentityChecks::complete(Selection& selection)
       append(key, field.bytes);
   if (scope.plan->is_reference())
   {
-    if (scope.references == nullptr)
-      scope.references = std::make_unique<axsIdentityReferences>();
-    return scope.references->add(key, std::move(selection.text), selection.place);
+    std::unique_ptr<axsIdentityReferences>& references = selection.is_deep ? scope.deep_references : scope.references;
+    if (references == nullptr)
+      references = std::make_unique<axsIdentityReferences>();
+    references->add(key, std::move(selection.text), selection.place);
   }
-  axsIdentityTable& table = table_of(scope);
-  std::size_t const known = table.add(key, selection.place, scope.level);
-  if (known != axsIdentityTable::none)
-    report_duplicate(selection, table.place(known));
+  else if (axsPlace const* const first = add_key(selection, key))
+    report_duplicate(selection, *first);
+}
+
+// Where the key stands already, null if it is new.
+axsPlace const* axsIdentityChecks::add_key(Selection const& selection, std::string const& key)
+{
+  Scope& scope = scopes[selection.scope];
+  Plan& plan = *scope.plan;
+  if (!plan.is_deep())
+    return table_of(scope).add(key, selection.place, false);
+  if (plan.key->references != 0)
+    table_of(scope).add(key, selection.place, selection.is_deep);
+  return selection.is_deep ? plan.values.add_deep(key, selection.place, scope.level)
+                           : plan.values.add_near(key, selection.place, scope.level, scope.first_deep);
 }
 
 // Only of a key, each part must have a value (cvc-identity-constraint.4.2.1).
@@ -339,40 +337,49 @@ void axsIdentityChecks::report_duplicate(Selection const& selection, axsPlace fi
 // Each reference must find a key in the element or within it (cvc-identity-constraint.4.3).
 void axsIdentityChecks::check_references(Scope& scope)
 {
-  if (scope.references == nullptr || scope.plan->key == nullptr)
+  if (scope.plan->key == nullptr)
     return;
-  auto const has_key = keys_in(scope);
-  scope.references->visit_open(
+  if (scope.references != nullptr)
+    check_references(scope, *scope.references);
+  if (scope.deep_references != nullptr)
+    check_references(scope, *scope.deep_references);
+}
+
+void axsIdentityChecks::check_references(Scope const& scope, axsIdentityReferences& references)
+{
+  axsIdentityTable const* const table = table_at(*scope.plan->key, scope.level);
+  references.visit_open(
     [&](std::string_view value, std::string const& text, axsPlace place)
     {
-      if (!has_key(value))
+      if (table == nullptr || !table->has(value))
         report("the key reference " + text + " in the element " + quoted(*scope.name) + " has no key that it refers to",
           place);
     });
-}
-
-std::function<bool(std::string_view)> axsIdentityChecks::keys_in(Scope const& scope)
-{
-  Key const& key = *scope.plan->key;
-  if (key.plan != nullptr && key.plan->is_open_and_nesting())
-    return [&scope, table = key.plan->table.get()](std::string_view value)
-    { return table != nullptr && table->has_within(value, scope.first_key, scope.level); };
-  return [table = table_at(key, scope.level)](std::string_view value) { return table != nullptr && table->has(value); };
 }
 
 // The keys that an element and those within it have.
 axsIdentityTable const* axsIdentityChecks::table_at(Key const& key, std::size_t level)
 {
   Plan const* const plan = key.plan;
-  Scope const* const scope = plan == nullptr || plan->scopes.empty() ? nullptr : &scopes[plan->scopes.back()];
-  if (scope == nullptr || scope->level != level || scope->table == nullptr)
+  if (plan != nullptr && plan->is_open() && scopes[plan->scopes.back()].level == level)
   {
-    auto const found = inherited.find({level, key.number});
-    return found == inherited.end() ? nullptr : found->second.get();
+    Scope& scope = scopes[plan->scopes.back()];
+    gather(scope);
+    return scope.table.get();
   }
-  if (std::unique_ptr<axsIdentityTable> const inner = take_inherited(level, key))
-    scope->table->inherit(std::move(*inner), [&](std::string_view value) { look_again(key, value); });
-  return scope->table.get();
+  auto const found = inherited.find({level, key.number});
+  return found == inherited.end() ? nullptr : found->second.get();
+}
+
+// The table of a key takes over what the elements within have.
+void axsIdentityChecks::gather(Scope& scope)
+{
+  Key const& key = *scope.plan->key;
+  auto const found = inherited.find({scope.level, key.number});
+  if (found == inherited.end())
+    return;
+  table_of(scope).inherit(std::move(*found->second), [&](std::string_view value) { look_again(key, value); });
+  inherited.erase(found);
 }
 
 void axsIdentityChecks::close_scopes()
@@ -385,19 +392,15 @@ void axsIdentityChecks::close_scopes()
     check_references(scopes[i]);
   std::vector<std::pair<Key const*, std::unique_ptr<axsIdentityTable>>> closed;
   for (; scopes.size() > first; close_scope())
-  {
-    Plan& plan = *scopes.back().plan;
-    bool const is_last = plan.is_nesting() && plan.scopes.size() == 1;
-    if (auto& table = is_last ? plan.table : scopes.back().table; table != nullptr)
-      closed.emplace_back(plan.key, std::move(table));
-  }
-  // Of equal values, those of the element itself count, not those within it.
-  for (auto& [key, table] : closed)
-  {
-    if (std::unique_ptr<axsIdentityTable> const inner = take_inherited(level, *key))
-      table->inherit(std::move(*inner), [this, of = key](std::string_view value) { look_again(*of, value); });
+    if (Scope& scope = scopes.back(); !scope.plan->is_reference())
+    {
+      gather(scope);
+      if (scope.table != nullptr)
+        closed.emplace_back(scope.plan->key, std::move(scope.table));
+    }
+  // Only elements around are to be told of the keys now.
+  for (auto const& [key, table] : closed)
     hand_up(*key, std::move(*table));
-  }
   while (!inherited.empty() && inherited.rbegin()->first.first == level)
   {
     auto const last = std::prev(inherited.end());
@@ -411,36 +414,30 @@ void axsIdentityChecks::close_scopes()
 // The last one.
 void axsIdentityChecks::close_scope()
 {
-  Plan& plan = *scopes.back().plan;
+  Scope& scope = scopes.back();
+  Plan& plan = *scope.plan;
+  plan.values.end(scope.level);
   plan.scopes.pop_back();
-  if (plan.is_nesting() && plan.scopes.empty())
-    nesting_plans.pop_back();
-  if (!plan.is_nesting() && plan.selector.is_deep())
-    deep_scopes.pop_back();
+  if (plan.is_deep() && !plan.is_open())
+  {
+    deep_plans.pop_back();
+    plan.values = {};
+    plan.origin = 0;
+  }
+  if (scope.deep_references != nullptr && plan.is_open())
+    hand_out(std::move(scope.deep_references), scopes[plan.scopes.back()]);
   if (plan.is_reference() && plan.key != nullptr)
     --plan.key->references;
-  if (scopes.back().references != nullptr && plan.is_open_and_nesting())
-    hand_out(std::move(scopes.back().references), scopes[plan.scopes.back()]);
   scopes.pop_back();
 }
 
 // To the next scope around.
 void axsIdentityChecks::hand_out(std::unique_ptr<axsIdentityReferences> references, Scope& around)
 {
-  if (around.references == nullptr)
-    around.references = std::move(references);
+  if (around.deep_references == nullptr)
+    around.deep_references = std::move(references);
   else
-    around.references->take(std::move(*references));
-}
-
-std::unique_ptr<axsIdentityTable> axsIdentityChecks::take_inherited(std::size_t level, Key const& key)
-{
-  auto const found = inherited.find({level, key.number});
-  if (found == inherited.end())
-    return nullptr;
-  std::unique_ptr<axsIdentityTable> table = std::move(found->second);
-  inherited.erase(found);
-  return table;
+    around.deep_references->take(std::move(*references));
 }
 
 // Keys are known in the elements around, up to one that refers to them. Each of those on the way has them too: equal values
@@ -452,7 +449,7 @@ void axsIdentityChecks::hand_up(Key const& key, axsIdentityTable&& table)
   std::size_t const level = open.size() - 1;
   std::unique_ptr<axsIdentityTable>& known = inherited[{level, key.number}];
   if (known == nullptr)
-    known = std::make_unique<axsIdentityTable>(level);
+    known = std::make_unique<axsIdentityTable>(axsIdentityTable::of_children(level));
   known->inherit(std::move(table), [&](std::string_view value) { look_again(key, value); });
 }
 
@@ -460,6 +457,6 @@ void axsIdentityChecks::hand_up(Key const& key, axsIdentityTable&& table)
 void axsIdentityChecks::look_again(Key const& key, std::string_view value)
 {
   for (Plan const* const plan : key.referring)
-    if (plan->is_open_and_nesting() && scopes[plan->scopes.back()].references != nullptr)
-      scopes[plan->scopes.back()].references->look_again(value);
+    if (plan->is_open() && scopes[plan->scopes.back()].deep_references != nullptr)
+      scopes[plan->scopes.back()].deep_references->look_again(value);
 }

@@ -4,6 +4,7 @@
 #include "axsIdentityMatcher.h"
 #include "axsIdentityReferences.h"
 #include "axsIdentityTable.h"
+#include "axsIdentityValues.h"
 #include "axsPlace.h"
 
 #include <cstddef>
@@ -85,14 +86,16 @@ private:
     std::vector<axsIdentityMatcher> fields;
     std::size_t depth_of_fields = 0;
     bool has_deep_fields = false;
-    std::vector<std::size_t> selections;     // with deep fields: those that are open, by their numbers
-    std::vector<std::size_t> scopes;         // that are open, by their numbers
-    std::unique_ptr<axsIdentityTable> table; // of a nesting key: that of all scopes, null without values
+    std::vector<std::size_t> selections; // with deep fields: those that are open, by their numbers
+    std::vector<std::size_t> scopes;     // that are open, by their numbers
+    std::size_t origin = 0;              // the innermost level from which it leads deep to the element that began last
+    axsIdentityValues values;            // of one that is deep and no keyref
 
     bool is_reference() const noexcept { return constraint->category == axsIdentityConstraint::Category::keyref; }
-    // Whether what is selected in an element is so in all those around it that have the constraint.
-    bool is_nesting() const noexcept { return selector.is_deep_only(); }
-    bool is_open_and_nesting() const noexcept { return is_nesting() && !scopes.empty(); }
+    // Whether ".//" is an alternative of the selector: what that selects in an element is selected in all those around it
+    // that have the constraint, too.
+    bool is_deep() const noexcept { return selector.is_deep(); }
+    bool is_open() const noexcept { return !scopes.empty(); }
   };
 
   // An element with a constraint. Levels count the open elements from 1, from the outermost one with a constraint on.
@@ -101,9 +104,10 @@ private:
     std::size_t level;
     Plan* plan;
     axsKnownName const* name;
-    std::unique_ptr<axsIdentityTable> table; // of a key that is not nesting; null without values, as the next one
-    std::unique_ptr<axsIdentityReferences> references; // of a keyref
-    std::size_t first_key = 0;                         // of a keyref to a nesting key: how many values that had before
+    std::size_t first_deep;                                 // how many values of any depth the plan had before
+    std::unique_ptr<axsIdentityTable> table;                // of a key; null without values, as the next ones
+    std::unique_ptr<axsIdentityReferences> references;      // of a keyref: what its own alternatives select here
+    std::unique_ptr<axsIdentityReferences> deep_references; // and what ".//" does, here and in the elements within
   };
 
   struct Field
@@ -118,6 +122,7 @@ private:
   {
     std::size_t level;
     std::size_t scope;
+    bool is_deep; // by ".//"
     axsKnownName const* name;
     axsPlace place;
     std::vector<Field> fields;
@@ -142,7 +147,7 @@ private:
   static bool is_covered(Plan const& plan) noexcept;
   axsIdentityTable& table_of(Scope& scope);
   void select(axsKnownName const& name, std::function<axsPlace()> const& place);
-  void select_in(std::size_t scope, axsKnownName const& name, axsPlace place);
+  void select_in(std::size_t scope, bool is_deep, axsKnownName const& name, axsPlace place);
   void await_fields();
   void deselect();
   template <class Visit, class Leads>
@@ -150,15 +155,16 @@ private:
   Field* found_field(Selection& selection, std::size_t field);
   void set(Selection& selection, Field& field, Value const& value);
   void complete(Selection& selection);
+  axsPlace const* add_key(Selection const& selection, std::string const& key);
   bool has_all_fields(Selection const& selection) const;
   void report_duplicate(Selection const& selection, axsPlace first);
   void check_references(Scope& scope);
-  std::function<bool(std::string_view)> keys_in(Scope const& scope);
+  void check_references(Scope const& scope, axsIdentityReferences& references);
   axsIdentityTable const* table_at(Key const& key, std::size_t level);
+  void gather(Scope& scope);
   void close_scopes();
   void close_scope();
   static void hand_out(std::unique_ptr<axsIdentityReferences> references, Scope& around);
-  std::unique_ptr<axsIdentityTable> take_inherited(std::size_t level, Key const& key);
   void hand_up(Key const& key, axsIdentityTable&& table);
   void look_again(Key const& key, std::string_view value);
 
@@ -168,8 +174,7 @@ private:
   std::vector<Key const*> keys;
   std::vector<axsKnownName const*> open;
   std::vector<Scope> scopes;
-  std::vector<Plan*> nesting_plans;     // those that have scopes
-  std::vector<std::size_t> deep_scopes; // of other plans whose selectors may lead to any depth
+  std::vector<Plan*> deep_plans; // that have scopes
   std::size_t depth_of_selectors = 0;
   std::vector<Selection> selections;
   std::size_t depth_of_fields = 0;

@@ -79,6 +79,12 @@ bool axsIdentityMatcher::leads_to_element(std::vector<axsKnownName const*> const
     [&](Alternative const& alternative) { return alternative.attribute == nullptr && is_at(alternative, open, from); });
 }
 
+bool axsIdentityMatcher::leads_near_to_element(std::vector<axsKnownName const*> const& open, std::size_t from) const
+{
+  return std::any_of(alternatives.begin(), alternatives.end(),
+    [&](Alternative const& alternative) { return !alternative.from_descendants && is_at(alternative, open, from); });
+}
+
 bool axsIdentityMatcher::leads_to_attribute(std::vector<axsKnownName const*> const& open, std::size_t from,
   std::string_view name_space, std::string_view local) const
 {

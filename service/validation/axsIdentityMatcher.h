@@ -17,6 +17,9 @@ public:
   /// Whether the path leads from the element at `from` of those that are open to the last of them; of a field, by elements.
   bool leads_to_element(std::vector<axsKnownName const*> const& open, std::size_t from) const;
 
+  /// The same for the alternatives that lead to one depth only.
+  bool leads_near_to_element(std::vector<axsKnownName const*> const& open, std::size_t from) const;
+
   /// The innermost level, counted from 1, from which the path leads to the last of them to any depth, as it then does from
   /// all levels around that; 0 if it does from none. Of a field, by elements.
   std::size_t innermost_origin(std::vector<axsKnownName const*> const& open) const;

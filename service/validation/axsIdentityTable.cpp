@@ -2,53 +2,65 @@
 
 #include <utility>
 
-std::size_t axsIdentityTable::add(std::string_view value, axsPlace place, std::size_t level)
+axsPlace const* axsIdentityTable::add(std::string_view value, axsPlace place, bool is_deep)
 {
   std::size_t const number = values.insert(value);
-  if (number < entries.size())
+  if (number == entries.size())
   {
-    entries[number].is_repeated = true;
-    return number;
+    entries.push_back({place, own_depth, 0, is_deep});
+    return nullptr;
   }
-  entries.push_back({place, static_cast<std::uint32_t>(level)});
-  return none;
+  entries[number].is_deep = entries[number].is_deep || is_deep;
+  return &entries[number].place;
 }
 
 bool axsIdentityTable::has(std::string_view value) const
 {
   std::size_t const number = values.find(value);
-  return number != none && entries[number].conflict == 0;
+  return number != axsValueSet::none && conflict_of(entries[number]) == 0;
 }
 
-bool axsIdentityTable::has_within(std::string_view value, std::size_t first, std::size_t level) const
+std::uint32_t axsIdentityTable::conflict_of(Entry const& entry) const noexcept
 {
-  std::size_t const number = values.find(value);
-  if (number == none)
-    return false;
-  Entry const& entry = entries[number];
-  return entry.is_repeated || (number >= first && entry.level >= level);
+  return entry.is_deep && entry.conflict > cleared ? 0 : entry.conflict;
 }
 
 void axsIdentityTable::inherit(axsIdentityTable&& inner, std::function<void(std::string_view value)> const& lose)
 {
-  bool const is_inner_larger = inner.size() > size();
-  if (is_inner_larger)
+  if (inner.size() > size())
   {
     std::swap(values, inner.values);
     std::swap(entries, inner.entries);
+    std::swap(cleared, inner.cleared);
+    if (owns_deep)
+      cleared = own_depth;
   }
   for (std::size_t i = 0; i < inner.size(); ++i)
-    if (is_own(inner.entries[i]))
-      put_own(inner.values[i], inner.entries[i]);
-    else if (!inherit_entry(inner.values[i], inner.entries[i]))
+  {
+    Entry entry = inner.entries[i];
+    entry.conflict = inner.conflict_of(entry);
+    if (is_own(entry))
+      put_own(inner.values[i], entry);
+    else if (is_lost_within(entry.conflict))
+      inherit_lost(inner.values[i], entry);
+    else if (!inherit_entry(inner.values[i], entry))
       lose(inner.values[i]);
+  }
 }
 
-// A conflict further in has left nothing to be inherited. False for a conflict here.
-bool axsIdentityTable::inherit_entry(std::string_view value, Entry const& entry)
+void axsIdentityTable::put_own(std::string_view value, Entry entry)
 {
-  if (entry.conflict != 0 && entry.conflict != own_level)
-    return true;
+  entry.conflict = 0;
+  std::size_t const number = values.insert(value);
+  if (number == entries.size())
+    return entries.push_back(entry);
+  entry.is_deep = entry.is_deep || entries[number].is_deep;
+  entries[number] = entry;
+}
+
+// False for a conflict here.
+bool axsIdentityTable::inherit_entry(std::string_view value, Entry entry)
+{
   std::size_t const number = values.insert(value);
   if (number == entries.size())
   {
@@ -56,21 +68,26 @@ bool axsIdentityTable::inherit_entry(std::string_view value, Entry const& entry)
     return true;
   }
   Entry& known = entries[number];
-  if (is_own(known))
-    return true;
-  bool const is_gone = known.conflict != 0 && known.conflict != own_level;
-  if (is_gone)
+  bool const is_deep = known.is_deep || entry.is_deep;
+  if (is_lost_within(conflict_of(known)))
     known = entry;
-  else
-    known.conflict = own_level;
-  return known.conflict == 0;
+  else if (!is_own(known))
+    known.conflict = own_depth;
+  known.is_deep = is_deep;
+  return conflict_of(known) == 0;
 }
 
-void axsIdentityTable::put_own(std::string_view value, Entry const& entry)
+// A conflict further in has left nothing to be inherited, but for an element that owns what is deep.
+void axsIdentityTable::inherit_lost(std::string_view value, Entry entry)
 {
+  if (!entry.is_deep)
+    return;
+  entry.conflict = own_depth + 1;
   std::size_t const number = values.insert(value);
   if (number == entries.size())
-    entries.push_back(entry);
-  else
-    entries[number] = entry;
+    return entries.push_back(entry);
+  Entry& known = entries[number];
+  if (is_lost_within(conflict_of(known)))
+    known.conflict = entry.conflict;
+  known.is_deep = true;
 }

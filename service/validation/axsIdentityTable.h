@@ -6,33 +6,29 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <string>
+#include <limits>
 #include <string_view>
 #include <vector>
 
-/// The values of one identity constraint in one element (Part 1, 3.11.4, identity-constraint table), and where they stand.
+/// The values of one identity constraint in one element and those within it, as references to it see them (Part 1, 3.11.5).
 /// Memory in proportion to them.
 class axsIdentityTable
 {
 public:
-  static constexpr std::size_t none = axsValueSet::none;
-
-  /// Levels count the elements that are open, from 1. All own values are of the element at `level`.
-  explicit axsIdentityTable(std::size_t level) noexcept : own_level(static_cast<std::uint32_t>(level)) {}
+  /// Of an element; levels count those that are open, from 1. If it has a constraint of any depth, `has_deep`: what ".//"
+  /// selects in the elements within that have it too, it selects in this one.
+  static axsIdentityTable of_element(std::size_t level, bool has_deep) { return {2 * level, has_deep}; }
+  /// Of the children of an element, together.
+  static axsIdentityTable of_children(std::size_t level) { return {2 * level + 1, false}; }
 
   std::size_t size() const noexcept { return entries.size(); }
-  axsPlace place(std::size_t number) const noexcept { return entries[number].place; }
 
-  /// Adds a value of the element at `level`, this one's or one within it of the same constraint: where that leads to any
-  /// depth, its values are this element's, too. The number of the value as it was before; none if it is new.
-  std::size_t add(std::string_view value, axsPlace place, std::size_t level);
+  /// Adds a value of the element itself; `is_deep` if ".//" selects it. Where it stands already, null if it is new. The
+  /// pointer holds until the next value.
+  axsPlace const* add(std::string_view value, axsPlace place, bool is_deep);
 
   /// Whether a reference finds the value.
   bool has(std::string_view value) const;
-
-  /// Whether a reference finds it in an element within, which is at `level` and began when the table had `first` values.
-  /// Of a value that was there twice, which is an error, the answer is yes.
-  bool has_within(std::string_view value, std::size_t first, std::size_t level) const;
 
   /// Takes over what a table of an element within has: the own values remain; of equal ones of two elements within, there
   /// is none, and `lose` is told of it. The smaller table is walked, so that what is handed up through all levels of a
@@ -40,19 +36,34 @@ public:
   void inherit(axsIdentityTable&& inner, std::function<void(std::string_view value)> const& lose);
 
 private:
+  axsIdentityTable(std::size_t depth, bool has_deep)
+    : own_depth(static_cast<std::uint32_t>(depth)),
+      owns_deep(has_deep),
+      cleared(has_deep ? own_depth : nowhere)
+  {
+  }
+
+  static constexpr std::uint32_t nowhere = std::numeric_limits<std::uint32_t>::max();
+
   struct Entry
   {
     axsPlace place;
-    std::uint32_t level;        // of the innermost element whose own value it is
-    std::uint32_t conflict = 0; // the level at which two elements within had it; from there on, it is not there
-    bool is_repeated = false;   // it was added twice
+    std::uint32_t depth;        // of the element whose own value it is
+    std::uint32_t conflict = 0; // the depth at which two elements within had it; from there on, it is not there
+    bool is_deep = false;       // from the next element on that owns what is deep, it is there again
   };
 
-  bool is_own(Entry const& entry) const noexcept { return entry.level == own_level; }
-  bool inherit_entry(std::string_view value, Entry const& entry);
-  void put_own(std::string_view value, Entry const& entry);
+  bool is_own(Entry const& entry) const noexcept { return entry.depth == own_depth || (owns_deep && entry.is_deep); }
+  std::uint32_t conflict_of(Entry const& entry) const noexcept;
+  bool is_lost_within(std::uint32_t conflict) const noexcept { return conflict != 0 && conflict != own_depth; }
+  void put_own(std::string_view value, Entry entry);
+  bool inherit_entry(std::string_view value, Entry entry);
+  void inherit_lost(std::string_view value, Entry entry);
 
-  std::uint32_t own_level;
+  std::uint32_t own_depth;
+  bool owns_deep;
+  std::uint32_t
+    cleared; // the level of the outermost element yet that owned what is deep: its conflicts within are over
   axsValueSet values;
   std::vector<Entry> entries;
 };

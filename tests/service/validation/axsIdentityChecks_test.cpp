@@ -179,8 +179,9 @@ TEST(axsIdentityChecks, keys_and_references_of_any_depth_in_each_of_many_levels_
     close += "</r>";
   }
   std::string const inmost = "<r k='" + last + "'/>";
-  std::vector<std::pair<std::string, std::string>> const selectors = {
-    {".//r", ".//r"}, {".//.", ".//."}, {".//r", "r"}, {"r", ".//r"}, {".//r/r|.//r", ".//r"}};
+  std::vector<std::pair<std::string, std::string>> const selectors = {{".//r", ".//r"}, {".//.", ".//."}, {".//r", "r"},
+    {"r", ".//r"}, {".//r/r|.//r", ".//r"}, {".//r/r|.", ".//r|."}, {"r|.//r/r/r", "r|.//r/r/r"},
+    {".|.//r/r", "r|.//."}};
   for (auto const& [keys, references] : selectors)
   {
     Schema const schema(
@@ -229,6 +230,20 @@ TEST(axsIdentityChecks, what_is_wrong_at_several_levels_is_told_once)
     "2: element 'i': its key \"1\" is not unique in the element 'r'; first at line 1\n");
   EXPECT_EQ(schema.wrong("<r><i k='1'/><r><r>\n<f to='1'/></r></r></r>"),
     "2: the key reference \"1\" in the element 'r' has no key that it refers to\n");
+}
+
+TEST(axsIdentityChecks, what_lies_at_any_depth_is_unique_with_what_one_element_alone_selects)
+{
+  Schema const schema(items + root("", "g") + root(constraint("unique", "u", ".//g/i|i", {"@k"})));
+  std::string const is_not_unique =
+    "3: element 'i': what must be unique in the element 'r' is not: \"1\"; first at line 2\n";
+  EXPECT_EQ(schema.wrong("<r>\n<i k='1'/>\n<g><i k='1'/></g></r>"), is_not_unique);
+  EXPECT_EQ(schema.wrong("<r>\n<g><i k='1'/></g>\n<i k='1'/></r>"), is_not_unique);
+  EXPECT_EQ(schema.wrong("<r>\n<i k='1'/>\n<i k='1'/></r>"), is_not_unique);
+  EXPECT_EQ(schema.wrong("<r>\n<i k='1'/><r>\n<g><i k='1'/></g></r></r>"), is_not_unique);
+  EXPECT_EQ(schema.wrong("<r><i k='1'/><r><i k='1'/></r><r><i k='1'/></r></r>"), "");
+  EXPECT_EQ(schema.wrong("<r><r><i k='1'/></r><g><i k='1'/></g></r>"), "");
+  EXPECT_EQ(schema.wrong("<r><r><i k='1'/></r><r><g><i k='1'/></g></r><i k='2'/></r>"), "");
 }
 
 // Of equal keys, those of an element itself count before those within it, which do not conflict with them.
