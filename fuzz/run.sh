@@ -8,7 +8,7 @@ source cmake/setup.sh
 
 seconds=${1-60}
 targets=("${@:2}")
-[ ${#targets[@]} -gt 0 ] || targets=(reader walk document tree validation xpath scanner pattern schema arguments)
+[ ${#targets[@]} -gt 0 ] || targets=(reader walk document tree validation xpath scanner pattern schema suite arguments)
 
 install_missing "${packages_to_build[@]}" libxml2-dev clang libclang-rt-14-dev
 build_preset fuzz fuzzers

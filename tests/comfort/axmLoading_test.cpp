@@ -46,11 +46,17 @@ TEST(axmLoading, without_an_engine_it_says_how_to_register_one)
   ASSERT_NE(nullptr, engine);
   utService::get_instance()->register_service(name, nullptr);
   auto const document = axm::load_string("<r/>");
+  auto const of_file = axm::load_file("file.xml");
   auto const made = axm::create("r");
+  auto const text = axm::to_string(engine->createDocument(APSTRING("r")));
+  auto const saved = axm::save_file(engine->createDocument(APSTRING("r")), "unsaved.xml");
   utService::get_instance()->register_service(name, engine);
   ASSERT_FALSE(document);
   EXPECT_NE(std::string::npos, document.error().message.find("axs_register()"));
   EXPECT_FALSE(made);
+  for (std::string const& message : {of_file.error().message, text.error().message, saved.error().message})
+    EXPECT_EQ(document.error().message, message);
+  EXPECT_EQ("unsaved.xml", saved.error().file);
 }
 
 TEST(axmLoading, creates_documents_and_content)

@@ -7,6 +7,7 @@ extern "C"
   int fuzz_reader(std::uint8_t const* data, std::size_t size);
   int fuzz_scanner(std::uint8_t const* data, std::size_t size);
   int fuzz_schema(std::uint8_t const* data, std::size_t size);
+  int fuzz_suite(std::uint8_t const* data, std::size_t size);
   int fuzz_tree(std::uint8_t const* data, std::size_t size);
   int fuzz_validation(std::uint8_t const* data, std::size_t size);
   int fuzz_walk(std::uint8_t const* data, std::size_t size);
@@ -22,8 +23,8 @@ struct Target
 };
 
 Target const targets[] = {{"document", fuzz_document}, {"pattern", fuzz_pattern}, {"reader", fuzz_reader},
-  {"scanner", fuzz_scanner}, {"schema", fuzz_schema}, {"tree", fuzz_tree}, {"validation", fuzz_validation},
-  {"walk", fuzz_walk}, {"xpath", fuzz_xpath}};
+  {"scanner", fuzz_scanner}, {"schema", fuzz_schema}, {"suite", fuzz_suite}, {"tree", fuzz_tree},
+  {"validation", fuzz_validation}, {"walk", fuzz_walk}, {"xpath", fuzz_xpath}};
 
 class FuzzSeeds : public testing::TestWithParam<Target>
 {

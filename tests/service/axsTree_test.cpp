@@ -2,6 +2,9 @@
 
 #include <utAssert.h>
 
+#include <functional>
+#include <utility>
+
 namespace
 {
 // Counts the assertions reported while it lives, and keeps the last one.
@@ -21,6 +24,24 @@ public:
   std::string last;
 
 private:
+  utAssertListener* replaced;
+};
+
+// Does something to the tree when an assertion is reported, once.
+class Interference : public utAssertListener
+{
+public:
+  explicit Interference(std::function<void()> given) : act(std::move(given)), replaced(ut_set_assert_listener(this)) {}
+  ~Interference() override { ut_set_assert_listener(replaced); }
+
+  void assertion_failed(char const*, char const*, int) override
+  {
+    if (auto const now = std::exchange(act, nullptr))
+      now();
+  }
+
+private:
+  std::function<void()> act;
   utAssertListener* replaced;
 };
 
@@ -79,6 +100,24 @@ TEST(axsTree, reports_nothing_about_detached_nodes_and_refused_calls)
   root->appendChild(root->removeChild(root->getFirstChild()));
   EXPECT_EQ(root->getFirstChild()->appendChild(root), nullptr);
   EXPECT_EQ(heard.count, 0);
+}
+
+TEST(axsTree, refuses_a_move_that_the_listener_of_its_report_has_made_impossible)
+{
+  auto const document = load("<r><a/><b><c/></b></r>");
+  auto const root = document->getDocumentElement();
+  auto const a = root->getFirstChild();
+  auto const b = root->getLastChild();
+  auto const c = b->getFirstChild();
+  {
+    Interference const listener([&] { root->removeChild(a); });
+    EXPECT_EQ(root->insertBefore(c, a), nullptr);
+    EXPECT_EQ(xml(root), "<r><b><c/></b></r>");
+  }
+  root->insertBefore(a, b);
+  Interference const listener([&] { root->removeChild(a); });
+  EXPECT_EQ(root->replaceChild(c, a), nullptr);
+  EXPECT_EQ(xml(root), "<r><b><c/></b></r>");
 }
 
 TEST(axsTree, keeps_a_node_that_is_inserted_before_itself_or_replaces_itself)
