@@ -121,17 +121,19 @@ void axsSchemaSymbols::replace(
 {
   axsSchemaSymbol& made = anonymous(unit, definition);
   axsSchemaSymbol*& known = table(*space_of(definition.tag))[made.name()];
-  bool const is_there = known != nullptr && known->element->tag == definition.tag && reaches(redefined, *known->unit);
+  bool const is_of_unit = known != nullptr && known->unit == &unit;
+  if (is_of_unit && known->redefined != nullptr)
+  {
+    errors.add(definition.place, quoted(definition.value(Field::name)) + " is redefined more than once");
+    return;
+  }
+  bool const is_there =
+    known != nullptr && !is_of_unit && known->element->tag == definition.tag && reaches(redefined, *known->unit);
   if (!is_there)
   {
     errors.add(definition.place, quoted(definition.value(Field::name)) + " is redefined, but not defined in the schema "
                                                                          "that is redefined");
     known = known == nullptr ? &made : known;
-    return;
-  }
-  if (known->unit == &unit)
-  {
-    errors.add(definition.place, quoted(definition.value(Field::name)) + " is redefined more than once");
     return;
   }
   made.redefined = known;

@@ -135,7 +135,7 @@ void axsAttribution::refuse_locals(axsSymbolSet const& locals, axsSymbolSet cons
       axsSymbolSet::Span const* const head = heads.find(span.first, span.last);
       axsElementDecl const* const member = models.symbols().global(span.first);
       if (head != nullptr && !(member->type == span.item->names->decl->type))
-        report(axsContentProblem::Kind::inconsistent, *head->item, *span.item);
+        report(axsContentProblem::Kind::inconsistent, *span.item, *head->item);
       return static_cast<bool>(problem);
     });
 }

@@ -354,6 +354,38 @@ TEST(axsSchemaBuilder, contents_are_unambiguous_and_consistent)
     "s.xsd:2: the group 'g' has 'a' with two different types (element declarations consistent)");
 }
 
+// cos-element-consistent, with those that may stand in the place of an element
+TEST(axsSchemaBuilder, a_member_of_a_substitution_group_has_one_type_beside_its_head)
+{
+  std::string const members =
+    element("h", "type='xs:decimal'") + element("m", "type='xs:int' substitutionGroup='h'") + element("n");
+  auto const type = [&](std::string const& own) { return members + complex("t", sequence(own)); };
+  std::string const head = "<xs:element ref='h'/>";
+  EXPECT_EQ(error_of_schema(type(head + element("b") + element("m", "type='xs:int'"))), "");
+  EXPECT_EQ(error_of_schema(type(head + element("b") + element("n", "type='xs:int'"))), "");
+  std::string const wrong =
+    "s.xsd:2: the content of the type 't' has 'm' with two different types (element declarations consistent)";
+  EXPECT_EQ(error_of_schema(type(head + element("b") + element("m", "type='xs:byte'"))), wrong);
+  EXPECT_EQ(error_of_schema(type(element("m", "type='xs:byte'") + element("b") + head)), wrong);
+}
+
+// rcase-NameAndTypeOK.5 and .6
+TEST(axsSchemaBuilder, an_element_is_restricted_with_its_own_keys_and_what_it_blocks)
+{
+  std::string const key = "<xs:key name='%'><xs:selector xpath='a'/><xs:field xpath='@b'/></xs:key>";
+  auto const with = [&](std::string const& name, std::string const& more)
+  {
+    std::string constraint = key;
+    constraint.replace(constraint.find('%'), 1, name);
+    return sequence("<xs:element name='e' " + more + ">" + (name.empty() ? "" : constraint) + "</xs:element>");
+  };
+  EXPECT_EQ(error_of_schema(restriction(with("k", ""), with("", ""))), "");
+  EXPECT_NE(error_of_schema(restriction(with("", ""), with("k", ""))), "");
+  EXPECT_NE(error_of_schema(restriction(with("k", ""), with("l", ""))), "");
+  EXPECT_EQ(error_of_schema(restriction(with("", "block='extension'"), with("", "block='#all'"))), "");
+  EXPECT_NE(error_of_schema(restriction(with("", "block='extension'"), with("", ""))), "");
+}
+
 TEST(axsSchemaBuilder, identity_constraints_refer_to_keys_with_as_many_fields)
 {
   auto const keys = [](std::string const& reference, std::string const& more)

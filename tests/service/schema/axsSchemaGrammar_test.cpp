@@ -198,6 +198,11 @@ TEST(axsSchemaGrammar, declarations_say_what_belongs_together)
       "<xs:attribute name='b'/><xs:attributeGroup name='g'><xs:attribute ref='b'/></xs:attributeGroup>",
       "<xs:attribute name='b'/><xs:attributeGroup name='g'><xs:attribute ref='b' type='xs:int'/></xs:attributeGroup>",
       "2: attribute 'type' may not stand on an 'attribute' with 'ref'"},
+    {"src-attribute.3.2",
+      "<xs:attribute name='b'/><xs:attributeGroup name='g'><xs:attribute ref='b'/></xs:attributeGroup>",
+      "<xs:attribute name='b'/><xs:attributeGroup name='g'><xs:attribute ref='b'><xs:simpleType><xs:list "
+      "itemType='xs:int'/></xs:simpleType></xs:attribute></xs:attributeGroup>",
+      "2: 'simpleType' may not stand in an 'attribute' with 'ref'"},
     {"src-attribute.4",
       "<xs:attribute name='a'><xs:simpleType><xs:list itemType='xs:int'/></xs:simpleType></xs:attribute>",
       "<xs:attribute name='a' type='xs:int'><xs:simpleType><xs:list itemType='xs:int'/></xs:simpleType></xs:attribute>",

@@ -207,6 +207,30 @@ TEST(axsSchemaLoader, a_redefinition_may_be_redefined)
   EXPECT_TRUE(t.has_facet(axsFacetKind::max_inclusive));
 }
 
+TEST(axsSchemaLoader, what_is_redefined_may_stand_in_a_document_that_the_redefined_one_includes)
+{
+  SchemaFiles files;
+  files.schema("1.xsd", include("2.xsd") + simple("t"));
+  files.schema("2.xsd", include("1.xsd") + simple("u"));
+  files.schema("s.xsd", redefine("1.xsd", simple("u", "u", "<xs:minInclusive value='1'/>")));
+  auto const schema = files.compile({"s.xsd"});
+  ASSERT_NE(schema, nullptr) << files.first_error();
+  EXPECT_TRUE(schema->type("", "u").simple->has_facet(axsFacetKind::min_inclusive));
+
+  files.schema("other.xsd", simple("v"));
+  files.schema("s.xsd", include("other.xsd") + redefine("1.xsd", simple("v", "v")));
+  files.compile({"s.xsd"});
+  EXPECT_EQ(files.first_error(), "s.xsd:3: 'v' is redefined, but not defined in the schema that is redefined");
+
+  files.schema("s.xsd", redefine("1.xsd", simple("v", "v")) + simple("v"));
+  files.compile({"s.xsd"});
+  EXPECT_NE(files.first_error().find("'v' is redefined, but not defined"), std::string::npos) << files.first_error();
+
+  files.schema("s.xsd", redefine("1.xsd", simple("u", "u") + simple("u", "u")));
+  files.compile({"s.xsd"});
+  EXPECT_EQ(files.first_error(), "s.xsd:3: 'u' is redefined more than once");
+}
+
 TEST(axsSchemaLoader, redefinitions_keep_to_their_rules)
 {
   SchemaFiles files;

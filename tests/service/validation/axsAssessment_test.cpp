@@ -404,6 +404,34 @@ TEST(axsAssessment, an_undeclared_element_has_the_type_that_the_document_names)
     "1: element 'none': its type 'abstract' is abstract; xsi:type must name one that is derived from it\n");
 }
 
+// More items than are looked at one by one, with substitution groups that lie in each other, and groups.
+TEST(axsAssessment, a_member_of_a_substitution_group_is_found_in_a_long_content)
+{
+  std::string const head = "<xs:element name='h'/><xs:element name='h1' substitutionGroup='h'/>"
+                           "<xs:element name='h2' substitutionGroup='h'/><xs:element name='i' substitutionGroup='h'/>"
+                           "<xs:element name='i1' substitutionGroup='i'/><xs:element name='i2' substitutionGroup='i'/>"
+                           "<xs:element name='o'/><xs:element name='o1' substitutionGroup='o'/>";
+  auto const separator = [](int number) { return "<xs:element name='s" + std::to_string(number) + "'/>"; };
+  auto const maybe = [](std::string const& name) { return "<xs:element ref='" + name + "' minOccurs='0'/>"; };
+  auto const group = [](std::string const& content)
+  { return "<xs:choice minOccurs='0' maxOccurs='2'>" + content + "</xs:choice>"; };
+  Schema const schema(
+    head + with_type("r", sequence(maybe("h") + separator(1) + maybe("i") + separator(2) + maybe("h") + separator(3) +
+                                   group(maybe("o") + "<xs:element ref='i'/>") + separator(4) +
+                                   group("<xs:element ref='h'/>" + separator(9)) + separator(5) +
+                                   group("<xs:element ref='o'/>" + separator(8)) + separator(6))));
+  EXPECT_EQ(schema.fault(), "");
+  EXPECT_EQ(schema.wrong("<r><s1/><s2/><s3/><s4/><s5/><s6/></r>"), "");
+  EXPECT_EQ(schema.wrong("<r><i2/><s1/><i1/><s2/><h2/><s3/><o1/><i/><s4/><h1/><s9/><s5/><s8/><o/><s6/></r>"), "");
+  auto const expected = [](std::string const& wrong, std::string const& names)
+  { return "1: element '" + wrong + "' may not stand here in 'r'; expected is " + names + "\n"; };
+  EXPECT_EQ(schema.wrong("<r><s1/><h1/></r>"), expected("h1", "'i' or 's2'"));
+  EXPECT_EQ(schema.wrong("<r><o1/></r>"), expected("o1", "'h' or 's1'"));
+  EXPECT_NE(schema.wrong("<r><s1/><s2/><s3/><h1/></r>"), "");
+  EXPECT_NE(schema.wrong("<r><s1/><s2/><s3/><s4/><o/></r>"), "");
+  EXPECT_NE(schema.wrong("<r><s1/><s2/><s3/><s4/><s5/><i1/></r>"), "");
+}
+
 TEST(axsAssessment, whether_an_undeclared_element_is_nil_is_a_boolean_at_least)
 {
   Schema const schema(types);

@@ -102,7 +102,8 @@ Wrong const wrong[] = {{"(", 1}, {"((a)", 1}, {"a)", 2}, {"*", 1}, {"a**", 3}, {
   {"a{2}{3}", 5}, {"a{3,2}", 2}, {"a{,2}", 2}, {"a{", 2}, {"a{2", 2}, {"{1}a", 1}, {"}", 1}, {"]", 1}, {"[", 1},
   {"[a", 1}, {"[]", 1}, {"[^]", 1}, {"[b-a]", 2}, {"[a[b]]", 3}, {"[a-c-e]", 5}, {"[-[a]]", 1}, {"[a-[b]", 1},
   {"\\", 1}, {"a\\", 2}, {"\\q", 1}, {"\\$", 1}, {"\\p", 1}, {"\\pL", 1}, {"\\p{", 1}, {"\\p{X}", 1}, {"\\p{Cs}", 1},
-  {"\\p{Isnowhere}", 1}, {"\\p{Is}", 1}, {"\\p{}", 1}, {"[a-\\d]", 4}, {"[\\d-x]", 4}, {"\xC3\xA4(", 2}};
+  {"\\p{Isnowhere}", 1}, {"\\p{Is}", 1}, {"\\p{}", 1}, {"[a-\\d]", 4}, {"[\\d-x]", 4}, {"[a-\\y]", 4}, {"[\\y]", 2},
+  {"[a--]", 4}, {"[a-", 1}, {"[!--]", 4}, {"\xC3\xA4(", 2}};
 }
 
 TEST(axsPattern, matches_what_its_constructs_say)
@@ -349,6 +350,20 @@ TEST(axsPattern, states_beyond_the_bound_are_forgotten_and_made_anew)
   value[value.size() - 61] = 'b';
   EXPECT_FALSE(states.matches(value));
   EXPECT_TRUE(states.matches("a" + std::string(60, 'b')));
+}
+
+// Each 'a' begins a count of its own, and most of them are over long before the value is.
+TEST(axsPattern, counts_that_begin_within_each_other_are_each_held_to_their_bounds)
+{
+  std::string letters;
+  for (int i = 0; i < 300; ++i)
+    letters += "ab";
+  char const* const expression = "[ab]*a[ab]{1040,1060}c";
+  EXPECT_FALSE(matches(expression, letters + "c"));
+  for (auto const& [more, is_matched] :
+    {std::pair(400, false), {440, false}, {441, true}, {1039, true}, {1059, true}, {1060, false}})
+    EXPECT_EQ(matches(expression, letters + std::string(static_cast<std::size_t>(more), 'b') + "c"), is_matched)
+      << more;
 }
 
 TEST(axsPattern, several_threads_match_with_one_expression)

@@ -335,6 +335,14 @@ TEST(axsSimpleTypes, unions_take_patterns_and_enumerations_of_values)
   EXPECT_TRUE(is_valid(matched, "1x"));
 }
 
+TEST(axsSimpleTypes, a_member_that_is_named_twice_counts_once)
+{
+  Making making;
+  axsSimpleType const& type = making.union_of({&built_in("int"), &built_in("date"), &built_in("int")}, "u");
+  EXPECT_TRUE(is_valid(type, "1"));
+  EXPECT_EQ(fault_of(type, "x"), "\"x\" is not of the type 'u': it is of none of the types xs:int, xs:date");
+}
+
 // Part 1, 3.14.2, {member type definitions}: a union among the members is replaced by its own members, whatever it asks for
 // beyond them.
 TEST(axsSimpleTypes, the_members_of_a_union_within_a_union_stand_in_its_place)

@@ -49,6 +49,8 @@ Equals const equals[] = {
   {"dateTime", {"2023-03-01T00:30:00Z", "2023-02-28T23:30:00-01:00"}, {}},
   {"dateTime", {"0001-01-01T00:00:00Z", "-0001-12-31T23:00:00-01:00"}, {"-0001-12-31T23:00:00Z"}},
   {"dateTime", {"-0002-12-31T23:00:00Z", "-0001-01-01T00:00:00+01:00"}, {}},
+  {"dateTime", {"0001-01-01T00:00:00+01:00", "-0001-12-31T23:00:00Z"}, {"0001-12-31T23:00:00Z"}},
+  {"dateTime", {"0002-01-01T00:00:00+01:00", "0001-12-31T23:00:00Z"}, {}},
   {"dateTime", {"10000-01-01T00:00:00Z", "9999-12-31T23:00:00-01:00"}, {}},
   {"dateTime", {"99999999999999999999-12-31T24:00:00", "100000000000000000000-01-01T00:00:00"}, {}},
   {"time", {"12:00:00Z", "13:00:00+01:00"}, {"12:00:00", "13:00:00Z"}},
@@ -64,6 +66,8 @@ Equals const equals[] = {
   {"base64Binary", {"QUJD", "Q U J D"}, {"QUJE", "QUI="}},
   {"anyURI", {"a b", " a  b "}, {"a%20b"}},
   {"NMTOKENS", {"a b", " a   b "}, {"b a", "a", "a b c"}},
+  {"NMTOKENS", {std::string(200, 'a') + " b", std::string(200, 'a') + "  b"},
+    {std::string(200, 'a') + "b", std::string(199, 'a') + " ab", "b " + std::string(200, 'a')}},
 };
 }
 
@@ -129,8 +133,10 @@ TEST(axsValue, totally_ordered_values_stand_in_order)
     {"date", {"2024-01-02+14:00", "2024-01-02Z", "2024-01-02-11:00", "2024-01-03Z"}},
     {"gMonthDay", {"--01-31", "--02-01", "--02-29", "--12-31"}},
     {"time", {"00:00:00+14:00", "00:00:00Z", "23:59:59Z", "23:59:59-14:00"}},
-    {"duration", {"-P1Y", "-P1M", "-PT1.5S", "-PT1.4S", "-PT1S", "PT0S", "PT0.5S", "PT0.51S", "PT1S", "P1D", "P27D",
-                   "P1M", "P32D", "P11M", "P1Y", "P367D", "P2Y", "P83333333332Y", "P99999999999999999Y"}},
+    {"duration", {"-P1Y", "-P1M", "-PT1.5S", "-PT1.4S", "-PT1S", "-PT0.05S", "-PT0.005S", "PT0S",
+                   "PT0." + std::string(300, '0') + "1S", "PT0.005S", "PT0.05S", "PT0.5S", "PT0.51S", "PT1S", "P1D",
+                   "P27D", "P1M", "P32D", "P11M", "P1Y", "P367D", "P2Y", "P83333333332Y", "P99999999999999999Y",
+                   "P1" + std::string(200, '0') + "Y", "P1" + std::string(250, '0') + "Y"}},
   };
   for (auto const& [type, texts] : ascending)
     for (std::size_t i = 0; i < texts.size(); ++i)
@@ -160,6 +166,18 @@ TEST(axsValue, some_durations_have_no_order)
   EXPECT_EQ(order("duration", "-P1M", "-P30D"), Order::none);
   EXPECT_EQ(order("duration", "P1M", "P27DT86399.999S"), Order::greater);
   EXPECT_EQ(order("duration", "P1M", "P31DT0.001S"), Order::less);
+}
+
+// A year has 365.2425 days in the mean, and no more than that is known of spans beyond what can be computed with.
+TEST(axsValue, spans_beyond_all_numbers_have_an_order_where_they_are_not_near_each_other)
+{
+  std::string const zeros(20, '0');
+  EXPECT_EQ(order("duration", "P1" + zeros + "Y", "P364" + zeros + "D"), Order::greater);
+  EXPECT_EQ(order("duration", "P1" + zeros + "Y", "P3652425" + zeros.substr(4) + "D"), Order::none);
+  EXPECT_EQ(order("duration", "P1" + zeros + "Y", "P366" + zeros + "D"), Order::less);
+  std::string const nines(400, '9');
+  EXPECT_EQ(order("duration", "P" + nines + "Y", "P1Y"), Order::greater);
+  EXPECT_EQ(order("duration", "-P" + nines + "Y", "P1Y"), Order::less);
 }
 
 TEST(axsValue, times_of_which_one_has_a_time_zone_have_an_order_only_if_far_apart)
