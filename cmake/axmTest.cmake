@@ -1,9 +1,3 @@
-# axm_add_test(NAME SOURCES ... [LIBRARIES ...] [ENVIRONMENT ...] [FIXTURES ...] [LABELS ...])
-# One GoogleTest program for a room. Natively each of its tests is a test of the runner; across an emulator, where
-# starting a process is dear, the program is one test. It runs after the tests that set FIXTURES up. Each test works in a
-# folder of its own, which goes with it (tests/ScratchFolderMain.cpp). What has the label "slow" is left out by
-# ./test --quick.
-
 find_package(GTest REQUIRED)
 include(GoogleTest)
 
@@ -14,6 +8,20 @@ add_library(axm_failing_memory OBJECT ${PROJECT_SOURCE_DIR}/tests/FailingMemory.
 target_link_libraries(axm_failing_memory PRIVATE axm_options)
 set_target_properties(axm_failing_memory PROPERTIES EXCLUDE_FROM_ALL ON)
 
+# axm_compile_quickly(TARGET)
+# Most tests spend their time in what they test: to optimise what they consist of takes longer than it saves, under the
+# sanitizers two to three times as long.
+function(axm_compile_quickly name)
+  if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    target_compile_options(${name} PRIVATE -O0)
+  endif()
+endfunction()
+
+# axm_add_test(NAME SOURCES ... [LIBRARIES ...] [ENVIRONMENT ...] [FIXTURES ...] [LABELS ...])
+# One GoogleTest program for a room. Natively each of its tests is a test of the runner; across an emulator, where
+# starting a process is dear, the program is one test. It runs after the tests that set FIXTURES up. Each test works in a
+# folder of its own, which goes with it (tests/ScratchFolderMain.cpp). What has the label "slow" is left out by
+# ./test --quick, and is optimised.
 function(axm_add_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES;ENVIRONMENT;FIXTURES;LABELS")
   add_executable(${name} ${arg_SOURCES})
@@ -33,6 +41,8 @@ function(axm_add_test name)
   # Those that take long begin first, so that no processor waits for the last of them.
   if("slow" IN_LIST arg_LABELS)
     list(APPEND properties COST 100)
+  else()
+    axm_compile_quickly(${name})
   endif()
   if(CMAKE_CROSSCOMPILING)
     add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)

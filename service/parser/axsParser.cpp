@@ -271,7 +271,7 @@ void axsParser::start_tag()
 
   told(p);
   events.start_element({name.name, namespaces.of_element(name), &attributes.told(), &namespaces});
-  open.push_back({&name, in.at, 0, in.depth()});
+  open.emplace_back(name, in.at, in.depth());
   state = State::content;
   if (is_empty)
     end_element();

@@ -85,10 +85,18 @@ private:
 
   struct OpenElement
   {
+    // Made where it stays: a copy would wait until all that was written before has come to the memory.
+    OpenElement(axsQName const& its_name, char const* begin, std::size_t inputs) noexcept
+      : name(&its_name),
+        at(begin),
+        depth(inputs)
+    {
+    }
+
     axsQName const* name;
     // Where it begins; null once its line is known.
     char const* at;
-    std::uint64_t line;
+    std::uint64_t line = 0;
     std::size_t depth;
   };
 

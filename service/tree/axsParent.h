@@ -40,6 +40,7 @@ protected:
     : axsNode(kind),
       watched(false),
       indexed(false),
+      spare(0),
       element_name_number(number)
   {
   }
@@ -59,6 +60,8 @@ private:
   bool watched : 1;
   // Of an element: whether its attributes have an index.
   bool indexed : 1;
+  // The byte is written as a whole, so that a new node need not read it first.
+  std::uint8_t spare : 6;
   // Of an element the number of its name; here, where alignment leaves room for it.
   std::uint16_t element_name_number;
   axsNode* first = nullptr;

@@ -285,6 +285,23 @@ TEST(axsIdentityChecks, keys_are_in_conflict_in_elements_without_constraints_too
   EXPECT_NE(schema.wrong("<r><x><x>" + one + many + "</x>" + one + "</x>" + one + reference + "</r>"), "");
 }
 
+// What ".//" selects is selected again by the next element around that has the key, what "i" selects is not.
+TEST(axsIdentityChecks, keys_in_conflict_come_back_where_they_lie_at_any_depth_alone)
+{
+  Schema const schema(items + root("", "x") + root("", "g") + root(constraint("keyref", "f", "f", {"@to"}, "k"), "y") +
+                      root(constraint("key", "k", ".//g/i|i", {"@k"})));
+  ASSERT_EQ(schema.fault(), "");
+  std::string const near = "<r><i k='1'/></r>";
+  std::string const deep = "<r><g><i k='1'/></g></r>";
+  std::string const reference = "<f to='1'/>";
+  EXPECT_EQ(schema.wrong("<y><r>" + near + near + "<x>" + deep + "</x></r>" + reference + "</y>"), "");
+  EXPECT_NE(schema.wrong("<y><r>" + near + near + "</r>" + reference + "</y>"), "");
+  EXPECT_NE(schema.wrong("<y><x>" + deep + deep + "</x>" + reference + "</y>"), "");
+  EXPECT_NE(schema.wrong("<y><x>" + deep + near + "</x>" + reference + "</y>"), "");
+  EXPECT_EQ(schema.wrong("<y><x>" + deep + deep + "</x>" + near + reference + "</y>"), "");
+  EXPECT_NE(schema.wrong("<y><r>" + near + near + "</r><x>" + deep + deep + "</x>" + reference + "</y>"), "");
+}
+
 TEST(axsIdentityChecks, two_thousand_keys_at_once_are_checked)
 {
   std::string constraints;
