@@ -4,8 +4,6 @@
 #include "axsMemorySource.h"
 #include "axsUtf8Source.h"
 
-#include <utXmlCharacter.h>
-
 #include <algorithm>
 
 namespace
@@ -124,10 +122,4 @@ bool axsSourceText::is_blank(axsSpan span) const noexcept
 {
   std::string_view const part = text(span);
   return std::all_of(part.begin(), part.end(), is_blank_character);
-}
-
-bool axsSourceText::is_white(axsSpan span) const noexcept
-{
-  std::string_view const part = text(span);
-  return std::all_of(part.begin(), part.end(), [](char c) { return utXmlCharacter::is_space(c); });
 }

@@ -40,9 +40,8 @@ public:
   /// The whole lines of what stands alone on them, but for blanks, with the end of the last one; none of what does not.
   std::optional<axsSpan> lines_of(axsSpan span) const noexcept;
 
-  /// Whether there are only spaces and tabs, or only white space, in it.
+  /// Whether there are only spaces and tabs in it.
   bool is_blank(axsSpan span) const noexcept;
-  bool is_white(axsSpan span) const noexcept;
 
 private:
   bool is_utf8() const noexcept { return found.name == "UTF-8" || found.name == "US-ASCII"; }

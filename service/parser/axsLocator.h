@@ -25,11 +25,11 @@ public:
   virtual axsPlace begin() const = 0;
 
   /// How many bytes of the document stand before that; none where it comes out of an entity.
-  virtual std::optional<std::uint64_t> begin_position() const { return std::nullopt; }
+  virtual std::optional<std::uint64_t> begin_position() const = 0;
 
   /// How many bytes of the document stand before its end, its last character among them; none where it comes out of an
   /// entity.
-  virtual std::optional<std::uint64_t> end_position() const { return std::nullopt; }
+  virtual std::optional<std::uint64_t> end_position() const = 0;
 
   /// The name of the attribute at `index` of the start tag of which the event tells; of one that is not specified there,
   /// begin(). Asked in their order, all of them cost one pass over the tag.

@@ -62,20 +62,6 @@ bool axsCharacters::is_name_part(char32_t character) noexcept
                           : is_in(start_ranges, character) || is_in(further_ranges, character);
 }
 
-bool axsCharacters::skip_multibyte(char const*& at)
-{
-  if (is_ascii(*at))
-    return false;
-  do
-  {
-    std::size_t const length = character(at).length;
-    if (length == 0)
-      return false;
-    at += length;
-  } while (!is_ascii(*at));
-  return true;
-}
-
 char const* axsCharacters::end_of_name(char const* at)
 {
   if (is(*at, name_start))

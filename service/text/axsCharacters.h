@@ -104,9 +104,6 @@ Character character(char const* at);
 bool is_name_start(char32_t character) noexcept;
 bool is_name_part(char32_t character) noexcept;
 
-/// Moves past characters beyond ASCII. Whether there was one, and nothing wrong among them.
-bool skip_multibyte(char const*& at);
-
 /// The end of the name at `at` (2.3, [5] Name); `at` itself if there is none.
 char const* end_of_name(char const* at);
 

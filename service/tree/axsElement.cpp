@@ -86,8 +86,6 @@ int axsElement::count_attributes() noexcept
 
 axsAttribute* axsElement::attribute_at(int position) noexcept
 {
-  if (position < 0)
-    return nullptr;
   if (is_indexed())
     return index()->at(static_cast<std::size_t>(position));
   axsAttribute* at = attributes;

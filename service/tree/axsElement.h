@@ -35,8 +35,8 @@ public:
   axsAttribute* find_attribute(std::string_view name) const noexcept;
   axsAttribute* find_attribute(axsName const& name) const noexcept;
 
-  /// The last attribute, null if there is none, how many there are, and the one at a position, null beyond the last. Cost:
-  /// as find_attribute().
+  /// The last attribute, null if there is none, how many there are, and the one at a position from 0 on, null beyond the last.
+  /// Cost: as find_attribute().
   axsAttribute* last_attribute() noexcept { return attributes == nullptr ? nullptr : attribute_before(nullptr); }
   int count_attributes() noexcept;
   axsAttribute* attribute_at(int position) noexcept;

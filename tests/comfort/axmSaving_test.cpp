@@ -92,6 +92,36 @@ TEST(axmSaving, a_failure_says_why)
   EXPECT_FALSE(axm::save_stream(document_of("<r/>"), broken));
 }
 
+TEST(axmSaving, an_engine_that_tells_no_reasons_has_the_usual_one)
+{
+  class Silent : public axmDocumentFactory
+  {
+  public:
+    std::shared_ptr<axmDocument> createDocument(apString const&) const override { return nullptr; }
+    std::shared_ptr<axmDocument> loadDocument(apPath const&, axmLoadOptions const&, axmParseError&) const override
+    {
+      return nullptr;
+    }
+    std::shared_ptr<axmDocument> loadDocument(apByteArray const&, axmLoadOptions const&, axmParseError&) const override
+    {
+      return nullptr;
+    }
+    bool saveDocument(std::shared_ptr<axmDocument>, apByteArray&) override { return false; }
+    bool saveDocument(std::shared_ptr<axmDocument>, apPath const&) override { return false; }
+  } silent;
+  EXPECT_EQ("the document holds a name, a character or a prefix that XML cannot hold there",
+    axm::save_error(silent, *document_of("<r/>")).message);
+}
+
+TEST(axmSaving, a_stream_gets_nothing_of_a_document_that_cannot_be_saved)
+{
+  std::ostringstream out;
+  auto const saved = axm::save_stream(nullptr, out);
+  ASSERT_FALSE(saved);
+  EXPECT_EQ("there is no document to save", saved.error().message);
+  EXPECT_EQ("", out.str());
+}
+
 TEST(axmSaving, deep_documents_are_not_indented_without_end)
 {
   int const depth = 1000;

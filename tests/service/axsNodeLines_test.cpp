@@ -1,5 +1,7 @@
 #include "Engine.h"
 
+#include "../document/TestTree.h"
+
 #include <axsNodeLines.h>
 #include <axsXPath.h>
 
@@ -40,6 +42,24 @@ TEST(axsNodeLines, has_no_line_for_what_is_no_part_of_the_document)
   auto const other = load("<a/>");
   EXPECT_EQ(axsNodeLines::find(*document, bytes("<a/>"), axmLoadOptions(axmValidateNone),
               {other->getDocumentElement(), document, document->getDocumentElement()}),
+    (Lines{0, 0, 1}));
+}
+
+TEST(axsNodeLines, has_no_line_of_a_document_of_another_engine)
+{
+  auto const foreign = std::make_shared<TestDocument>();
+  EXPECT_EQ(
+    axsNodeLines::find(*foreign, bytes("<a/>"), axmLoadOptions(axmValidateNone), {foreign, nullptr}), (Lines{0, 0}));
+}
+
+TEST(axsNodeLines, has_no_line_where_the_tree_has_another_node_than_the_source)
+{
+  auto const document = load("<a>\n<b/>\n<c/></a>");
+  auto const root = document->getDocumentElement();
+  auto const b = root->getFirstChild();
+  auto const c = root->getLastChild();
+  root->insertBefore(document->createTextNode(APSTRING("t")), b);
+  EXPECT_EQ(axsNodeLines::find(*document, bytes("<a>\n<b/>\n<c/></a>"), axmLoadOptions(axmValidateNone), {b, c, root}),
     (Lines{0, 0, 1}));
 }
 

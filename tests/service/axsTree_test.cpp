@@ -1,5 +1,8 @@
 #include "Engine.h"
 
+#include "../document/TestTree.h"
+
+#include <axsXPath.h>
 #include <utAssert.h>
 
 #include <functional>
@@ -102,6 +105,16 @@ TEST(axsTree, reports_nothing_about_detached_nodes_and_refused_calls)
   EXPECT_EQ(heard.count, 0);
 }
 
+TEST(axsTree, a_node_of_another_engine_is_no_context_of_an_expression)
+{
+  auto const foreign = std::make_shared<TestDocument>();
+  axsXPath::Value value;
+  axsXPathError error;
+  EXPECT_FALSE(axsXPath::evaluate(*foreign, APSTRING("1"), value, error));
+  EXPECT_EQ(error.message, "the context is no node of this engine");
+  EXPECT_EQ(error.position, 1);
+}
+
 TEST(axsTree, refuses_a_move_that_the_listener_of_its_report_has_made_impossible)
 {
   auto const document = load("<r><a/><b><c/></b></r>");
@@ -161,6 +174,20 @@ TEST(axsTree, refuses_what_cannot_be_a_child_and_changes_nothing)
   EXPECT_EQ(document->appendChild(document->createTextNode(APSTRING("x"))), nullptr);
   EXPECT_EQ(root->insertBefore(document->createElement(APSTRING("n")), c), nullptr);
   EXPECT_EQ(xml(document), before);
+}
+
+// XML 1.0, [22]: a document type stands before the root element, with comments and instructions anywhere beside them.
+TEST(axsTree, an_element_does_not_get_before_the_document_type)
+{
+  auto const document = load("<!DOCTYPE r><r/>");
+  auto const root = document->removeChild(document->getDocumentElement());
+  auto const type = document->getFirstChild();
+  EXPECT_EQ(document->insertBefore(root, type), nullptr);
+  EXPECT_NE(document->insertBefore(document->createComment(APSTRING("c")), type), nullptr);
+  EXPECT_EQ(document->insertBefore(root, document->getFirstChild()), nullptr);
+  EXPECT_EQ(document->appendChild(root), root);
+  apByteArray output;
+  EXPECT_TRUE(engine()->saveDocument(document, output));
 }
 
 TEST(axsTree, lets_a_document_have_another_root_in_the_place_of_its_own)

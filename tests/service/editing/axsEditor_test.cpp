@@ -129,6 +129,9 @@ TEST(axsEditor_set, values_of_attributes_and_elements_are_set)
   EXPECT_EQ(set_value("<a>x&#65;</a>", "/a", "xA"), "<a>x&#65;</a>");
   EXPECT_EQ(set_value("<a>\r\n</a>", "/a", "1\n2"), "<a>1\r\n2</a>");
   EXPECT_EQ(set_value("<a>x<!-- c --></a>", "/a", "y"), "!'a' has more in it than text, which would be lost");
+  EXPECT_NE(
+    set_value("<a>x<!-- c --></a>", "//comment()", "y").find("has no value that can be set"), std::string::npos);
+  EXPECT_NE(set_value("<a>x</a>", "//text()", "y").find("has no value that can be set"), std::string::npos);
 }
 
 TEST(axsEditor, what_an_expression_may_be)
@@ -239,6 +242,14 @@ TEST(axsEditor_rename, defaults_are_those_of_the_new_name)
   EXPECT_EQ(renamed(type + "<a><b z='0'/></a>", "//b", "c"), type + "<a><c z='0'/></a>");
 }
 
+TEST(axsEditor_rename, what_the_document_type_adds_has_no_name_in_the_document)
+{
+  std::string const type = "<!DOCTYPE a [<!ATTLIST a given CDATA '1'>]>";
+  EXPECT_EQ(renamed(type + "<a own='2'/>", "//@given", "b"),
+    "!'a' has 'given' from the document type only: it does not stand in the document");
+  EXPECT_EQ(renamed(type + "<a own='2'/>", "//@own", "b"), type + "<a b='2'/>");
+}
+
 TEST(axsEditor_rename, a_name_under_which_a_value_would_be_read_as_another_is_refused)
 {
   std::string const type =
@@ -337,6 +348,8 @@ TEST(axsEditor_move, nothing_gets_into_another_namespace)
     "!'b' cannot be moved to where another default namespace is declared");
   EXPECT_EQ(moved(document, "//p:c", into, "//*[local-name()='e']"),
     "!'p:c' cannot be moved to where the prefix 'p' is not bound to the same namespace");
+  EXPECT_EQ(moved("<a xmlns:p='u'><?q?><b/></a>", "//processing-instruction()", before, "/a"),
+    "<?q?>\n<a xmlns:p='u'><b/></a>");
   EXPECT_EQ(moved("<a><b xmlns='v'><c/></b><e xmlns='w'/></a>", "//*[local-name()='b']", into, "//*[local-name()='e']"),
     "<a><e xmlns='w'><b xmlns='v'><c/></b></e></a>");
 }

@@ -104,6 +104,15 @@ protected:
 };
 }
 
+TEST_F(axsTree_, a_text_has_the_name_of_all_texts_and_its_own_text)
+{
+  Text& text = tree.text("one");
+  EXPECT_EQ(text.node_name(), "#text");
+  std::string all = "and ";
+  text.append_text_to(all);
+  EXPECT_EQ(all, "and one");
+}
+
 TEST_F(axsTree_, children_are_linked_in_both_directions_wherever_they_come_and_go)
 {
   Element& parent = tree.element("p");

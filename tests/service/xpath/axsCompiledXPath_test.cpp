@@ -36,6 +36,14 @@ TEST(axsCompiledXPath, prefixes_are_the_callers)
     value(axsCompiledXPath("//b:book"), *document), "error at 3: the prefix 'b' is not declared at the context node");
 }
 
+TEST(axsCompiledXPath, bytes_that_are_no_utf8_are_no_expression)
+{
+  axsCompiledXPath const wrong("//a[. = '\xC3']");
+  EXPECT_FALSE(wrong.is_good());
+  EXPECT_EQ(wrong.type(), axsXPathType::node_set);
+  EXPECT_EQ(value(wrong, *books()), "error at 1: the expression is not UTF-8");
+}
+
 TEST(axsCompiledXPath, variables_have_the_values_of_the_evaluation_or_those_they_were_given_at_first)
 {
   auto const document = books();

@@ -48,6 +48,8 @@ Wrong const wrong_expressions[] = {{"an_empty_expression", "", "error at 1: a st
   {"an_open_parenthesis", "(a", "error at 3: a ')' is missing"},
   {"a_parenthesis_too_many", "a)", "error at 2: the expression should end here"},
   {"an_open_predicate", "a[1", "error at 4: a ']' is missing"},
+  {"an_open_predicate_of_a_filter", "(a)[1", "error at 6: a ']' is missing"},
+  {"a_missing_step_after_a_filter", "(a)/+", "error at 5: a step is missing"},
   {"an_empty_predicate", "a[]", "error at 3: a step is missing"},
   {"an_open_call", "count(a", "error at 8: a ',' or ')' is missing"},
   {"an_open_literal", "a = 'b", "error at 5: the literal is not closed"},
