@@ -111,6 +111,19 @@ TEST(axsSchemaCache, keeps_nothing_that_is_wrong)
   EXPECT_NE(cached.get("s.xsd"), nullptr);
 }
 
+TEST(axsSchemaCache, keeps_nothing_that_is_larger_than_all_that_may_be_kept)
+{
+  Cached cached;
+  cached.files.schema("s.xsd", element("a") + "<!--" + std::string(axsSchemaCache::max_bytes, ' ') + "-->");
+  cached.age("s.xsd");
+  std::weak_ptr<axsSchemaComponents const> const made = cached.get("s.xsd");
+  EXPECT_TRUE(made.expired());
+  EXPECT_EQ(cached.cache.find({{"", cached.files.path("s.xsd")}}), nullptr);
+  cached.files.schema("s.xsd", element("a"));
+  std::weak_ptr<axsSchemaComponents const> const smaller = cached.get("s.xsd");
+  EXPECT_FALSE(smaller.expired());
+}
+
 TEST(axsSchemaCache, lets_those_go_that_were_not_asked_for_longest)
 {
   Cached cached;

@@ -82,6 +82,18 @@ TEST(axsParticleRestriction, pointless_groups_make_no_difference)
   EXPECT_FALSE(restricts("()", "(a?, b)"));
 }
 
+TEST(axsParticleRestriction, an_empty_content_is_restricted_by_an_empty_one_only)
+{
+  EXPECT_TRUE(restricts("()", "()"));
+  EXPECT_TRUE(restricts("(a{0,0})", "()"));
+  EXPECT_TRUE(restricts("(a{0,0}, b{0,0})", "(b{0,0})"));
+  EXPECT_FALSE(restricts("a", "()"));
+  EXPECT_FALSE(restricts("(a?)", "(a{0,0})"));
+  EXPECT_TRUE(restricts("()", "(a | b)?"));
+  EXPECT_TRUE(restricts("()", "(a? | b)"));
+  EXPECT_FALSE(restricts("()", "(a | b)"));
+}
+
 TEST(axsParticleRestriction, groups_nested_deeply_are_compared)
 {
   std::string open;
