@@ -166,6 +166,9 @@ TEST(axsValue, some_durations_have_no_order)
   EXPECT_EQ(order("duration", "-P1M", "-P30D"), Order::none);
   EXPECT_EQ(order("duration", "P1M", "P27DT86399.999S"), Order::greater);
   EXPECT_EQ(order("duration", "P1M", "P31DT0.001S"), Order::less);
+  // 400 years have as many days wherever they begin.
+  EXPECT_EQ(order("duration", "P400YT0.05S", "P146097DT0.5S"), Order::less);
+  EXPECT_EQ(order("duration", "-P400YT0.05S", "-P146097DT0.5S"), Order::greater);
 }
 
 // A year has 365.2425 days in the mean, and no more than that is known of spans beyond what can be computed with.
