@@ -1,5 +1,7 @@
 #include "Faults.h"
 
+#include <axmTextNode.h>
+
 #include <cstdio>
 #include <cwctype>
 #include <string>
@@ -127,4 +129,25 @@ std::vector<Element> items_of(List const& list)
   for (int index = 0; index < list->length(); ++index)
     items.push_back(list->at(index));
   return items;
+}
+
+bool is_text(Node const& node)
+{
+  return is<axmTextNode>(node);
+}
+
+Node after(Node const& node, Node const& top)
+{
+  if (Node const child = node->getFirstChild())
+    return child;
+  for (Node above = node; above != nullptr && !(*above == *top); above = above->getParentNode())
+    if (Node const next = above->getNextSibling())
+      return next;
+  return nullptr;
+}
+
+Document refused(axmParseError& error)
+{
+  error = axmParseError(APSTRING("refused"));
+  return nullptr;
 }

@@ -37,6 +37,13 @@ std::vector<Fault> const& rule_faults();
 // Those of what is held while others change, of what is deep, large or rare.
 std::vector<Fault> const& held_faults();
 
+// Those made up by somebody who knows the headers and not the suite.
+std::vector<Fault> const& outside_tree_faults();
+std::vector<Fault> const& outside_load_faults();
+
+// Engines that break no promise, with what they do otherwise than the one that comes with the library.
+std::vector<Fault> const& freedoms();
+
 // The text with every `wanted` replaced.
 apString replaced(apString text, apString const& wanted, apString const& replacement);
 
@@ -46,12 +53,16 @@ apString trimmed(apString const& text);
 apString lower_case(apString const& text);
 
 bool is_element(Node const& node);
+bool is_text(Node const& node);
 
 template <class Kind>
 bool is(Node const& node)
 {
   return std::dynamic_pointer_cast<Kind>(node) != nullptr;
 }
+
+// The node after `node` in document order among those below `top`.
+Node after(Node const& node, Node const& top);
 
 // How many nodes it lies in.
 int depth_of(Node const& node);
@@ -74,3 +85,51 @@ void read_as(Hooks& hooks, char const* wanted, char const* meant);
 // A list of the items given, and the items of a list.
 List list_of(std::vector<Element> const& items);
 std::vector<Element> items_of(List const& list);
+
+// What a load that fails for no reason hands out.
+Document refused(axmParseError& error);
+
+// Changes what is told of a load from memory: `change` has the text, the document and the error.
+template <class Change>
+void tell_of_bytes(Hooks& hooks, Change change)
+{
+  hooks.load_bytes =
+    [change](Factory const& factory, apByteArray const& data, axmLoadOptions const& options, axmParseError& error)
+  {
+    Document const document = factory->loadDocument(data, options, error);
+    change(text_of(data), document, error);
+    return document;
+  };
+}
+
+// A list whose items are found as the functions say.
+class ListAs : public axmNodeList
+{
+public:
+  ListAs(std::function<Element(int)> given_item, std::function<int()> given_size)
+    : item(std::move(given_item)),
+      size(std::move(given_size))
+  {
+  }
+  Element at(int index) override { return item(index); }
+  int length() const override { return size(); }
+
+private:
+  std::function<Element(int)> item;
+  std::function<int()> size;
+};
+
+// A map that is another one.
+class MapAs : public axmNamedNodeMap
+{
+public:
+  explicit MapAs(Map given_map) : map(std::move(given_map)) {}
+  int getLength() override { return map->getLength(); }
+  Node item(int index) override { return map->item(index); }
+  Node getNamedItem(apString const& name) override { return map->getNamedItem(name); }
+  Node removeNamedItem(apString const& name) override { return map->removeNamedItem(name); }
+  Node setNamedItem(Node node) override { return map->setNamedItem(std::move(node)); }
+
+protected:
+  Map const map;
+};

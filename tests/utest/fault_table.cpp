@@ -1,6 +1,7 @@
 // Writes the table of the faulty engines and of what sees them, as faults.txt holds it. An argument is a part of the names
 // of the faults wanted, --subtle for those that only the generated cases see, --promises for those read off the headers,
-// --rules for those against what the headers refer to, or --held for those of what is held, deep, large or rare.
+// --rules for those against what the headers refer to, --held for those of what is held, deep, large or rare, or --outside
+// for those of somebody who does not know the suite. --freedoms writes the engines that break nothing, which nothing sees.
 
 #include "Faults.h"
 #include "SuiteRun.h"
@@ -39,4 +40,9 @@ int main(int argc, char** argv)
     write(rule_faults(), run_all_classes, wanted);
   if (is_every || first == "--held")
     write(held_faults(), run_all_classes, wanted);
+  for (auto const* const some : {&outside_tree_faults(), &outside_load_faults()})
+    if (is_every || first == "--outside")
+      write(*some, run_all_classes, wanted);
+  if (first == "--freedoms")
+    write(freedoms(), run_all_classes, nullptr);
 }

@@ -19,22 +19,6 @@
 
 namespace
 {
-bool is_text(Node const& node)
-{
-  return node->getNodeName() == APSTRING("#text");
-}
-
-// The node after `node` in document order among those below `top`.
-Node after(Node const& node, Node const& top)
-{
-  if (Node const child = node->getFirstChild())
-    return child;
-  for (Node above = node; above != nullptr && !(*above == *top); above = above->getParentNode())
-    if (Node const next = above->getNextSibling())
-      return next;
-  return nullptr;
-}
-
 std::wstring structure_of(Document const& document)
 {
   std::wstring names;
@@ -54,29 +38,6 @@ void remove_file(apPath const& path)
   std::error_code ignored;
   std::filesystem::remove(std::filesystem::u8path(path.path().c_str()), ignored);
 }
-
-Document refused(axmParseError& error)
-{
-  error = axmParseError(APSTRING("refused"));
-  return nullptr;
-}
-
-// A list whose items are found as the functions say.
-class ListAs : public axmNodeList
-{
-public:
-  ListAs(std::function<Element(int)> given_item, std::function<int()> given_size)
-    : item(std::move(given_item)),
-      size(std::move(given_size))
-  {
-  }
-  Element at(int index) override { return item(index); }
-  int length() const override { return size(); }
-
-private:
-  std::function<Element(int)> item;
-  std::function<int()> size;
-};
 
 class ListOfOneWalk : public ListAs
 {
@@ -103,20 +64,6 @@ public:
     ListAs::reset();
     ListAs::operator++();
   }
-};
-
-class MapAs : public axmNamedNodeMap
-{
-public:
-  explicit MapAs(Map given_map) : map(std::move(given_map)) {}
-  int getLength() override { return map->getLength(); }
-  Node item(int index) override { return map->item(index); }
-  Node getNamedItem(apString const& name) override { return map->getNamedItem(name); }
-  Node removeNamedItem(apString const& name) override { return map->removeNamedItem(name); }
-  Node setNamedItem(Node node) override { return map->setNamedItem(std::move(node)); }
-
-protected:
-  Map const map;
 };
 
 // Makes its items anew when their number is another one.
@@ -217,19 +164,6 @@ private:
   State state;
   std::vector<Search> searches;
 };
-
-// Changes what is told of a load from memory: `change` has the text, the document and the error.
-template <class Change>
-void tell_of_bytes(Hooks& hooks, Change change)
-{
-  hooks.load_bytes =
-    [change](Factory const& factory, apByteArray const& data, axmLoadOptions const& options, axmParseError& error)
-  {
-    Document const document = factory->loadDocument(data, options, error);
-    change(text_of(data), document, error);
-    return document;
-  };
-}
 
 template <class Change>
 void tell_of_files(Hooks& hooks, Change change)

@@ -13,11 +13,6 @@
 
 namespace
 {
-bool is_text(Node const& node)
-{
-  return std::dynamic_pointer_cast<axmTextNode>(node) != nullptr;
-}
-
 bool is_comment(Node const& node)
 {
   return std::dynamic_pointer_cast<axmCommentNode>(node) != nullptr;

@@ -1,0 +1,237 @@
+// Engines that use a freedom which the headers leave them, and break no promise.
+
+#include "Faults.h"
+
+#include <axmCommentNode.h>
+#include <axmProcessingInstruction.h>
+#include <axmTextNode.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace
+{
+// The attributes in another order.
+class MapFromTheEnd : public MapAs
+{
+public:
+  using MapAs::MapAs;
+  Node item(int index) override { return MapAs::item(map->getLength() - 1 - index); }
+};
+
+class MapByName : public MapAs
+{
+public:
+  using MapAs::MapAs;
+  Node item(int index) override
+  {
+    std::vector<Node> items;
+    for (int at = 0; at < map->getLength(); ++at)
+      items.push_back(map->item(at));
+    std::sort(items.begin(), items.end(),
+      [](Node const& left, Node const& right) { return left->getNodeName() < right->getNodeName(); });
+    return index >= 0 && index < static_cast<int>(items.size()) ? items[static_cast<std::size_t>(index)] : nullptr;
+  }
+};
+
+bool is_of(Node const& node, Document const& document)
+{
+  return node == nullptr || *node->getOwnerDocument() == *document;
+}
+
+template <class Tell>
+void tell_errors(Hooks& hooks, Tell tell)
+{
+  hooks.load_bytes =
+    [tell](Factory const& factory, apByteArray const& data, axmLoadOptions const& options, axmParseError& error)
+  {
+    Document const document = factory->loadDocument(data, options, error);
+    if (document == nullptr)
+      error = tell(error);
+    return document;
+  };
+  hooks.load_file = [tell](
+                      Factory const& factory, apPath const& path, axmLoadOptions const& options, axmParseError& error)
+  {
+    Document const document = factory->loadDocument(path, options, error);
+    if (document == nullptr)
+      error = tell(error);
+    return document;
+  };
+}
+
+axmParseError placed(apString const& message, apString const& url, int line, int column)
+{
+  axmParseError error(message);
+  error.set_url(url);
+  error.set_line_number(line);
+  error.set_column_number(column);
+  return error;
+}
+
+void save_as(Hooks& hooks, std::string (*change)(std::string const& text))
+{
+  hooks.save_bytes = [change](Factory const& factory, Document const& document, apByteArray& output)
+  {
+    bool const is_saved = factory->saveDocument(document, output);
+    if (is_saved)
+      output = bytes_of(change(text_of(output)));
+    return is_saved;
+  };
+  hooks.save_file = [change](Factory const& factory, Document const& document, apPath const& path)
+  {
+    bool const is_saved = factory->saveDocument(document, path);
+    if (is_saved)
+      write(path, change(contents_of(path)));
+    return is_saved;
+  };
+}
+
+bool holds_markup_of_others(std::string const& text)
+{
+  return text.find("<!--") != std::string::npos || text.find("<?", 2) != std::string::npos ||
+         text.find("<![CDATA[") != std::string::npos;
+}
+
+// Each element on a line of its own where its neighbours are elements, too.
+std::string on_lines(std::string const& text)
+{
+  bool const is_kept = holds_markup_of_others(text) || text.find("xml:space") != std::string::npos;
+  return is_kept ? text : with(text, "><", ">\n<");
+}
+
+std::string with_mark(std::string const& text)
+{
+  return "\xEF\xBB\xBF" + text;
+}
+
+std::string with_numbers(std::string const& text)
+{
+  return holds_markup_of_others(text) ? text : with(with(text, "&lt;", "&#60;"), "&amp;", "&#x26;");
+}
+
+std::string with_blank_before_end(std::string const& text)
+{
+  return holds_markup_of_others(text) ? text : with(text, "/>", " />");
+}
+
+std::string with_line_at_end(std::string const& text)
+{
+  return text + "\n";
+}
+
+bool is_name_start(wchar_t character)
+{
+  return (character >= L'a' && character <= L'z') || (character >= L'A' && character <= L'Z') || character == L'_' ||
+         character == L':' || character > 127;
+}
+}
+
+std::vector<Fault> const& freedoms()
+{
+  static std::vector<Fault> const engines = {
+    {"axmNamedNodeMap::item", "attributes come in the order against the one in which they were set",
+      [](Hooks& h) { h.map = [](Map const& map) { return std::make_shared<MapFromTheEnd>(map); }; }},
+    {"axmNamedNodeMap::item", "attributes come in the order of their names",
+      [](Hooks& h) { h.map = [](Map const& map) { return std::make_shared<MapByName>(map); }; }},
+    {"appendChild", "a child of another document is refused",
+      [](Hooks& h)
+      {
+        h.append = [](Node const& n, Node const& child)
+        { return is_of(child, n->getOwnerDocument()) ? n->appendChild(child) : nullptr; };
+        h.insert = [](Node const& n, Node const& child, Node const& before)
+        { return is_of(child, n->getOwnerDocument()) ? n->insertBefore(child, before) : nullptr; };
+        h.replace = [](Node const& n, Node const& child, Node const& old)
+        { return is_of(child, n->getOwnerDocument()) ? n->replaceChild(child, old) : nullptr; };
+      }},
+    {"createTextNode", "half a surrogate is refused",
+      [](Hooks& h)
+      {
+        h.create_text = [](Document const& d, apString const& data) -> Node
+        {
+          if (apString::from_utf8(data.to_utf8().c_str()) != data && data.find(apString(L"\0", 1)) < 0)
+            return nullptr;
+          return d->createTextNode(data);
+        };
+      }},
+    {"getElementsByTagName", "the list follows later changes",
+      [](Hooks& h)
+      {
+        h.by_name = [](Document const& d, apString const& name) -> List
+        {
+          return std::make_shared<ListAs>([d, name](int index) { return d->getElementsByTagName(name)->at(index); },
+            [d, name] { return d->getElementsByTagName(name)->length(); });
+        };
+      }},
+    {"getElementsByTagName", "the list stays as it was",
+      [](Hooks& h)
+      {
+        h.by_name = [](Document const& d, apString const& name)
+        { return list_of(items_of(d->getElementsByTagName(name))); };
+      }},
+    {"getDocumentURI", "it is a name of the engine's",
+      [](Hooks& h) { h.uri = [](Document const& d) { return APSTRING("document:") + d->getDocumentURI(); }; }},
+    {"loadDocument", "the message of an error is always the same",
+      [](Hooks& h)
+      {
+        tell_errors(h, [](axmParseError const& error)
+          { return placed(APSTRING("no"), error.url(), error.line_number(), error.column_number()); });
+      }},
+    {"loadDocument", "the message of an error is empty",
+      [](Hooks& h)
+      {
+        tell_errors(h, [](axmParseError const& error)
+          { return placed(apString(), error.url(), error.line_number(), error.column_number()); });
+      }},
+    {"loadDocument", "neither line nor column of an error is known",
+      [](Hooks& h)
+      { tell_errors(h, [](axmParseError const& error) { return placed(error.message(), error.url(), -1, -1); }); }},
+    {"loadDocument", "the column of an error is not known",
+      [](Hooks& h)
+      {
+        tell_errors(
+          h, [](axmParseError const& error) { return placed(error.message(), error.url(), error.line_number(), -1); });
+      }},
+    {"loadDocument", "the input of an error is not known",
+      [](Hooks& h)
+      {
+        tell_errors(h, [](axmParseError const& error)
+          { return placed(error.message(), apString(), error.line_number(), error.column_number()); });
+      }},
+    {"loadDocument", "the url of an error in a file is one with a scheme",
+      [](Hooks& h)
+      {
+        tell_errors(h,
+          [](axmParseError const& error)
+          {
+            bool const has_url = !error.url().empty();
+            return placed(error.message(), has_url ? APSTRING("file:") + error.url() : error.url(), error.line_number(),
+              error.column_number());
+          });
+      }},
+    {"saveDocument", "elements are on lines of their own", [](Hooks& h) { save_as(h, on_lines); }},
+    {"saveDocument", "a byte order mark is written", [](Hooks& h) { save_as(h, with_mark); }},
+    {"saveDocument", "markup characters are written as numbers", [](Hooks& h) { save_as(h, with_numbers); }},
+    {"saveDocument", "empty elements have a blank before their end",
+      [](Hooks& h) { save_as(h, with_blank_before_end); }},
+    {"saveDocument", "a line end follows the document", [](Hooks& h) { save_as(h, with_line_at_end); }},
+    {"set_attribute", "a name that is none is told of",
+      [](Hooks& h)
+      {
+        h.set_int = [](Node const& n, apString const& name, int value)
+        {
+          bool const is_set = n->set_attribute(name, value);
+          return is_set && !name.empty() && is_name_start(name.view().front());
+        };
+      }},
+    {"obstacle", "it is told in other words",
+      [](Hooks& h)
+      {
+        h.obstacle = [](Factory const& factory, Document const& document)
+        { return Hooks().obstacle(factory, document).empty() ? apString() : APSTRING("cannot be saved"); };
+      }},
+  };
+  return engines;
+}
