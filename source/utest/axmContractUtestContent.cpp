@@ -266,7 +266,7 @@ void axmContractUtest::test_locale_attributes(Factory const& factory) const
 void axmContractUtest::test_attributes_of_others(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_attributes_of_others");
-  auto const document = load(*factory, "<root>text<!--remark--></root>");
+  auto const document = load(*factory, "<root k='1'>text<!--remark--></root><?target N='1'?>");
   auto const root = root_of(document);
   Node const text = first_of(root);
   Node const remark = last_of(root);
@@ -280,7 +280,10 @@ void axmContractUtest::test_attributes_of_others(Factory const& factory) const
   };
   Other const others[] = {{text, "a text has no attributes"}, {remark, "a comment has no attributes"},
     {document, "a document has no attributes"}, {child_of(root, 0), "a text from a list has no attributes"},
-    {child_of(root, 1), "a comment from a list has no attributes"}};
+    {child_of(root, 1), "a comment from a list has no attributes"},
+    {next_of(root), "an instruction has no attributes, whatever it holds"},
+    {detached_attribute(document, APSTRING("N"), APSTRING("1")), "an attribute has no attributes"},
+    {document->createTextNode(APSTRING("new")), "a text in no tree has no attributes"}};
   for (auto const& [node, description] : others)
   {
     group.check(node != nullptr && refuses_setters(*node), "refuses_setters(*node)", __LINE__, description);

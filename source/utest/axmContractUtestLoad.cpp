@@ -172,6 +172,42 @@ void axmContractUtest::test_load_failure(Factory const& factory) const
     "!document.get() && !error.invalid()", __LINE__, "an empty file");
 }
 
+namespace
+{
+// Whether an error names a file, by its path or by its URL (RFC 3986, 2.1: UTF-8 in percent signs), if it names any.
+bool is_named(axmParseError const& error, std::string const& name)
+{
+  std::string const url = error.url().to_utf8().c_str();
+  if (url.empty() || url.find(name) != std::string::npos)
+    return true;
+  std::string plain;
+  for (std::size_t at = 0; at < url.size(); ++at)
+  {
+    bool const is_escape = url[at] == '%' && at + 2 < url.size() &&
+                           std::isxdigit(static_cast<unsigned char>(url[at + 1])) != 0 &&
+                           std::isxdigit(static_cast<unsigned char>(url[at + 2])) != 0;
+    plain += is_escape ? static_cast<char>(std::stoi(url.substr(at + 1, 2), nullptr, 16)) : url[at];
+    at += is_escape ? 2 : 0;
+  }
+  return plain.find(name) != std::string::npos;
+}
+
+// The files whose names are told with what failed in them.
+void check_urls(axmUtestGroup const& group, axmDocumentFactory const& factory)
+{
+  for (wchar_t const* const name : {L"place \u0444", L"place\u00A0%41", L"place#1", L"place+&;=", L"pl\u00E4ce"})
+  {
+    apPath const path = unique(name, APSTRING("xml"));
+    axmUtestFile const removed_at_the_end(path);
+    axmUtestUtils::write_data(path, "<root>");
+    axmParseError error;
+    factory.loadDocument(path, axmLoadOptions(), error);
+    group.check(is_named(error, apString(name).to_utf8().c_str()), "error.url() names the file", __LINE__,
+      "the file that failed, whatever its name");
+  }
+}
+}
+
 void axmContractUtest::test_load_place(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_load_place");
@@ -199,6 +235,7 @@ void axmContractUtest::test_load_place(Factory const& factory) const
   group.check(is_unknown_or(in_file.line_number(), 4), "error.line_number() == 4", __LINE__, "the line in a file");
   group.check(in_file.url().empty() || in_file.url().find(APSTRING("contract_place")) >= 0,
     "error.url() names the file", __LINE__, "the file that failed");
+  check_urls(group, *factory);
 
   apPath const schema_path = unique(APSTRING("place"), APSTRING("xsd"));
   axmUtestFile const schema_removed_at_the_end(schema_path);

@@ -50,12 +50,6 @@ bool is_alone(Node const& node)
   return is_detached(node) && next_of(node) == nullptr && previous_of(node) == nullptr;
 }
 
-void set_text(Node const& node, apString const& text)
-{
-  if (node != nullptr)
-    node->set_text(text);
-}
-
 // What the XML of an element brings back when it is loaded as a document.
 Element reloaded(Factory const& factory, Node const& node)
 {

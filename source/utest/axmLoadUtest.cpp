@@ -569,11 +569,13 @@ struct OtherEncoding
   wchar_t const* text;
 };
 
-OtherEncoding const other_encodings[] = {{"ISO-8859-1", "\xE4", L"\u00E4"}, {"ISO-8859-1", "\xA4", L"\u00A4"},
-  {"ISO-8859-2", "\xB1", L"\u0105"}, {"ISO-8859-5", "\xE4", L"\u0444"}, {"ISO-8859-7", "\xE1", L"\u03B1"},
-  {"ISO-8859-15", "\xA4", L"\u20AC"}, {"windows-1251", "\xF4", L"\u0444"}, {"windows-1252", "\x80", L"\u20AC"},
-  {"KOI8-R", "\xC6", L"\u0444"}, {"Shift_JIS", "\x83\x41", L"\u30A2"}, {"EUC-JP", "\xA5\xA2", L"\u30A2"},
-  {"US-ASCII", "x", L"x"}};
+// With those from 0x80 to 0x9F, which code pages of systems have otherwise.
+OtherEncoding const other_encodings[] = {{"ISO-8859-1", "\xE4\x80\x85\x92\x9F", L"\u00E4\u0080\u0085\u0092\u009F"},
+  {"ISO-8859-1", "\xA0\xA4\xFF", L"\u00A0\u00A4\u00FF"}, {"ISO-8859-2", "\xB1\x80\x9F", L"\u0105\u0080\u009F"},
+  {"ISO-8859-5", "\xE4\x80", L"\u0444\u0080"}, {"ISO-8859-7", "\xE1\x9F", L"\u03B1\u009F"},
+  {"ISO-8859-15", "\xA4\x80\xA6\xBD", L"\u20AC\u0080\u0160\u0153"}, {"windows-1251", "\xF4\x80", L"\u0444\u0402"},
+  {"windows-1252", "\x80\x8A\x9F", L"\u20AC\u0160\u0178"}, {"KOI8-R", "\xC6", L"\u0444"},
+  {"Shift_JIS", "\x83\x41", L"\u30A2"}, {"EUC-JP", "\xA5\xA2", L"\u30A2"}, {"US-ASCII", "x", L"x"}};
 
 // Whether that is UTF-8 without a zero: anything else is another text once it was read as that.
 bool is_utf8(apByteArray const& output)
@@ -1183,6 +1185,12 @@ void axmLoadUtest::test_second_saves(Factory const& factory) const
   apByteArray another;
   group.check(factory->saveDocument(document, one) && factory->saveDocument(document, another) && one == another,
     "one == another", __LINE__, "two saves of one document are equal");
+  for (std::size_t const size : {std::size_t(1), std::size_t(one.size()), std::size_t(100000)})
+  {
+    apByteArray output = bytes_in(std::string(size, 'x'));
+    group.check(factory->saveDocument(document, output) && output == one, "output == one", __LINE__,
+      "a save takes the place of what was there, however much that is");
+  }
   group.check(xml_of(document), xml, "document->get_xml()", __LINE__, "and change nothing");
   group.check(xml.find(APSTRING("<?xml ")), 0, "document->get_xml()", __LINE__,
     "the XML of a document begins with its declaration");

@@ -1,6 +1,7 @@
 #include "axmModelUtest.h"
 
 #include "axmUtestGroup.h"
+#include "model/axmModelCases.h"
 #include "model/axmModelDraw.h"
 #include "model/axmModelRun.h"
 #include "model/axmModelShrink.h"
@@ -8,6 +9,7 @@
 #include <utUnitTest.h>
 
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -15,6 +17,12 @@ using Factory = std::shared_ptr<axmDocumentFactory>;
 using Topic = axmModelTopic;
 
 char const file[] = "source/utest/axmModelUtest";
+
+void tell(utUnitTest* tester, axmDocumentFactory& factory, axmModelFinding const& finding)
+{
+  axmModelFinding const shrunk = axm_model_shrunk(factory, finding);
+  tester->printf("%s// %s", axm_model_program(shrunk.steps).c_str(), shrunk.difference.c_str());
+}
 
 // A round is over at its first difference, which is in the result then.
 axmModelFinding round_of(axmDocumentFactory& factory, Topic topic, std::uint64_t seed)
@@ -39,19 +47,39 @@ struct Draws
   int rounds;
 };
 
+char const expression[] = "every answer is the promised one";
+
 void run_rounds(
   utUnitTest* tester, char const* name, char const* description, axmDocumentFactory& factory, Draws const& draws)
 {
   axmUtestGroup const group(tester, file, name);
-  char const expression[] = "every answer is the promised one";
   for (int round = 0; round < draws.rounds; ++round)
   {
     std::uint64_t const number = draws.seed * 1000003U + static_cast<std::uint64_t>(round);
-    axmModelFinding finding = round_of(factory, draws.topic, number * 8U + static_cast<std::uint64_t>(draws.topic));
+    axmModelFinding const finding =
+      round_of(factory, draws.topic, number * 8U + static_cast<std::uint64_t>(draws.topic));
     if (finding.difference.empty())
       continue;
-    finding = axm_model_shrunk(factory, finding);
-    tester->printf("%s// %s", axm_model_program(finding.steps).c_str(), finding.difference.c_str());
+    tell(tester, factory, finding);
+    group.check(false, expression, __LINE__, description);
+    return;
+  }
+  group.check(true, expression, __LINE__, description);
+}
+
+void run_cases(utUnitTest* tester, char const* name, char const* description, axmDocumentFactory& factory,
+  std::vector<std::vector<axmModelStep>> const& cases)
+{
+  axmUtestGroup const group(tester, file, name);
+  for (std::vector<axmModelStep> const& steps : cases)
+  {
+    axmModelRun run(factory, static_cast<int>(steps.size()) + 1);
+    for (axmModelStep const& step : steps)
+      run.execute(step);
+    run.compare_all();
+    if (run.difference().empty())
+      continue;
+    tell(tester, factory, {steps, run.difference()});
     group.check(false, expression, __LINE__, description);
     return;
   }
@@ -79,6 +107,8 @@ void axmModelUtest::run_tests(Factory const& factory) const
     {&Utest::test_lists, "axmModelUtest::test_lists"},
     {&Utest::test_loads, "axmModelUtest::test_loads"},
     {&Utest::test_everything, "axmModelUtest::test_everything"},
+    {&Utest::test_neighbours, "axmModelUtest::test_neighbours"},
+    {&Utest::test_texts, "axmModelUtest::test_texts"},
     {&Utest::test_many_children, "axmModelUtest::test_many_children"},
     {&Utest::test_many_attributes, "axmModelUtest::test_many_attributes"},
     {&Utest::test_long_texts, "axmModelUtest::test_long_texts"},
@@ -115,4 +145,15 @@ void axmModelUtest::test_everything(Factory const& factory) const
 {
   run_rounds(
     tester, "axmModelUtest::test_everything", "all operations at once", *factory, {Topic::everything, seed, rounds});
+}
+
+void axmModelUtest::test_neighbours(Factory const& factory) const
+{
+  run_cases(
+    tester, "axmModelUtest::test_neighbours", "edits of every pair of neighbours", *factory, axm_model_neighbours());
+}
+
+void axmModelUtest::test_texts(Factory const& factory) const
+{
+  run_cases(tester, "axmModelUtest::test_texts", "texts in every place", *factory, axm_model_texts());
 }

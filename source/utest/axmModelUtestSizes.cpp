@@ -206,20 +206,35 @@ Element saved_and_loaded(Factory const& factory, Document const& document)
   return root_of(copy_of(factory, document));
 }
 
-// Whether a text of that length comes back as text, attribute, comment and, saved, as all of them.
+// Another of the same length.
+apString changed_in_the_middle(apString const& text)
+{
+  std::wstring changed(text.view());
+  changed[changed.find_last_of(L"xy") / 2] = L'z';
+  return apString(std::wstring_view(changed));
+}
+
+// Whether a text of that length, in the place of another one, comes back as text, attribute, comment and, saved, as all of
+// them.
 bool comes_back(Factory const& factory, apString const& text)
 {
   auto const document = factory->createDocument(APSTRING("r"));
   auto const root = root_of(document);
   if (root == nullptr)
     return false;
-  append(root, document->createTextNode(text));
-  append(root, document->createComment(text));
+  apString const before = changed_in_the_middle(text);
+  append(root, document->createTextNode(before));
+  append(root, document->createComment(before));
+  root->setAttribute(APSTRING("k"), before);
+  root->setAttribute(APSTRING("l"), before);
+  set_text(child_of(root, 0), text);
+  set_text(child_of(root, 1), text);
   root->setAttribute(APSTRING("k"), text);
+  set_text(map_of(root)->getNamedItem(APSTRING("l")), text);
   auto const holds = [&text](Element const& element)
   {
-    return attribute_of(element, APSTRING("k")) == text && value_of(child_of(element, 0)) == text &&
-           value_of(child_of(element, 1)) == text && text_of(element) == text;
+    return attribute_of(element, APSTRING("k")) == text && attribute_of(element, APSTRING("l")) == text &&
+           value_of(child_of(element, 0)) == text && value_of(child_of(element, 1)) == text && text_of(element) == text;
   };
   return holds(root) && holds(saved_and_loaded(factory, document));
 }

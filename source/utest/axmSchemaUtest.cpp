@@ -32,6 +32,74 @@ void axmSchemaUtest::run_tests(Factory const& factory) const
   axm_run_groups(*this, factory, groups, tester, file);
 }
 
+namespace
+{
+// A schema with a target namespace, in which every kind of name and wildcard is.
+char const of_namespace[] =
+  "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' targetNamespace='urn:o' xmlns:o='urn:o' "
+  "elementFormDefault='qualified'><xs:element name='h' type='xs:int'/><xs:element name='s' type='xs:int' "
+  "substitutionGroup='o:h'/><xs:attribute name='g' type='xs:int'/><xs:complexType name='b'><xs:sequence><xs:element "
+  "name='x' type='xs:int' minOccurs='0'/></xs:sequence></xs:complexType><xs:complexType name='d'><xs:complexContent>"
+  "<xs:extension base='o:b'><xs:sequence><xs:element name='y' type='xs:int'/></xs:sequence></xs:extension>"
+  "</xs:complexContent></xs:complexType><xs:element name='t' type='o:b'/><xs:element name='w'><xs:complexType>"
+  "<xs:sequence><xs:any namespace='##targetNamespace'/></xs:sequence><xs:anyAttribute namespace='##targetNamespace'/>"
+  "</xs:complexType></xs:element><xs:element name='l'><xs:complexType><xs:sequence><xs:any namespace='##local' "
+  "processContents='skip'/></xs:sequence></xs:complexType></xs:element><xs:element name='u'><xs:complexType>"
+  "<xs:sequence><xs:any namespace='##other' processContents='skip'/></xs:sequence></xs:complexType></xs:element>"
+  "<xs:element name='m'><xs:complexType><xs:sequence><xs:any namespace='urn:p ##targetNamespace' "
+  "processContents='lax'/></xs:sequence></xs:complexType></xs:element><xs:element name='k'><xs:complexType>"
+  "<xs:sequence><xs:element name='e' maxOccurs='unbounded'><xs:complexType><xs:attribute name='id' type='xs:int'/>"
+  "</xs:complexType></xs:element></xs:sequence></xs:complexType><xs:unique name='q'><xs:selector xpath='o:e'/>"
+  "<xs:field xpath='@id'/></xs:unique></xs:element><xs:element name='n'><xs:complexType><xs:sequence><xs:element "
+  "name='e' form='unqualified' type='xs:int'/></xs:sequence><xs:attribute name='a' form='qualified' type='xs:int'/>"
+  "</xs:complexType></xs:element><xs:element name='c'><xs:complexType><xs:sequence><xs:element ref='o:h'/>"
+  "</xs:sequence><xs:attribute ref='o:g'/></xs:complexType></xs:element><xs:element name='ao'><xs:complexType>"
+  "<xs:anyAttribute namespace='##other' processContents='skip'/></xs:complexType></xs:element><xs:element name='al'>"
+  "<xs:complexType><xs:anyAttribute namespace='##local' processContents='skip'/></xs:complexType></xs:element>"
+  "</xs:schema>";
+
+char const* const valid_in_namespace[] = {"<w xmlns='urn:o'><h>1</h></w>", "<o:w o:g='1'><o:h>1</o:h></o:w>",
+  "<o:w><o:s>1</o:s></o:w>", "<o:l><z/></o:l>", "<l xmlns='urn:o'><h xmlns=''>x</h></l>", "<o:u><p:z/></o:u>",
+  "<o:m><p:z/></o:m>", "<o:m><o:h>1</o:h></o:m>", "<t xmlns='urn:o'><x>1</x></t>", "<o:t/>",
+  "<t xmlns='urn:o' xsi:type='d'><x>1</x><y>2</y></t>", "<o:t xsi:type='o:d'><o:y>1</o:y></o:t>",
+  "<o:k><o:e id='1'/><o:e id='2'/></o:k>", "<k xmlns='urn:o'><e id='1'/><e/><e/></k>", "<o:n o:a='1'><e>1</e></o:n>",
+  "<c xmlns='urn:o'><h>1</h></c>", "<c xmlns='urn:o' o:g='1'><s>1</s></c>", "<o:ao p:g='x'/>", "<o:al g='x'/>",
+  "<al xmlns='urn:o' g=''/>"};
+
+char const* const invalid_in_namespace[] = {"<w xmlns='urn:o'><p:h/></w>", "<w xmlns='urn:o'><h xmlns=''>1</h></w>",
+  "<o:w g='1'><o:h>1</o:h></o:w>", "<o:w p:g='1'><o:h>1</o:h></o:w>", "<o:w o:g='x'><o:h>1</o:h></o:w>",
+  "<w xmlns='urn:o'><h>x</h></w>", "<o:w><o:z/></o:w>", "<l xmlns='urn:o'><z/></l>", "<o:l><p:z/></o:l>",
+  "<o:u><z/></o:u>", "<o:u><o:h>1</o:h></o:u>", "<o:m><z/></o:m>", "<o:m><o:h>x</o:h></o:m>",
+  "<t xmlns='urn:o'><y>1</y></t>", "<o:t><x>1</x></o:t>", "<o:t xsi:type='d'><o:y>1</o:y></o:t>",
+  "<o:t xsi:type='p:d'><o:y>1</o:y></o:t>", "<o:t xsi:type='o:d'><y>1</y></o:t>",
+  "<o:k><o:e id='1'/><o:e id='1'/></o:k>", "<k xmlns='urn:o'><e id='1'/><e id='01'/></k>", "<o:n a='1'><e>1</e></o:n>",
+  "<n xmlns='urn:o'><e>1</e></n>", "<o:n o:a='x'><e>1</e></o:n>", "<c xmlns='urn:o' g='1'><h>1</h></c>",
+  "<c xmlns='urn:o' p:g='1'><h>1</h></c>", "<o:c><o:s>x</o:s></o:c>", "<o:c><h>1</h></o:c>", "<o:ao g='1'/>",
+  "<o:ao o:g='1'/>", "<o:al o:g='1'/>", "<o:al p:g='1'/>"};
+
+// With the prefixes that the documents above are written with.
+std::string with_prefixes(std::string const& document)
+{
+  std::size_t const end = document.find_first_of(" />");
+  return document.substr(0, end) +
+         " xmlns:o='urn:o' xmlns:p='urn:p' xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance'" +
+         document.substr(end);
+}
+
+bool are_judged_in_namespace(utUnitTest& tester, axmDocumentFactory const& factory)
+{
+  SchemaFile const schema("namespace", of_namespace);
+  axmLoadOptions options(axmValidateWithSchemas);
+  options.add_external_schema(APSTRING("urn:o"), schema.path);
+  bool are_right = true;
+  for (char const* const document : valid_in_namespace)
+    are_right = is_judged(tester, factory, options, with_prefixes(document), true) && are_right;
+  for (char const* const document : invalid_in_namespace)
+    are_right = is_judged(tester, factory, options, with_prefixes(document), false) && are_right;
+  return are_right;
+}
+}
+
 void axmSchemaUtest::test_modules(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmSchemaUtest::test_modules");
@@ -99,4 +167,6 @@ void axmSchemaUtest::test_modules(Factory const& factory) const
   for (auto const& [document, is_valid] : local)
     group.check(is_judged(*tester, *factory, in_namespace, document, is_valid), all_are_judged, __LINE__,
       "local names are in no namespace unless the schema says so");
+  group.check(are_judged_in_namespace(*tester, *factory), all_are_judged, __LINE__,
+    "declarations, wildcards, types and keys of a target namespace");
 }

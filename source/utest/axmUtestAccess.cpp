@@ -180,6 +180,12 @@ axmUtestAccess::Node axmUtestAccess::remove(Node const& parent, Node const& chil
   return parent != nullptr && child != nullptr ? parent->removeChild(child) : nullptr;
 }
 
+void axmUtestAccess::set_text(Node const& node, apString const& text)
+{
+  if (node != nullptr)
+    node->set_text(text);
+}
+
 std::shared_ptr<axmDocument> axmUtestAccess::load(axmDocumentFactory const& factory, char const* text)
 {
   axmParseError error;

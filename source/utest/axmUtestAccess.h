@@ -75,6 +75,9 @@ Node insert(Node const& parent, Node const& child, Node const& before);
 Node replace(Node const& parent, Node const& child, Node const& old_child);
 Node remove(Node const& parent, Node const& child);
 
+// Of a node that is there.
+void set_text(Node const& node, apString const& text);
+
 // The document that the UTF-8 `text` holds, loaded without validation, and its root element.
 std::shared_ptr<axmDocument> load(axmDocumentFactory const& factory, char const* text);
 std::shared_ptr<axmElement> load_root(axmDocumentFactory const& factory, char const* text);

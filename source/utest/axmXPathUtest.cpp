@@ -7,6 +7,7 @@
 #include <utUnitTest.h>
 
 #include <string>
+#include <vector>
 
 using namespace axmUtestAccess;
 
@@ -1159,6 +1160,7 @@ void axmXPathUtest::run_tests(Factory const& factory) const
   using Utest = axmXPathUtest;
   axmUtestEntry<Utest, Factory const&> const groups[] = {
     {&Utest::test_expressions, "axmXPathUtest::test_expressions"},
+    {&Utest::test_contexts, "axmXPathUtest::test_contexts"},
     {&Utest::test_many_nodes, "axmXPathUtest::test_many_nodes"},
     {&Utest::test_errors, "axmXPathUtest::test_errors"},
   };
@@ -1193,6 +1195,150 @@ void axmXPathUtest::test_expressions(Factory const& factory) const
     "what is a number, a blank and a character");
   group.check(
     are_answered(*tester, *factory, document_17, questions_17), expression, __LINE__, "conditions in conditions");
+}
+
+namespace
+{
+// The nodes of a document but for attributes, in document order, each with the number of the one that holds it.
+class Tree
+{
+public:
+  explicit Tree(Node const& top)
+  {
+    std::vector<int> open;
+    Node node = top;
+    while (node != nullptr && nodes.size() < 1000)
+    {
+      nodes.push_back(node);
+      parents.push_back(open.empty() ? -1 : open.back());
+      if (node->getFirstChild() != nullptr)
+      {
+        open.push_back(static_cast<int>(nodes.size()) - 1);
+        node = node->getFirstChild();
+        continue;
+      }
+      while (node->getNextSibling() == nullptr && !open.empty())
+      {
+        node = nodes[static_cast<std::size_t>(open.back())];
+        open.pop_back();
+      }
+      node = open.empty() ? nullptr : node->getNextSibling();
+    }
+  }
+
+  int size() const { return static_cast<int>(nodes.size()); }
+  Node const& node(int number) const { return nodes[static_cast<std::size_t>(number)]; }
+  int parent(int number) const { return parents[static_cast<std::size_t>(number)]; }
+  bool is_element(int number) const { return std::dynamic_pointer_cast<axmElement>(node(number)) != nullptr; }
+
+  bool is_below(int number, int top) const
+  {
+    for (int above = parent(number); above >= 0; above = parent(above))
+      if (above == top)
+        return true;
+    return false;
+  }
+
+private:
+  std::vector<Node> nodes;
+  std::vector<int> parents;
+};
+
+// The axes of XPath 1.0, 2.2, but for those of attributes and namespaces: whether `other` is on the axis from `from`.
+struct Axis
+{
+  char const* name;
+  bool is_reverse;
+  bool (*holds)(Tree const& tree, int from, int other);
+};
+
+Axis const axes[] = {
+  {"self", false, [](Tree const&, int from, int other) { return other == from; }},
+  {"child", false, [](Tree const& tree, int from, int other) { return tree.parent(other) == from; }},
+  {"parent", true, [](Tree const& tree, int from, int other) { return tree.parent(from) == other; }},
+  {"ancestor", true, [](Tree const& tree, int from, int other) { return tree.is_below(from, other); }},
+  {"ancestor-or-self", true,
+    [](Tree const& tree, int from, int other) { return other == from || tree.is_below(from, other); }},
+  {"descendant", false, [](Tree const& tree, int from, int other) { return tree.is_below(other, from); }},
+  {"descendant-or-self", false,
+    [](Tree const& tree, int from, int other) { return other == from || tree.is_below(other, from); }},
+  {"following", false,
+    [](Tree const& tree, int from, int other) { return other > from && !tree.is_below(other, from); }},
+  {"preceding", true,
+    [](Tree const& tree, int from, int other) { return other < from && !tree.is_below(from, other); }},
+  {"following-sibling", false,
+    [](Tree const& tree, int from, int other) { return other > from && tree.parent(other) == tree.parent(from); }},
+  {"preceding-sibling", true,
+    [](Tree const& tree, int from, int other) { return other < from && tree.parent(other) == tree.parent(from); }},
+};
+
+// The numbers of those on the axis, in document order.
+std::vector<int> on_axis(Tree const& tree, Axis const& axis, int from, bool only_elements)
+{
+  std::vector<int> found;
+  for (int other = 0; other < tree.size(); ++other)
+    if (axis.holds(tree, from, other) && (!only_elements || tree.is_element(other)))
+      found.push_back(other);
+  return found;
+}
+
+bool finds(Tree const& tree, int from, std::string const& expression, std::vector<int> const& promised)
+{
+  auto const context = std::dynamic_pointer_cast<axmElement>(tree.node(from));
+  auto const list = context->selectNodes(apString(expression.c_str()));
+  bool is_right = length_of(list) == static_cast<int>(promised.size());
+  for (std::size_t index = 0; is_right && index < promised.size(); ++index)
+    is_right = same(list->at(static_cast<int>(index)), tree.node(promised[index]));
+  Node const single = context->selectSingleNode(apString(expression.c_str()));
+  return is_right && (promised.empty() ? single == nullptr : same(single, tree.node(promised[0])));
+}
+
+// Whether an axis leads where it must from an element: all of it, its elements, and by positions that count along it.
+bool is_axis(utUnitTest& tester, Tree const& tree, int from, Axis const& axis)
+{
+  std::vector<int> const elements = on_axis(tree, axis, from, true);
+  struct Search
+  {
+    char const* test;
+    std::vector<int> promised;
+  };
+  std::vector<Search> searches = {{"node()", on_axis(tree, axis, from, false)}, {"*", elements}};
+  if (!elements.empty())
+  {
+    int const nearest = axis.is_reverse ? elements.back() : elements.front();
+    int const farthest = axis.is_reverse ? elements.front() : elements.back();
+    searches.push_back({"*[1]", {nearest}});
+    searches.push_back({"*[last()]", {farthest}});
+    searches.push_back({"*[position() < 2]", {nearest}});
+  }
+  for (auto const& [test, promised] : searches)
+  {
+    std::string const expression = std::string(axis.name) + "::" + test;
+    if (finds(tree, from, expression, promised))
+      continue;
+    tester.printf("\"%s\" from the element \"%s\", the node %d of its document, does not find the %d nodes it must",
+      expression.c_str(), name_of(tree.node(from)).to_utf8().c_str(), from, static_cast<int>(promised.size()));
+    return false;
+  }
+  return true;
+}
+}
+
+void axmXPathUtest::test_contexts(Factory const& factory) const
+{
+  axmUtestGroup const group(tester, file, "axmXPathUtest::test_contexts");
+  auto const document = load(*factory,
+    "<?p q?><!--c--><r k='1'>a<b><c/>x<d><e/><!--y--></d></b><f l='2'>z<?g h?><b>w<d/>v</b></f><i/></r><!--t-->");
+  if (!group.prerequisite(root_of(document) != nullptr, "root.get()", __LINE__, "Prerequisite: load document"))
+    return;
+  Tree const tree(document);
+  for (Axis const& axis : axes)
+  {
+    bool is_right = true;
+    for (int from = 0; from < tree.size(); ++from)
+      is_right = is_right && (!tree.is_element(from) || is_axis(*tester, tree, from, axis));
+    group.check(is_right, "the nodes on the axis, in document order", __LINE__, axis.name);
+  }
 }
 
 namespace

@@ -19,6 +19,7 @@ public:
 
 private:
   void test_expressions(std::shared_ptr<axmDocumentFactory> const& factory) const;
+  void test_contexts(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_many_nodes(std::shared_ptr<axmDocumentFactory> const& factory) const;
   void test_errors(std::shared_ptr<axmDocumentFactory> const& factory) const;
 

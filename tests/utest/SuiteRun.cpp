@@ -27,6 +27,7 @@
 #include <utUnitTest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 namespace fs = std::filesystem;
@@ -227,6 +228,21 @@ public:
 private:
   std::vector<Check> const& checks;
 };
+
+// The groups of the model with steps that are drawn, which are the quickest.
+class DrawnUpToFailure : public UpToFailure
+{
+public:
+  using UpToFailure::UpToFailure;
+  bool begins(char const* name) override
+  {
+    std::string const group = name;
+    bool is_drawn = false;
+    for (char const* const topic : {"trees", "attributes", "lists", "loads", "everything"})
+      is_drawn = is_drawn || group == std::string("axmModelUtest::test_") + topic;
+    return is_drawn && UpToFailure::begins(name);
+  }
+};
 }
 
 std::vector<Check> run_suite(Factory const& factory)
@@ -260,6 +276,17 @@ std::vector<Check> run_generated_classes(Factory const& factory)
       break;
   }
   return checks;
+}
+
+std::vector<Check> run_drawn_first(Factory const& factory)
+{
+  std::vector<Check> const checks = recorded(
+    [&](utUnitTest& tester, Recorder const& recorder)
+    {
+      DrawnUpToFailure const listener(recorder.checks);
+      axmModelUtest(&tester, axmModelUtest::default_seed, few_rounds).run_tests(factory);
+    });
+  return failed_groups(checks).empty() ? run_all_classes(factory) : checks;
 }
 
 std::vector<Check> run_all_classes(Factory const& factory)
@@ -312,8 +339,16 @@ std::vector<Fault> all_subtle_faults()
   return faults;
 }
 
+void use_test_locales()
+{
+#if !defined(_WIN32)
+  setenv("LOCPATH", AXM_LOCALE_FOLDER, 1);
+#endif
+}
+
 std::string run_with(Fault const& fault, std::vector<Check> (*run)(Factory const& factory))
 {
+  use_test_locales();
   SuiteFolder const folder("axm fault");
   Hooks hooks;
   fault.put_into(hooks);

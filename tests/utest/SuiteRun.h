@@ -54,6 +54,9 @@ std::vector<Check> run_generated_classes(Factory const& factory);
 // The former, and the latter only where the former see nothing.
 std::vector<Check> run_all_classes(Factory const& factory);
 
+// The same, but before them what the model draws, and only that where it sees something.
+std::vector<Check> run_drawn_first(Factory const& factory);
+
 // The groups with failed checks in the order of their first failure, each with their number: "class::group (2)".
 std::vector<std::string> failed_groups(std::vector<Check> const& checks);
 
@@ -64,6 +67,10 @@ std::string table_row(Fault const& fault, std::vector<Check> const& checks);
 // Every fault that the fixed classes are to see, and those that only the others are.
 std::vector<Fault> all_faults();
 std::vector<Fault> all_subtle_faults();
+
+// Makes the locales of the tests those of this process. Not in the environment from the start: a library below the parser
+// makes a locale as it is loaded, and loses the memory for the name of the folder.
+void use_test_locales();
 
 // The row of an engine with the fault, in a folder of its own.
 std::string run_with(Fault const& fault, std::vector<Check> (*run)(Factory const& factory));

@@ -1,6 +1,7 @@
 // The model of documents that the suite holds engines to.
 
 #include "model/axmModel.h"
+#include "model/axmModelCases.h"
 #include "model/axmModelRandom.h"
 #include "model/axmModelSource.h"
 #include "model/axmModelStep.h"
@@ -254,6 +255,71 @@ TEST(axmModel, a_save_is_promised_for_what_comes_back)
   Family without_root;
   without_root.model.remove(without_root.root);
   EXPECT_EQ(without_root.model.may_save(without_root.document), Verdict::refused);
+}
+
+TEST(axmModel, what_stands_in_markup_as_it_is_is_saved_where_it_comes_back)
+{
+  Family family;
+  int const comment = family.model.create_comment(family.document, L"");
+  int const instruction = family.model.create_instruction(family.document, L"target", L"");
+  family.model.insert(family.root, comment, none);
+  family.model.insert(family.root, instruction, none);
+  for (wchar_t const* const text : {L"", L"-a", L"a?>"})
+  {
+    family.model.set_text(comment, text);
+    EXPECT_EQ(family.model.may_save(family.document), Verdict::done) << axmModelText::quoted(text);
+  }
+  family.model.set_text(comment, L"a\rb");
+  EXPECT_EQ(family.model.may_save(family.document), Verdict::refused);
+  family.model.set_text(comment, L"");
+  for (wchar_t const* const text : {L"a ", L"?", L"--"})
+  {
+    family.model.set_text(instruction, text);
+    EXPECT_EQ(family.model.may_save(family.document), Verdict::done) << axmModelText::quoted(text);
+  }
+  for (wchar_t const* const text : {L" a", L"a\rb", L"a?>b", L"\x01"})
+  {
+    family.model.set_text(instruction, text);
+    EXPECT_EQ(family.model.may_save(family.document), Verdict::refused) << axmModelText::quoted(text);
+  }
+}
+
+TEST(axmModel, a_prefix_is_declared_within_what_is_written)
+{
+  Family family;
+  family.model.set_attribute(family.a, L"xml:lang", L"v");
+  EXPECT_EQ(family.model.may_save(family.document), Verdict::done);
+  family.model.set_attribute(family.a, L"n:k", L"v");
+  EXPECT_EQ(family.model.may_save(family.document), Verdict::free);
+  family.model.set_attribute(family.root, L"xmlns:n", L"urn:n");
+  EXPECT_EQ(family.model.may_save(family.document), Verdict::done);
+  EXPECT_EQ(family.model.may_save(family.root), Verdict::done);
+  EXPECT_EQ(family.model.may_save(family.a), Verdict::free);
+  family.model.set_attribute(family.root, L"xmlns:n", L"");
+  EXPECT_EQ(family.model.may_save(family.document), Verdict::free);
+}
+
+TEST(axmModel, the_xml_of_an_element_is_a_document_with_that_root)
+{
+  Family family;
+  family.model.set_attribute(family.b, L"k", L"v");
+  family.model.set_text(family.b, L"x");
+  int const copy = family.model.reload(family.b);
+  int const root = family.model.root(copy);
+  EXPECT_EQ(family.model.node_name(root), L"b");
+  EXPECT_EQ(family.model.text(root), L"x");
+  EXPECT_NE(family.model.find_attribute(root, L"k"), none);
+  EXPECT_EQ(family.model.node(copy).children.size(), 1U);
+}
+
+TEST(axmModelCases, there_is_one_for_each_pair_of_kinds_and_edit_and_for_each_text_and_place)
+{
+  EXPECT_GT(axm_model_neighbours().size(), 5000U);
+  EXPECT_GT(axm_model_texts().size(), 600U);
+  for (auto const& cases : {axm_model_neighbours(), axm_model_texts()})
+    for (std::vector<axmModelStep> const& steps : cases)
+      for (std::size_t index = 0; index < steps.size(); ++index)
+        ASSERT_EQ(steps[index].slot, static_cast<int>(index));
 }
 
 TEST(axmModel, a_load_joins_texts_and_drops_white_space_but_for_a_single_space)

@@ -312,18 +312,18 @@ std::wstring axmModel::node_name(int number) const
 }
 
 // A save succeeds when what it writes can be loaded again as what it was. Where that hangs on prefixes, it may do either.
-Verdict axmModel::may_save(int document) const
+Verdict axmModel::may_save(int top) const
 {
-  if (root(document) == none)
+  if (node(top).kind == Kind::document && root(top) == none)
     return Verdict::refused;
   Verdict verdict = Verdict::done;
-  for (int const number : subtree(document))
+  for (int const number : subtree(top))
   {
     std::vector<int> written = node(number).attributes;
     written.push_back(number);
     for (int const one : written)
     {
-      Verdict const of_this = may_write(node(one));
+      Verdict const of_this = may_write(one, top);
       if (of_this == Verdict::refused)
         return of_this;
       if (of_this == Verdict::free)
@@ -333,22 +333,49 @@ Verdict axmModel::may_save(int document) const
   return verdict;
 }
 
-Verdict axmModel::may_write(axmModelNode const& written) const
+// What stands in markup as it is: a return comes back as a line feed, and white space after a target is no content.
+bool axmModel::may_write_markup(axmModelNode const& written) const
 {
-  bool const is_comment = written.kind == Kind::comment;
-  bool const ends_early = is_comment && (written.value + L'-').find(L"--") != std::wstring::npos;
-  if (ends_early || !axmModelText::is_storable(written.value))
-    return Verdict::refused;
-  if (written.kind == Kind::instruction && written.value.find(L"?>") != std::wstring::npos)
-    return Verdict::refused;
-  return written.name.find(L':') == std::wstring::npos ? Verdict::done : Verdict::free;
+  if (written.value.find(L'\r') != std::wstring::npos)
+    return false;
+  if (written.kind == Kind::comment)
+    return (written.value + L'-').find(L"--") == std::wstring::npos;
+  bool const begins_later = !written.value.empty() && axmModelText::is_white(written.value.substr(0, 1));
+  return !begins_later && written.value.find(L"?>") == std::wstring::npos;
 }
 
-int axmModel::reload(int document)
+Verdict axmModel::may_write(int number, int top) const
+{
+  axmModelNode const& written = node(number);
+  bool const is_markup = written.kind == Kind::comment || written.kind == Kind::instruction;
+  if (!axmModelText::is_storable(written.value) || (is_markup && !may_write_markup(written)))
+    return Verdict::refused;
+  return is_in_namespace(number, top) ? Verdict::done : Verdict::free;
+}
+
+// Whether the prefix of an element's or attribute's name, if it has one, is declared between that and `top`.
+bool axmModel::is_in_namespace(int number, int top) const
+{
+  std::wstring const& name = node(number).name;
+  std::size_t const colon = name.find(L':');
+  bool const is_element = node(number).kind == Kind::element;
+  if (colon == std::wstring::npos || name.substr(0, colon) == L"xml")
+    return true;
+  if (name.substr(0, colon) == L"xmlns")
+    return !node(number).value.empty();
+  for (int above = is_element ? number : node(number).holder; above != none;
+       above = above == top ? none : parent(above))
+    if (int const declared = find_attribute(above, L"xmlns:" + name.substr(0, colon)); declared != none)
+      return !node(declared).value.empty();
+  return false;
+}
+
+int axmModel::reload(int top)
 {
   int const copy = create_bare_document();
   // Where to copy from and to; the children of each before those of the next one.
-  std::vector<std::pair<int, int>> waiting = {{document, copy}};
+  std::vector<std::pair<int, int>> waiting = {
+    {top, node(top).kind == Kind::document ? copy : add_copy(top, copy, copy)}};
   while (!waiting.empty())
   {
     auto const [from, to] = waiting.back();
@@ -381,12 +408,20 @@ void axmModel::copy_children(int from, int to, int document)
     }
     add_text(to, document, text);
     text.clear();
-    int const made = make(original.kind, document, original.name, original.value);
-    insert(to, made, none);
-    for (int const attribute : original.attributes)
-      set_attribute(made, std::wstring(node(attribute).name), std::wstring(node(attribute).value));
+    add_copy(child, to, document);
   }
   add_text(to, document, text);
+}
+
+// The node with its attributes, without what it holds.
+int axmModel::add_copy(int number, int to, int document)
+{
+  axmModelNode const original = node(number);
+  int const made = make(original.kind, document, original.name, original.value);
+  insert(to, made, none);
+  for (int const attribute : original.attributes)
+    set_attribute(made, std::wstring(node(attribute).name), std::wstring(node(attribute).value));
+  return made;
 }
 
 void axmModel::add_text(int to, int document, std::wstring const& text)

@@ -96,18 +96,21 @@ public:
   std::wstring text(int number) const;
   std::wstring node_name(int number) const;
 
-  // Whether a save must succeed, must be refused, or may do either.
-  axmModelVerdict may_save(int document) const;
-  // The document that comes of saving `document` and loading it again.
-  int reload(int document);
+  // Whether the save of a document, or the XML of an element, must succeed, must be refused, or may do either.
+  axmModelVerdict may_save(int top) const;
+  // The document that comes of saving the document or element `top` and loading it again.
+  int reload(int top);
 
 private:
   int make(axmModelKind kind, int document, std::wstring const& name, std::wstring const& value);
   axmModelNode& at(int number) { return nodes[static_cast<std::size_t>(number)]; }
   axmModelVerdict may_stand(int parent, int child, int replaced) const;
   bool is_child(int number, int of_parent) const;
-  axmModelVerdict may_write(axmModelNode const& written) const;
+  axmModelVerdict may_write(int number, int top) const;
+  bool may_write_markup(axmModelNode const& written) const;
+  bool is_in_namespace(int number, int top) const;
   void copy_children(int from, int to, int document);
+  int add_copy(int number, int to, int document);
   void add_text(int to, int document, std::wstring const& text);
   void detach(int number);
   void disown(int top);

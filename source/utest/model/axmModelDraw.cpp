@@ -8,15 +8,17 @@ using Topic = axmModelTopic;
 
 namespace
 {
-wchar_t const* const names[] = {L"a", L"b", L"c", L"a", L"b", L"A", L"x.y-z_1", L"\u0444", L"\u00E4b"};
+wchar_t const* const names[] = {
+  L"a", L"b", L"c", L"a", L"b", L"A", L"x.y-z_1", L"\u0444", L"\u00E4b", L"n:a", L"\U00010437"};
 wchar_t const* const bad_names[] = {
   L"", L"1a", L"a b", L"-a", L".a", L"a<", L"a&b", L"a/b", L"\u00D7", L" a", L"a ", L"a\n", L"a\u2028", L"\"a"};
-wchar_t const* const attribute_names[] = {L"k", L"l", L"K", L"id", L"k", L"\u0444", L"name"};
-wchar_t const* const texts[] = {L"", L" ", L"x", L"y", L"  ", L"\n", L"\t", L"&<>\"'", L"]]>", L"a\r\nb", L"\r",
-  L"\U00010437", L"\u00A0", L"\u2003", L"\uFFFD", L"\u00E9\u0444\u20AC", L"&amp;", L" x ", L"0", L"\u0085", L"--",
-  L"a-", L"true", L"\x01", L"\uFFFE", L"\u3000"};
+wchar_t const* const attribute_names[] = {L"k", L"l", L"K", L"id", L"k", L"\u0444", L"name", L"xml:lang", L"n:k"};
+wchar_t const* const texts[] = {L"", L"", L"", L" ", L"x", L"y", L"  ", L"\n", L"\t", L"&<>\"'", L"]]>", L"a\r\nb",
+  L"\r", L"\U00010437", L"\u00A0", L"\u2003", L"\uFFFD", L"\u00E9\u0444\u20AC", L"&lt;&amp;&#65;", L" x ", L"0",
+  L"\u0085", L"--", L"a-", L"true", L"\x01", L"\uFFFE", L"\u3000"};
 wchar_t const* const comment_texts[] = {
-  L"", L" ", L"remark", L"&<>", L"--", L"a-", L"a - b", L"\u0444", L"]]>", L"\x02"};
+  L"", L" ", L"remark", L"&<>", L"--", L"a-", L"a - b", L"\u0444", L"]]>", L"\x02", L"a\rb"};
+wchar_t const* const contents[] = {L"", L"content", L"x", L" x", L"x ", L"?", L"?>", L"k='v'", L"\u0444", L"\x02"};
 wchar_t const* const failing[] = {L"", L"text", L"<a>", L"<a></b>", L"<a b='1' b='2'/>", L"<a/><b/>", L"<a>&x;</a>",
   L"<a b='<'/>", L"<a><!-- -- --></a>", L"<a\x01/>", L"<a>]]></a>", L"<?xml version='1.0'?>"};
 
@@ -221,9 +223,11 @@ void axmModelDraw::fill(axmModelStep& step, axmModelRun const& run)
     return;
   case Action::reload:
   case Action::reload_from_file:
-  case Action::reload_xml:
   case Action::root:
     step.a = node_of(run, Kind::document);
+    return;
+  case Action::reload_xml:
+    step.a = random.once_in(2) ? node_of(run, Kind::document) : mostly(run, Kind::element);
     return;
   case Action::by_name:
     step.a = node_of(run, Kind::document);
@@ -238,8 +242,6 @@ void axmModelDraw::fill(axmModelStep& step, axmModelRun const& run)
     step.a = random.once_in(3) ? any_node(run) : node_of(run, Kind::element);
     step.a = step.a == axmModelStep::no_slot ? any_node(run) : step.a;
     step.text = text(run, step.a);
-    if (run.state().node(run.all_slots()[static_cast<std::size_t>(step.a)].number).kind == Kind::document)
-      step.action = Action::owner;
     return;
   case Action::set_attribute:
   case Action::remove_attribute:
@@ -319,5 +321,5 @@ std::wstring axmModelDraw::text(axmModelRun const& run, int slot)
   Kind const kind = run.state().node(run.all_slots()[static_cast<std::size_t>(slot)].number).kind;
   if (kind == Kind::comment)
     return random.one_of(comment_texts);
-  return kind == Kind::instruction ? L"content" : random.one_of(texts);
+  return kind == Kind::instruction ? random.one_of(contents) : random.one_of(texts);
 }

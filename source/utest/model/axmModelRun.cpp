@@ -312,7 +312,8 @@ bool axmModelRun::reload(axmModelStep const& step)
 
 bool axmModelRun::reload_xml(axmModelStep const& step)
 {
-  if (model.may_save(number(step.a)) != Verdict::done)
+  Kind const kind = model.node(number(step.a)).kind;
+  if ((kind != Kind::document && kind != Kind::element) || model.may_save(number(step.a)) != Verdict::done)
     return true;
   utString const text = handle(step.a)->get_xml().to_utf8();
   Document const result = loaded(text.c_str(), false);

@@ -107,6 +107,7 @@ private:
   bool check_slot(int slot);
   bool check_tree(int slot);
   bool check_node(Place const& place, Node const& handle, int number, bool is_item);
+  bool check_xml(Place const& place, Node const& handle, axmModelNode const& node);
   bool check_kind(Place const& place, Node const& handle, int number);
   bool check_around(Place const& place, Node const& handle, int number);
   bool check_owner(Place const& place, Node const& handle, int number);
@@ -115,7 +116,8 @@ private:
   bool check_attributes(Place const& place, Node const& handle, int number);
   bool check_attribute(Place const& place, axmElement& element, axmNamedNodeMap& map, int attribute);
   bool check_absent(Place const& place, axmElement& element, axmNamedNodeMap& map, apString const& name);
-  bool check_map_items(Place const& place, axmNamedNodeMap& map, int number);
+  std::vector<int> attributes_in(axmNamedNodeMap& map, int number) const;
+  bool check_map_items(Place const& place, axmNamedNodeMap& map, std::vector<int> left);
   bool check_no_attributes(Place const& place, Node const& handle, bool is_item);
   bool check_identity(int slot);
   bool check_list(int slot);

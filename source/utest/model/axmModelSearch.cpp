@@ -179,7 +179,9 @@ std::vector<int> axmModelSearch::candidates(axmModel const& model, int from, Ste
   {
     axmModelNode const& candidate = model.node(number);
     bool const is_named = step.test != Test::name && step.test != Test::attribute;
-    bool const is_kind = is_attribute || (candidate.kind == (step.test == Test::text ? Kind::text : Kind::element));
+    bool const is_declaration = candidate.kind == Kind::attribute && candidate.name.substr(0, 6) == L"xmlns:";
+    bool const is_kind =
+      is_attribute ? !is_declaration : candidate.kind == (step.test == Test::text ? Kind::text : Kind::element);
     if (is_kind && (is_named || candidate.name == step.name))
       found.push_back(number);
   }

@@ -13,12 +13,16 @@ namespace
 {
 using Kind = axmModelKind;
 
-wchar_t const* const names[] = {L"a", L"b", L"c", L"A", L"long-name_1.x", L"\u00E4", L"\u0444", L"b", L"a", L"a", L"b"};
-wchar_t const* const attribute_names[] = {L"k", L"K", L"id", L"a", L"\u0444"};
+wchar_t const* const names[] = {
+  L"a", L"b", L"c", L"A", L"long-name_1.x", L"\u00E4", L"\u0444", L"b", L"a", L"a", L"b", L"n:a"};
+wchar_t const* const attribute_names[] = {L"k", L"K", L"id", L"a", L"\u0444", L"xml:lang", L"n:k"};
 wchar_t const* const values[] = {L"", L" ", L"v", L"&<>\"'", L"a\tb\nc\rd", L"\u0444\u20AC", L"\U00010437", L"  x  ",
   L"0", L"]]>", L"'", L"\"", L"\u00A0"};
 wchar_t const* const texts[] = {L"x", L" ", L" x ", L"\n x\n", L"one & two", L"<", L"]]>", L"\u00A0", L"\u2003",
-  L"\U00010437x", L"a\rb", L"\u0444", L"\t.", L"0", L"&amp;", L"\u3000", L"\u0085"};
+  L"\U00010437x", L"a\rb", L"\u0444", L"\t.", L"0", L"&lt;&amp;&#65;", L"\u3000", L"\u0085"};
+wchar_t const* const targets[] = {L"target", L"Target", L"x-y.1", L"\u0444", L"xml-stylesheet"};
+wchar_t const* const contents[] = {
+  L"", L"content=\"1\" <&", L"x", L"k=\"v\" ", L"? >", L"a\nb\t", L"\u0444\U00010437", L"]]>", L"--"};
 wchar_t const* const comments[] = {L"", L" ", L"remark", L" & < > ]]> ", L"a - b", L"\u0444\n", L"?>"};
 
 class Maker
@@ -30,7 +34,10 @@ public:
   {
     int const made = model.create_bare_document();
     add_others(made, made);
+    has_prefix = random.once_in(3);
     int const root = element(made);
+    if (has_prefix)
+      model.set_attribute(root, L"xmlns:n", L"urn:n");
     model.insert(made, root, axmModel::none);
     add_others(made, made);
     fill(made, root);
@@ -47,16 +54,24 @@ private:
   int other(int document)
   {
     if (random.once_in(3))
-      return model.create_instruction(document, L"target", random.once_in(3) ? L"" : L"content=\"1\" <&");
+      return model.create_instruction(document, random.one_of(targets), random.one_of(contents));
     return model.create_comment(document, random.one_of(comments));
   }
 
   int element(int document)
   {
-    int const made = model.create_element(document, random.one_of(names));
+    int const made = model.create_element(document, name_of(names));
     while (random.once_in(2))
-      model.set_attribute(made, random.one_of(attribute_names), random.one_of(values));
+      model.set_attribute(made, name_of(attribute_names), random.one_of(values));
     return made;
+  }
+
+  // With a prefix only where the root declares it.
+  template <class Names>
+  std::wstring name_of(Names const& list)
+  {
+    std::wstring const name = random.one_of(list);
+    return has_prefix || name.substr(0, 2) != L"n:" ? name : name.substr(2);
   }
 
   void fill(int document, int root)
@@ -90,6 +105,8 @@ private:
 
   axmModel& model;
   axmModelRandom& random;
+  // Whether the root declares the prefix n.
+  bool has_prefix = false;
 };
 
 class Writer

@@ -7,7 +7,7 @@
 enum class axmModelAction
 {
   // Documents: by name; from the text that `index` stands for (axmModelSource.h), by way of memory or a file; from the
-  // text `text`, which must fail; a saved and loaded copy of `a`, by way of memory, a file or its XML.
+  // text `text`, which must fail; a saved and loaded copy of `a`, by way of memory, a file or its XML (of an element, too).
   create_document,
   load,
   load_from_file,
