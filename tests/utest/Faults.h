@@ -39,7 +39,9 @@ std::vector<Fault> const& held_faults();
 
 // Those made up by somebody who knows the headers and not the suite.
 std::vector<Fault> const& outside_tree_faults();
+std::vector<Fault> const& outside_value_faults();
 std::vector<Fault> const& outside_load_faults();
+std::vector<Fault> const& outside_second_faults();
 
 // Engines that break no promise, with what they do otherwise than the one that comes with the library.
 std::vector<Fault> const& freedoms();

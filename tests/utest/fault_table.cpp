@@ -1,7 +1,8 @@
 // Writes the table of the faulty engines and of what sees them, as faults.txt holds it. An argument is a part of the names
-// of the faults wanted, --subtle for those that only the generated cases see, --promises for those read off the headers,
-// --rules for those against what the headers refer to, --held for those of what is held, deep, large or rare, or --outside
-// for those of somebody who does not know the suite. --freedoms writes the engines that break nothing, which nothing sees.
+// of the faults wanted, or one list of them: --fixed, those that the checks written by hand see; --subtle, those that only
+// the generated cases see; --promises, those read off the headers; --rules, those against what the headers refer to; --held,
+// those of what is held, deep, large or rare; --outside, those of somebody who does not know the suite, of which a second
+// argument chooses. --freedoms writes the engines that break nothing, which nothing sees.
 
 #include "Faults.h"
 #include "SuiteRun.h"
@@ -30,7 +31,7 @@ int main(int argc, char** argv)
   std::string const first = argc > 1 ? argv[1] : "";
   bool const is_every = first.substr(0, 2) != "--";
   char const* const wanted = argc > 1 && is_every ? argv[1] : nullptr;
-  if (is_every)
+  if (is_every || first == "--fixed")
     write(all_faults(), run_fixed_classes, wanted);
   if (is_every || first == "--subtle")
     write(all_subtle_faults(), run_generated_classes, wanted);
@@ -40,9 +41,14 @@ int main(int argc, char** argv)
     write(rule_faults(), run_all_classes, wanted);
   if (is_every || first == "--held")
     write(held_faults(), run_all_classes, wanted);
-  for (auto const* const some : {&outside_tree_faults(), &outside_load_faults()})
-    if (is_every || first == "--outside")
-      write(*some, run_all_classes, wanted);
+  if (is_every || first == "--outside")
+  {
+    char const* const chosen = is_every ? wanted : (argc > 2 ? argv[2] : nullptr);
+    write(outside_tree_faults(), run_drawn_first, chosen);
+    write(outside_value_faults(), run_drawn_first, chosen);
+    write(outside_load_faults(), run_all_classes, chosen);
+    write(outside_second_faults(), run_drawn_first, chosen);
+  }
   if (first == "--freedoms")
     write(freedoms(), run_all_classes, nullptr);
 }

@@ -36,6 +36,38 @@ public:
   }
 };
 
+bool is_declaration(apString const& name)
+{
+  return name == APSTRING("xmlns") || name.view().substr(0, 6) == L"xmlns:";
+}
+
+// Without declarations of namespaces.
+class MapOfOthers : public MapAs
+{
+public:
+  using MapAs::MapAs;
+  int getLength() override { return static_cast<int>(items().size()); }
+  Node item(int index) override
+  {
+    std::vector<Node> const all = items();
+    return index >= 0 && index < static_cast<int>(all.size()) ? all[static_cast<std::size_t>(index)] : nullptr;
+  }
+  Node getNamedItem(apString const& name) override
+  {
+    return is_declaration(name) ? nullptr : MapAs::getNamedItem(name);
+  }
+
+private:
+  std::vector<Node> items() const
+  {
+    std::vector<Node> found;
+    for (int index = 0; index < map->getLength(); ++index)
+      if (Node const node = map->item(index); !is_declaration(node->getNodeName()))
+        found.push_back(node);
+    return found;
+  }
+};
+
 bool is_of(Node const& node, Document const& document)
 {
   return node == nullptr || *node->getOwnerDocument() == *document;
@@ -136,7 +168,20 @@ std::vector<Fault> const& freedoms()
       [](Hooks& h) { h.map = [](Map const& map) { return std::make_shared<MapFromTheEnd>(map); }; }},
     {"axmNamedNodeMap::item", "attributes come in the order of their names",
       [](Hooks& h) { h.map = [](Map const& map) { return std::make_shared<MapByName>(map); }; }},
-    {"appendChild", "a child of another document is refused",
+    {"axmNamedNodeMap::item", "declarations of namespaces are not among the attributes",
+      [](Hooks& h)
+      {
+        h.map = [](Map const& map) { return std::make_shared<MapOfOthers>(map); };
+        h.has_attributes = [](Node const& n)
+        { return n->hasAttributes() && MapOfOthers(n->getAttributes()).getLength() > 0; };
+        h.has_attribute = [](Element const& e, apString const& name)
+        { return !is_declaration(name) && e->hasAttribute(name); };
+        h.get_attribute = [](Element const& e, apString const& name)
+        { return is_declaration(name) ? apString() : e->getAttribute(name); };
+        h.get_string = [](Node const& n, apString const& name, apString& value)
+        { return !is_declaration(name) && n->get_attribute(name, value); };
+      }},
+    {"replaceChild", "a child of another document is refused, here and where one is added",
       [](Hooks& h)
       {
         h.append = [](Node const& n, Node const& child)
@@ -145,6 +190,24 @@ std::vector<Fault> const& freedoms()
         { return is_of(child, n->getOwnerDocument()) ? n->insertBefore(child, before) : nullptr; };
         h.replace = [](Node const& n, Node const& child, Node const& old)
         { return is_of(child, n->getOwnerDocument()) ? n->replaceChild(child, old) : nullptr; };
+      }},
+    {"replaceChild", "a node by itself is taken out",
+      [](Hooks& h)
+      {
+        h.replace = [](Node const& n, Node const& child, Node const& old)
+        {
+          bool const is_one = child != nullptr && old != nullptr && *child == *old;
+          return is_one ? n->removeChild(child) : n->replaceChild(child, old);
+        };
+      }},
+    {"replaceChild", "a node by itself is refused",
+      [](Hooks& h)
+      {
+        h.replace = [](Node const& n, Node const& child, Node const& old)
+        {
+          bool const is_one = child != nullptr && old != nullptr && *child == *old;
+          return is_one ? nullptr : n->replaceChild(child, old);
+        };
       }},
     {"createTextNode", "half a surrogate is refused",
       [](Hooks& h)
@@ -178,12 +241,6 @@ std::vector<Fault> const& freedoms()
       {
         tell_errors(h, [](axmParseError const& error)
           { return placed(APSTRING("no"), error.url(), error.line_number(), error.column_number()); });
-      }},
-    {"loadDocument", "the message of an error is empty",
-      [](Hooks& h)
-      {
-        tell_errors(h, [](axmParseError const& error)
-          { return placed(apString(), error.url(), error.line_number(), error.column_number()); });
       }},
     {"loadDocument", "neither line nor column of an error is known",
       [](Hooks& h)

@@ -19,6 +19,12 @@
 
 namespace
 {
+// Also an item of a list, which is an element whatever it stands for.
+bool stands_for_text(Node const& node)
+{
+  return node->getNodeName() == APSTRING("#text");
+}
+
 std::wstring structure_of(Document const& document)
 {
   std::wstring names;
@@ -306,8 +312,10 @@ std::vector<Fault> const& held_faults()
         { return searches(e, xpath); };
       }},
     {"selectNodes", "of a text there is no list",
-      [](Hooks& h) {
-        h.select = [](Element const& e, apString const& xpath) { return is_text(e) ? nullptr : e->selectNodes(xpath); };
+      [](Hooks& h)
+      {
+        h.select = [](Element const& e, apString const& xpath)
+        { return stands_for_text(e) ? nullptr : e->selectNodes(xpath); };
       }},
     {"selectNodes", "more than 1024 levels down nothing is found",
       [](Hooks& h)
@@ -448,7 +456,7 @@ std::vector<Fault> const& held_faults()
       {
         h.set_attribute = [](Element const& e, apString const& name, apString const& value)
         {
-          auto const holder = is_text(e) ? std::dynamic_pointer_cast<axmElement>(e->getParentNode()) : nullptr;
+          auto const holder = stands_for_text(e) ? std::dynamic_pointer_cast<axmElement>(e->getParentNode()) : nullptr;
           (holder != nullptr ? holder : e)->setAttribute(name, value);
         };
       }},

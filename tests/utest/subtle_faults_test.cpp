@@ -3,6 +3,10 @@
 
 #include "ExpectSeen.h"
 
+#include <map>
+#include <string>
+#include <vector>
+
 TEST(faults, subtle_ones_of_trees_are_seen)
 {
   expect_seen(subtle_tree_faults(), run_generated_classes);
@@ -31,4 +35,45 @@ TEST(faults, those_of_what_is_held_deep_large_or_rare_are_seen)
 TEST(faults, subtle_ones_of_factories_are_seen)
 {
   expect_seen(subtle_factory_faults(), run_generated_classes);
+}
+
+TEST(faults, those_of_nodes_made_up_from_outside_are_seen)
+{
+  expect_seen(outside_tree_faults(), run_drawn_first);
+}
+
+TEST(faults, those_of_values_made_up_from_outside_are_seen)
+{
+  expect_seen(outside_value_faults(), run_drawn_first);
+}
+
+TEST(faults, those_of_loads_made_up_from_outside_are_seen)
+{
+  expect_seen(outside_load_faults(), run_all_classes);
+}
+
+TEST(faults, more_that_are_made_up_from_outside_are_seen)
+{
+  expect_seen(outside_second_faults(), run_drawn_first);
+}
+
+// Each engine uses one freedom of every operation, so that few are enough.
+TEST(freedoms, an_engine_that_uses_them_passes)
+{
+  std::size_t used = 0;
+  for (int rank = 0; used < freedoms().size(); ++rank)
+  {
+    SuiteFolder const folder("axm freedom");
+    Hooks hooks;
+    std::string names;
+    std::map<std::string, int> number;
+    for (Fault const& freedom : freedoms())
+      if (number[freedom.operation]++ == rank)
+      {
+        freedom.put_into(hooks);
+        names += std::string(freedom.operation) + ": " + freedom.name + "\n";
+        ++used;
+      }
+    EXPECT_EQ(failed_groups(run_suite(hooked_engine(quick_engine(), hooks))), std::vector<std::string>()) << names;
+  }
 }
