@@ -44,12 +44,16 @@ int const max_groups = 3;
 class SuiteFolder
 {
 public:
-  SuiteFolder() : outside(fs::current_path()), folder(fs::temp_directory_path() / "axm_fuzz_suite")
+  SuiteFolder() : outside(fs::current_path())
   {
-    fs::create_directories(folder / "work");
-    fs::create_directories(folder / "data");
-    char const name[] = "in_memory_test_schema.xsd";
-    fs::copy_file(fs::u8path(AXM_DATA_FOLDER) / name, folder / "data" / name, fs::copy_options::overwrite_existing);
+    std::string name = (fs::temp_directory_path() / "axm_suite_XXXXXX").string();
+    if (mkdtemp(name.data()) == nullptr)
+      std::abort();
+    folder = name;
+    fs::create_directory(folder / "work");
+    fs::create_directory(folder / "data");
+    char const schema[] = "in_memory_test_schema.xsd";
+    fs::copy_file(fs::u8path(AXM_DATA_FOLDER) / schema, folder / "data" / schema);
     fs::current_path(folder / "work");
   }
   SuiteFolder(SuiteFolder const&) = delete;
@@ -62,7 +66,7 @@ public:
 
 private:
   fs::path const outside;
-  fs::path const folder;
+  fs::path folder;
 };
 
 class SilentAssertions : public utAssertListener
