@@ -6,6 +6,7 @@
 #include <axmProcessingInstruction.h>
 #include <axmTextNode.h>
 
+#include <algorithm>
 #include <climits>
 #include <cmath>
 #include <cwchar>
@@ -297,10 +298,11 @@ std::vector<Fault> const& outside_value_faults()
       {
         h.create_element = [](Document const& d, apString const& name) -> Node
         {
-          for (wchar_t const character : name.view())
-            if (static_cast<unsigned long>(character) > 0xFFFF || (character >= 0xD800 && character < 0xE000))
-              return nullptr;
-          return d->createElement(name);
+          // In UTF-8 the first byte of four says so, whatever a wchar_t holds.
+          std::string const bytes = name.to_utf8().c_str();
+          bool const has_one =
+            std::any_of(bytes.begin(), bytes.end(), [](char byte) { return (byte & '\xF8') == '\xF0'; });
+          return has_one ? nullptr : d->createElement(name);
         };
       }},
     {"createElement", "a blank after the name is let pass",
