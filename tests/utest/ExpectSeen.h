@@ -7,17 +7,37 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
-// Runs the suite on an engine with each of the faults and holds what failed to the table.
+// The groups of checks that a row of the table names: "class::group", each followed by the number of those that fail.
+inline std::set<std::string> groups_of(std::string const& row)
+{
+  std::set<std::string> groups;
+  std::istringstream words(row.substr(row.rfind('|') + 1));
+  for (std::string group, number; words >> group >> number;)
+    groups.insert(group);
+  return groups;
+}
+
+// Runs what sees each of the faults, as the table has it, on an engine with that fault: what fails of it is what the table
+// says. A fault may remember what other groups did, so that it takes the whole run to see it.
 inline void expect_seen(std::vector<Fault> const& faults, std::vector<Check> (*run)(Factory const& factory))
 {
   std::vector<std::string> const table = lines_of_file("faults.txt");
   for (Fault const& fault : faults)
   {
-    std::string const row = run_with(fault, run);
-    EXPECT_NE(row.back(), '|') << row;
-    EXPECT_EQ(std::count(table.begin(), table.end(), row), 1) << row;
+    std::string const begin = table_row(fault, {});
+    auto const is_its = [&begin](std::string const& row) { return row.compare(0, begin.size(), begin) == 0; };
+    auto const row = std::find_if(table.begin(), table.end(), is_its);
+    ASSERT_NE(row, table.end()) << begin;
+    std::set<std::string> const groups = groups_of(*row);
+    EXPECT_FALSE(groups.empty()) << begin;
+    std::string seen = run_with(fault, [&](Factory const& factory) { return run_groups(factory, groups); });
+    if (seen != *row)
+      seen = run_with(fault, run);
+    EXPECT_EQ(seen, *row);
   }
 }

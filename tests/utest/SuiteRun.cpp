@@ -230,6 +230,20 @@ private:
 };
 
 // The groups of the model with steps that are drawn, which are the quickest.
+// Lets the groups begin that are named.
+class OnlyNamed : public axmUtestGroupListener
+{
+public:
+  explicit OnlyNamed(std::set<std::string> const& given) : names(given) { set(this); }
+  ~OnlyNamed() override { set(nullptr); }
+
+  bool begins(char const* name) override { return names.count(name) != 0; }
+  void ended(char const*) override {}
+
+private:
+  std::set<std::string> const& names;
+};
+
 class DrawnUpToFailure : public UpToFailure
 {
 public:
@@ -295,6 +309,24 @@ std::vector<Check> run_all_classes(Factory const& factory)
   return failed_groups(checks).empty() ? run_generated_classes(factory) : checks;
 }
 
+std::vector<Check> run_groups(Factory const& factory, std::set<std::string> const& groups)
+{
+  OnlyNamed const listener(groups);
+  std::vector<Check> checks;
+  for (int const rounds : {few_rounds, more_rounds})
+  {
+    checks = recorded(
+      [&](utUnitTest& tester, Recorder const&)
+      {
+        run_fixed(tester, factory);
+        run_generated(tester, factory, rounds);
+      });
+    if (!failed_groups(checks).empty())
+      break;
+  }
+  return checks;
+}
+
 std::vector<std::string> failed_groups(std::vector<Check> const& checks)
 {
   std::vector<std::pair<std::string, int>> groups;
@@ -346,7 +378,7 @@ void use_test_locales()
 #endif
 }
 
-std::string run_with(Fault const& fault, std::vector<Check> (*run)(Factory const& factory))
+std::string run_with(Fault const& fault, std::function<std::vector<Check>(Factory const& factory)> const& run)
 {
   use_test_locales();
   SuiteFolder const folder("axm fault");

@@ -3,6 +3,8 @@
 #include "Hooks.h"
 
 #include <filesystem>
+#include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -57,6 +59,9 @@ std::vector<Check> run_all_classes(Factory const& factory);
 // The same, but before them what the model draws, and only that where it sees something.
 std::vector<Check> run_drawn_first(Factory const& factory);
 
+// Only the groups named, with more rounds of what is drawn where few show nothing.
+std::vector<Check> run_groups(Factory const& factory, std::set<std::string> const& groups);
+
 // The groups with failed checks in the order of their first failure, each with their number: "class::group (2)".
 std::vector<std::string> failed_groups(std::vector<Check> const& checks);
 
@@ -73,4 +78,4 @@ std::vector<Fault> all_subtle_faults();
 void use_test_locales();
 
 // The row of an engine with the fault, in a folder of its own.
-std::string run_with(Fault const& fault, std::vector<Check> (*run)(Factory const& factory));
+std::string run_with(Fault const& fault, std::function<std::vector<Check>(Factory const& factory)> const& run);
