@@ -60,10 +60,11 @@ private:
   bool inherit_entry(std::string_view value, Entry entry);
   void inherit_lost(std::string_view value, Entry entry);
 
+  // The further out, the smaller; that of an element is less than that of its children.
   std::uint32_t own_depth;
   bool owns_deep;
-  std::uint32_t
-    cleared; // the level of the outermost element yet that owned what is deep: its conflicts within are over
+  // That of the outermost element yet that owned what is deep: its conflicts within are over.
+  std::uint32_t cleared;
   axsValueSet values;
   std::vector<Entry> entries;
 };
