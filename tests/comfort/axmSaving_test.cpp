@@ -1,5 +1,6 @@
 #include "Document.h"
 
+#include <axsRegister.h>
 #include <axsSaving.h>
 
 #include <cstdio>
@@ -115,6 +116,7 @@ TEST(axmSaving, an_engine_that_tells_no_reasons_has_the_usual_one)
 
 TEST(axmSaving, a_stream_gets_nothing_of_a_document_that_cannot_be_saved)
 {
+  axs_register();
   std::ostringstream out;
   auto const saved = axm::save_stream(nullptr, out);
   ASSERT_FALSE(saved);
