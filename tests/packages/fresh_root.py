@@ -8,6 +8,7 @@ The packages are copied as they are installed here, so nothing is fetched; their
 
 import os
 import re
+import shutil
 import subprocess
 import sys
 from pathlib import Path
@@ -65,7 +66,13 @@ def real_name(file):
 def copy(files, root):
     """What may be read here; the rest is the system's own, such as passwords."""
     found = {real_name(file) for file in files if os.path.islink(file) or os.access(file, os.R_OK)}
-    names = "\0".join(sorted(name.lstrip("/") for name in found))
+    # Folders are made: others, such as /tmp, may change while they are copied, which tar takes for a failure.
+    folders = {name for name in found if os.path.isdir(name) and not os.path.islink(name)}
+    for folder in sorted(folders):
+        made = root + folder
+        os.makedirs(made, exist_ok=True)
+        shutil.copymode(folder, made)
+    names = "\0".join(sorted(name.lstrip("/") for name in found - folders))
     packed = subprocess.Popen(["tar", "-C", "/", "--no-recursion", "--null", "-T", "-", "-c"], stdin=subprocess.PIPE,
                               stdout=subprocess.PIPE)
     unpacked = subprocess.Popen(["tar", "-C", root, "-x"], stdin=packed.stdout)
