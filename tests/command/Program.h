@@ -73,7 +73,10 @@ inline ProgramRun run_axm(std::string const& prefix, std::vector<std::string> co
     command += " \"" + argument + "\"";
   command += " > " + out + " 2> " + err;
 #if defined(_WIN32)
-  int const exit_code = _wsystem(apString(("\"" + command + "\"").c_str()).c_str());
+  // -1 is no result of the program: once in some thousand times, Wine does not start it.
+  int exit_code = -1;
+  for (int tries = 3; exit_code == -1 && tries > 0; --tries)
+    exit_code = _wsystem(apString(("\"" + command + "\"").c_str()).c_str());
 #else
   int const status = std::system(command.c_str());
   int const exit_code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
