@@ -14,7 +14,7 @@ install_missing "${packages_to_build[@]}" libxml2-dev clang libclang-rt-14-dev
 build_preset fuzz fuzzers
 
 fuzz() {
-  local target=$1 folder=build/fuzz/$1 seeds=(fuzz/seeds/all)
+  local target=$1 folder=$PWD/build/fuzz/$1 seeds=(fuzz/seeds/all)
   [ ! -d "fuzz/seeds/$1" ] || seeds+=("fuzz/seeds/$1")
   mkdir -p "$folder/corpus" "$folder/faults"
   if build/fuzz/bin/fuzz_$target -max_total_time="$seconds" -timeout=20 -rss_limit_mb=4096 -dict=fuzz/xml.dict \
