@@ -56,8 +56,11 @@ int split(Request const& request)
     complain_about(error, request.file);
     return exit_bad_input;
   }
+  std::string const text = index.to_json();
+  if (text.empty())
+    return complain("split", "the names of the file, the records and the namespaces must be UTF-8", exit_usage);
   OutputFile output(request.output);
-  output.write(index.to_json());
+  output.write(text);
   if (!output.finish())
     return complain(request.output.empty() ? "standard output" : request.output, output.fault(), exit_bad_input);
   return exit_good;

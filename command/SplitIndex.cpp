@@ -46,6 +46,7 @@ bool contents_of(std::string const& name, std::string& text)
 }
 
 std::string SplitIndex::to_json() const
+try
 {
   Json json = {{"axm_split", version}, {"file", file}, {"path", path}, {"namespaces", namespaces}, {"size", parts.size},
     {"records", parts.records}, {"prolog_end", parts.prolog_end}, {"prolog_lines", parts.prolog_lines},
@@ -53,6 +54,10 @@ std::string SplitIndex::to_json() const
   for (axsRecordSplitter::Part const& part : parts.parts)
     json["parts"].push_back(to_json_of(part));
   return json.dump(1) + '\n';
+}
+catch (Json::type_error const&)
+{
+  return {};
 }
 
 std::string SplitIndex::read(std::string const& name, SplitIndex& index)

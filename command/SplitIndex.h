@@ -13,7 +13,7 @@ struct SplitIndex
   std::map<std::string, std::string> namespaces;
   axsRecordSplitter::Parts parts;
 
-  /// As JSON (RFC 8259).
+  /// As JSON (RFC 8259), which is UTF-8; empty if one of the names is not.
   std::string to_json() const;
 
   /// Reads it from the file `name`; what is wrong, in a sentence, and empty if nothing is.

@@ -182,3 +182,15 @@ TEST_F(Split, wrong_usage_is_exit_code_2)
       {"table", document, "r/e", "@k", "--index", "x", "--part", "0", "--reader", "simple"}})
     EXPECT_EQ(run_axm(name, wrong).exit_code, 2) << wrong.back();
 }
+
+#if !defined(_WIN32)
+// Arguments of other systems are texts, whatever they look like.
+TEST_F(Split, names_that_are_no_utf_8_are_in_no_index)
+{
+  TemporaryFile const file(document, "<r><e/></r>");
+  ProgramRun const run = run_axm(name, {"split", document, "r/\x92"});
+  EXPECT_EQ(run.exit_code, 2);
+  EXPECT_EQ(run.out, "");
+  EXPECT_EQ(run.err, "axm: split: the names of the file, the records and the namespaces must be UTF-8\n");
+}
+#endif
