@@ -188,8 +188,8 @@ std::string refusal(SchemaTest const& test)
   return text.str();
 }
 
-SchemaResult run_schema_suite(std::vector<SchemaTest> const& tests, GuardedLimits const& limits,
-  std::ostream& disagreements, std::ostream& progress)
+SchemaResult run_schema_suite(std::vector<SchemaTest> const& tests, KnownExceptions const& known,
+  GuardedLimits const& limits, std::ostream& disagreements, std::ostream& progress)
 {
   SchemaResult result;
   std::vector<std::string> found(tests.size());
@@ -223,9 +223,11 @@ SchemaResult run_schema_suite(std::vector<SchemaTest> const& tests, GuardedLimit
     if (found[i].empty())
       continue;
     SchemaTest const& test = tests[i];
+    auto const reason = known.find(test.name);
+    result.unexplained += reason == known.end() ? 1 : 0;
     disagreements << (test.instance.empty() ? "schema" : "instance") << '\t' << test.set << '\t' << test.name << '\t'
                   << (test.valid ? "valid" : "invalid") << '\t' << joined(test.schemas) << '\t' << test.instance << '\t'
-                  << found[i] << '\n';
+                  << found[i] << '\t' << (reason == known.end() ? "no reason is known" : reason->second) << '\n';
   }
   return result;
 }
