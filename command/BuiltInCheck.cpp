@@ -32,9 +32,10 @@ private:
 };
 }
 
-std::vector<axmParseError> built_in_schema_check(std::string const& file, std::size_t max_errors)
+std::vector<axmParseError> built_in_schema_check(
+  std::string const& file, axmLoadOptions const& options, std::size_t max_errors)
 {
-  return axsValidation::check_schema(apPath(file.c_str()), max_errors);
+  return axsValidation::check_schema(apPath(file.c_str()), options, max_errors);
 }
 
 std::unique_ptr<BuiltInCheck> built_in_check(axmLoadOptions const& options)

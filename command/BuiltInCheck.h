@@ -33,8 +33,10 @@ public:
     std::function<void(std::uint64_t bytes)> const& progress) const = 0;
 };
 
-/// What is wrong with the schema document in the file; nothing if the program has no engine.
-std::vector<axmParseError> built_in_schema_check(std::string const& file, std::size_t max_errors);
+/// What is wrong with the schema document in the file, with the schemas of the options in the place of what is imported of
+/// their namespaces; nothing if the program has no engine.
+std::vector<axmParseError> built_in_schema_check(
+  std::string const& file, axmLoadOptions const& options, std::size_t max_errors);
 
 /// Null if the program has no engine.
 std::unique_ptr<BuiltInCheck> built_in_check(axmLoadOptions const& options);

@@ -28,6 +28,9 @@ What is wrong is said as file:line:column: text, with the line; of each file up 
 or with --all-errors as often as there is something wrong. Files of any size are read in
 one pass and little memory; the schemas are compiled once.
 
+Schemas are read from files on this computer, never from an address: where a schema imports a
+namespace from one, --schema says which file to take, also with --schemas-only.
+
 Without a schema, documents only have to be well-formed. With schemas, a document fails, too,
 in which nothing is declared in them: then nothing was checked.
 
@@ -89,7 +92,7 @@ bool complain_of_all(std::vector<axmParseError> const& errors, std::string const
 
 bool check_schema(std::string const& file, Request const& request)
 {
-  return complain_of_all(built_in_schema_check(file, request.max_errors()), file);
+  return complain_of_all(built_in_schema_check(file, make_options(request), request.max_errors()), file);
 }
 
 bool check_document(BuiltInCheck const& engine, std::string const& file, Request const& request, JobOutput& output)

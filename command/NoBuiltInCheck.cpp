@@ -1,6 +1,6 @@
 #include "BuiltInCheck.h"
 
-std::vector<axmParseError> built_in_schema_check(std::string const&, std::size_t)
+std::vector<axmParseError> built_in_schema_check(std::string const&, axmLoadOptions const&, std::size_t)
 {
   return {};
 }

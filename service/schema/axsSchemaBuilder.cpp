@@ -60,6 +60,12 @@ std::string shown(axsParticle const& particle)
   return particle.element == nullptr ? std::string("a wildcard") : axsSchemaText::quoted(particle.element->name.local);
 }
 
+std::string shown_with_line(axsParticle const& particle, axsComplexType const& of)
+{
+  return shown(particle) + " of line " + std::to_string(particle.place.line) +
+         (particle.place.file == of.place.file ? "" : " of another file");
+}
+
 std::string has_two(axsContentProblem const& problem)
 {
   return " has " + shown(*problem.first) + " with two different types (element declarations consistent)";
@@ -71,8 +77,9 @@ std::string words_of(axsContentProblem const& problem, axsComplexType const& typ
     type.name.empty() ? std::string("this type") : "the type " + axsSchemaText::quoted(type.name.local);
   if (problem.kind == axsContentProblem::Kind::inconsistent)
     return "the content of " + type_words + has_two(problem);
-  return "the content of " + type_words + " is ambiguous: an element in it may be meant by " + shown(*problem.first) +
-         " or by " + shown(*problem.second) + " (unique particle attribution)";
+  return "the content of " + type_words + " is ambiguous: an element in it may be meant by " +
+         shown_with_line(*problem.first, type) + " or by " + shown_with_line(*problem.second, type) +
+         " (unique particle attribution)";
 }
 }
 

@@ -57,6 +57,15 @@ std::string namespace_words(std::string_view name_space)
   return name_space.empty() ? "elements in no namespace" : "the namespace \"" + std::string(name_space) + "\"";
 }
 
+// `path` is what the location names, empty where that is not a local file.
+std::string unread_words(std::string_view location, apPath const& path)
+{
+  if (location.empty())
+    return "its import names no schema";
+  return path.empty() ? "the schema that its import names, \"" + std::string(location) + "\", is not a local file"
+                      : "the schema that its import names, " + narrow(path) + ", is not there";
+}
+
 std::uint32_t counted(int place)
 {
   return static_cast<std::uint32_t>(std::max(place, 0));
@@ -201,33 +210,43 @@ void axsSchemaLoader::include(axsSchemaUnit& from, axsSchemaElement const& refer
     from.redefinitions.push_back({&reference, &included});
 }
 
-// src-import.
+// src-import. An import may leave open where a schema is, and what it says of that need not be so: what is not found is
+// told of where it is referred to (4.2.3).
 void axsSchemaLoader::import(axsSchemaUnit& from, axsSchemaElement const& reference)
 {
   std::string_view const name_space = reference.value(Field::name_space);
-  from.imports.push_back(name_space);
+  from.imports.push_back({name_space, {}});
   bool const is_given = std::find(given.begin(), given.end(), name_space) != given.end();
   bool const is_built_in =
     name_space == axsSchemaVocabulary::schema_namespace || name_space == axsSchemaVocabulary::instance_namespace;
-  // An import may leave the place open; then there is nothing to read.
-  if (is_given || is_built_in || reference.value(Field::schema_location).empty())
+  if (is_given || is_built_in)
     return;
   if (name_space == axsSchemaVocabulary::xml_namespace)
   {
     import_xml_namespace(reference);
     return;
   }
-  File const* const found = referred(reference);
-  if (found == nullptr || found->document == nullptr)
+  std::string_view const location = reference.value(Field::schema_location);
+  apPath const path =
+    location.empty() ? apPath() : axsSystemId::resolve(file_paths[reference.place.file - 1], location);
+  if (path.empty() || !path.exists())
+  {
+    from.imports.back().unread = unread_words(location, path);
+    if (!path.empty())
+      looked_at.push_back(axsFileStamp::of(path));
     return;
-  std::string_view const target = found->document->root().value(Field::target_namespace);
+  }
+  File const& found = file(path);
+  if (found.document == nullptr)
+    return;
+  std::string_view const target = found.document->root().value(Field::target_namespace);
   if (target != name_space) // src-import.3
   {
-    errors.add(reference.place, "the schema " + narrow(found->path) + " is for " + namespace_words(target) +
+    errors.add(reference.place, "the schema " + narrow(found.path) + " is for " + namespace_words(target) +
                                   ", not for " + namespace_words(name_space));
     return;
   }
-  unit(*found, target);
+  unit(found, target);
 }
 
 // Copies of the schema of that namespace lie everywhere: the first one is taken, and the one that is built in where none
@@ -257,13 +276,6 @@ axsSchemaLoader::File* axsSchemaLoader::referred(axsSchemaElement const& referen
     errors.add(place, "The schema \"" + std::string(location) + "\" is not a local file; nothing else is read");
     return nullptr;
   }
-  bool const is_import = reference.role == axsSchemaRole::import;
-  // An import says where a schema may be; what is not found of it is told of where it is referred to (4.2.3).
-  if (!path.exists() && is_import)
-  {
-    looked_at.push_back(axsFileStamp::of(path));
-    return nullptr;
-  }
   if (!path.exists())
   {
     errors.add(place, "There is no file " + narrow(path));
@@ -274,9 +286,8 @@ axsSchemaLoader::File* axsSchemaLoader::referred(axsSchemaElement const& referen
 
 void axsSchemaLoader::add_built_in(std::string_view name_space, std::string_view text)
 {
-  bool const is_wanted = std::any_of(all.begin(), all.end(),
-    [&](axsSchemaUnit const& unit)
-    { return std::find(unit.imports.begin(), unit.imports.end(), name_space) != unit.imports.end(); });
+  bool const is_wanted = std::any_of(
+    all.begin(), all.end(), [&](axsSchemaUnit const& unit) { return unit.import_of(name_space) != nullptr; });
   bool const is_there =
     std::any_of(all.begin(), all.end(), [&](axsSchemaUnit const& unit) { return unit.target == name_space; });
   if (!is_wanted || is_there)

@@ -83,6 +83,7 @@ axsSchemaSymbols::axsSchemaSymbols(axsSchemaErrors& told) : errors(told) {}
 
 void axsSchemaSymbols::declare(axsSchemaUnit const& unit)
 {
+  targets.insert(unit.target);
   for (axsSchemaElement const* child = unit.document->root().first_child; child != nullptr; child = child->next)
     if (std::optional<Space> const space = space_of(child->tag))
       declare(*space, unit, *child);
@@ -186,8 +187,20 @@ axsSchemaSymbol* axsSchemaSymbols::resolve(Space space, axsSchemaUnit const& uni
       return original;
   axsSchemaSymbol* const found = find(space, name);
   if (found == nullptr) // src-resolve.1
-    errors.add(place, "there is no declaration of " + words(name));
+    tell_unknown(unit, name, place);
   return found;
+}
+
+// Where nothing is known of a namespace, it is the import that is to be mended, not each of the names.
+void axsSchemaSymbols::tell_unknown(axsSchemaUnit const& unit, axsSchemaNameView const& name, axsSchemaPlace place)
+{
+  std::string const message = "there is no declaration of " + words(name);
+  axsSchemaUnit::Import const* const import = unit.import_of(name.name_space);
+  bool const is_unread = import != nullptr && !import->unread.empty() && targets.count(name.name_space) == 0;
+  if (!is_unread)
+    errors.add(place, message);
+  else if (told_imports.insert(import).second)
+    errors.add(place, message + ": " + import->unread);
 }
 
 // What a definition in xs:redefine refers to by its own name: what it redefines (src-redefine.5 to 7).

@@ -6,6 +6,7 @@
 #include <deque>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 
 /// The names of a set of schema documents, and what they stand for (Part 1, 3.15.3, QName resolution).
 class axsSchemaSymbols
@@ -49,9 +50,12 @@ private:
   axsSchemaNameTable<axsSchemaSymbol*>& table(Space space) { return tables[static_cast<std::size_t>(space)]; }
   axsSchemaSymbol* redefined_here(
     axsSchemaUnit const& unit, axsSchemaElement const& from, Space space, axsSchemaNameView const& name);
+  void tell_unknown(axsSchemaUnit const& unit, axsSchemaNameView const& name, axsSchemaPlace place);
   void replace(axsSchemaUnit const& unit, axsSchemaUnit const& redefined, axsSchemaElement const& definition);
 
   axsSchemaErrors& errors;
   std::deque<axsSchemaSymbol> symbols;
+  std::unordered_set<std::string_view> targets;
+  std::unordered_set<axsSchemaUnit::Import const*> told_imports;
   axsSchemaNameTable<axsSchemaSymbol*> tables[axsSchemaSymbol::spaces];
 };

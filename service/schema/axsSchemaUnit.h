@@ -16,12 +16,19 @@ struct axsSchemaUnit
     axsSchemaUnit const* redefined;
   };
 
+  struct Import
+  {
+    std::string_view name_space;
+    /// Why nothing was read for it, as "its import names no schema"; empty if something was.
+    std::string unread;
+  };
+
   axsSchemaDocument const* document = nullptr;
   std::string target;
   /// Whether the namespace is not the document's own.
   bool is_chameleon = false;
   /// The namespaces that the document imports, beside its own those that it may refer to (src-resolve).
-  std::vector<std::string_view> imports;
+  std::vector<Import> imports;
   std::vector<Redefinition> redefinitions;
   /// What it includes and redefines.
   std::vector<axsSchemaUnit const*> included;
@@ -29,11 +36,15 @@ struct axsSchemaUnit
   /// Whether names of that namespace may be referred to in the document.
   bool sees(std::string_view name_space) const noexcept
   {
-    if (name_space == target)
-      return true;
-    for (std::string_view const imported : imports)
-      if (imported == name_space)
-        return true;
-    return false;
+    return name_space == target || import_of(name_space) != nullptr;
+  }
+
+  /// The first import of that namespace; null without one.
+  Import const* import_of(std::string_view name_space) const noexcept
+  {
+    for (Import const& imported : imports)
+      if (imported.name_space == name_space)
+        return &imported;
+    return nullptr;
   }
 };

@@ -64,7 +64,8 @@ axsSchemaElement const* derivation_of(axsSchemaElement const& type)
 }
 }
 
-// What a type is made of: a type that is there, one with a name or one that stands in it.
+// What a type is made of: a type that is there, one with a name or one that stands in it. None of them where what is named
+// is not there, which is told of.
 struct axsSimpleTypeReader::Part
 {
   axsSimpleType const* made = nullptr;
@@ -82,6 +83,15 @@ struct axsSimpleTypeReader::Frame
   axsSchemaSymbol* symbol;
   std::vector<Part> parts;
   std::vector<axsSimpleType const*> types;
+
+  // What could not be made stands for any type, which nothing can be derived from; that says nothing new.
+  bool has_unknown() const
+  {
+    for (std::size_t i = 0; i < types.size(); ++i)
+      if (parts[i].made == nullptr && types[i] == &axsBuiltInTypes::any_simple_type())
+        return true;
+    return false;
+  }
 };
 
 axsSimpleType const& axsSimpleTypeReader::named(axsSchemaSymbol& symbol)
@@ -104,7 +114,9 @@ axsSimpleType const& axsSimpleTypeReader::referred(
   if (!context.symbols.expand(unit, element, element.value(field), place, name))
     return axsBuiltInTypes::any_simple_type();
   Part const found = part(unit, element, name, place);
-  return found.symbol == nullptr ? *found.made : named(*found.symbol);
+  if (found.symbol != nullptr)
+    return named(*found.symbol);
+  return found.made == nullptr ? axsBuiltInTypes::any_simple_type() : *found.made;
 }
 
 axsSimpleType const& axsSimpleTypeReader::restricted(
@@ -149,7 +161,7 @@ bool axsSimpleTypeReader::enter(std::vector<Frame>& frames)
   if (next.element != nullptr)
     frames.push_back(frame(*frame_now.unit, *next.element, nullptr));
   else if (next.symbol == nullptr)
-    frame_now.types.push_back(next.made);
+    frame_now.types.push_back(next.made == nullptr ? &axsBuiltInTypes::any_simple_type() : next.made);
   else if (next.symbol->simple_type != nullptr)
     frame_now.types.push_back(next.symbol->simple_type);
   else if (next.symbol->state == State::active) // st-props-correct.2, src-simple-type.4
@@ -211,14 +223,12 @@ axsSimpleTypeReader::Part axsSimpleTypeReader::part(
     context.errors.add(place, axsSchemaSymbols::words(name) + " is not a simple type");
     found.symbol = nullptr;
   }
-  if (found.symbol == nullptr)
-    found.made = &axsBuiltInTypes::any_simple_type();
   return found;
 }
 
 axsSimpleType const& axsSimpleTypeReader::made(Frame const& frame)
 {
-  if (frame.derivation == nullptr || frame.types.empty())
+  if (frame.derivation == nullptr || frame.types.empty() || frame.has_unknown())
     return axsBuiltInTypes::any_simple_type();
   Diagnostics diagnostics(context.errors);
   axsTypeHead head;

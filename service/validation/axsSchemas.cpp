@@ -70,13 +70,15 @@ std::shared_ptr<axsSchemaComponents const> axsSchemas::compile(
   return compile_with(compiler, errors, [&] { return axsSchemaCache::shared().get(wanted_by(options), compiler); });
 }
 
-std::vector<axsReadError> axsSchemas::check(apPath const& file, std::size_t max_errors)
+std::vector<axsReadError> axsSchemas::check(apPath const& file, axmLoadOptions const& others, std::size_t max_errors)
 {
   std::vector<axsReadError> errors;
   axsSchemaCompiler compiler(max_errors);
   compile_with(compiler, errors,
     [&]
     {
+      for (axsSchemaCache::Wanted const& other : wanted_by(others))
+        compiler.add(other.name_space, other.path);
       compiler.add(file);
       return compiler.compile();
     });

@@ -59,8 +59,14 @@ axsValidation::~axsValidation() = default;
 
 std::vector<axmParseError> axsValidation::check_schema(apPath const& file, std::size_t max_errors)
 {
+  return check_schema(file, axmLoadOptions(), max_errors);
+}
+
+std::vector<axmParseError> axsValidation::check_schema(
+  apPath const& file, axmLoadOptions const& others, std::size_t max_errors)
+{
   std::vector<axmParseError> wrong;
-  for (axsReadError const& error : axsSchemas::check(file, max_errors))
+  for (axsReadError const& error : axsSchemas::check(file, others, max_errors))
     wrong.push_back(error.record());
   return wrong;
 }

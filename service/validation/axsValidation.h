@@ -71,6 +71,11 @@ public:
   /// What is wrong with the schema document in a file and those that it refers to, for whatever namespace it is.
   static std::vector<axmParseError> check_schema(apPath const& file, std::size_t max_errors = default_max_errors);
 
+  /// The same together with the schemas that the options name: these are read where a document imports their namespaces,
+  /// wherever it says that they lie. What is wrong with them is told, too.
+  static std::vector<axmParseError> check_schema(
+    apPath const& file, axmLoadOptions const& others, std::size_t max_errors = default_max_errors);
+
 private:
   template <class Open>
   Result run(Open open, std::size_t max_errors, Progress const& progress) const;

@@ -174,6 +174,26 @@ TEST(axm_check, says_whether_schemas_are_right)
   EXPECT_EQ(run.err.find("check_schema_2.xsd:2:"), 0u) << run.err;
 }
 
+TEST(axm_check, takes_the_schema_that_is_named_for_a_namespace_where_schemas_import_it)
+{
+  TemporaryFile const imported("check_import_1.xsd", "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' "
+                                                     "targetNamespace='urn:i'><xs:element name='a'/></xs:schema>");
+  TemporaryFile const xsd("check_import_2.xsd",
+    "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' xmlns:i='urn:i'>\n"
+    "<xs:import namespace='urn:i' schemaLocation='http://localhost:1/i.xsd'/>\n"
+    "<xs:element name='r'><xs:complexType><xs:sequence><xs:element ref='i:a'/></xs:sequence></xs:complexType>"
+    "</xs:element></xs:schema>");
+  TemporaryFile const document("check_import.xml", "<r><a xmlns='urn:i'/></r>");
+  ProgramRun const run = run_axm("check_import", {"check", "--schemas-only", xsd.name});
+  EXPECT_EQ(run.exit_code, 1);
+  EXPECT_NE(run.err.find("\"http://localhost:1/i.xsd\", is not a local file"), std::string::npos) << run.err;
+  std::string const named = "urn:i=" + imported.name;
+  EXPECT_EQ(run_axm("check_import", {"check", "--schemas-only", xsd.name, "--schema", named}).exit_code, 0);
+  EXPECT_EQ(
+    run_axm("check_import", {"check", document.name, "--schema", named, "--no-namespace-schema", xsd.name}).exit_code,
+    0);
+}
+
 TEST(axm_check, refuses_wrong_usage)
 {
   EXPECT_EQ(run_axm("check_usage", {"check"}).exit_code, 2);

@@ -243,12 +243,15 @@ TEST(axsSchemas, a_schema_that_cannot_be_used_fails_the_load_with_its_own_place)
 TEST(axsSchemas, an_ambiguous_content_is_told_with_its_place)
 {
   std::string const content = "<xs:sequence><xs:element name='a' minOccurs='0'/><xs:element name='a'/></xs:sequence>";
-  std::string const words =
-    " is ambiguous: an element in it may be meant by 'a' or by 'a' (unique particle attribution)";
+  auto const words = [](std::string const& line)
+  {
+    return " is ambiguous: an element in it may be meant by 'a' of line " + line + " or by 'a' of line " + line +
+           " (unique particle attribution)";
+  };
   TestFile const named(
     "engine_ambiguous.xsd", schema("", "\n<xs:complexType name='t'>" + content + "</xs:complexType>"));
   axmParseError error = error_of("<r/>", plain(named.path()));
-  EXPECT_EQ(narrow(error.message()), "the content of the type 't'" + words);
+  EXPECT_EQ(narrow(error.message()), "the content of the type 't'" + words("3"));
   EXPECT_EQ(narrow(error.url()), named.name);
   EXPECT_EQ(error.line_number(), 3);
 
@@ -259,7 +262,7 @@ TEST(axsSchemas, an_ambiguous_content_is_told_with_its_place)
     schema("", "<xs:include schemaLocation='engine_ambiguous_2.xsd'/><xs:element name='r'><xs:complexType><xs:sequence>"
                "<xs:element name='b'/></xs:sequence></xs:complexType></xs:element>"));
   error = error_of("<r/>", plain(whole.path()));
-  EXPECT_EQ(narrow(error.message()), "the content of this type" + words);
+  EXPECT_EQ(narrow(error.message()), "the content of this type" + words("4"));
   EXPECT_EQ(narrow(error.url()), part.name);
   EXPECT_EQ(error.line_number(), 4);
 
@@ -306,9 +309,15 @@ TEST(axsSchemas, what_a_schema_includes_must_be_there_and_local)
   EXPECT_NE(narrow(error.message()).find("engine_none.xsd"), std::string::npos);
   for (char const* const address : {"http://localhost:1/x.xsd", "https://localhost:1/x.xsd", "ftp://localhost/x.xsd"})
   {
-    TestFile const remote(
-      "engine_remote.xsd", schema("", "<xs:import namespace='urn:x' schemaLocation='" + std::string(address) + "'/>"));
-    EXPECT_NE(narrow(error_of("<r/>", plain(remote.path())).message()).find(address), std::string::npos);
+    std::string const location = " schemaLocation='" + std::string(address) + "'/>";
+    TestFile const included("engine_remote.xsd", schema("", "<xs:include" + location));
+    EXPECT_NE(narrow(error_of("<r/>", plain(included.path())).message()).find(address), std::string::npos);
+    std::string const import = "<xs:import namespace='urn:x'" + location;
+    TestFile const unused("engine_remote_1.xsd", schema("", import + "<xs:element name='r'/>"));
+    EXPECT_NE(load("<r/>", plain(unused.path())), nullptr);
+    TestFile const used(
+      "engine_remote_2.xsd", schema("", import + "<xs:element name='r' type='x:t' xmlns:x='urn:x'/>"));
+    EXPECT_NE(narrow(error_of("<r/>", plain(used.path())).message()).find(address), std::string::npos);
   }
 }
 

@@ -337,9 +337,13 @@ TEST(axsSchemaBuilder, all_groups_are_the_whole_content)
 TEST(axsSchemaBuilder, contents_are_unambiguous_and_consistent)
 {
   EXPECT_EQ(error_of_schema(complex("t", sequence(element("a", "minOccurs='0'") + element("a")))), // cos-nonambig
-    "s.xsd:2: the content of the type 't' is ambiguous: an element in it may be meant by 'a' or by 'a' (unique "
-    "particle "
-    "attribution)");
+    "s.xsd:2: the content of the type 't' is ambiguous: an element in it may be meant by 'a' of line 2 or by 'a' of "
+    "line 2 (unique particle attribution)");
+  EXPECT_EQ(error_of_schema(complex("t", sequence("\n<xs:any minOccurs='0'/>\n<xs:group ref='g'/>")) + "\n" +
+                            "<xs:group name='g'>\n" + sequence(element("a")) + "</xs:group>"),
+    "s.xsd:2: the content of the type 't' is ambiguous: an element in it may be meant by a wildcard of line 3 or by "
+    "'a' "
+    "of line 7 (unique particle attribution)");
   EXPECT_EQ(error_of_schema(complex("t", sequence(element("a", "type='xs:int'") + element("b") + element("a")))),
     "s.xsd:2: the content of the type 't' has 'a' with two different types (element declarations consistent)");
   std::string const group =

@@ -269,6 +269,21 @@ TEST(axsSchemaGrammar, tells_of_several_faults_with_their_places)
       "s.xsd:3: there is no declaration of 'nothing' in the namespace 'http://www.w3.org/2001/XMLSchema'"}));
 }
 
+TEST(axsSchemaGrammar, a_type_that_is_not_there_is_told_of_once)
+{
+  SchemaFiles files;
+  files.schema("s.xsd",
+    "<xs:simpleType name='t'><xs:restriction base='none'><xs:length value='1'/></xs:restriction></xs:simpleType>"
+    "<xs:simpleType name='u'><xs:restriction base='t'><xs:enumeration value='1'/></xs:restriction></xs:simpleType>"
+    "<xs:simpleType name='v'><xs:list itemType='t'/></xs:simpleType>"
+    "<xs:simpleType name='w'><xs:union memberTypes='v xs:int'><xs:simpleType><xs:restriction base='u'/></xs:simpleType>"
+    "</xs:union></xs:simpleType>");
+  files.compile({"s.xsd"});
+  EXPECT_EQ(files.errors(), (std::vector<std::string>{"s.xsd:2: there is no declaration of 'none' in no namespace"}));
+  // What is there, but may not be used so, is.
+  EXPECT_NE(error_of_schema("<xs:simpleType name='t'><xs:restriction base='xs:anySimpleType'/></xs:simpleType>"), "");
+}
+
 TEST(axsSchemaGrammar, keeps_no_more_faults_than_its_limit)
 {
   SchemaFiles files;

@@ -115,10 +115,39 @@ TEST(axsSchemaLoader, an_import_of_what_is_not_there_is_told_of_where_it_is_need
   EXPECT_NE(files.compile({"s.xsd"}), nullptr) << files.first_error();
   files.schema("s.xsd", import("u", "none.xsd") + "<xs:element name='e' type='u:t' xmlns:u='u'/>");
   files.compile({"s.xsd"});
-  EXPECT_EQ(files.first_error(), "s.xsd:3: there is no declaration of 't' in the namespace 'u'");
-  files.schema("s.xsd", import("u", "http://localhost:1/u.xsd"));
+  std::string const unknown = "s.xsd:3: there is no declaration of 't' in the namespace 'u'";
+  std::string const error = files.first_error();
+  EXPECT_EQ(error.substr(0, error.find(':', unknown.size())), unknown);
+  EXPECT_NE(error.find("none.xsd, is not there"), std::string::npos) << error;
+}
+
+TEST(axsSchemaLoader, an_import_names_a_local_file_if_it_is_needed)
+{
+  SchemaFiles files;
+  std::string const address = import("u", "http://localhost:1/u.xsd");
+  std::string const element = "<xs:element name='%' type='u:t' xmlns:u='u'/>\n";
+  auto const use = [&](char const* name) { return std::string(element).replace(element.find('%'), 1, name); };
+  files.schema("s.xsd", address);
+  EXPECT_NE(files.compile({"s.xsd"}), nullptr) << files.first_error();
+  files.schema("s.xsd", address + use("a") + use("b") + "<xs:element name='c' type='none'/>");
   files.compile({"s.xsd"});
-  EXPECT_NE(files.first_error().find("http://localhost:1/u.xsd"), std::string::npos);
+  EXPECT_EQ(
+    files.errors(), (std::vector<std::string>{
+                      "s.xsd:3: there is no declaration of 't' in the namespace 'u': the schema that its import "
+                      "names, \"http://localhost:1/u.xsd\", is not a local file",
+                      "s.xsd:5: there is no declaration of 'none' in no namespace"}));
+  files.schema("s.xsd", "<xs:import namespace='u'/>\n" + use("a"));
+  files.compile({"s.xsd"});
+  EXPECT_EQ(
+    files.first_error(), "s.xsd:3: there is no declaration of 't' in the namespace 'u': its import names no schema");
+  // What one document names, all of them have.
+  files.schema("u.xsd", simple("t"), "targetNamespace='u'");
+  files.schema("s.xsd", include("other.xsd") + address + use("a"));
+  files.schema("other.xsd", import("u", "u.xsd"));
+  EXPECT_NE(files.compile({"s.xsd"}), nullptr) << files.first_error();
+  files.schema("u.xsd", simple("other"), "targetNamespace='u'");
+  files.compile({"s.xsd"});
+  EXPECT_EQ(files.first_error(), "s.xsd:4: there is no declaration of 't' in the namespace 'u'");
 }
 
 TEST(axsSchemaLoader, a_document_that_is_given_for_a_namespace_takes_precedence)

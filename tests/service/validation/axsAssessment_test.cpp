@@ -581,6 +581,20 @@ TEST(axsValidation, a_schema_is_checked_by_itself_for_whatever_namespace)
   EXPECT_EQ(narrow(errors[0].url()), "axsValidation_bad.xsd");
   EXPECT_EQ(axsValidation::check_schema(bad.path(), 1).size(), 1u);
 
+  // With what imports of a namespace take.
+  TestFile const importing("axsValidation_import.xsd",
+    "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' xmlns:t='urn:t'>\n"
+    "<xs:import namespace='urn:t' schemaLocation='http://localhost:1/t.xsd'/>"
+    "<xs:complexType name='c'><xs:sequence><xs:element ref='t:r'/></xs:sequence></xs:complexType></xs:schema>");
+  EXPECT_EQ(axsValidation::check_schema(importing.path()).size(), 1u);
+  axmLoadOptions options(axmValidateNone);
+  options.add_external_schema(APSTRING("urn:t"), good.path());
+  EXPECT_TRUE(axsValidation::check_schema(importing.path(), options).empty());
+  EXPECT_TRUE(axsValidation::check_schema(good.path(), options).empty());
+  axmLoadOptions wrong(axmValidateNone);
+  wrong.add_external_schema(APSTRING("urn:t"), bad.path());
+  EXPECT_EQ(axsValidation::check_schema(importing.path(), wrong).size(), 2u);
+
   std::vector<axmParseError> const missing = axsValidation::check_schema(apPath("no/such/schema.xsd"));
   ASSERT_EQ(missing.size(), 1u);
   EXPECT_EQ(narrow(missing.front().url()), "no/such/schema.xsd");
