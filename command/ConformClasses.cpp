@@ -63,9 +63,9 @@ CheckClass const check_classes[] = {
   {"axmXmlUtest", run_with_owner<axmXmlUtest>},
   {"axmSchemaUtest", run_with_owner<axmSchemaUtest>},
   {"axmXPathUtest", run_with_owner<axmXPathUtest>},
-  {"axmModelUtest", run_with_draws<axmModelUtest>},
-  {"axmSearchUtest", run_with_draws<axmSearchUtest>},
   {"axmTypedUtest", run_with_draws<axmTypedUtest>},
+  {"axmSearchUtest", run_with_draws<axmSearchUtest>},
+  {"axmModelUtest", run_with_draws<axmModelUtest>},
 };
 }
 

@@ -1,34 +1,19 @@
 // Groups of the conformance suite, which the input chooses, a line each: its name, and a number that what is drawn begins
 // with. The engine must pass every one, whatever ran before it and whatever is drawn.
 
-#include <axmCommentNodeUtest.h>
-#include <axmContractUtest.h>
-#include <axmDocumentFactoryUtest.h>
-#include <axmDocumentUtest.h>
-#include <axmElementUtest.h>
+#include "ConformClasses.h"
+#include "SilentAssertions.h"
+#include "SuiteFolder.h"
+
 #include <axmEngineAccess.h>
-#include <axmLoadUtest.h>
-#include <axmModelUtest.h>
-#include <axmNamedNodeMapUtest.h>
-#include <axmNodeListUtest.h>
-#include <axmNodeUtest.h>
-#include <axmSchemaUtest.h>
-#include <axmSearchUtest.h>
-#include <axmTextNodeUtest.h>
-#include <axmTypedUtest.h>
 #include <axmUtestGroupListener.h>
-#include <axmValidationUtest.h>
-#include <axmXPathUtest.h>
-#include <axmXmlUtest.h>
 #include <axsRegister.h>
-#include <utAssert.h>
 #include <utUnitTest.h>
 
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <cstdlib>
-#include <filesystem>
 #include <iostream>
 #include <iterator>
 #include <string>
@@ -36,49 +21,7 @@
 
 namespace
 {
-namespace fs = std::filesystem;
-
 int const max_groups = 3;
-
-// While it lives, the process works where the suite finds its data and may write.
-class SuiteFolder
-{
-public:
-  SuiteFolder() : outside(fs::current_path())
-  {
-    std::string name = (fs::temp_directory_path() / "axm_suite_XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr)
-      std::abort();
-    folder = name;
-    fs::create_directory(folder / "work");
-    fs::create_directory(folder / "data");
-    char const schema[] = "in_memory_test_schema.xsd";
-    fs::copy_file(fs::u8path(AXM_DATA_FOLDER) / schema, folder / "data" / schema);
-    fs::current_path(folder / "work");
-  }
-  SuiteFolder(SuiteFolder const&) = delete;
-  SuiteFolder& operator=(SuiteFolder const&) = delete;
-  ~SuiteFolder()
-  {
-    fs::current_path(outside);
-    fs::remove_all(folder);
-  }
-
-private:
-  fs::path const outside;
-  fs::path folder;
-};
-
-class SilentAssertions : public utAssertListener
-{
-public:
-  SilentAssertions() : replaced(ut_set_assert_listener(this)) {}
-  ~SilentAssertions() override { ut_set_assert_listener(replaced); }
-  void assertion_failed(char const*, char const*, int) override {}
-
-private:
-  utAssertListener* const replaced;
-};
 
 class Judge : public utUnitTestListener
 {
@@ -118,33 +61,18 @@ private:
 
 void run(utUnitTest& tester, std::string_view group, std::uint64_t seed)
 {
-  int const rounds = 4;
-  auto const engine = axm::engine();
   OneGroup const chosen(group);
-  axmDocumentFactoryUtest(&tester).run_tests(engine);
-  axmValidationUtest(&tester).run_tests(*engine);
-  axmNodeUtest(&tester).run_tests(*engine);
-  axmElementUtest(&tester).run_tests(*engine);
-  axmDocumentUtest(&tester).run_tests(*engine);
-  axmNodeListUtest(&tester).run_tests(*engine);
-  axmNamedNodeMapUtest(&tester).run_tests(*engine);
-  axmTextNodeUtest(&tester).run_tests(*engine);
-  axmCommentNodeUtest(&tester).run_tests(*engine);
-  axmContractUtest(&tester).run_tests(engine);
-  axmLoadUtest(&tester).run_tests(engine);
-  axmXmlUtest(&tester).run_tests(engine);
-  axmSchemaUtest(&tester).run_tests(engine);
-  axmXPathUtest(&tester).run_tests(engine);
-  axmTypedUtest(&tester, seed, rounds).run_tests(engine);
-  axmSearchUtest(&tester, seed, rounds).run_tests(engine);
-  axmModelUtest(&tester, seed, rounds).run_tests(engine);
+  ConformSelection selection;
+  selection.seed = seed;
+  selection.rounds = 4;
+  run_conform_classes(selection, &tester, axm::engine());
 }
 }
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size)
 {
   axs_register();
-  SuiteFolder const folder;
+  SuiteFolder const folder("axm fuzz suite");
   SilentAssertions const silent;
   Judge judge;
   utUnitTest tester;

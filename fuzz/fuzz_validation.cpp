@@ -1,6 +1,7 @@
 // Documents of any bytes against a fixed schema: a validated load and a check must be of one opinion, and the first error
 // of a check must not depend on how many are asked for.
 
+#include <apProcessControl.h>
 #include <axmDocumentFactory.h>
 #include <axsRegister.h>
 #include <axsValidation.h>
@@ -9,6 +10,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <string>
 
 namespace
 {
@@ -33,14 +35,31 @@ char const schema[] = R"(<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>
 <xs:complexType name='m' mixed='true'><xs:sequence><xs:element name='n' minOccurs='0' type='xs:token'/></xs:sequence>
 </xs:complexType></xs:schema>)";
 
-axmLoadOptions options()
+// A file with the schema, which is the process's own and goes with it.
+class SchemaFile
 {
-  std::string const file = (std::filesystem::temp_directory_path() / "axm_fuzz_validation.xsd").string();
-  std::ofstream(file) << schema;
-  axmLoadOptions made(axmValidateWithSchemas);
-  made.set_no_namespace_schema(apPath(file.c_str()));
-  return made;
-}
+public:
+  SchemaFile()
+    : path((std::filesystem::temp_directory_path() /
+            ("axm_fuzz_validation_" + std::to_string(apProcessControl::getpid()) + ".xsd"))
+             .string())
+  {
+    std::ofstream(path) << schema;
+  }
+  SchemaFile(SchemaFile const&) = delete;
+  SchemaFile& operator=(SchemaFile const&) = delete;
+  ~SchemaFile() { std::filesystem::remove(path); }
+
+  axmLoadOptions options() const
+  {
+    axmLoadOptions made(axmValidateWithSchemas);
+    made.set_no_namespace_schema(apPath(path.c_str()));
+    return made;
+  }
+
+private:
+  std::string const path;
+};
 
 bool is_same(axmParseError const& left, axmParseError const& right)
 {
@@ -51,7 +70,8 @@ bool is_same(axmParseError const& left, axmParseError const& right)
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size)
 {
-  static axmLoadOptions const with_schema = options();
+  static SchemaFile const file;
+  static axmLoadOptions const with_schema = file.options();
   static axsValidation const validation(with_schema);
   axs_register();
   utServiceName resolved;

@@ -2,7 +2,6 @@
 
 #include "Hooks.h"
 
-#include <filesystem>
 #include <functional>
 #include <set>
 #include <string>
@@ -16,25 +15,6 @@ struct Check
   std::string file;
   std::string description;
   std::string function;
-};
-
-// A new folder that is gone with this object, laid out as the suite wants it: the program works in its subfolder "work".
-class SuiteFolder
-{
-public:
-  // `name`, in UTF-8, is its name among the temporary folders of the system.
-  explicit SuiteFolder(std::string const& name);
-  SuiteFolder(SuiteFolder const&) = delete;
-  SuiteFolder& operator=(SuiteFolder const&) = delete;
-  ~SuiteFolder();
-
-  // All that is there, as paths relative to the folder, in order.
-  std::vector<std::string> contents() const;
-
-  std::filesystem::path const path;
-
-private:
-  std::filesystem::path const worked_in_before;
 };
 
 // The engine that comes with the library.

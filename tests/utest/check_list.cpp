@@ -1,5 +1,6 @@
 // Writes what the checks of the suite report, as checks.txt holds it.
 
+#include "SuiteFolder.h"
 #include "SuiteRun.h"
 
 #include <cstdio>

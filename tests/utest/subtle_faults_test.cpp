@@ -2,6 +2,7 @@
 // work that is the same on every system and in which a sanitizer would find what it finds in the other runs of the suite.
 
 #include "ExpectSeen.h"
+#include "SuiteFolder.h"
 
 #include <map>
 #include <string>

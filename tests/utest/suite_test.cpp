@@ -1,6 +1,7 @@
 // The suite against the engine that comes with the library.
 
 #include "Lines.h"
+#include "SuiteFolder.h"
 #include "SuiteRun.h"
 
 #include "../TestLocale.h"

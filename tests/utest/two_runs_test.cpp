@@ -1,5 +1,6 @@
 // Two runs of the suite at once in one folder.
 
+#include "SuiteFolder.h"
 #include "SuiteRun.h"
 
 #include <apPath.h>
