@@ -419,20 +419,33 @@ void axsAssessment::end_simple(Element& element)
     findings.report(shown(*element.name) + ": \"" + axsShownText::shortened(value) +
                     "\" is not allowed: it must be \"" + axsShownText::shortened(element.decl->constraint.value) +
                     "\"");
-  if (wants_value && !findings.value.identifiers().empty())
-    if (std::string const wrong = findings.identifiers.add(findings.value, findings.locator->end()); !wrong.empty())
-      findings.report(shown(*element.name) + ": " + wrong);
+  if (wants_value)
+    add_identifiers(element);
   if (is_asked_for)
     findings.identity.value({value, findings.value.bytes()}, element.decl != nullptr && element.decl->is_nillable);
 }
 
-// cvc-elt.5.1; the value is one of the declared type, but the document may have named another.
+// Those of the value that has just been checked.
+void axsAssessment::add_identifiers(Element const& element)
+{
+  if (findings.value.identifiers().empty())
+    return;
+  if (std::string const wrong = findings.identifiers.add(findings.value, findings.locator->end()); !wrong.empty())
+    findings.report(shown(*element.name) + ": " + wrong);
+}
+
+// cvc-elt.5.1; the value is one of the declared type, but the document may have named another, and it is the document that
+// has what a default refers to. The prefixes of names are those of the schema.
 void axsAssessment::end_with_default(Element const& element, axsSimpleType const& type)
 {
   axsValueConstraint const& constraint = element.decl->constraint;
-  bool const is_declared = element.type == element.decl->type;
-  if (!is_declared && !type.needs_namespaces() && !type.check(constraint.value, findings.context, nullptr))
-    return findings.report(shown(*element.name) + ": " + type.fault(constraint.value, findings.context));
+  if (!type.needs_namespaces())
+  {
+    if (!type.check(constraint.value, findings.context, type.has_references() ? &findings.value : nullptr))
+      return findings.report(shown(*element.name) + ": " + type.fault(constraint.value, findings.context));
+    if (type.has_references())
+      add_identifiers(element);
+  }
   if (is_field())
     findings.identity.value({constraint.value, constraint.bytes}, element.decl->is_nillable);
 }

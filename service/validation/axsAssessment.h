@@ -100,6 +100,7 @@ private:
   void refuse_text(Element& element);
   void end_content(Element& element);
   void end_simple(Element& element);
+  void add_identifiers(Element const& element);
   void end_with_default(Element const& element, axsSimpleType const& type);
   void end_mixed(Element& element);
   void tell_identity(Element const& element);

@@ -34,48 +34,6 @@ bool is_once(axsParticle const& particle) noexcept
   return particle.min_occurs == 1 && particle.max_occurs == 1;
 }
 
-bool has_none(axsModelGroup const& group) noexcept
-{
-  return std::all_of(group.particles.begin(), group.particles.end(),
-    [](axsParticle const& particle) { return particle.max_occurs == 0; });
-}
-
-// Whether an empty group is pointless; a choice among nothing is not, for nothing can be chosen.
-bool is_pointless_empty(axsParticle const& particle) noexcept
-{
-  return particle.max_occurs == 0 || (particle.group != nullptr && has_none(*particle.group) &&
-                                       (particle.group->compositor != Compositor::choice || particle.min_occurs == 0));
-}
-
-// The only particle of a group that has but one, pointless ones left out.
-axsParticle const* only_of(axsModelGroup const& group) noexcept
-{
-  axsParticle const* only = nullptr;
-  for (axsParticle const& particle : group.particles)
-  {
-    if (is_pointless_empty(particle))
-      continue;
-    if (only != nullptr)
-      return nullptr;
-    only = &particle;
-  }
-  return only;
-}
-
-// Passes over pointless groups of one member.
-axsParticle const& innermost(axsParticle const& particle) noexcept
-{
-  axsParticle const* at = &particle;
-  while (at->group != nullptr && is_once(*at))
-  {
-    axsParticle const* const only = only_of(*at->group);
-    if (only == nullptr)
-      break;
-    at = only;
-  }
-  return *at;
-}
-
 bool is_stricter(axsWildcard::Process restricted, axsWildcard::Process base) noexcept
 {
   return restricted <= base; // strict, lax, skip
@@ -90,9 +48,9 @@ bool allows(axsWildcard const& wildcard, axsElementDecl const& element)
 bool axsParticleRestriction::check(axsParticle const& restricted, axsParticle const& base)
 {
   wrong = nullptr;
-  bool const is_empty = is_pointless_empty(innermost(restricted));
+  bool const is_empty = pointless.is_empty(restricted);
   View const view = view_of(base);
-  if (is_pointless_empty(innermost(base)))
+  if (pointless.is_empty(base))
     return is_empty;
   return is_empty ? total_range(view).min == 0 : run(view_of(restricted), view);
 }
@@ -104,7 +62,7 @@ bool axsParticleRestriction::is_range(Range const& restricted, Range const& base
 
 axsParticleRestriction::View axsParticleRestriction::view_of(axsParticle const& given)
 {
-  axsParticle const& particle = innermost(given);
+  axsParticle const& particle = pointless.innermost(given);
   View view;
   view.particle = &particle;
   view.min = particle.min_occurs;
@@ -157,9 +115,9 @@ std::vector<axsParticleRestriction::View> axsParticleRestriction::parts_of(View 
   wait(*view.particle->group);
   while (!waiting.empty())
   {
-    axsParticle const& particle = innermost(*waiting.back());
+    axsParticle const& particle = pointless.innermost(*waiting.back());
     waiting.pop_back();
-    if (is_pointless_empty(particle))
+    if (pointless.is_empty(particle))
       continue;
     bool const is_same = particle.group != nullptr && particle.group->compositor == compositor;
     if (is_same && compositor != Compositor::all && is_once(particle))

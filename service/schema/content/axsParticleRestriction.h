@@ -1,6 +1,7 @@
 #pragma once
 
 #include "axsParticle.h"
+#include "axsPointlessGroups.h"
 #include "axsSchemaName.h"
 #include "axsSchemaNameTable.h"
 
@@ -124,6 +125,7 @@ private:
   bool is_element_right(View const& restricted, View const& base);
 
   axsContentModels& models;
+  axsPointlessGroups pointless;
   std::vector<Task> tasks;
   std::unordered_map<axsModelGroup const*, Range> ranges;
   using Pair = std::tuple<axsParticle const*, axsParticle const*, bool>;

@@ -357,6 +357,25 @@ TEST(axsAssessment, defaults_are_values_of_keys_and_references)
   EXPECT_EQ(references.wrong("<s/>"), "1: there is no ID 'x', to which an IDREF refers\n");
 }
 
+// cvc-elt.5.1.2: the default of an element is held against its type like any value, in the document that it stands in.
+TEST(axsAssessment, the_default_of_an_element_refers_to_what_the_document_has)
+{
+  Schema const schema(
+    "<xs:simpleType name='any'><xs:union memberTypes='xs:ID xs:int'/></xs:simpleType>" +
+    with_type("r", "<xs:choice maxOccurs='9'><xs:element name='f' type='xs:IDREF' default='x'/>"
+                   "<xs:element name='g' type='xs:IDREFS' default='x y'/><xs:element name='i' type='xs:ID'/>"
+                   "<xs:element name='u' type='any' default='x'/><xs:element name='e' type='xs:ENTITY' default='pic'/>"
+                   "</xs:choice>"));
+  EXPECT_EQ(schema.wrong("<r><f/><i>x</i></r>"), "");
+  EXPECT_EQ(schema.wrong("<r><i>y</i>\n<f/></r>"), "2: there is no ID 'x', to which an IDREF refers\n");
+  EXPECT_EQ(schema.wrong("<r><i>x</i>\n<g/></r>"), "2: there is no ID 'y', to which an IDREF refers\n");
+  EXPECT_EQ(schema.wrong("<r><u/>\n<f/></r>"), "");
+  EXPECT_EQ(schema.wrong("<r><u>7</u><u/>\n<u/></r>"), "2: element 'u': ID value 'x' is not unique; first at line 1\n");
+  EXPECT_EQ(schema.wrong("<!DOCTYPE r [<!NOTATION n SYSTEM 's'><!ENTITY pic SYSTEM 'p' NDATA n>]><r><e/></r>"), "");
+  EXPECT_EQ(schema.wrong("<r><e/></r>"), "1: element 'e': \"pic\" is not of the type xs:ENTITY: the document type "
+                                         "declares no unparsed entity of that name\n");
+}
+
 TEST(axsAssessment, entities_and_notations_are_those_of_the_document_type_and_the_schema)
 {
   Schema const schema(

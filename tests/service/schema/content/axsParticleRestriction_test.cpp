@@ -80,6 +80,24 @@ TEST(axsParticleRestriction, pointless_groups_make_no_difference)
   EXPECT_FALSE(restricts("(a, b)", "((a, b){1,2})?{2,3}"));
   EXPECT_TRUE(restricts("()", "(a?, b?)"));
   EXPECT_FALSE(restricts("()", "(a?, b)"));
+  // At any depth.
+  EXPECT_TRUE(restricts("(b{0,0}, ())", "(a?)"));
+  EXPECT_FALSE(restricts("(b{0,0}, ())", "(a)"));
+  EXPECT_TRUE(restricts("((), ((), ((), ())))", "(a?, b?)"));
+  EXPECT_TRUE(restricts("(a, ((), (b{0,0}, ())))", "a"));
+  EXPECT_TRUE(restricts("a", "(a, ((), (b{0,0}, ())))"));
+  EXPECT_TRUE(restricts("((), ())", "((), (a{0,0}, (())))"));
+  EXPECT_FALSE(restricts("(a?)", "((), (a{0,0}, (())))"));
+}
+
+TEST(axsParticleRestriction, empty_groups_nested_deeply_are_passed_over)
+{
+  std::string empty = "()";
+  for (int i = 0; i < 1000; ++i)
+    empty = "((), " + empty + ", b{0,0})";
+  EXPECT_TRUE(restricts(empty, "(a?)"));
+  EXPECT_TRUE(restricts("(a, " + empty + ")", "(a)"));
+  EXPECT_FALSE(restricts(empty, "(a)"));
 }
 
 TEST(axsParticleRestriction, an_empty_content_is_restricted_by_an_empty_one_only)
