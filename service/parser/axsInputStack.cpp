@@ -123,7 +123,7 @@ void axsInputStack::open_text(axsEntity& entity)
   std::string const& text = entity.declared->replacement;
   if (entity.parsed == nullptr)
   {
-    entity.parsed = std::make_unique<char[]>(text.size() + 1 + apByteBlock::size);
+    entity.parsed = std::make_unique<char[]>(text.size() + 1 + axsTextScan::overreach);
     std::memcpy(entity.parsed.get(), text.data(), text.size());
   }
   Input input;

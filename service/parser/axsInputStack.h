@@ -5,6 +5,7 @@
 #include "axsInputBuffer.h"
 #include "axsPlace.h"
 #include "axsReadError.h"
+#include "axsTextScan.h"
 
 #include <axmLoadOptions.h>
 
@@ -117,6 +118,12 @@ public:
   {
     return all_are_looked_at ? axsCharacters::end_of_text<apByteBlock, stops...>(p)
                              : axsCharacters::end_of_utf8_text<apByteBlock, stops...>(p);
+  }
+
+  /// The same for text between tags, which is the longest there is.
+  char const* end_of_character_data(char const* p) const
+  {
+    return all_are_looked_at ? axsCharacters::end_of_text<apByteBlock, '<', '&', ']'>(p) : axsTextScan::end(p);
   }
 
   /// The same in a value in quotes, which ends at `quote`, '<' and '&', too.

@@ -458,7 +458,7 @@ void axsParser::processing_instruction()
 // 2.4, [14] CharData. Most texts stand there as they are.
 void axsParser::text()
 {
-  char const* const end = in.end_of_text<'<', '&', ']'>(in.at);
+  char const* const end = in.end_of_character_data(in.at);
   if (*end != '<' || is_in_text)
     return parted_text();
   in.check_controls(in.at, end);
@@ -475,7 +475,7 @@ void axsParser::parted_text()
   auto const take = [&] { normal.append(from, static_cast<std::size_t>(p - from)); };
   while (true)
   {
-    p = in.end_of_text<'<', '&', ']'>(p);
+    p = in.end_of_character_data(p);
     if (*p == '<')
       return end_text(from, p);
     if (*p == ']')

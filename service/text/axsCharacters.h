@@ -134,14 +134,21 @@ char const* end_of_text(char const* at)
   }
 }
 
-/// The same in well-formed UTF-8 without U+FFFE and U+FFFF, where all beyond ASCII is text.
+/// Those bytes of the block that such text ends at in well-formed UTF-8 without U+FFFE and U+FFFF, where all beyond ASCII is
+/// text.
+template <char... stops, class Block>
+typename Block::Found ends_of_utf8_text(Block const& block)
+{
+  return (block.is_control().without(block.is('\t') | block.is('\n')) | ... | block.is(stops));
+}
+
+/// The first of them at or after `at`.
 template <class Block, char... stops>
 char const* end_of_utf8_text(char const* at)
 {
   while (true)
   {
-    Block const block(at);
-    auto const found = (block.is_control().without(block.is('\t') | block.is('\n')) | ... | block.is(stops));
+    auto const found = ends_of_utf8_text<stops...>(Block(at));
     if (found.any())
       return at + found.first();
     at += Block::size;
@@ -162,7 +169,7 @@ char const* end_of_value(char const* at, char quote)
   }
 }
 
-/// The same in well-formed UTF-8 without U+FFFE and U+FFFF, where all beyond ASCII is text.
+/// The same in such UTF-8.
 template <class Block = apByteBlock>
 char const* end_of_utf8_value(char const* at, char quote)
 {

@@ -1,8 +1,7 @@
 #include "axsInputBuffer.h"
 
 #include "axsSource.h"
-
-#include <apByteBlock.h>
+#include "axsTextScan.h"
 
 #include <cstring>
 #include <utility>
@@ -12,7 +11,7 @@ namespace
 std::size_t const usual_room = 65536;
 
 // What may be read after the last byte.
-std::size_t const bytes_after = 1 + apByteBlock::size;
+std::size_t const bytes_after = 1 + axsTextScan::overreach;
 
 // They are not all set: a short document leaves most of them alone.
 std::unique_ptr<char[]> make_bytes(std::size_t room)
