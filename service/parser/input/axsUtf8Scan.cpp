@@ -1,13 +1,16 @@
 #include "axsUtf8Scan.h"
 
-#include <apByteBlock.h>
-#include <utUtf8.h>
+#include "axsUtf8Chunks.h"
+#include "axsUtf8ScanByAvx2.h"
 
-#include <bitset>
+#include <apByteBlock.h>
+
 #include <cstdint>
 
 namespace
 {
+using axsUtf8Chunks::LineEnds;
+using axsUtf8Chunks::moved;
 using axsUtf8Scan::chunk;
 using axsUtf8Scan::Seen;
 
@@ -38,12 +41,6 @@ struct Chunk
   bool is_open() const noexcept { return (leads >> 63 | leads_of_3 >> 62 | leads_of_4 >> 61) != 0; }
 };
 
-// Each bit so many places on, those of the chunk before first.
-std::uint64_t moved(std::uint64_t bits, std::uint64_t before, int places) noexcept
-{
-  return bits << places | before >> (64 - places);
-}
-
 // Whether the characters that begin in the chunk, and one that began before, are well-formed as far as it goes.
 bool is_well_formed(Chunk const& is, Chunk const& before) noexcept
 {
@@ -61,15 +58,6 @@ bool is_well_formed(Chunk const& is, Chunk const& before) noexcept
 bool has_excluded_character(Chunk const& is, Chunk const& before) noexcept
 {
   return (moved(is.ef, before.ef, 2) & moved(is.bf, before.bf, 1) & is.from_be) != 0;
-}
-
-// The end of whole characters, of which those from `begin` to `at` are well-formed as far as that goes.
-char const* end_of_whole(char const* begin, char const* at) noexcept
-{
-  for (std::ptrdiff_t back = 1; back < static_cast<std::ptrdiff_t>(utUtf8::max_bytes) && back <= at - begin; ++back)
-    if (!utUtf8::is_continuation(at[-back]))
-      return static_cast<std::ptrdiff_t>(utUtf8::length_from_first(at[-back])) > back ? at - back : at;
-  return at;
 }
 
 // The bytes of a chunk as so many blocks.
@@ -109,52 +97,8 @@ private:
   char const* at;
 };
 
-#if defined(AP_HAS_AVX2)
-// The same as two vectors of AVX2.
-class Halves
-{
-public:
-  __attribute__((target("avx2,popcnt"))) explicit Halves(char const* from) noexcept
-    : first(_mm256_loadu_si256(reinterpret_cast<__m256i const*>(from))),
-      second(_mm256_loadu_si256(reinterpret_cast<__m256i const*>(from) + 1))
-  {
-  }
-
-  __attribute__((target("avx2,popcnt"))) bool is_ascii_text() const noexcept
-  {
-    // Compared as signed numbers, what is no ASCII is less than 1, as zero is.
-    __m256i const least = _mm256_min_epi8(first, second);
-    return _mm256_movemask_epi8(_mm256_cmpgt_epi8(_mm256_set1_epi8(1), least)) == 0;
-  }
-
-  __attribute__((target("avx2,popcnt"))) std::uint64_t is(char c) const noexcept
-  {
-    __m256i const wanted = _mm256_set1_epi8(c);
-    return bits_of(_mm256_cmpeq_epi8(first, wanted), _mm256_cmpeq_epi8(second, wanted));
-  }
-
-  __attribute__((target("avx2,popcnt"))) std::uint64_t is_at_least(char c) const noexcept
-  {
-    __m256i const least = _mm256_set1_epi8(c);
-    return bits_of(_mm256_cmpeq_epi8(_mm256_max_epu8(first, least), first),
-      _mm256_cmpeq_epi8(_mm256_max_epu8(second, least), second));
-  }
-
-private:
-  __attribute__((target("avx2,popcnt"))) static std::uint64_t bits_of(__m256i low, __m256i high) noexcept
-  {
-    return static_cast<std::uint32_t>(_mm256_movemask_epi8(low)) |
-           static_cast<std::uint64_t>(static_cast<std::uint32_t>(_mm256_movemask_epi8(high))) << 32;
-  }
-
-  __m256i first;
-  __m256i second;
-};
-#endif
-
-// What has Bytes is compiled into who calls it, so that vectors which only some processors have stay in functions for these.
 template <class Bytes>
-[[gnu::always_inline]] inline Chunk chunk_of(Bytes const& bytes, Chunk const& before) noexcept
+Chunk chunk_of(Bytes const& bytes, Chunk const& before) noexcept
 {
   Chunk made;
   made.beyond_ascii = bytes.is_at_least('\x80');
@@ -180,11 +124,11 @@ template <class Bytes>
 }
 
 template <class Bytes>
-[[gnu::always_inline]] inline char const* skip_by(char const* at, char const* end, Seen& seen) noexcept
+char const* skip_by(char const* at, char const* end, Seen& seen) noexcept
 {
   char const* const begin = at;
   Chunk before;
-  std::uint64_t returns_before = static_cast<std::uint64_t>(seen.ends_with_return) << (chunk - 1);
+  LineEnds lines(seen);
   for (; end - at >= chunk; at += chunk)
   {
     Bytes const bytes(at);
@@ -193,23 +137,12 @@ template <class Bytes>
     if (!is_ascii && !is_well_formed(now, before))
       break;
     seen.has_excluded = seen.has_excluded || has_excluded_character(now, before);
-    std::uint64_t const returns = bytes.is('\r');
-    std::uint64_t const feeds = bytes.is('\n');
-    seen.line_ends += std::bitset<chunk>(returns | (feeds & ~moved(returns, returns_before, 1))).count();
-    returns_before = returns;
+    lines.add(bytes.is('\r'), bytes.is('\n'));
     before = now;
   }
-  // A return before what is given back again is not told: no line feed comes there.
-  seen.ends_with_return = returns_before >> (chunk - 1) != 0;
-  return end_of_whole(begin, at);
+  lines.tell(seen);
+  return axsUtf8Chunks::end_of_whole(begin, at);
 }
-
-#if defined(AP_HAS_AVX2)
-__attribute__((target("avx2,popcnt"))) char const* skip_by_avx2(char const* at, char const* end, Seen& seen) noexcept
-{
-  return skip_by<Halves>(at, end, seen);
-}
-#endif
 }
 
 void Seen::add(char32_t character) noexcept
@@ -233,7 +166,7 @@ axsUtf8Scan::Way axsUtf8Scan::fastest() noexcept
 {
 #if defined(AP_HAS_AVX2)
   if (__builtin_cpu_supports("avx2") != 0 && __builtin_cpu_supports("popcnt") != 0)
-    return skip_by_avx2;
+    return axsUtf8Scan::skip_by_avx2;
 #endif
   return skip_by_blocks;
 }
