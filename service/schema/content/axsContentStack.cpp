@@ -3,6 +3,7 @@
 #include "axsContentAutomaton.h"
 
 #include <algorithm>
+#include <set>
 
 namespace
 {
@@ -87,6 +88,8 @@ axsContentItem const* axsContentStack::step_weak(std::uint32_t symbol, std::uint
 
   axsContentItem const* taker = nullptr;
   std::vector<Frames> after;
+  auto const is_less = [&](std::size_t left, std::size_t right) { return after[left] < after[right]; };
+  std::set<std::size_t, decltype(is_less)> known(is_less);
   for (Frames const& way : before)
   {
     found_moves.clear();
@@ -96,8 +99,11 @@ axsContentItem const* axsContentStack::step_weak(std::uint32_t symbol, std::uint
       Frames next = way;
       axsContentItem const* const item = apply(next, move, symbol, space);
       taker = taker == nullptr ? item : taker;
-      if (std::find(after.begin(), after.end(), next) == after.end() && after.size() < max_ways)
-        after.push_back(std::move(next));
+      if (after.size() == max_ways)
+        continue;
+      after.push_back(std::move(next));
+      if (!known.insert(after.size() - 1).second)
+        after.pop_back();
     }
   }
   if (after.empty())
@@ -120,7 +126,7 @@ void axsContentStack::find_moves(Frames const& from, std::size_t base, std::uint
     auto const count = static_cast<std::uint32_t>(group.items.size());
     bool const has_begun = frame.child != before_first;
     if (has_begun && frame.count < frame.item().max && group.begins(frame.item(), symbol, space) &&
-        (moves.empty() || !is_covered(from, level)))
+        (moves.empty() || !is_covered(from, level, moves.back())))
     {
       moves.push_back({level, frame.child, counted(frame.item(), frame.count)});
       if (!all)
@@ -144,14 +150,21 @@ void axsContentStack::find_moves(Frames const& from, std::size_t base, std::uint
   }
 }
 
-// Whether to begin the item at `level` once more is of no use where the child can be taken further in: that is so when
-// this item has occurred often enough, and those within it are satisfied by occurring once.
-bool axsContentStack::is_covered(Frames const& from, std::size_t level) const
+// Whether to begin the item at `level` once more is of no use where the child can be taken further in, by `inner`. That is
+// so when this item has occurred often enough, and it can still be begun as well a few children later, or need not be: where
+// the items in between are satisfied by occurring once; or, in the group right below, the item that goes on leaves enough of
+// its occurrences for a second one that would begin here.
+bool axsContentStack::is_covered(Frames const& from, std::size_t level, Move const& inner)
 {
   if (from[level].count < from[level].item().min)
     return false;
-  return std::all_of(from.begin() + static_cast<std::ptrdiff_t>(level) + 1, from.end(),
-    [](Frame const& frame) { return frame.item().min <= 1; });
+  axsContentItem const& item = from[inner.level].group->items[inner.child];
+  bool const leaves_enough = inner.count - 1 <= item.max - item.min;
+  if (inner.level == level + 1 && leaves_enough)
+    return true;
+  return item.min <= 1 && std::all_of(from.begin() + static_cast<std::ptrdiff_t>(level) + 1,
+                            from.begin() + static_cast<std::ptrdiff_t>(inner.level),
+                            [](Frame const& frame) { return frame.item().min <= 1; });
 }
 
 // Whether what follows in the group may be missing.

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 class axsContentAutomaton;
@@ -48,9 +49,14 @@ private:
 
     axsContentItem const& item() const noexcept { return group->items[child]; }
 
-    friend bool operator==(Frame const& left, Frame const& right) noexcept
+    // In some order, for a set of them.
+    friend bool operator<(Frame const& left, Frame const& right) noexcept
     {
-      return left.group == right.group && left.child == right.child && left.count == right.count;
+      if (left.count != right.count)
+        return left.count < right.count;
+      if (left.child != right.child)
+        return left.child < right.child;
+      return std::less<axsContentGroup const*>()(left.group, right.group);
     }
   };
 
@@ -81,7 +87,7 @@ private:
   axsContentItem const* apply(Frames& to, Move const& move, std::uint32_t symbol, std::uint32_t space);
   bool may_end(Frames const& from, std::size_t base) const;
   bool is_passed(Frame const& frame) const;
-  bool is_covered(Frames const& from, std::size_t level) const;
+  static bool is_covered(Frames const& from, std::size_t level, Move const& inner);
   std::uint32_t find_in_all(Frame const& frame, std::uint32_t symbol, std::uint32_t space) const;
   bool is_seen(std::uint32_t child) const noexcept;
   void enter_all(axsContentGroup const& group);
