@@ -30,7 +30,8 @@
 ///   document whose root is in a namespace that no schema knows loads, but what is declared in it, at any depth, is
 ///   validated. Where a content can be counted in more than 1000 ways at once, as after many a in (a{2,3}, b?){9,5000}, only
 ///   that many are followed. A pattern whose quantifiers multiply to more than 500,000 parts, repeats that can be counted
-///   aside, is refused. Characters have the properties of Unicode 15. Defaults of the schema are not added to the document.
+///   aside, is refused; so is a restriction of a content that has more than 250,000 particles with its groups written out.
+///   Characters have the properties of Unicode 15. Defaults of the schema are not added to the document.
 /// - Errors: the place is the end of what is wrong, of an element that of its start tag. A character beyond U+FFFF counts as
 ///   two columns, a tab as one.
 /// - Save: to a file that takes the place of the target in one step, with its permissions; see apAtomicFile. What was

@@ -145,6 +145,13 @@ void axsGroupCheck::check_restriction(
     restrictions.emplace(*context.models);
   if (restrictions->check(restricted, base))
     return;
+  if (restrictions->has_too_many_parts())
+  {
+    context.errors.add(place, "the content, or that of " + base_words + ", has more than " +
+                                std::to_string(axsParticleRestriction::max_parts) +
+                                " particles, its groups written out: too many to see whether it is a restriction");
+    return;
+  }
   axsParticle const* const culprit = restrictions->culprit();
   std::string const what = culprit == nullptr || culprit->element == nullptr
                              ? std::string()

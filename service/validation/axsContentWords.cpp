@@ -56,7 +56,7 @@ std::vector<std::string> items_of(Expected const& expected, axsKnownName const* 
     items.resize(std::min(items.size(), axsContentWords::max_names - 1));
     items.emplace_back("others");
   }
-  else if (expected.may_end && !items.empty())
+  else if (expected.may_end)
     items.emplace_back("the end of the element");
   return items;
 }

@@ -316,9 +316,8 @@ bool axsIdentityChecks::has_all_fields(Selection const& selection) const
   if (scope.plan->constraint->category != Category::key)
     return false;
   bool const is_whole = std::all_of(selection.fields.begin(), selection.fields.end(), is_missing);
-  report("element " + quoted(*selection.name) + ": " +
-           (is_whole ? "a key" : "a part of the key '" + scope.plan->constraint->name.local + "'") +
-           " of the element " + quoted(*scope.name) + " has no value",
+  report("element " + quoted(*selection.name) + ": " + (is_whole ? "the key '" : "a part of the key '") +
+           scope.plan->constraint->name.local + "' of the element " + quoted(*scope.name) + " has no value",
     selection.place);
   return false;
 }

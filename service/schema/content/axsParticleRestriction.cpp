@@ -48,6 +48,7 @@ bool allows(axsWildcard const& wildcard, axsElementDecl const& element)
 bool axsParticleRestriction::check(axsParticle const& restricted, axsParticle const& base)
 {
   wrong = nullptr;
+  is_given_up = false;
   bool const is_empty = pointless.is_empty(restricted);
   View const view = view_of(base);
   if (pointless.is_empty(base))
@@ -113,8 +114,9 @@ std::vector<axsParticleRestriction::View> axsParticleRestriction::parts_of(View 
       waiting.push_back(&*particle);
   };
   wait(*view.particle->group);
-  while (!waiting.empty())
+  while (!waiting.empty() && !is_given_up)
   {
+    is_given_up = waiting.size() + parts.size() > max_parts;
     axsParticle const& particle = pointless.innermost(*waiting.back());
     waiting.pop_back();
     if (pointless.is_empty(particle))
@@ -202,7 +204,7 @@ bool axsParticleRestriction::run(View const& restricted, View const& base)
   Answer outcome = begin(restricted, base);
   if (outcome == Answer::no)
     wrong = restricted.particle;
-  while (!tasks.empty())
+  while (!tasks.empty() && !is_given_up)
   {
     View part;
     View base_part;
@@ -221,7 +223,7 @@ bool axsParticleRestriction::run(View const& restricted, View const& base)
     if (outcome != Answer::open && !tasks.empty())
       take(tasks.back(), outcome == Answer::yes);
   }
-  return outcome == Answer::yes;
+  return outcome == Answer::yes && !is_given_up;
 }
 
 axsParticleRestriction::Answer axsParticleRestriction::begin(View const& restricted, View const& base)

@@ -27,11 +27,18 @@ class axsParticleRestriction
 public:
   explicit axsParticleRestriction(axsContentModels& all) : models(all) {}
 
-  /// Whether `restricted` restricts `base`.
+  /// How many particles a group may have, those of groups in it written out. Groups that refer to the next one twice have
+  /// 2^n of them.
+  static constexpr std::size_t max_parts = 250000;
+
+  /// Whether `restricted` restricts `base`; false, too, where either has more than max_parts.
   bool check(axsParticle const& restricted, axsParticle const& base);
 
   /// After a check that was false, the particle that does not fit; null if one is missing.
   axsParticle const* culprit() const noexcept { return wrong; }
+
+  /// Whether the last check was given up for that.
+  bool has_too_many_parts() const noexcept { return is_given_up; }
 
 private:
   enum class Kind : unsigned char
@@ -131,4 +138,5 @@ private:
   using Pair = std::tuple<axsParticle const*, axsParticle const*, bool>;
   std::map<Pair, bool> known;
   axsParticle const* wrong = nullptr;
+  bool is_given_up = false;
 };

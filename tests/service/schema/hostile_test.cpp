@@ -257,3 +257,27 @@ TEST(hostile_schemas, keys_and_prefixes_are_many)
   auto const element = [](int i) { return "<xs:element name='e" + number(i) + "' type='xs:int'/>"; };
   EXPECT_EQ(error_of_schema(repeated(many, element), repeated(many, prefix)), "");
 }
+
+TEST(hostile_schemas, groups_that_refer_to_the_next_one_twice_are_not_written_out_for_ever)
+{
+  auto const with_restriction = [](int levels)
+  {
+    auto const group = [](int i)
+    {
+      std::string const inner = i == 0 ? std::string() : "<xs:group ref='g" + number(i - 1) + "'/>";
+      return "<xs:group name='g" + number(i) + "'><xs:sequence>" + inner + "<xs:element name='e" + number(i) + "'/>" +
+             inner + "</xs:sequence></xs:group>\n";
+    };
+    std::string const last = number(levels - 1);
+    return repeated(levels, group) + in_type("<xs:group ref='g" + last + "'/>") +
+           "<xs:complexType name='d'><xs:complexContent><xs:restriction base='t'><xs:sequence><xs:group ref='g" + last +
+           "' maxOccurs='1'/><xs:element name='n' maxOccurs='0' minOccurs='0'/></xs:sequence></xs:restriction>"
+           "</xs:complexContent></xs:complexType>" +
+           "<xs:complexType name='c'><xs:complexContent><xs:restriction base='t'><xs:sequence><xs:group ref='g" +
+           number(levels - 2) + "'/><xs:element name='e" + last + "'/><xs:group ref='g" + number(levels - 2) +
+           "'/></xs:sequence></xs:restriction></xs:complexContent></xs:complexType>";
+  };
+  EXPECT_EQ(error_of_schema(with_restriction(12)), "");
+  EXPECT_NE(error_of_schema(with_restriction(60)).find("has more than 250000 particles, its groups written out"),
+    std::string::npos);
+}

@@ -46,7 +46,7 @@ TEST(axsIdentityChecks, a_key_has_all_its_fields)
   EXPECT_EQ(schema.wrong("<r><i k='1' l='a'/><i k='1' l='b'/><i k='11' l=''/><i k='1' l='1'/></r>"), "");
   EXPECT_EQ(schema.wrong("<r><i k='1' l='a'/>\n<i k='1.0' l='a'/></r>"),
     "2: element 'i': its key \"1.0\", \"a\" is not unique in the element 'r'; first at line 1\n");
-  EXPECT_EQ(schema.wrong("<r><i/></r>"), "1: element 'i': a key of the element 'r' has no value\n");
+  EXPECT_EQ(schema.wrong("<r><i/></r>"), "1: element 'i': the key 'k' of the element 'r' has no value\n");
   EXPECT_EQ(
     schema.wrong("<r><i k='1'/></r>"), "1: element 'i': a part of the key 'k' of the element 'r' has no value\n");
 }

@@ -430,7 +430,7 @@ TEST(axsContentStack, groups_nested_deeply_are_run)
 {
   std::string open;
   std::string close;
-  for (int i = 0; i < 800; ++i)
+  for (int i = 0; i < 3000; ++i)
   {
     open += "(a" + std::to_string(i) + ",(b|";
     close += "))";
@@ -439,7 +439,7 @@ TEST(axsContentStack, groups_nested_deeply_are_run)
   EXPECT_FALSE(content.problem());
   axsContentStack stack;
   stack.open(content.made_automaton());
-  for (int i = 0; i < 800; ++i)
+  for (int i = 0; i < 3000; ++i)
     ASSERT_NE(content.step(stack, "a" + std::to_string(i)), nullptr);
   EXPECT_NE(content.step(stack, "z"), nullptr);
   EXPECT_TRUE(stack.may_end());
