@@ -98,6 +98,13 @@ axsSimpleType const& axsSimpleTypeReader::named(axsSchemaSymbol& symbol)
 {
   if (symbol.simple_type != nullptr)
     return *symbol.simple_type;
+  // The schema of schemas defines the built-in types, as far as a schema can; they are what they are (Part 2, appendix A).
+  bool const is_of_language = symbol.name().name_space == axsSchemaVocabulary::schema_namespace;
+  if (axsSimpleType const* const type = is_of_language ? axsBuiltInTypes::find(symbol.name().local) : nullptr)
+  {
+    symbol.simple_type = type;
+    return *type;
+  }
   return run(*symbol.unit, *symbol.element, &symbol);
 }
 

@@ -1,5 +1,6 @@
 #include "SchemaFiles.h"
 
+#include <axsBuiltInTypes.h>
 #include <axsComplexType.h>
 #include <axsElementDecl.h>
 #include <axsNamespaceConstraint.h>
@@ -332,6 +333,24 @@ TEST(axsSchemaBuilder, all_groups_are_the_whole_content)
   EXPECT_EQ(
     error_of_schema(all + complex("b", "<xs:group ref='g'/>") + derived("d", "extension", "b", sequence(element("c")))),
     "s.xsd:3: an 'all' group must be the whole content; it may not stand in another group");
+}
+
+// Part 1, appendix A; Part 2, appendix A
+TEST(axsSchemaBuilder, the_schema_of_schemas_may_define_what_is_built_in)
+{
+  std::string const language = "targetNamespace='http://www.w3.org/2001/XMLSchema'";
+  auto const type = [](std::string const& name)
+  {
+    return "<xs:simpleType name='" + name + "'><xs:restriction base='xs:anySimpleType'>" +
+           "<xs:whiteSpace value='preserve'/></xs:restriction></xs:simpleType>";
+  };
+  SchemaFiles files;
+  files.schema("s.xsd", type("string") + "<xs:element name='e' type='xs:string'/>", language);
+  auto const schema = files.compile({"s.xsd"});
+  ASSERT_NE(schema, nullptr) << files.first_error();
+  EXPECT_EQ(schema->element("http://www.w3.org/2001/XMLSchema", "e")->type.simple, &axsBuiltInTypes::get("string"));
+  EXPECT_NE(error_of_schema(type("text"), language), "");
+  EXPECT_NE(error_of_schema(type("string")), "");
 }
 
 TEST(axsSchemaBuilder, contents_are_unambiguous_and_consistent)
