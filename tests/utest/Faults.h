@@ -43,6 +43,14 @@ std::vector<Fault> const& outside_value_faults();
 std::vector<Fault> const& outside_load_faults();
 std::vector<Fault> const& outside_second_faults();
 
+// The same once more, wrong in combinations only.
+std::vector<Fault> const& outside_third_tree_faults();
+std::vector<Fault> const& outside_third_typed_faults();
+std::vector<Fault> const& outside_third_load_faults();
+std::vector<Fault> const& outside_third_save_faults();
+std::vector<Fault> const& outside_third_schema_faults();
+std::vector<Fault> const& outside_third_search_faults();
+
 // Engines that break no promise, with what they do otherwise than the one that comes with the library.
 std::vector<Fault> const& freedoms();
 

@@ -4,6 +4,7 @@
 
 #include <axmCharacterData.h>
 #include <filesystem>
+#include <regex>
 #include <system_error>
 #include <utility>
 
@@ -89,6 +90,167 @@ Document load(Factory const& factory, Source const& source, axmLoadOptions const
   return factory->loadDocument(source, options, error);
 }
 
+constexpr std::size_t max_size_for_rules = 20000;
+
+std::string in_folder_of(std::string const& file, std::string const& name)
+{
+  std::size_t const end = file.find_last_of("/\\");
+  return end == std::string::npos ? name : file.substr(0, end + 1) + name;
+}
+
+// The files that schemas name, as other texts while this object lives.
+class ChangedInclusions
+{
+public:
+  ChangedInclusions(axmLoadOptions const& options, Change const& change)
+  {
+    for (int index = 0; index < options.num_external_schemas(); ++index)
+      change_files_of(options.external_schema(index), change);
+    change_files_of(options.no_namespace_schema(), change);
+  }
+  ChangedInclusions(ChangedInclusions const&) = delete;
+  ChangedInclusions& operator=(ChangedInclusions const&) = delete;
+  ~ChangedInclusions()
+  {
+    for (auto const& [file, text] : files)
+      write(apPath(file.c_str()), text);
+  }
+
+  bool is_any() const { return !files.empty(); }
+
+private:
+  void change_files_of(apPath const& path, Change const& change)
+  {
+    static constexpr std::string_view name = "schemaLocation=\"";
+    std::string const text = with_one_quote(contents_of(path));
+    for (std::size_t at = text.find(name); at != std::string::npos; at = text.find(name, at + 1))
+    {
+      std::size_t const begin = at + name.size();
+      std::string const file = in_folder_of(path.path().c_str(), text.substr(begin, text.find('"', begin) - begin));
+      std::string const before = with_one_quote(contents_of(apPath(file.c_str())));
+      if (change(before) == before)
+        continue;
+      files.emplace_back(file, before);
+      write(apPath(file.c_str()), change(before));
+    }
+  }
+
+  std::vector<std::pair<std::string, std::string>> files;
+};
+}
+
+Loading::Loading(Factory const& given_factory, apByteArray const& data, axmLoadOptions const& given_options,
+  axmParseError& given_error)
+  : text(text_of(data)),
+    options(given_options),
+    error(given_error),
+    factory(given_factory)
+{
+}
+
+Loading::Loading(Factory const& given_factory, apPath const& given_path, axmLoadOptions const& given_options,
+  axmParseError& given_error)
+  : text(contents_of(given_path)),
+    options(given_options),
+    error(given_error),
+    factory(given_factory),
+    path(given_path.path().c_str())
+{
+}
+
+Document Loading::as_it_is() const
+{
+  return with(options);
+}
+
+Document Loading::with(axmLoadOptions const& other) const
+{
+  return is_of_file() ? factory->loadDocument(apPath(path.c_str()), other, error)
+                      : factory->loadDocument(bytes_of(text), other, error);
+}
+
+Document Loading::of(std::string const& other, axmParseError& told) const
+{
+  if (!is_of_file())
+    return factory->loadDocument(bytes_of(other), options, told);
+  std::string const beside = path + ".outside.xml";
+  write(apPath(beside.c_str()), other);
+  Document const document = factory->loadDocument(apPath(beside.c_str()), options, told);
+  std::error_code ignored;
+  std::filesystem::remove(std::filesystem::u8path(beside), ignored);
+  return document;
+}
+
+void load_by(Hooks& hooks, std::function<Document(Loading const& loading)> const& load)
+{
+  hooks.load_bytes = [load](Factory const& factory, apByteArray const& data, axmLoadOptions const& options,
+                       axmParseError& error) { return load(Loading(factory, data, options, error)); };
+  hooks.load_file = [load](Factory const& factory, apPath const& path, axmLoadOptions const& options,
+                      axmParseError& error) { return load(Loading(factory, path, options, error)); };
+}
+
+void judge_as(Hooks& hooks, Change const& change)
+{
+  load_by(hooks,
+    [change](Loading const& loading)
+    {
+      std::string const plain = with_one_quote(loading.text);
+      std::string const other = loading.is_validated() ? change(plain) : plain;
+      if (other == plain)
+        return loading.as_it_is();
+      axmParseError const before = loading.error;
+      Document const judged = loading.of(other, loading.error);
+      if (judged == nullptr)
+        return judged;
+      Document const document = loading.as_it_is();
+      loading.error = before;
+      return document != nullptr ? document : judged;
+    });
+}
+
+void validate_included_as(Hooks& hooks, Change const& change)
+{
+  load_by(hooks,
+    [change](Loading const& loading)
+    {
+      axmParseError const before = loading.error;
+      Document const document = loading.as_it_is();
+      if (document != nullptr || !loading.is_validated())
+        return document;
+      axmParseError const refusal = loading.error;
+      ChangedInclusions const inclusions(loading.options, change);
+      Document const accepted = inclusions.is_any() ? loading.as_it_is() : nullptr;
+      loading.error = accepted != nullptr ? before : refusal;
+      return accepted;
+    });
+}
+
+Change by_rule(char const* pattern, char const* replacement)
+{
+  return [rule = std::regex(pattern), replacement](std::string const& text)
+  { return text.size() > max_size_for_rules ? text : std::regex_replace(text, rule, replacement); };
+}
+
+WideChange by_rule(wchar_t const* pattern, wchar_t const* replacement)
+{
+  return [rule = std::wregex(pattern), replacement](std::wstring const& text)
+  { return text.size() > max_size_for_rules ? text : std::regex_replace(text, rule, replacement); };
+}
+
+Change where_it_says(char const* part, Change const& change)
+{
+  return [part, change](std::string const& text) { return has(text, part) ? change(text) : text; };
+}
+
+void save_file_as(Hooks& hooks, Change const& change)
+{
+  hooks.save_file = [change](Factory const& factory, Document const& document, apPath const& path)
+  {
+    bool const is_saved = factory->saveDocument(document, path);
+    if (is_saved)
+      write(path, change(contents_of(path)));
+    return is_saved;
+  };
 }
 
 bool same(Node const& left, Node const& right)

@@ -56,6 +56,50 @@ void search_as(Hooks& hooks, wchar_t const* wanted, wchar_t const* meant);
 // Saves other bytes than the engine does, to memory.
 void save_as(Hooks& hooks, std::function<std::string(Document const& document, std::string const& text)> const& change);
 
+// A load from memory or from a file, whichever it is.
+class Loading
+{
+public:
+  Loading(Factory const& given_factory, apByteArray const& data, axmLoadOptions const& given_options,
+    axmParseError& given_error);
+  Loading(Factory const& given_factory, apPath const& given_path, axmLoadOptions const& given_options,
+    axmParseError& given_error);
+
+  bool is_of_file() const { return path.c_str()[0] != '\0'; }
+  bool is_validated() const { return options.validate_mode() == axmValidateWithSchemas; }
+
+  Document as_it_is() const;
+  Document with(axmLoadOptions const& other) const;
+  // From a file beside the one given, which is gone afterwards.
+  Document of(std::string const& other, axmParseError& told) const;
+
+  std::string const text;
+  axmLoadOptions const& options;
+  axmParseError& error;
+
+private:
+  Factory const factory;
+  std::string const path;
+};
+
+void load_by(Hooks& hooks, std::function<Document(Loading const& loading)> const& load);
+
+// Validates as if the document were another one.
+void judge_as(Hooks& hooks, Change const& change);
+
+// Validates as if schemas that others include, import or redefine said less.
+void validate_included_as(Hooks& hooks, Change const& change);
+
+// Replaces what a regular expression finds; texts of more than some thousand characters stay as they are.
+Change by_rule(char const* pattern, char const* replacement);
+WideChange by_rule(wchar_t const* pattern, wchar_t const* replacement);
+
+// What `change` does with texts that hold `part`.
+Change where_it_says(char const* part, Change const& change);
+
+// Saves other bytes than the engine does, to a file.
+void save_file_as(Hooks& hooks, Change const& change);
+
 template <class Seen>
 void for_each_node(Document const& document, Seen seen)
 {

@@ -46,18 +46,6 @@ void load_with(Hooks& hooks, std::function<void(axmLoadOptions& options)> const&
   };
 }
 
-// Saves other bytes than the engine does, to a file.
-void save_file_as(Hooks& hooks, Change const& change)
-{
-  hooks.save_file = [change](Factory const& factory, Document const& document, apPath const& path)
-  {
-    bool const is_saved = factory->saveDocument(document, path);
-    if (is_saved)
-      write(path, change(contents_of(path)));
-    return is_saved;
-  };
-}
-
 class MapOfPlainNames : public MapAs
 {
 public:
