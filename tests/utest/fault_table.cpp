@@ -1,8 +1,9 @@
 // Writes the table of the faulty engines and of what sees them, as faults.txt holds it. An argument is a part of the names
 // of the faults wanted, or one list of them: --fixed, those that the checks written by hand see; --subtle, those that only
 // the generated cases see; --promises, those read off the headers; --rules, those against what the headers refer to; --held,
-// those of what is held, deep, large or rare; --outside, those of somebody who does not know the suite, --third, those of them that show in
-// combinations only, of both of which a second argument chooses. --freedoms writes the engines that break nothing, which nothing sees.
+// those of what is held, deep, large or rare; --outside, those of somebody who does not know the suite, of which a second
+// argument chooses; --third-trees, --third-loads, --third-rules, those of them that show in combinations only.
+// --freedoms writes the engines that break nothing, which nothing sees.
 
 #include "Faults.h"
 #include "SuiteRun.h"
@@ -49,15 +50,20 @@ int main(int argc, char** argv)
     write(outside_load_faults(), run_all_classes, chosen);
     write(outside_second_faults(), run_drawn_first, chosen);
   }
-  if (is_every || first == "--third")
+  if (is_every || first == "--third-trees")
   {
-    char const* const chosen = is_every ? wanted : (argc > 2 ? argv[2] : nullptr);
-    write(outside_third_tree_faults(), run_drawn_first, chosen);
-    write(outside_third_typed_faults(), run_all_classes, chosen);
-    write(outside_third_load_faults(), run_all_classes, chosen);
-    write(outside_third_save_faults(), run_drawn_first, chosen);
-    write(outside_third_schema_faults(), run_all_classes, chosen);
-    write(outside_third_search_faults(), run_all_classes, chosen);
+    write(outside_third_tree_faults(), run_drawn_first, wanted);
+    write(outside_third_typed_faults(), run_all_classes, wanted);
+  }
+  if (is_every || first == "--third-loads")
+  {
+    write(outside_third_load_faults(), run_all_classes, wanted);
+    write(outside_third_save_faults(), run_drawn_first, wanted);
+  }
+  if (is_every || first == "--third-rules")
+  {
+    write(outside_third_schema_faults(), run_all_classes, wanted);
+    write(outside_third_search_faults(), run_all_classes, wanted);
   }
   if (first == "--freedoms")
     write(freedoms(), run_all_classes, nullptr);

@@ -154,6 +154,89 @@ std::string with_line_at_end(std::string const& text)
   return text + "\n";
 }
 
+std::string with_lines_of_two(std::string const& text)
+{
+  return with(text, "\n", "\r\n");
+}
+
+// What stands in the tags and between them, the tags changed by `change`.
+std::string with_tags_as(std::string const& text, std::string (*change)(std::string const& tag))
+{
+  if (holds_markup_of_others(text) || text.find("<!") != std::string::npos)
+    return text;
+  std::string result;
+  std::size_t done = 0;
+  for (std::size_t begin = text.find('<', 2); begin != std::string::npos; begin = text.find('<', done))
+  {
+    std::size_t end = begin;
+    for (char quote = 0; end < text.size() && (text[end] != '>' || quote != 0); ++end)
+      if (quote == 0 ? (text[end] == '"' || text[end] == '\'') : text[end] == quote)
+        quote = quote == 0 ? text[end] : '\0';
+    result += text.substr(done, begin - done) + change(text.substr(begin, end + 1 - begin));
+    done = end + 1;
+  }
+  return result + text.substr(done);
+}
+
+std::string with_two_tags(std::string const& tag)
+{
+  if (tag.size() < 4 || tag.substr(tag.size() - 2) != "/>")
+    return tag;
+  return tag.substr(0, tag.size() - 2) + "></" + tag.substr(1, tag.find_first_of(" \t\n/") - 1) + ">";
+}
+
+std::string with_apostrophes(std::string const& tag)
+{
+  return tag.find('\'') == std::string::npos ? with(tag, "\"", "'") : tag;
+}
+
+std::string with_two_tags_each(std::string const& text)
+{
+  return with_tags_as(text, with_two_tags);
+}
+
+std::string with_other_quotes(std::string const& text)
+{
+  return with_tags_as(text, with_apostrophes);
+}
+
+std::string with_short_declaration(std::string const& text)
+{
+  std::size_t const end = text.find("?>");
+  return text.substr(0, 5) == "<?xml" && end != std::string::npos ? "<?xml version='1.0'?>" + text.substr(end + 2)
+                                                                  : text;
+}
+
+// Columns in the units of UTF-16.
+void count_in_halves(std::string const& text, axmParseError& error)
+{
+  std::size_t begin = 0;
+  for (int line = 1; line < error.line_number() && begin != std::string::npos; ++line)
+    begin = std::min(text.find('\n', begin), text.size()) + 1;
+  int units = 0;
+  int more = 0;
+  for (std::size_t at = begin; at < text.size() && units < error.column_number() - 1; ++at)
+  {
+    bool const is_long = static_cast<unsigned char>(text[at]) >= 0xF0;
+    units += (static_cast<unsigned char>(text[at]) & 0xC0) != 0x80 ? 1 : 0;
+    more += is_long ? 1 : 0;
+  }
+  error.set_column_number(error.column_number() + more);
+}
+
+// A replacement of an attribute by itself replaces nothing.
+class MapWithoutRepeats : public MapAs
+{
+public:
+  using MapAs::MapAs;
+  Node setNamedItem(Node node) override
+  {
+    Node const present = node != nullptr ? map->getNamedItem(node->getNodeName()) : nullptr;
+    bool const is_there = present != nullptr && *present == *node;
+    return is_there ? nullptr : map->setNamedItem(node);
+  }
+};
+
 bool is_name_start(wchar_t character)
 {
   return (character >= L'a' && character <= L'z') || (character >= L'A' && character <= L'Z') || character == L'_' ||
@@ -274,6 +357,46 @@ std::vector<Fault> const& freedoms()
     {"saveDocument", "empty elements have a blank before their end",
       [](Hooks& h) { save_as(h, with_blank_before_end); }},
     {"saveDocument", "a line end follows the document", [](Hooks& h) { save_as(h, with_line_at_end); }},
+    {"saveDocument", "empty elements have two tags", [](Hooks& h) { save_as(h, with_two_tags_each); }},
+    {"saveDocument", "values of attributes stand between apostrophes", [](Hooks& h) { save_as(h, with_other_quotes); }},
+    {"saveDocument", "the declaration tells no encoding", [](Hooks& h) { save_as(h, with_short_declaration); }},
+    {"saveDocument", "line ends have two characters", [](Hooks& h) { save_as(h, with_lines_of_two); }},
+    {"insertBefore", "a node before itself is refused",
+      [](Hooks& h)
+      {
+        h.insert = [](Node const& n, Node const& child, Node const& before)
+        {
+          bool const is_one = child != nullptr && before != nullptr && *child == *before;
+          return is_one ? nullptr : n->insertBefore(child, before);
+        };
+      }},
+    {"axmNamedNodeMap::setNamedItem", "one that is there already replaces nothing",
+      [](Hooks& h) { h.map = [](Map const& map) { return std::make_shared<MapWithoutRepeats>(map); }; }},
+    {"createComment", "half a surrogate is refused",
+      [](Hooks& h)
+      {
+        h.create_comment = [](Document const& d, apString const& data) -> Node
+        {
+          if (apString::from_utf8(data.to_utf8().c_str()) != data && data.find(apString(L"\0", 1)) < 0)
+            return nullptr;
+          return d->createComment(data);
+        };
+      }},
+    {"loadDocument", "columns are counted in halves of characters",
+      [](Hooks& h)
+      {
+        h.load_bytes =
+          [](Factory const& factory, apByteArray const& data, axmLoadOptions const& options, axmParseError& error)
+        {
+          Document const document = factory->loadDocument(data, options, error);
+          std::string const text = text_of(data);
+          bool const is_plain = text.find_first_of(std::string("\r\0", 2)) == std::string::npos &&
+                                text.find("encoding") == std::string::npos;
+          if (document == nullptr && error.url().empty() && is_plain)
+            count_in_halves(text, error);
+          return document;
+        };
+      }},
     {"set_attribute", "a name that is none is told of",
       [](Hooks& h)
       {

@@ -160,7 +160,7 @@ std::vector<Fault> const& outside_third_schema_faults()
               has(loading.text, "noNamespaceSchemaLocation=") || has(loading.text, ":schemaLocation=");
             bool const is_wrong = loading.is_validated() && has_hint && loading.options.num_external_schemas() == 0;
             return is_wrong && loading.options.no_namespace_schema().path().c_str()[0] == 0 ? refused(loading.error)
-                                                                                       : loading.as_it_is();
+                                                                                            : loading.as_it_is();
           });
       }},
     {"loadDocument", "the schema of no namespace is not asked where there are two others",
