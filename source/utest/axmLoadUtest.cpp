@@ -9,6 +9,7 @@
 #include "axmUtestUtils.h"
 #include "axmXmlTables.h"
 #include "model/axmModelRandom.h"
+#include "model/axmModelText.h"
 
 #include <utUnitTest.h>
 
@@ -195,6 +196,10 @@ void axmLoadUtest::test_entity_limits(Factory const& factory) const
     {"<r k='&c;' l='&b;'/>", 10, "nested ones in attributes"},
     {"<r k='&a;'>&a;</r>", 2, "in an attribute and a text"},
     {"<r>&m;&m;</r>", 2, "entities that hold elements"},
+    {"<!--&a;--><r><!--&a; &b;--></r><!--&a;-->", 0, "comments"},
+    {"<?p &a;?><r><?p &a;&b;?></r>", 0, "instructions"},
+    {"<r><![CDATA[&a;&b;]]>&amp;a;</r>", 0, "texts that look like references"},
+    {"<r k='&amp;a;' l='&#38;b;'>&#38;c;<!--&a;-->&a;<?p &a;?></r>", 1, "one among those"},
   };
   for (auto const& [content, expansions, description] : cases)
   {
@@ -851,6 +856,47 @@ void axmLoadUtest::test_large_documents(Factory const& factory) const
   }
 }
 
+namespace
+{
+// The beginnings of documents with line ends, as newlines, wherever there can be some.
+char const* const with_lines[] = {"<?xml version='1.0'\n?><r>", "<?xml\nversion\n=\n'1.0'?>\n<r>", "\n<r>",
+  "<?p\nq?><r>", "<?p q\n\n?>\n<r>", "<!--\na\n-->\n<r>", "<!DOCTYPE\nr\n>\n<r>", "<!DOCTYPE r [\n\n]\n><r>",
+  "<!DOCTYPE r [<!ENTITY\ne\n'a\nb'\n>]><r>", "<!DOCTYPE r [<!ENTITY e 'a\nb'>]><r k='&e;'>&e;",
+  "<!DOCTYPE r [<!--\n--><?p\nq\n?>]><r>", "<!DOCTYPE r [<!ATTLIST r\nk CDATA\n'a\nb'>]><r>",
+  "<!DOCTYPE r [<!ELEMENT r\n(a\n|\nb)\n>]><r>", "<!DOCTYPE r [<!ENTITY % p\n'\n'>\n%p;]><r>", "<r\n>", "<r\nk='1'\n>",
+  "<r k='\n'>", "<r k='a\n\nb'\nl='\n'>", "<r\nk\n=\n'1'\n>", "<r><a\n/>", "<r><a\nk='\n'/>", "<r><a>\n</a\n>", "<r>\n",
+  "<r>a\nb\n\nc", "<r>a\n&#10;b&#13;c\n", "<r>&amp;\n&lt;\n", "<r><![CDATA[\na\n]]>\n", "<r><!--\na\n-->\n",
+  "<r><?p\nq\n?>\n", "<r><a>\n<b>\n</b>\n</a>\n"};
+
+// Whether an error in the line after each of them is told there, with every kind of line end and of quotes.
+bool are_lines_counted(utUnitTest& tester, Factory const& factory)
+{
+  bool are_right = true;
+  for (char const* const beginning : with_lines)
+    for (char const* const line_end : {"\n", "\r\n", "\r"})
+      for (char const quote : {'\'', '"'})
+      {
+        std::string text;
+        int line = 1;
+        for (char const character : std::string(beginning) + "\n")
+        {
+          line += character == '\n' ? 1 : 0;
+          text += character == '\n' ? std::string(line_end) : std::string(1, character == '\'' ? quote : character);
+        }
+        text += "</wrong>";
+        for (Load const& load : {load_of(factory, text), load_of_file(factory, text)})
+        {
+          int const told = load.error.line_number();
+          if (fails(load) && (told == -1 || told == line))
+            continue;
+          tester.printf("line %d, not %d: %s", told, line, axmModelText::quoted(apString(text.c_str()).view()).c_str());
+          are_right = false;
+        }
+      }
+  return are_right;
+}
+}
+
 void axmLoadUtest::test_places(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmLoadUtest::test_places");
@@ -900,6 +946,8 @@ void axmLoadUtest::test_places(Factory const& factory) const
       int const column = load.error.column_number();
       group.check(column == -1 || (first <= column && column <= last), "error.column_number()", __LINE__, description);
     }
+  group.check(are_lines_counted(*tester, factory), "error.line_number()", __LINE__,
+    "a line end of any kind counts wherever there can be one");
   for (char const* const text : {"<r></s>", "<r k=1/>", "<?xml version='1.0'?><r>&x;</r>"})
   {
     axmParseError const plain = load_of(factory, text).error;

@@ -1,7 +1,12 @@
 #include "axmSchemaUtest.h"
 
+#include "axmSchemaDraw.h"
 #include "axmSchemaTables.h"
 #include "axmUtestAccess.h"
+
+#include <utUnitTest.h>
+
+#include <string>
 
 using namespace axmSchemaTables;
 
@@ -100,6 +105,33 @@ bool are_judged_in_namespace(utUnitTest& tester, axmDocumentFactory const& facto
 }
 }
 
+namespace
+{
+// Whether local names are looked for where the schema says they are, and nowhere else.
+bool are_forms_kept(utUnitTest& tester, axmDocumentFactory const& factory)
+{
+  bool are_right = true;
+  for (auto const& [text, is_element_qualified, is_attribute_qualified] : axmSchemaDraw::forms())
+  {
+    SchemaFile const schema("forms", text);
+    axmLoadOptions options(axmValidateWithSchemas);
+    options.add_external_schema(APSTRING("urn:o"), schema.path);
+    for (bool const is_element_prefixed : {false, true})
+      for (bool const is_attribute_prefixed : {false, true})
+      {
+        std::string const document = std::string("<o:r xmlns:o='urn:o' ") + (is_attribute_prefixed ? "o:a" : "a") +
+                                     "=''>" + (is_element_prefixed ? "<o:e/>" : "<e/>") + "</o:r>";
+        bool const is_valid =
+          is_element_prefixed == is_element_qualified && is_attribute_prefixed == is_attribute_qualified;
+        are_right = is_judged(tester, factory, options, document, is_valid) && are_right;
+      }
+    if (!are_right)
+      tester.printf("under the schema %s", text.c_str());
+  }
+  return are_right;
+}
+}
+
 void axmSchemaUtest::test_modules(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmSchemaUtest::test_modules");
@@ -167,6 +199,7 @@ void axmSchemaUtest::test_modules(Factory const& factory) const
   for (auto const& [document, is_valid] : local)
     group.check(is_judged(*tester, *factory, in_namespace, document, is_valid), all_are_judged, __LINE__,
       "local names are in no namespace unless the schema says so");
+  group.check(are_forms_kept(*tester, *factory), all_are_judged, __LINE__, "every form of local names");
   group.check(are_judged_in_namespace(*tester, *factory), all_are_judged, __LINE__,
     "declarations, wildcards, types and keys of a target namespace");
 }

@@ -1,8 +1,10 @@
+#include "axmSchemaDraw.h"
 #include "axmSchemaTables.h"
 #include "axmSchemaUtest.h"
 #include "axmUtestGroup.h"
 
 #include <string>
+#include <vector>
 
 using namespace axmSchemaTables;
 
@@ -295,6 +297,11 @@ void axmSchemaUtest::test_contents(std::shared_ptr<axmDocumentFactory> const& fa
 {
   axmUtestGroup const group(tester, file, "axmSchemaUtest::test_contents");
   check_cases(group, *tester, *factory, content_cases());
+  bool are_right = true;
+  for (std::vector<Rule> const& rules : {axmSchemaDraw::contents(), axmSchemaDraw::groups_of_all()})
+    for (Rule const& rule : rules)
+      are_right = are_right && is_kept(*tester, *factory, rule);
+  group.check(are_right, all_are_judged, __LINE__, "every short row of elements, of contents that are drawn");
 }
 
 void axmSchemaUtest::test_attributes(std::shared_ptr<axmDocumentFactory> const& factory) const
@@ -307,4 +314,6 @@ void axmSchemaUtest::test_derivation(std::shared_ptr<axmDocumentFactory> const& 
 {
   axmUtestGroup const group(tester, file, "axmSchemaUtest::test_derivation");
   check_cases(group, *tester, *factory, derivation_cases());
+  group.check(is_kept(*tester, *factory, axmSchemaDraw::nils()), all_are_judged, __LINE__,
+    "elements that are nil or not, with every content");
 }

@@ -22,10 +22,11 @@ struct Taken
 // is what stands in a document type. It ends after a number of nodes that no check comes near.
 std::string shape_of(axmUtestAccess::Node const& top);
 
-// Whether the document is loaded, from memory and from a file, with no error and with that shape; if not, it is told.
+// Whether the document is loaded with no error and with that shape, from memory and from a file, in other encodings, with
+// other quotes and line ends, with validation that has no schema; if not, it is told.
 bool is_taken(utUnitTest& tester, axmDocumentFactory const& factory, Taken const& taken);
 
-// Whether it fails in both ways with an error; if not, it is told.
+// Whether it fails in all these ways with an error; if not, it is told.
 bool is_refused(utUnitTest& tester, axmDocumentFactory const& factory, char const* text);
 
 template <std::size_t Count>

@@ -114,24 +114,42 @@ namespace
 constexpr int few_rounds = 40;
 constexpr int more_rounds = 400;
 
-// The classes whose checks are written by hand stand before this one, those whose cases are drawn or generated from it on.
+// In the order of the suite, the classes whose checks are written by hand come before this one, those that go through tables
+// from it on, and those whose cases are drawn from the other one on.
 char const first_generated[] = "axmLoadUtest";
+char const first_drawn[] = "axmTypedUtest";
+
+// The classes from one to before another, to all of them where a name is none.
+void run_classes(
+  utUnitTest& tester, Factory const& factory, std::string const& first, std::string const& end, int rounds)
+{
+  std::vector<std::string> const all = conform_class_names();
+  auto const begin = first.empty() ? all.begin() : std::find(all.begin(), all.end(), first);
+  ConformSelection selection;
+  selection.classes = {begin, std::find(all.begin(), all.end(), end)};
+  selection.rounds = rounds;
+  run_conform_classes(selection, &tester, factory);
+}
 
 void run_fixed(utUnitTest& tester, Factory const& factory)
 {
-  std::vector<std::string> const all = conform_class_names();
-  ConformSelection fixed;
-  fixed.classes = {all.begin(), std::find(all.begin(), all.end(), first_generated)};
-  run_conform_classes(fixed, &tester, factory);
+  run_classes(tester, factory, "", first_generated, few_rounds);
+}
+
+void run_tables(utUnitTest& tester, Factory const& factory)
+{
+  run_classes(tester, factory, first_generated, first_drawn, few_rounds);
+}
+
+void run_drawn(utUnitTest& tester, Factory const& factory, int rounds)
+{
+  run_classes(tester, factory, first_drawn, "", rounds);
 }
 
 void run_generated(utUnitTest& tester, Factory const& factory, int rounds)
 {
-  std::vector<std::string> const all = conform_class_names();
-  ConformSelection generated;
-  generated.classes = {std::find(all.begin(), all.end(), first_generated), all.end()};
-  generated.rounds = rounds;
-  run_conform_classes(generated, &tester, factory);
+  run_tables(tester, factory);
+  run_drawn(tester, factory, rounds);
 }
 
 // What `run` reports.
@@ -226,6 +244,34 @@ std::vector<Check> run_generated_classes(Factory const& factory)
       break;
   }
   return checks;
+}
+
+std::vector<Check> run_until_seen(Factory const& factory)
+{
+  return recorded(
+    [&](utUnitTest& tester, Recorder const& recorder)
+    {
+      UpToFailure const listener(recorder.checks);
+      run_tables(tester, factory);
+      run_fixed(tester, factory);
+      run_drawn(tester, factory, few_rounds);
+      run_drawn(tester, factory, more_rounds);
+    });
+}
+
+std::vector<Check> run_rules_until_seen(Factory const& factory)
+{
+  return recorded(
+    [&](utUnitTest& tester, Recorder const& recorder)
+    {
+      UpToFailure const listener(recorder.checks);
+      axmSchemaUtest(&tester).run_tests(factory);
+      axmXPathUtest(&tester).run_tests(factory);
+      axmSearchUtest(&tester, axmModelUtest::default_seed, more_rounds).run_tests(factory);
+      axmLoadUtest(&tester).run_tests(factory);
+      axmXmlUtest(&tester).run_tests(factory);
+      run_fixed(tester, factory);
+    });
 }
 
 std::vector<Check> run_drawn_first(Factory const& factory)

@@ -39,6 +39,11 @@ std::vector<Check> run_all_classes(Factory const& factory);
 // The same, but before them what the model draws, and only that where it sees something.
 std::vector<Check> run_drawn_first(Factory const& factory);
 
+// All classes up to the first group with a failed check; for faults of validating and searching, without those that only
+// edit.
+std::vector<Check> run_until_seen(Factory const& factory);
+std::vector<Check> run_rules_until_seen(Factory const& factory);
+
 // Only the groups named, with more rounds of what is drawn where few show nothing.
 std::vector<Check> run_groups(Factory const& factory, std::set<std::string> const& groups);
 

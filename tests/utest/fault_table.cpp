@@ -52,18 +52,18 @@ int main(int argc, char** argv)
   }
   if (is_every || first == "--third-trees")
   {
-    write(outside_third_tree_faults(), run_drawn_first, wanted);
-    write(outside_third_typed_faults(), run_all_classes, wanted);
+    write(outside_third_tree_faults(), run_until_seen, wanted);
+    write(outside_third_typed_faults(), run_until_seen, wanted);
   }
   if (is_every || first == "--third-loads")
   {
-    write(outside_third_load_faults(), run_all_classes, wanted);
-    write(outside_third_save_faults(), run_drawn_first, wanted);
+    write(outside_third_load_faults(), run_until_seen, wanted);
+    write(outside_third_save_faults(), run_until_seen, wanted);
   }
   if (is_every || first == "--third-rules")
   {
-    write(outside_third_schema_faults(), run_all_classes, wanted);
-    write(outside_third_search_faults(), run_all_classes, wanted);
+    write(outside_third_schema_faults(), run_rules_until_seen, wanted);
+    write(outside_third_search_faults(), run_rules_until_seen, wanted);
   }
   if (first == "--freedoms")
     write(freedoms(), run_all_classes, nullptr);

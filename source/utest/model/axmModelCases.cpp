@@ -86,8 +86,13 @@ public:
 
   void add_attribute(wchar_t const* name, wchar_t const* value, Action action = Action::set_attribute)
   {
+    add_attribute_of(root, name, value, action);
+  }
+
+  void add_attribute_of(int of, wchar_t const* name, wchar_t const* value, Action action = Action::set_attribute)
+  {
     axmModelStep& step = add(action);
-    step.a = root;
+    step.a = of;
     step.name = name;
     step.text = value;
   }
@@ -152,6 +157,89 @@ int number_of_instructions(Kind const (&nodes)[3])
 }
 }
 
+namespace
+{
+// The slots of a family: three children of one parent, and one of another.
+enum FamilySlot
+{
+  eldest = 2,
+  middle,
+  youngest,
+  stranger,
+  here,
+  there
+};
+
+int const members[] = {eldest, middle, youngest, stranger};
+
+// An edit of a family: the operation, the parent that it is one of, and the children.
+struct FamilyEdit
+{
+  Action action;
+  int of;
+  int b;
+  int c;
+};
+
+// Every one that can be asked for, that of a child and itself left out.
+std::vector<FamilyEdit> family_edits()
+{
+  std::vector<FamilyEdit> found;
+  for (int const of : {static_cast<int>(here), static_cast<int>(there)})
+    for (int const b : members)
+    {
+      found.push_back({Action::remove, of, b, none});
+      found.push_back({Action::append, of, b, none});
+      for (int const c : members)
+        if (b != c)
+          for (Action const action : {Action::insert, Action::replace})
+            found.push_back({action, of, b, c});
+    }
+  return found;
+}
+
+// Elements have an attribute of a prefix and a child, so that what moves with them shows.
+Steps family(int number, Kind const (&nodes)[4], FamilyEdit const& edit)
+{
+  Sequence made(number);
+  for (Kind const& kind : nodes)
+    made.add_node(kind);
+  made.add_node({Action::create_element, L""});
+  made.add_node({Action::create_element, L""});
+  for (int const child : {eldest, middle, youngest})
+    made.add_edit(Action::append, here, child, none);
+  made.add_edit(Action::append, there, stranger, none);
+  made.add_edit(Action::append, root, here, none);
+  for (int index = 0; index < 4; ++index)
+    if (nodes[index].action == Action::create_element)
+    {
+      made.add_attribute_of(members[index], L"xml:k", L"v");
+      made.add_node({Action::create_comment, L"c"});
+      made.add_edit(Action::append, members[index], made.last(), none);
+    }
+  made.add_edit(edit.action, edit.of, edit.b, edit.c);
+  return made.steps;
+}
+
+void add_families(std::vector<Steps>& found, int number)
+{
+  Kind const element = {Action::create_element, L""};
+  Kind const text = {Action::create_text, L"x"};
+  Kind const comment = {Action::create_comment, L"c"};
+  Kind const instruction = {Action::first, L""};
+  std::vector<FamilyEdit> const every_edit = family_edits();
+  for (Kind const& first : {element, text})
+    for (Kind const& second : {element, text, comment, instruction})
+      for (Kind const& third : {element, text})
+        for (Kind const& other : {element, text})
+        {
+          Kind const nodes[] = {first, second, third, other};
+          for (FamilyEdit const& edit : every_edit)
+            found.push_back(family(number, nodes, edit));
+        }
+}
+}
+
 std::vector<Steps> axm_model_neighbours()
 {
   int const number = number_with_instruction();
@@ -167,6 +255,7 @@ std::vector<Steps> axm_model_neighbours()
           for (Edit const& edit : edits)
             found.push_back(sequence(number, nodes, is_document, edit));
       }
+  add_families(found, number);
   return found;
 }
 
