@@ -46,4 +46,8 @@ bool all_are_refused(utUnitTest& tester, axmDocumentFactory const& factory, char
     are_right = is_refused(tester, factory, text) && are_right;
   return are_right;
 }
+
+// Whether what is written with several bytes is loaded as what it is where it lies across a border of blocks of 256 to
+// 65,536 bytes, at each of its bytes; if not, it is told.
+bool are_taken_across_borders(utUnitTest& tester, axmDocumentFactory const& factory);
 }

@@ -897,6 +897,8 @@ void axmXmlUtest::test_texts(Factory const& factory) const
     "texts, line ends and CDATA sections");
   group.check(all_are_refused(*tester, *factory, refused_texts), "everything else fails", __LINE__,
     "texts, line ends and CDATA sections");
+  group.check(are_taken_across_borders(*tester, *factory), "every document is loaded as what it is", __LINE__,
+    "what lies across a border of blocks");
 }
 
 void axmXmlUtest::test_comments(Factory const& factory) const

@@ -195,10 +195,28 @@ std::vector<FamilyEdit> family_edits()
           for (Action const action : {Action::insert, Action::replace})
             found.push_back({action, of, b, c});
     }
+  for (int const of : {static_cast<int>(root), static_cast<int>(here), static_cast<int>(eldest)})
+    found.push_back({Action::set_text, of, none, none});
   return found;
 }
 
-// Elements have an attribute of a prefix and a child, so that what moves with them shows.
+// Gives an element an attribute of a prefix and children, and so an element among them, down to so many levels: what moves
+// with it or loses something shows.
+void fill(Sequence& made, int element, int levels)
+{
+  made.add_attribute_of(element, L"xml:k", L"v");
+  for (int level = 0; level < levels; ++level)
+  {
+    bool const is_last = level + 1 == levels;
+    made.add_node({is_last ? Action::create_text : Action::create_element, L"x"});
+    int const child = made.last();
+    made.add_edit(Action::append, element, child, none);
+    made.add_node({Action::create_comment, L"c"});
+    made.add_edit(Action::append, element, made.last(), none);
+    element = child;
+  }
+}
+
 Steps family(int number, Kind const (&nodes)[4], FamilyEdit const& edit)
 {
   Sequence made(number);
@@ -212,11 +230,7 @@ Steps family(int number, Kind const (&nodes)[4], FamilyEdit const& edit)
   made.add_edit(Action::append, root, here, none);
   for (int index = 0; index < 4; ++index)
     if (nodes[index].action == Action::create_element)
-    {
-      made.add_attribute_of(members[index], L"xml:k", L"v");
-      made.add_node({Action::create_comment, L"c"});
-      made.add_edit(Action::append, members[index], made.last(), none);
-    }
+      fill(made, members[index], index == 0 ? 4 : 1);
   made.add_edit(edit.action, edit.of, edit.b, edit.c);
   return made.steps;
 }
