@@ -88,41 +88,64 @@ std::string written(Particle const& particle)
 
 void draw_occurrence(Particle& particle, axmModelRandom& random)
 {
-  static constexpr int ranges[][2] = {{1, 1}, {1, 1}, {0, 1}, {0, unbounded}, {1, unbounded}, {2, 2}, {0, 2}, {2, 3}};
+  static constexpr int ranges[][2] = {{0, 1}, {0, unbounded}, {1, unbounded}, {2, 2}, {0, 2}, {2, 3}};
   auto const& range = random.one_of(ranges);
   particle.min = range[0];
   particle.max = range[1];
 }
 
-// A group of elements that have each name once, so that an element is always of one particle, and of one more group.
-Particle drawn(axmModelRandom& random)
+// Each of two things there are in a content model of a group in a group.
+struct Shape
+{
+  bool is_choice;
+  bool is_inner_choice;
+  bool is_inner_first;
+  bool is_once;
+  bool is_inner_once;
+};
+
+std::vector<Shape> shapes()
+{
+  std::vector<Shape> found;
+  for (unsigned bits = 0; bits < 32; ++bits)
+    found.push_back({(bits & 1U) != 0, (bits & 2U) != 0, (bits & 4U) != 0, (bits & 8U) != 0, (bits & 16U) != 0});
+  return found;
+}
+
+// Three elements, two of them in the inner group. Each has a name of its own, so that an element is always of one particle.
+Particle drawn(Shape const& shape, axmModelRandom& random)
 {
   Particle top;
-  top.is_choice = random.once_in(2);
-  draw_occurrence(top, random);
+  top.is_choice = shape.is_choice;
+  if (!shape.is_once)
+    draw_occurrence(top, random);
   Particle inner;
-  inner.is_choice = !top.is_choice || random.once_in(3);
-  draw_occurrence(inner, random);
-  int const place = random.below(3);
-  for (char name = 'a'; name <= 'd'; ++name)
+  inner.is_choice = shape.is_inner_choice;
+  if (!shape.is_inner_once)
+    draw_occurrence(inner, random);
+  Particle lone;
+  for (char const name : {'a', 'b', 'c'})
   {
     Particle element;
     element.name = name;
-    draw_occurrence(element, random);
-    bool const is_inner = name - 'a' == place || name - 'a' == place + 1;
-    (is_inner ? inner : top).parts.push_back(element);
-    if (name - 'a' == place + 1)
-      top.parts.push_back(inner);
+    if (random.once_in(2))
+      draw_occurrence(element, random);
+    bool const is_lone = name == (shape.is_inner_first ? 'c' : 'a');
+    if (is_lone)
+      lone = element;
+    else
+      inner.parts.push_back(element);
   }
+  top.parts = shape.is_inner_first ? std::vector<Particle>{inner, lone} : std::vector<Particle>{lone, inner};
   return top;
 }
 
-// Every row of so many of the elements a to d, at most.
-std::vector<std::string> rows(std::size_t max)
+// Every row of up to four of the elements from a to `last`.
+std::vector<std::string> rows(char last)
 {
   std::vector<std::string> found = {""};
   for (std::size_t at = 0; at < found.size(); ++at)
-    for (char name = 'a'; name <= 'd' && found[at].size() < max; ++name)
+    for (char name = 'a'; name <= last && found[at].size() < 4; ++name)
       found.push_back(found[at] + name);
   return found;
 }
@@ -144,11 +167,11 @@ std::string root_of(std::string const& inside)
 std::vector<Rule> axmSchemaDraw::contents()
 {
   axmModelRandom random(20260101);
-  std::vector<std::string> const every_row = rows(4);
+  std::vector<std::string> const every_row = rows('c');
   std::vector<Rule> rules;
-  for (int number = 0; number < 24; ++number)
+  for (Shape const& shape : shapes())
   {
-    Particle const top = drawn(random);
+    Particle const top = drawn(shape, random);
     Rule rule{root_of(written(top)), {}, {}};
     for (std::string const& row : every_row)
       (after(top, row, {0}).count(row.size()) != 0 ? rule.valid : rule.invalid).push_back(document_of(row));
@@ -168,7 +191,7 @@ std::vector<Rule> axmSchemaDraw::groups_of_all()
         inside += std::string("<xs:element name='") + static_cast<char>('a' + index) +
                   ((optional >> index & 1U) != 0 ? "' minOccurs='0'/>" : "'/>");
       Rule rule{root_of((may_be_empty ? "<xs:all minOccurs='0'>" : "<xs:all>") + inside + "</xs:all>"), {}, {}};
-      for (std::string const& row : rows(4))
+      for (std::string const& row : rows('d'))
       {
         bool is_valid = true;
         for (unsigned index = 0; index < 4; ++index)

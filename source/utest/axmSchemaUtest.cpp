@@ -158,6 +158,20 @@ void axmSchemaUtest::test_modules(Factory const& factory) const
                                                 "<xs:sequence><xs:element name='e' type='xs:int'/></xs:sequence>"
                                                 "<xs:attribute name='a' type='xs:int'/></xs:complexType></xs:element>"
                                                 "</xs:schema>");
+  SchemaFile const types("types", begin + "><xs:complexType name='c'><xs:sequence><xs:element name='e' type='xs:int'/>"
+                                          "</xs:sequence><xs:attribute name='a' use='required'/></xs:complexType>"
+                                          "<xs:group name='g'><xs:choice><xs:element name='e'/><xs:element name='f'/>"
+                                          "</xs:choice></xs:group></xs:schema>");
+  std::string const types_name = types.path.path().c_str();
+  SchemaFile const of_types("of_types", schema_of("<xs:include schemaLocation='" + types_name +
+                                                  "'/><xs:element name='r' type='c'/><xs:element name='s'>"
+                                                  "<xs:complexType><xs:group ref='g'/></xs:complexType>"
+                                                  "</xs:element>"));
+  SchemaFile const of_more("of_more",
+    schema_of("<xs:redefine schemaLocation='" + types_name +
+              "'><xs:complexType name='c'><xs:complexContent><xs:extension base='c'><xs:sequence><xs:element name='f'/>"
+              "</xs:sequence></xs:extension></xs:complexContent></xs:complexType></xs:redefine><xs:element name='r' "
+              "type='c'/>"));
   struct Load
   {
     apPath const& schema;
@@ -168,6 +182,18 @@ void axmSchemaUtest::test_modules(Factory const& factory) const
   Load const loads[] = {
     {including.path, "<r>1</r>", true, "an included schema"},
     {including.path, "<r>x</r>", false, "an included schema"},
+    {of_types.path, "<r a=''><e>1</e></r>", true, "an included type"},
+    {of_types.path, "<r a=''/>", false, "an included type"},
+    {of_types.path, "<r a=''><e>x</e></r>", false, "an included type"},
+    {of_types.path, "<r><e>1</e></r>", false, "an included type"},
+    {of_types.path, "<r a=''><e>1</e><e>1</e></r>", false, "an included type"},
+    {of_types.path, "<s><f/></s>", true, "an included group"},
+    {of_types.path, "<s/>", false, "an included group"},
+    {of_types.path, "<s><e/><f/></s>", false, "an included group"},
+    {of_more.path, "<r a=''><e>1</e><f/></r>", true, "a type that is redefined as more"},
+    {of_more.path, "<r a=''><e>1</e></r>", false, "a type that is redefined as more"},
+    {of_more.path, "<r a=''><f/></r>", false, "a type that is redefined as more"},
+    {of_more.path, "<r><e>1</e><f/></r>", false, "a type that is redefined as more"},
     {redefining.path, "<r>9</r>", true, "a redefined type"},
     {redefining.path, "<r>10</r>", false, "a redefined type"},
     {redefining.path, "<r>x</r>", false, "a redefined type"},

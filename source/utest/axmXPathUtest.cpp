@@ -600,6 +600,68 @@ Question const questions_7[] = {
   {Kind::nodes, "/r/\xD1\x84", "\xD1\x84"},
 };
 
+char const document_18[] = "<r><a-b/><a/><b>1</b><a.b/><a_b/><a-b.c/><div-/><a--b x-y='1'/></r>";
+
+// Names with what is an operator elsewhere.
+Question const questions_18[] = {
+  {Kind::nodes, "//a-b", "a-b"},
+  {Kind::nodes, "a-b", "a-b"},
+  {Kind::nodes, "/r/a-b | //a", "a-b a"},
+  {Kind::nodes, "//a.b", "a.b"},
+  {Kind::nodes, "a_b", "a_b"},
+  {Kind::nodes, "//a-b.c", "a-b.c"},
+  {Kind::nodes, "//div-", "div-"},
+  {Kind::nodes, "a--b", "a--b"},
+  {Kind::nodes, "//*[@x-y]", "a--b"},
+  {Kind::nodes, "*[@x-y=1]", "a--b"},
+  {Kind::number, "2 -b", "1"},
+  {Kind::number, "b -b", "0"},
+  {Kind::number, "count(a)-b", "0"},
+  {Kind::number, "count(//a-b)-1", "0"},
+  {Kind::number, "count(a-b|a)", "2"},
+};
+
+char const document_19[] =
+  "<!--before--><?one 1?><?two 2?><r><a>\xF0\x90\x90\xB7</a><b>x\xF0\x9D\x84\x9Ey</b><c>\xF0\x90\x90\xB7"
+  "\xF0\x9D\x84\x9E</c><d>\xF0\x9F\x98\x80</d><e> \xF0\x9D\x84\x9E  x </e><!--in--><?two 3?></r><!--after--><?one 4?>";
+
+// Functions without an argument, characters beyond U+FFFF, and what stands beside the root.
+Question const questions_19[] = {
+  {Kind::nodes, "*[string-length() = 1]", "a d"},
+  {Kind::nodes, "*[string-length() = 2]", "c"},
+  {Kind::nodes, "*[string-length() = 3]", "b"},
+  {Kind::nodes, "*[string-length(normalize-space()) = 3]", "b e"},
+  {Kind::nodes, "//*[name() = 'a' or local-name() = 'd']", "a d"},
+  {Kind::nodes, "*[string() = '\xF0\x9F\x98\x80']", "d"},
+  {Kind::nodes, "*[number() = number()]", ""},
+  {Kind::nodes, "*[namespace-uri() != '']", ""},
+  {Kind::string, "substring(b, 2, 1)", "\xF0\x9D\x84\x9E"},
+  {Kind::string, "substring(b, 3)", "y"},
+  {Kind::string, "substring(c, 2)", "\xF0\x9D\x84\x9E"},
+  {Kind::string, "substring(c, 0, 2)", "\xF0\x90\x90\xB7"},
+  {Kind::string, "translate(b, '\xF0\x9D\x84\x9E', 'z')", "xzy"},
+  {Kind::string, "translate(b, 'xy', '\xF0\x9D\x84\x9E\xF0\x90\x90\xB7')",
+    "\xF0\x9D\x84\x9E\xF0\x9D\x84\x9E\xF0\x90\x90\xB7"},
+  {Kind::string, "substring-before(b, '\xF0\x9D\x84\x9E')", "x"},
+  {Kind::string, "substring-after(b, '\xF0\x9D\x84\x9E')", "y"},
+  {Kind::boolean, "starts-with(a, '\xF0\x90\x90\xB7')", "true"},
+  {Kind::boolean, "contains(c, '\xF0\x9D\x84\x9E')", "true"},
+  {Kind::boolean, "contains(d, '\xF0\x9D\x84\x9E')", "false"},
+  {Kind::number, "count(//comment())", "3"},
+  {Kind::number, "count(/comment())", "2"},
+  {Kind::number, "count(/r/comment())", "1"},
+  {Kind::number, "count(//comment()[. = 'after'])", "1"},
+  {Kind::number, "count(//processing-instruction())", "4"},
+  {Kind::number, "count(//processing-instruction('two'))", "2"},
+  {Kind::number, "count(/processing-instruction('one'))", "2"},
+  {Kind::number, "count(/node())", "6"},
+  {Kind::number, "count(preceding-sibling::node())", "3"},
+  {Kind::number, "count(following::node())", "2"},
+  {Kind::string, "string(//comment())", "before"},
+  {Kind::string, "string(//comment()[last()])", "in"},
+  {Kind::string, "string((//comment())[last()])", "after"},
+};
+
 char const document_8[] = "<r>one<![CDATA[<two>]]>three<!--c-->four</r>";
 
 Question const questions_8[] = {
@@ -1109,7 +1171,14 @@ std::string answer_to(axmElement& root, Question const& question)
     std::string const labels = labels_in(list);
     bool const agree =
       (single != nullptr) == (length_of(list) > 0) && (single == nullptr || same(single, item_of(list, 0)));
-    return agree ? labels : labels + ", but " + first + " as the single node";
+    if (!agree)
+      return labels + ", but " + first + " as the single node";
+    std::string const whole = "(" + expression + ")";
+    for (std::string const& other : {whole, " \t" + whole + "\r\n", whole + "|" + whole, "/..|" + expression})
+      if (labels_in(root.selectNodes(apString(other.c_str()))) != labels)
+        return labels + ", but not for " + other;
+    Node const nearest = root.selectSingleNode(apString((whole + "[1]").c_str()));
+    return label_of(nearest) == first ? labels : labels + ", but not the first one for " + whole + "[1]";
   }
   if (question.kind == Kind::string)
   {
@@ -1124,8 +1193,13 @@ std::string answer_to(axmElement& root, Question const& question)
     condition = is_number ? "(" + expression + ") = " + (is_infinite ? infinity : promised)
                           : "string(" + expression + ") = 'NaN'";
   }
-  std::string const text = "self::node()[" + condition + "]";
-  bool const holds = length_of(root.selectNodes(apString(text.c_str()))) == 1;
+  auto const is_found = [&root](std::string const& text)
+  { return length_of(root.selectNodes(apString(text.c_str()))) == 1; };
+  bool const holds = is_found("self::node()[" + condition + "]");
+  for (std::string const& other : {"self::node()[not(not(" + condition + "))]",
+         "self::node()[false() or (" + condition + ")]", "self::node()[self::node()[" + condition + "]]"})
+    if (is_found(other) != holds)
+      return "something else for " + other;
   if (question.kind == Kind::boolean)
     return holds ? "true" : "false";
   return holds ? promised : std::string("something else");
@@ -1195,6 +1269,9 @@ void axmXPathUtest::test_expressions(Factory const& factory) const
     "what is a number, a blank and a character");
   group.check(
     are_answered(*tester, *factory, document_17, questions_17), expression, __LINE__, "conditions in conditions");
+  group.check(are_answered(*tester, *factory, document_18, questions_18), expression, __LINE__, "names with hyphens");
+  group.check(are_answered(*tester, *factory, document_19, questions_19), expression, __LINE__,
+    "characters beyond U+FFFF, and what stands beside the root");
 }
 
 namespace

@@ -132,6 +132,26 @@ std::string in_utf16(std::string const& text, bool high_first)
   return bytes;
 }
 
+// What a root r holds as the text of an entity, which the root holds in its place.
+std::string in_entity(std::string const& text)
+{
+  static std::string const end_of_type = "]>";
+  static std::string const begin = "<r>";
+  static std::string const end = "</r>";
+  bool const has_type = text.compare(0, 13, "<!DOCTYPE r [") == 0;
+  std::size_t const at = has_type ? text.find(end_of_type + begin) : 0;
+  std::size_t const root = has_type && at != std::string::npos ? at + end_of_type.size() : 0;
+  std::size_t const from = root + begin.size();
+  if (at == std::string::npos || text.compare(root, begin.size(), begin) != 0 || text.size() <= from + end.size() ||
+      text.compare(text.size() - end.size(), end.size(), end) != 0)
+    return text;
+  std::string content = text.substr(from, text.size() - end.size() - from);
+  for (auto const& [character, reference] : {std::pair("&", "&#38;"), std::pair("%", "&#37;"), std::pair("'", "&#39;")})
+    content = in_place_of(content, character, reference);
+  return (has_type ? text.substr(0, at) : "<!DOCTYPE r [") + "<!ENTITY whole '" + content + "'>]>" + begin + "&whole;" +
+         end;
+}
+
 std::string as_it_is(std::string const& text)
 {
   return text;
@@ -155,6 +175,7 @@ Way const ways[] = {
     axmValidateNone},
   {", in UTF-16, the high byte first", [](std::string const& text) { return in_utf16(text, true); }, false,
     axmValidateNone},
+  {", in an entity", in_entity, false, axmValidateNone},
   {", validated without any schema", as_it_is, false, axmValidateWithSchemas},
 };
 

@@ -23,7 +23,7 @@ struct Taken
 std::string shape_of(axmUtestAccess::Node const& top);
 
 // Whether the document is loaded with no error and with that shape, from memory and from a file, in other encodings, with
-// other quotes and line ends, with validation that has no schema; if not, it is told.
+// other quotes and line ends, with its content in an entity, with validation that has no schema; if not, it is told.
 bool is_taken(utUnitTest& tester, axmDocumentFactory const& factory, Taken const& taken);
 
 // Whether it fails in all these ways with an error; if not, it is told.

@@ -8,7 +8,9 @@
 #include <utUtf8.h>
 
 #include <cstddef>
+#include <iterator>
 #include <string>
+#include <vector>
 
 using namespace axmXmlTables;
 
@@ -751,6 +753,57 @@ void axmXmlUtest::run_tests(Factory const& factory) const
   axm_run_groups(*this, factory, groups, tester, file);
 }
 
+namespace
+{
+// What a declaration may be made of, and what it may not.
+char const* const parts_of_declarations[] = {" version='1.0'", " encoding='UTF-8'", " standalone='yes'",
+  " standalone='no'", " version=\"1.0\"", " standalone='YES'", " standalone='No'", " standalone=''",
+  " standalone='true'", " standalone=yes", " encoding=''", " encoding=' UTF-8'", " encoding='-'", " version=''",
+  " version='1'", " version='1.0 '", " Version='1.0'", " version='1.0", "version='1.0'", "encoding='UTF-8'",
+  " other='1'"};
+
+// XML 1.0, 2.8: the version, the encoding or none, whether it stands alone or not told, in this order.
+bool is_declaration(std::vector<int> const& parts)
+{
+  std::size_t at = 0;
+  if (at == parts.size() || (parts[at] != 0 && parts[at] != 4))
+    return false;
+  ++at;
+  at += at < parts.size() && parts[at] == 1 ? 1 : 0;
+  at += at < parts.size() && (parts[at] == 2 || parts[at] == 3) ? 1 : 0;
+  return at == parts.size();
+}
+
+// Every declaration of up to three parts.
+bool are_declarations_judged(utUnitTest& tester, axmDocumentFactory const& factory)
+{
+  int const count = static_cast<int>(std::size(parts_of_declarations));
+  std::vector<std::vector<int>> rows = {{}};
+  for (std::size_t at = 0; at < rows.size(); ++at)
+  {
+    std::string text = "<?xml";
+    for (int const part : rows[at])
+      text += parts_of_declarations[part];
+    text += "?><r/>";
+    axmParseError error;
+    bool const is_loaded =
+      factory.loadDocument(axmUtestAccess::bytes_of(text.c_str()), axmLoadOptions(), error) != nullptr;
+    if (is_loaded != is_declaration(rows[at]) || is_loaded != error.invalid())
+    {
+      tester.printf("%s: %s", is_loaded ? "loaded, but is no document" : "not loaded", text.c_str());
+      return false;
+    }
+    for (int part = 0; part < count && rows[at].size() < 3; ++part)
+    {
+      std::vector<int> row = rows[at];
+      row.push_back(part);
+      rows.push_back(row);
+    }
+  }
+  return true;
+}
+}
+
 void axmXmlUtest::test_documents(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmXmlUtest::test_documents");
@@ -758,6 +811,8 @@ void axmXmlUtest::test_documents(Factory const& factory) const
     "documents, their declarations and document types");
   group.check(all_are_refused(*tester, *factory, refused_documents), "everything else fails", __LINE__,
     "documents, their declarations and document types");
+  group.check(are_declarations_judged(*tester, *factory), "every declaration is judged", __LINE__,
+    "declarations of up to three parts");
 }
 
 namespace
