@@ -321,6 +321,37 @@ void axmContractUtest::test_live_maps(Factory const& factory) const
     "an attribute is taken away whatever a document type says");
 }
 
+namespace
+{
+char const* const names_with_prefixes[] = {"p:a", "q:a", "a", "xml:lang", "xmlns:p", "xmlns:q"};
+
+bool is_declaration(std::string const& name)
+{
+  return name.compare(0, 5, "xmlns") == 0;
+}
+
+// Whether all attributes but the one taken out stay, declarations of namespaces left out, for they may be none.
+bool do_others_stay(axmDocumentFactory const& factory, std::string const& taken, bool by_map)
+{
+  auto const root = load_root(factory, "<r xmlns:p='u' xmlns:q='v' p:a='p:a' q:a='q:a' a='a' xml:lang='xml:lang'/>");
+  auto const map = map_of(root);
+  if (map == nullptr)
+    return false;
+  apString const name(taken.c_str());
+  if (by_map)
+    map->removeNamedItem(name);
+  else
+    root->removeAttribute(name);
+  for (char const* const other : names_with_prefixes)
+  {
+    bool const is_there = map->getNamedItem(apString(other)) != nullptr;
+    if (taken == other ? is_there : !is_declaration(other) && attribute_of(root, apString(other)) != apString(other))
+      return false;
+  }
+  return true;
+}
+}
+
 void axmContractUtest::test_map_items(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_map_items");
@@ -340,6 +371,11 @@ void axmContractUtest::test_map_items(Factory const& factory) const
     group.check(same(map->item(index), map->getNamedItem(name)), "*map->item(index) == *map->getNamedItem(name)",
       __LINE__, "an item is the attribute of its name");
   }
+  bool do_stay = true;
+  for (char const* const taken : names_with_prefixes)
+    for (bool const by_map : {false, true})
+      do_stay = do_stay && do_others_stay(*factory, taken, by_map);
+  group.check(do_stay, "the attributes that are left", __LINE__, "with one attribute goes no other");
   group.check(seen[0] == 1 && seen[1] == 1 && seen[2] == 1, "seen[0] == 1 && seen[1] == 1 && seen[2] == 1", __LINE__,
     "the indexes visit every attribute once");
 

@@ -275,6 +275,11 @@ bool name_comes_back(Factory const& factory, apString const& name)
   if (root == nullptr || root->getNodeName() != name)
     return false;
   root->setAttribute(name, APSTRING("v"));
+  // One that begins with it, and what it begins with.
+  for (apString const& other : {name + APSTRING("x"), apString(name.view().substr(0, name.view().size() - 1))})
+    if (root->hasAttribute(other) || map_of(root)->getNamedItem(other) != nullptr ||
+        length_of(document->getElementsByTagName(other)) != 0)
+      return false;
   auto const copy = saved_and_loaded(factory, document);
   return name_of(copy) == name && attribute_of(copy, name) == APSTRING("v");
 }

@@ -50,4 +50,12 @@ bool all_are_refused(utUnitTest& tester, axmDocumentFactory const& factory, char
 // Whether what is written with several bytes is loaded as what it is where it lies across a border of blocks of 256 to
 // 65,536 bytes, at each of its bytes; if not, it is told.
 bool are_taken_across_borders(utUnitTest& tester, axmDocumentFactory const& factory);
+
+// Whether every sequence of bytes that is a character is loaded, and one that is none or is cut off fails, wherever it
+// stands; if not, it is told.
+bool are_bytes_judged(utUnitTest& tester, axmDocumentFactory const& factory);
+
+// Whether one space is kept and other white space dropped where it is all there is, and all of it kept beside a character;
+// if not, it is told.
+bool is_white_space_judged(utUnitTest& tester, axmDocumentFactory const& factory);
 }

@@ -954,6 +954,10 @@ void axmXmlUtest::test_texts(Factory const& factory) const
     "texts, line ends and CDATA sections");
   group.check(are_taken_across_borders(*tester, *factory), "every document is loaded as what it is", __LINE__,
     "what lies across a border of blocks");
+  group.check(are_bytes_judged(*tester, *factory), "UTF-8 is loaded, all else fails", __LINE__,
+    "sequences of bytes in every place");
+  group.check(is_white_space_judged(*tester, *factory), "every document is loaded as what it is", __LINE__,
+    "white space of every kind, alone and beside a character");
 }
 
 void axmXmlUtest::test_comments(Factory const& factory) const
