@@ -50,6 +50,7 @@ std::vector<Fault> const& outside_third_load_faults();
 std::vector<Fault> const& outside_third_save_faults();
 std::vector<Fault> const& outside_third_schema_faults();
 std::vector<Fault> const& outside_third_search_faults();
+std::vector<Fault> const& outside_fourth_faults();
 
 // Engines that break no promise, with what they do otherwise than the one that comes with the library.
 std::vector<Fault> const& freedoms();

@@ -2,7 +2,8 @@
 // of the faults wanted, or one list of them: --fixed, those that the checks written by hand see; --subtle, those that only
 // the generated cases see; --promises, those read off the headers; --rules, those against what the headers refer to; --held,
 // those of what is held, deep, large or rare; --outside, those of somebody who does not know the suite, of which a second
-// argument chooses; --third-trees, --third-loads, --third-rules, those of them that show in combinations only.
+// argument chooses; --third-trees, --third-loads, --third-rules, those of them that show in combinations only;
+// --fourth, those of what was the weakest.
 // --freedoms writes the engines that break nothing, which nothing sees.
 
 #include "Faults.h"
@@ -65,6 +66,8 @@ int main(int argc, char** argv)
     write(outside_third_schema_faults(), run_rules_until_seen, wanted);
     write(outside_third_search_faults(), run_rules_until_seen, wanted);
   }
+  if (is_every || first == "--fourth")
+    write(outside_fourth_faults(), run_until_seen, wanted);
   if (first == "--freedoms")
     write(freedoms(), run_all_classes, nullptr);
 }

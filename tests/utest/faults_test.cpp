@@ -23,7 +23,7 @@ std::vector<Fault> every_fault()
   for (auto const* const some : {&promise_faults(), &rule_faults(), &held_faults(), &outside_tree_faults(),
          &outside_value_faults(), &outside_load_faults(), &outside_second_faults(), &outside_third_tree_faults(),
          &outside_third_typed_faults(), &outside_third_load_faults(), &outside_third_save_faults(),
-         &outside_third_schema_faults(), &outside_third_search_faults()})
+         &outside_third_schema_faults(), &outside_third_search_faults(), &outside_fourth_faults()})
     faults.insert(faults.end(), some->begin(), some->end());
   return faults;
 }

@@ -58,6 +58,29 @@ TEST(faults, more_that_are_made_up_from_outside_are_seen)
   expect_seen(outside_second_faults(), run_drawn_first);
 }
 
+TEST(faults, those_of_trees_that_show_in_combinations_only_are_seen)
+{
+  expect_seen(outside_third_tree_faults(), run_until_seen);
+  expect_seen(outside_third_typed_faults(), run_until_seen);
+}
+
+TEST(faults, those_of_loads_and_saves_that_show_in_combinations_only_are_seen)
+{
+  expect_seen(outside_third_load_faults(), run_until_seen);
+  expect_seen(outside_third_save_faults(), run_until_seen);
+}
+
+TEST(faults, those_of_schemas_and_searches_that_show_in_combinations_only_are_seen)
+{
+  expect_seen(outside_third_schema_faults(), run_rules_until_seen);
+  expect_seen(outside_third_search_faults(), run_rules_until_seen);
+}
+
+TEST(faults, those_of_what_was_the_weakest_are_seen)
+{
+  expect_seen(outside_fourth_faults(), run_until_seen);
+}
+
 // Each engine uses one freedom of every operation, so that few are enough.
 TEST(freedoms, an_engine_that_uses_them_passes)
 {
