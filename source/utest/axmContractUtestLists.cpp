@@ -352,6 +352,32 @@ bool do_others_stay(axmDocumentFactory const& factory, std::string const& taken,
 }
 }
 
+namespace
+{
+// Whether the elements below a root with attributes that have a meaning for what is in it have none of them.
+bool are_own(axmDocumentFactory const& factory)
+{
+  auto const root = load_root(factory,
+    "<r xmlns='v' xmlns:p='u' xmlns:q='v' p:a='1' xml:lang='en' xml:space='default' a='1'><b/><p:b><q:b/></p:b></r>");
+  auto const all = root != nullptr ? root->selectNodes(APSTRING("descendant::*")) : nullptr;
+  bool are_right = length_of(all) == 3;
+  for (int index = 0; are_right && index < 3; ++index)
+  {
+    auto const element = item_of(all, index);
+    auto const map = map_of(element);
+    are_right = element != nullptr && map != nullptr && map->getLength() == 0 && !element->hasAttributes();
+    for (char const* const name : {"xmlns", "xmlns:p", "xmlns:q", "p:a", "xml:lang", "xml:space", "a"})
+    {
+      apString value(L"none");
+      are_right = are_right && !element->hasAttribute(apString(name)) &&
+                  element->getAttribute(apString(name)).empty() && map->getNamedItem(apString(name)) == nullptr &&
+                  !element->get_attribute(apString(name), value);
+    }
+  }
+  return are_right;
+}
+}
+
 void axmContractUtest::test_map_items(Factory const& factory) const
 {
   axmUtestGroup const group(tester, file, "axmContractUtest::test_map_items");
@@ -375,6 +401,8 @@ void axmContractUtest::test_map_items(Factory const& factory) const
   for (char const* const taken : names_with_prefixes)
     for (bool const by_map : {false, true})
       do_stay = do_stay && do_others_stay(*factory, taken, by_map);
+  group.check(are_own(*factory), "the attributes of elements in others", __LINE__,
+    "what an element around it has is none of an element");
   group.check(do_stay, "the attributes that are left", __LINE__, "with one attribute goes no other");
   group.check(seen[0] == 1 && seen[1] == 1 && seen[2] == 1, "seen[0] == 1 && seen[1] == 1 && seen[2] == 1", __LINE__,
     "the indexes visit every attribute once");

@@ -23,14 +23,15 @@ struct Taken
 std::string shape_of(axmUtestAccess::Node const& top);
 
 // Whether the document is loaded with no error and with that shape, from memory and from a file, in other encodings, with
-// other quotes and line ends, with its content in an entity, with validation that has no schema; if not, it is told.
-bool is_taken(utUnitTest& tester, axmDocumentFactory const& factory, Taken const& taken);
+// other quotes and line ends, with its content in an entity, with validation that has no schema, and saved and loaded again; if not, it
+// is told.
+bool is_taken(utUnitTest& tester, axmDocumentFactory& factory, Taken const& taken);
 
 // Whether it fails in all these ways with an error; if not, it is told.
 bool is_refused(utUnitTest& tester, axmDocumentFactory const& factory, char const* text);
 
 template <std::size_t Count>
-bool all_are_taken(utUnitTest& tester, axmDocumentFactory const& factory, Taken const (&table)[Count])
+bool all_are_taken(utUnitTest& tester, axmDocumentFactory& factory, Taken const (&table)[Count])
 {
   bool are_right = true;
   for (Taken const& taken : table)
@@ -57,5 +58,5 @@ bool are_bytes_judged(utUnitTest& tester, axmDocumentFactory const& factory);
 
 // Whether one space is kept and other white space dropped where it is all there is, and all of it kept beside a character;
 // if not, it is told.
-bool is_white_space_judged(utUnitTest& tester, axmDocumentFactory const& factory);
+bool is_white_space_judged(utUnitTest& tester, axmDocumentFactory& factory);
 }

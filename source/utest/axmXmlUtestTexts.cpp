@@ -98,7 +98,7 @@ Place const neighbours[] = {{"<r>", "</r>"}, {"<r><a></a>", "</r>"}, {"<r>", "<a
   {"<r><a></a>", "<a></a></r>"}, {"<r><!--c-->", "<a></a></r>"}, {"<r><a></a>", "<!--c--></r>"},
   {"<r><?p q?>", "<?p q?></r>"}, {"<r><a>", "</a></r>"}};
 
-bool is_dropped_or_kept(utUnitTest& tester, axmDocumentFactory const& factory, Blank const& blank, bool is_kept)
+bool is_dropped_or_kept(utUnitTest& tester, axmDocumentFactory& factory, Blank const& blank, bool is_kept)
 {
   for (Place const& between : neighbours)
   {
@@ -125,7 +125,7 @@ bool axmXmlTables::are_bytes_judged(utUnitTest& tester, axmDocumentFactory const
   return true;
 }
 
-bool axmXmlTables::is_white_space_judged(utUnitTest& tester, axmDocumentFactory const& factory)
+bool axmXmlTables::is_white_space_judged(utUnitTest& tester, axmDocumentFactory& factory)
 {
   bool are_right = true;
   for (Blank const& first : blanks)

@@ -8,19 +8,8 @@
 
 #include <algorithm>
 #include <set>
-#include <sstream>
 #include <string>
 #include <vector>
-
-// The groups of checks that a row of the table names: "class::group", each followed by the number of those that fail.
-inline std::set<std::string> groups_of(std::string const& row)
-{
-  std::set<std::string> groups;
-  std::istringstream words(row.substr(row.rfind('|') + 1));
-  for (std::string group, number; words >> group >> number;)
-    groups.insert(group);
-  return groups;
-}
 
 // Runs what sees each of the faults, as the table has it, on an engine with that fault: what fails of it is what the table
 // says. A fault may remember what other groups did, so that it takes the whole run to see it.

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <sstream>
 #include <utility>
 
 namespace
@@ -335,6 +336,15 @@ std::string table_row(Fault const& fault, std::vector<Check> const& checks)
   for (std::string const& group : failed_groups(checks))
     row += " " + group;
   return row;
+}
+
+std::set<std::string> groups_of(std::string const& row)
+{
+  std::set<std::string> groups;
+  std::istringstream words(row.substr(row.rfind('|') + 1));
+  for (std::string group, number; words >> group >> number;)
+    groups.insert(group);
+  return groups;
 }
 
 std::vector<Fault> all_faults()

@@ -54,6 +54,9 @@ std::vector<std::string> failed_groups(std::vector<Check> const& checks);
 struct Fault;
 std::string table_row(Fault const& fault, std::vector<Check> const& checks);
 
+// The groups of checks that a row of the table names.
+std::set<std::string> groups_of(std::string const& row);
+
 // Every fault that the fixed classes are to see, and those that only the others are.
 std::vector<Fault> all_faults();
 std::vector<Fault> all_subtle_faults();
