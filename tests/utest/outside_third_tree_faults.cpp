@@ -515,27 +515,6 @@ std::vector<Fault> const& outside_third_tree_faults()
                    is_element(left) && is_element(right) && left->get_xml() == right->get_xml());
         };
       }},
-    {"getOwnerDocument", "of a node two levels down in what was moved from another document it is the former one",
-      [](Hooks& h)
-      {
-        auto const former = std::make_shared<std::vector<std::pair<Node, Document>>>();
-        h.append = [former](Node const& n, Node const& child)
-        {
-          Document const from = child != nullptr ? child->getOwnerDocument() : nullptr;
-          Node const result = n->appendChild(child);
-          Node const deep = result != nullptr && is_element(child) ? at_depth(child, 2) : nullptr;
-          if (deep != nullptr && from != nullptr && !same(from, n->getOwnerDocument()))
-            former->emplace_back(deep, from);
-          return result;
-        };
-        h.owner = [former](Node const& n)
-        {
-          for (auto const& [node, document] : *former)
-            if (same(node, n))
-              return document;
-          return n->getOwnerDocument();
-        };
-      }},
     {"createElement", "a name with an undertie is refused",
       [](Hooks& h)
       {
