@@ -1,6 +1,7 @@
 #include "axmSchemaTables.h"
 
 #include "axmUtestUtils.h"
+#include "axmXmlTables.h"
 #include "model/axmModelText.h"
 
 #include <utUnitTest.h>
@@ -113,6 +114,64 @@ bool are_judged(utUnitTest& tester, axmDocumentFactory const& factory, axmLoadOp
   return are_right;
 }
 
+bool is_told(utUnitTest& tester, axmParseError const& error, bool is_loaded, std::string const& text, bool is_valid)
+{
+  if (is_loaded == is_valid && is_loaded == error.invalid())
+    return true;
+  tester.printf("%s: %s", is_loaded ? "is loaded, but not valid" : "is valid, but not loaded",
+    axmModelText::quoted(apString(text.c_str()).view()).c_str());
+  tester.printf("Error was \"%s\"", error.message().to_utf8().c_str());
+  return false;
+}
+
+using Writing = std::string (*)(std::string const& text);
+
+std::string in_two_bytes(std::string const& text)
+{
+  return axmXmlTables::in_utf16(text, false);
+}
+
+std::string in_latin(std::string const& text)
+{
+  bool const is_ascii = std::all_of(text.begin(), text.end(), [](char character) { return (character & 0x80) == 0; });
+  return is_ascii ? "<?xml version='1.0' encoding='ISO-8859-1'?>" + text : text;
+}
+
+bool are_judged_as(utUnitTest& tester, axmDocumentFactory const& factory, axmLoadOptions const& options,
+  Rule const& rule, Writing writing)
+{
+  bool are_right = true;
+  for (bool const is_valid : {true, false})
+    for (std::string const& document : is_valid ? rule.valid : rule.invalid)
+    {
+      std::string const text = declared(document);
+      std::string const bytes = writing(text);
+      axmParseError error;
+      bool const is_loaded = factory.loadDocument(apByteArray(bytes.data(), bytes.size()), options, error) != nullptr;
+      are_right = is_told(tester, error, is_loaded, text, is_valid) && are_right;
+    }
+  return are_right;
+}
+
+// From files, with a document type before what they hold.
+bool are_judged_from_files(
+  utUnitTest& tester, axmDocumentFactory const& factory, axmLoadOptions const& options, Rule const& rule)
+{
+  apPath const path = axmUtestUtils::uniquify_filename(APSTRING("./schema_document"), APSTRING("xml"));
+  axmUtestFile const removed_at_the_end(path);
+  bool are_right = true;
+  for (bool const is_valid : {true, false})
+    for (std::string const& document : is_valid ? rule.valid : rule.invalid)
+    {
+      std::string const text = "<!DOCTYPE any [<!ENTITY none ''>]>" + declared(document);
+      axmUtestUtils::write_data(path, text.c_str());
+      axmParseError error;
+      bool const is_loaded = factory.loadDocument(path, options, error) != nullptr;
+      are_right = is_told(tester, error, is_loaded, text, is_valid) && are_right;
+    }
+  return are_right;
+}
+
 std::string with_other_quotes(std::string text)
 {
   if (!has(text, "\""))
@@ -180,12 +239,13 @@ bool is_kept_in_namespace(utUnitTest& tester, axmDocumentFactory const& factory,
     begin + " targetNamespace='urn:m'><xs:import namespace='urn:t' schemaLocation='" + whole.path.path().c_str() +
       "'/><xs:element name='m'><xs:complexType><xs:sequence><xs:any namespace='urn:t'/></xs:sequence></xs:complexType>"
       "</xs:element></xs:schema>");
-  bool const is_right = are_judged(tester, factory, options_with(APSTRING("urn:t"), whole.path), other);
+  bool const is_right =
+    are_judged_as(tester, factory, options_with(APSTRING("urn:t"), whole.path), other, in_two_bytes);
   bool const is_right_included =
     are_judged(tester, factory, options_with(APSTRING("urn:t"), including.path), with_quotes);
   bool const is_right_imported =
     !can_be_wrapped(other.valid) || !can_be_wrapped(other.invalid) ||
-    are_judged(tester, factory, options_with(APSTRING("urn:m"), importing.path), wrapped(other));
+    are_judged_from_files(tester, factory, options_with(APSTRING("urn:m"), importing.path), wrapped(other));
   return is_told(tester, is_right, "in the namespace urn:t", other) &&
          is_told(tester, is_right_included, "included in one of the namespace urn:t", with_quotes) &&
          is_told(tester, is_right_imported, "imported by one of the namespace urn:m", other);
@@ -222,6 +282,32 @@ std::vector<std::string> in_attributes(std::vector<std::string> const& documents
   return found;
 }
 
+// The values of elements v that are plain text, with a comment and the begin of a section in their middle.
+std::vector<std::string> in_pieces(std::vector<std::string> const& documents)
+{
+  std::vector<std::string> found;
+  for (std::string const& text : documents)
+  {
+    bool const is_plain = text.size() > 8 && text.compare(0, 3, "<v>") == 0 &&
+                          text.find_first_of("<&]>", 3) == text.size() - 4 && text[5] > 0 && text[4] > 0;
+    if (is_plain)
+      found.push_back(text.substr(0, 4) + "<!--1-->" + text.substr(4, 1) + "<![CDATA[" +
+                      text.substr(5, text.size() - 9) + "]]><?p 1?></v>");
+  }
+  return found;
+}
+
+// The same values in pieces.
+bool is_kept_in_pieces(utUnitTest& tester, axmDocumentFactory const& factory, Rule const& rule)
+{
+  if (!is_of_simple_type(rule.schema))
+    return true;
+  Rule const other{rule.schema, in_pieces(rule.valid), in_pieces(rule.invalid)};
+  SchemaFile const file("pieces", schema_of(other.schema));
+  return is_told(
+    tester, are_judged(tester, factory, axmSchemaTables::options_with(file.path), other), "in pieces", other);
+}
+
 // The same type as that of an attribute.
 bool is_kept_in_attributes(utUnitTest& tester, axmDocumentFactory const& factory, Rule const& rule)
 {
@@ -240,8 +326,8 @@ bool is_kept_in_attributes(utUnitTest& tester, axmDocumentFactory const& factory
     begin, end - begin, "<xs:element name='v'><xs:complexType>" + attribute + "</xs:complexType></xs:element>");
   Rule const other{schema, in_attributes(rule.valid), in_attributes(rule.invalid)};
   SchemaFile const file("attribute", schema_of(other.schema));
-  return is_told(
-    tester, are_judged(tester, factory, axmSchemaTables::options_with(file.path), other), "of an attribute", other);
+  axmLoadOptions const options = axmSchemaTables::options_with(file.path);
+  return is_told(tester, are_judged_as(tester, factory, options, other, in_latin), "of an attribute", other);
 }
 }
 
@@ -282,12 +368,7 @@ bool axmSchemaTables::is_judged(utUnitTest& tester, axmDocumentFactory const& fa
 {
   axmParseError error;
   bool const is_loaded = factory.loadDocument(bytes_of(text.c_str()), options, error) != nullptr;
-  if (is_loaded == is_valid && is_loaded == error.invalid())
-    return true;
-  tester.printf("%s: %s", is_loaded ? "is loaded, but not valid" : "is valid, but not loaded",
-    axmModelText::quoted(apString(text.c_str()).view()).c_str());
-  tester.printf("Error was \"%s\"", error.message().to_utf8().c_str());
-  return false;
+  return is_told(tester, error, is_loaded, text, is_valid);
 }
 
 bool axmSchemaTables::is_kept(utUnitTest& tester, axmDocumentFactory const& factory, Rule const& rule)
@@ -297,8 +378,9 @@ bool axmSchemaTables::is_kept(utUnitTest& tester, axmDocumentFactory const& fact
   bool const are_right = are_judged(tester, factory, options, rule);
   if (!are_right)
     tester.printf("under the schema %s", rule.schema.c_str());
-  bool const are_right_elsewhere =
-    is_kept_in_namespace(tester, factory, rule) && is_kept_in_attributes(tester, factory, rule);
+  bool const are_right_elsewhere = is_kept_in_namespace(tester, factory, rule) &&
+                                   is_kept_in_attributes(tester, factory, rule) &&
+                                   is_kept_in_pieces(tester, factory, rule);
   return are_right && are_right_elsewhere;
 }
 

@@ -114,24 +114,6 @@ void add_unit(std::string& bytes, unsigned unit, bool high_first)
   bytes += high_first ? low : high;
 }
 
-// In UTF-16 with a mark at the beginning; what declares another encoding or is no UTF-8 stays as it is.
-std::string in_utf16(std::string const& text, bool high_first)
-{
-  apString const wide(text.c_str());
-  if (text.find("encoding") != std::string::npos || narrow(wide) != text)
-    return text;
-  std::string bytes;
-  bool const has_mark = !wide.empty() && wide.view().front() == L'\uFEFF';
-  for (wchar_t const character : (has_mark ? L"" : L"\uFEFF") + std::wstring(wide.view()))
-  {
-    auto const code = static_cast<unsigned>(character);
-    if (code > 0xFFFF)
-      add_unit(bytes, 0xD800U + ((code - 0x10000U) >> 10U), high_first);
-    add_unit(bytes, code > 0xFFFF ? 0xDC00U + (code & 0x3FFU) : code, high_first);
-  }
-  return bytes;
-}
-
 // What a root r holds as the text of an entity, which the root holds in its place.
 std::string in_entity(std::string const& text)
 {
@@ -146,10 +128,15 @@ std::string in_entity(std::string const& text)
       text.compare(text.size() - end.size(), end.size(), end) != 0)
     return text;
   std::string content = text.substr(from, text.size() - end.size() - from);
-  for (auto const& [character, reference] : {std::pair("&", "&#38;"), std::pair("%", "&#37;"), std::pair("'", "&#39;")})
-    content = in_place_of(content, character, reference);
-  return (has_type ? text.substr(0, at) : "<!DOCTYPE r [") + "<!ENTITY whole '" + content + "'>]>" + begin + "&whole;" +
-         end;
+  // References to entities are left as they are there (XML 1.0, 4.4.7), those to characters are not.
+  for (auto const& [part, reference] : {std::pair("&#", "&#38;#"), std::pair("%", "&#37;")})
+    content = in_place_of(content, part, reference);
+  bool const has_quotes = content.find('"') != std::string::npos;
+  if (has_quotes)
+    content = in_place_of(content, "'", "&#39;");
+  std::string const quote = has_quotes ? "'" : "\"";
+  return (has_type ? text.substr(0, at) : "<!DOCTYPE r [") + "<!ENTITY whole " + quote + content + quote + ">]>" +
+         begin + "&whole;" + end;
 }
 
 std::string as_it_is(std::string const& text)
@@ -171,10 +158,10 @@ Way const ways[] = {
   {", from a file", as_it_is, true, axmValidateNone},
   {", with the other quotes", with_other_quotes, false, axmValidateNone},
   {", with line ends of two characters", with_long_line_ends, false, axmValidateNone},
-  {", in UTF-16, the low byte first", [](std::string const& text) { return in_utf16(text, false); }, false,
-    axmValidateNone},
-  {", in UTF-16, the high byte first", [](std::string const& text) { return in_utf16(text, true); }, false,
-    axmValidateNone},
+  {", in UTF-16, the low byte first", [](std::string const& text) { return axmXmlTables::in_utf16(text, false); },
+    false, axmValidateNone},
+  {", in UTF-16, the high byte first", [](std::string const& text) { return axmXmlTables::in_utf16(text, true); },
+    false, axmValidateNone},
   {", in an entity", in_entity, false, axmValidateNone},
   {", validated without any schema", as_it_is, false, axmValidateWithSchemas},
 };
@@ -199,6 +186,23 @@ void tell(utUnitTest& tester, char const* what, char const* text, Way const& way
 {
   tester.printf("%s%s: %s", what, way.name, axmModelText::quoted(apString(text).view()).c_str());
 }
+}
+
+std::string axmXmlTables::in_utf16(std::string const& text, bool high_first)
+{
+  apString const wide(text.c_str());
+  if (text.find("encoding") != std::string::npos || narrow(wide) != text)
+    return text;
+  std::string bytes;
+  bool const has_mark = !wide.empty() && wide.view().front() == L'\uFEFF';
+  for (wchar_t const character : (has_mark ? L"" : L"\uFEFF") + std::wstring(wide.view()))
+  {
+    auto const code = static_cast<unsigned>(character);
+    if (code > 0xFFFF)
+      add_unit(bytes, 0xD800U + ((code - 0x10000U) >> 10U), high_first);
+    add_unit(bytes, code > 0xFFFF ? 0xDC00U + (code & 0x3FFU) : code, high_first);
+  }
+  return bytes;
 }
 
 std::string axmXmlTables::shape_of(Node const& top)

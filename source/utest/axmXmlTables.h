@@ -22,6 +22,9 @@ struct Taken
 // is what stands in a document type. It ends after a number of nodes that no check comes near.
 std::string shape_of(axmUtestAccess::Node const& top);
 
+// In UTF-16 with a mark at the beginning; what declares another encoding or is no UTF-8 stays as it is.
+std::string in_utf16(std::string const& text, bool high_first);
+
 // Whether the document is loaded with no error and with that shape, from memory and from a file, in other encodings, with
 // other quotes and line ends, with its content in an entity, with validation that has no schema, and saved and loaded again; if not, it
 // is told.

@@ -16,7 +16,9 @@
 #include <algorithm>
 #include <cstdlib>
 #include <sstream>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace
 {
@@ -266,11 +268,8 @@ std::vector<Check> run_rules_until_seen(Factory const& factory)
     [&](utUnitTest& tester, Recorder const& recorder)
     {
       UpToFailure const listener(recorder.checks);
-      axmSchemaUtest(&tester).run_tests(factory);
-      axmXPathUtest(&tester).run_tests(factory);
-      axmSearchUtest(&tester, axmModelUtest::default_seed, more_rounds).run_tests(factory);
-      axmLoadUtest(&tester).run_tests(factory);
-      axmXmlUtest(&tester).run_tests(factory);
+      run_tables(tester, factory);
+      run_classes(tester, factory, "axmSearchUtest", "axmModelUtest", more_rounds);
       run_fixed(tester, factory);
     });
 }

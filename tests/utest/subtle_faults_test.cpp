@@ -78,7 +78,7 @@ TEST(faults, those_of_schemas_and_searches_that_show_in_combinations_only_are_se
 
 TEST(faults, those_of_what_was_the_weakest_are_seen)
 {
-  expect_seen(outside_fourth_faults(), run_until_seen);
+  expect_seen(outside_fourth_faults(), run_rules_until_seen);
 }
 
 // Each engine uses one freedom of every operation, so that few are enough.
