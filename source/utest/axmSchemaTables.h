@@ -59,7 +59,7 @@ bool is_judged(utUnitTest& tester, axmDocumentFactory const& factory, axmLoadOpt
   std::string const& text, bool is_valid);
 
 // Whether every document is loaded or fails as it must; if not, it is told. The same where schema and documents are in a
-// namespace, by themselves, included and, from files, imported, unless a document says xmlns= or the schema speaks of namespaces or
+// namespace, by themselves and from files, included and imported, unless a document says xmlns= or the schema speaks of namespaces or
 // global attributes; and where the type of an element v, if it is a simple one, is that of an attribute.
 bool is_kept(utUnitTest& tester, axmDocumentFactory const& factory, Rule const& rule);
 

@@ -110,6 +110,7 @@ char const* const refused_element_declarations[] = {
 };
 
 Taken const taken_attribute_declarations[] = {
+  {"<!DOCTYPE r [<!ATTLIST r a CDATA '1'><!ATTLIST r a CDATA '2'>]><r/>", "<r a='1'></r>"},
   {"<!DOCTYPE r [<!ATTLIST r>]><r/>", "<r></r>"},
   {"<!DOCTYPE r [<!ATTLIST r >]><r/>", "<r></r>"},
   {"<!DOCTYPE r [<!ATTLIST r a CDATA #IMPLIED>]><r/>", "<r></r>"},
