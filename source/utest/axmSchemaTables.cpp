@@ -281,17 +281,17 @@ std::vector<std::string> in_attributes(std::vector<std::string> const& documents
   return found;
 }
 
-// The values of elements v that are plain text, with a comment and the begin of a section in their middle.
+// The values of elements v that are plain text, with a comment, an instruction and a section in their middle.
 std::vector<std::string> in_pieces(std::vector<std::string> const& documents)
 {
   std::vector<std::string> found;
   for (std::string const& text : documents)
   {
-    bool const is_plain = text.size() > 8 && text.compare(0, 3, "<v>") == 0 &&
-                          text.find_first_of("<&]>", 3) == text.size() - 4 && text[5] > 0 && text[4] > 0;
+    bool const is_plain = text.size() > 9 && text.compare(0, 3, "<v>") == 0 &&
+                          text.find_first_of("<&]>", 3) == text.size() - 4 && text[4] > 0 && text[5] > 0 && text[6] > 0;
     if (is_plain)
-      found.push_back(text.substr(0, 4) + "<!--1-->" + text.substr(4, 1) + "<![CDATA[" +
-                      text.substr(5, text.size() - 9) + "]]><?p 1?></v>");
+      found.push_back(text.substr(0, 4) + "<!--1-->" + text.substr(4, 1) + "<?p 1?>" + text.substr(5, 1) + "<![CDATA[" +
+                      text.substr(6, text.size() - 10) + "]]></v>");
   }
   return found;
 }

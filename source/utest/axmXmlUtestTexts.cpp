@@ -61,7 +61,7 @@ std::vector<std::string> sequences()
       for (char const second : {'\x80', '\x8F', '\x90', '\x9F', '\xA0', '\xBF', '\xC0'})
         found.push_back(begin + second);
     else if (begin.size() < 4)
-      for (char const next : {'\x80', '\xBF'})
+      for (char const next : {'\x80', '\xAF', '\xBF'})
         found.push_back(begin + next);
   }
   return found;

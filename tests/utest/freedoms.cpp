@@ -207,23 +207,6 @@ std::string with_short_declaration(std::string const& text)
                                                                   : text;
 }
 
-// Columns in the units of UTF-16.
-void count_in_halves(std::string const& text, axmParseError& error)
-{
-  std::size_t begin = 0;
-  for (int line = 1; line < error.line_number() && begin != std::string::npos; ++line)
-    begin = std::min(text.find('\n', begin), text.size()) + 1;
-  int units = 0;
-  int more = 0;
-  for (std::size_t at = begin; at < text.size() && units < error.column_number() - 1; ++at)
-  {
-    bool const is_long = static_cast<unsigned char>(text[at]) >= 0xF0;
-    units += (static_cast<unsigned char>(text[at]) & 0xC0) != 0x80 ? 1 : 0;
-    more += is_long ? 1 : 0;
-  }
-  error.set_column_number(error.column_number() + more);
-}
-
 // A replacement of an attribute by itself replaces nothing.
 class MapWithoutRepeats : public MapAs
 {
@@ -380,21 +363,6 @@ std::vector<Fault> const& freedoms()
           if (apString::from_utf8(data.to_utf8().c_str()) != data && data.find(apString(L"\0", 1)) < 0)
             return nullptr;
           return d->createComment(data);
-        };
-      }},
-    {"loadDocument", "columns are counted in halves of characters",
-      [](Hooks& h)
-      {
-        h.load_bytes =
-          [](Factory const& factory, apByteArray const& data, axmLoadOptions const& options, axmParseError& error)
-        {
-          Document const document = factory->loadDocument(data, options, error);
-          std::string const text = text_of(data);
-          bool const is_plain = text.find_first_of(std::string("\r\0", 2)) == std::string::npos &&
-                                text.find("encoding") == std::string::npos;
-          if (document == nullptr && error.url().empty() && is_plain)
-            count_in_halves(text, error);
-          return document;
         };
       }},
     {"set_attribute", "a name that is none is told of",
