@@ -262,8 +262,8 @@ bool comes_back(Factory const& factory, apString const& text)
   {
     return attribute_of(element, APSTRING("k")) == text && attribute_of(element, APSTRING("l")) == text &&
            value_of(child_of(element, 0)) == text && value_of(child_of(element, 1)) == text &&
-           text_of(element) == text && name_of(child_of(element, 0)) == APSTRING("#text") &&
-           name_of(child_of(element, 1)) == APSTRING("#comment");
+           text_of(element) == text && name_of(first_of(element)) == APSTRING("#text") &&
+           name_of(next_of(first_of(element))) == APSTRING("#comment");
   };
   return holds(root) && holds(saved_and_loaded(factory, document));
 }
