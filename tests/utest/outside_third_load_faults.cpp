@@ -255,7 +255,7 @@ std::vector<Fault> const& outside_third_load_faults()
       [](Hooks& h) { accept_as(h, by_rule("<\\?(XML|Xml|xML|XmL)\\s[^?]*\\?>", "")); }},
     {"loadDocument", "a parameter entity may stand in the text of an entity",
       [](Hooks& h) { accept_as(h, by_rule("(<!ENTITY \\w+ \"[^\"%]*)%\\w+;", "$1")); }},
-    {"loadDocument", "an element may begin in an entity and end after it",
+    {"loadDocument", "an element of any name may begin in an entity and end after it",
       [](Hooks& h) { accept_as(h, by_rule("(<!ENTITY \\w+ \")<(\\w+)>\">([^\\0]*)</\\2>", "$1\">$3")); }},
     {"loadDocument", "an entity whose text is a smaller sign may stand in an attribute",
       [](Hooks& h) { accept_as(h, by_rule("(<!ENTITY \\w+ \")(<|&#60;|&#x3C;|&#x3c;)\"", "$1&#38;#60;\"")); }},
