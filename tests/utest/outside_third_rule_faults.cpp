@@ -228,7 +228,7 @@ std::vector<Fault> const& outside_third_search_faults()
       [](Hooks& h)
       {
         search_as(h, by_rule(L"string-length\\(\\) *= *1\\b",
-                       L"string-length() = 1 and not(contains(., '\x10437') or contains(., '\x1F600'))"));
+                       L"string-length() = 1 and not(contains(., '\U00010437') or contains(., '\U0001F600'))"));
       }},
     {"selectNodes", "a variable of any name is an empty text",
       [](Hooks& h) { search_as(h, by_rule(L"\\$\\w+", L"''")); }},
