@@ -37,7 +37,7 @@ public:
   {
     apString const& name = random.one_of(names);
     apString const value(std::to_string(random.below(1000)).c_str());
-    switch (random.below(5))
+    switch (random.below(6))
     {
     case 0:
     case 1:
@@ -49,6 +49,9 @@ public:
     case 3:
       element->removeAttribute(name);
       promised.erase(name);
+      return;
+    case 4:
+      move();
       return;
     default:
       map->removeNamedItem(name);
@@ -90,6 +93,16 @@ public:
   }
 
 private:
+  // Into the document or out of it, which its attributes do not notice.
+  void move()
+  {
+    Node const parent = element->getParentNode();
+    if (parent == nullptr)
+      document->getDocumentElement()->appendChild(element);
+    else
+      parent->removeChild(element);
+  }
+
   std::shared_ptr<axmDocument> const document;
   std::vector<apString> const names;
   std::shared_ptr<axmElement> const element;
@@ -350,10 +363,7 @@ bool do_others_stay(axmDocumentFactory const& factory, std::string const& taken,
   }
   return true;
 }
-}
 
-namespace
-{
 // Whether the elements below a root with attributes that have a meaning for what is in it have none of them.
 bool are_own(axmDocumentFactory const& factory)
 {

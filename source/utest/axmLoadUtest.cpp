@@ -13,6 +13,7 @@
 
 #include <utUnitTest.h>
 
+#include <algorithm>
 #include <cctype>
 #include <climits>
 #include <cstdio>
@@ -868,31 +869,37 @@ char const* const with_lines[] = {"<?xml version='1.0'\n?><r>", "<?xml\nversion\
   "<r>a\nb\n\nc", "<r>a\n&#10;b&#13;c\n", "<r>&amp;\n&lt;\n", "<r><![CDATA[\na\n]]>\n", "<r><!--\na\n-->\n",
   "<r><?p\nq\n?>\n", "<r><a>\n<b>\n</b>\n</a>\n"};
 
+// The beginning with such line ends and quotes, and in its last line an error.
+std::string with_error(std::string const& beginning, std::string const& line_end, char quote)
+{
+  std::string text;
+  for (char const character : beginning + "\n")
+    text += character == '\n' ? line_end : std::string(1, character == '\'' ? quote : character);
+  return text + "</wrong>";
+}
+
 // Whether an error in the line after each of them is told there, with every kind of line end and of quotes.
 bool are_lines_counted(utUnitTest& tester, Factory const& factory)
 {
   bool are_right = true;
-  for (char const* const beginning : with_lines)
+  auto const try_one = [&](std::string const& text, int line)
+  {
+    for (Load const& load : {load_of(factory, text), load_of_file(factory, text)})
+    {
+      int const told = load.error.line_number();
+      if (fails(load) && (told == -1 || told == line))
+        continue;
+      tester.printf("line %d, not %d: %s", told, line, axmModelText::quoted(apString(text.c_str()).view()).c_str());
+      are_right = false;
+    }
+  };
+  for (std::string const beginning : with_lines)
+  {
+    int const line = 2 + static_cast<int>(std::count(beginning.begin(), beginning.end(), '\n'));
     for (char const* const line_end : {"\n", "\r\n", "\r"})
       for (char const quote : {'\'', '"'})
-      {
-        std::string text;
-        int line = 1;
-        for (char const character : std::string(beginning) + "\n")
-        {
-          line += character == '\n' ? 1 : 0;
-          text += character == '\n' ? std::string(line_end) : std::string(1, character == '\'' ? quote : character);
-        }
-        text += "</wrong>";
-        for (Load const& load : {load_of(factory, text), load_of_file(factory, text)})
-        {
-          int const told = load.error.line_number();
-          if (fails(load) && (told == -1 || told == line))
-            continue;
-          tester.printf("line %d, not %d: %s", told, line, axmModelText::quoted(apString(text.c_str()).view()).c_str());
-          are_right = false;
-        }
-      }
+        try_one(with_error(beginning, line_end, quote), line);
+  }
   return are_right;
 }
 }

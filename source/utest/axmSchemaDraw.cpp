@@ -180,26 +180,43 @@ std::vector<Rule> axmSchemaDraw::contents()
   return rules;
 }
 
+namespace
+{
+constexpr unsigned members_of_all = 4;
+
+// A group of all of the elements from a on, in which those may be missing whose bit is set.
+std::string written_all(unsigned optional, bool may_be_empty)
+{
+  std::string text = may_be_empty ? "<xs:all minOccurs='0'>" : "<xs:all>";
+  for (unsigned index = 0; index < members_of_all; ++index)
+    text += std::string("<xs:element name='") + static_cast<char>('a' + index) +
+            ((optional >> index & 1U) != 0 ? "' minOccurs='0'/>" : "'/>");
+  return text + "</xs:all>";
+}
+
+bool is_row_of_all(std::string const& row, unsigned optional)
+{
+  for (unsigned index = 0; index < members_of_all; ++index)
+  {
+    auto const count = std::count(row.begin(), row.end(), static_cast<char>('a' + index));
+    if (count > 1 || (count == 0 && (optional >> index & 1U) == 0))
+      return false;
+  }
+  return true;
+}
+}
+
 std::vector<Rule> axmSchemaDraw::groups_of_all()
 {
+  std::vector<std::string> const every_row = rows('d');
   std::vector<Rule> rules;
   for (unsigned optional = 0; optional < 16; optional += 5)
     for (bool const may_be_empty : {false, true})
     {
-      std::string inside;
-      for (unsigned index = 0; index < 4; ++index)
-        inside += std::string("<xs:element name='") + static_cast<char>('a' + index) +
-                  ((optional >> index & 1U) != 0 ? "' minOccurs='0'/>" : "'/>");
-      Rule rule{root_of((may_be_empty ? "<xs:all minOccurs='0'>" : "<xs:all>") + inside + "</xs:all>"), {}, {}};
-      for (std::string const& row : rows('d'))
+      Rule rule{root_of(written_all(optional, may_be_empty)), {}, {}};
+      for (std::string const& row : every_row)
       {
-        bool is_valid = true;
-        for (unsigned index = 0; index < 4; ++index)
-        {
-          auto const count = std::count(row.begin(), row.end(), static_cast<char>('a' + index));
-          is_valid = is_valid && count <= 1 && (count == 1 || (optional >> index & 1U) != 0);
-        }
-        is_valid = is_valid || (row.empty() && may_be_empty);
+        bool const is_valid = is_row_of_all(row, optional) || (row.empty() && may_be_empty);
         (is_valid ? rule.valid : rule.invalid).push_back(document_of(row));
       }
       rules.push_back(rule);

@@ -146,6 +146,10 @@ Question const questions_0[] = {
   {Kind::nodes, "//@*[lang('en')][name()='kind']", "kind=x"},
   {Kind::nodes, "//*[lang('')]", ""},
   {Kind::number, "number(' -12.5 ')", "-12.5"},
+  {Kind::number, "number('1 ')", "1"},
+  {Kind::number, "number(' 1')", "1"},
+  {Kind::number, "number('1\t')", "1"},
+  {Kind::number, "number('1\n\r ')", "1"},
   {Kind::number, "number('.5')", "0.5"},
   {Kind::number, "number('5.')", "5"},
   {Kind::number, "number('\t\r\n7\n')", "7"},
@@ -473,6 +477,9 @@ Question const questions_4[] = {
   {Kind::nodes, "preceding-sibling::node()", "#comment=before"},
   {Kind::nodes, "following::node()", ""},
   {Kind::nodes, "//@x/ancestor::*", "a#1 d#4"},
+  {Kind::nodes, "//@x/ancestor::*[1]", "d#4"},
+  {Kind::nodes, "//@x/ancestor::*[2]", "a#1"},
+  {Kind::nodes, "//@x/ancestor::node()[last()]", "#document"},
   {Kind::nodes, "//@x/ancestor-or-self::node()[2]", "d#4"},
   {Kind::nodes, "//@y/preceding-sibling::node()", ""},
   {Kind::nodes, "//@x/child::node()", ""},
@@ -1157,42 +1164,50 @@ std::string labels_in(std::shared_ptr<axmNodeList> const& list)
   return labels;
 }
 
-std::string answer_to(axmElement& root, Question const& question)
+// The nodes that the expression selects, and what is not so in other forms of it.
+std::string nodes_of(axmElement& root, std::string const& expression)
+{
+  apString const path(expression.c_str());
+  auto const list = root.selectNodes(path);
+  auto const single = root.selectSingleNode(path);
+  std::string const first = label_of(single);
+  std::string const labels = labels_in(list);
+  bool const agree =
+    (single != nullptr) == (length_of(list) > 0) && (single == nullptr || same(single, item_of(list, 0)));
+  if (!agree)
+    return labels + ", but " + first + " as the single node";
+  std::string const whole = "(" + expression + ")";
+  for (std::string const& other : {whole, " \t" + whole + "\r\n", whole + "|" + whole, "/..|" + expression})
+    if (labels_in(root.selectNodes(apString(other.c_str()))) != labels)
+      return labels + ", but not for " + other;
+  Node const nearest = root.selectSingleNode(apString((whole + "[1]").c_str()));
+  return label_of(nearest) == first ? labels : labels + ", but not the first one for " + whole + "[1]";
+}
+
+// What holds if the expression, which selects no nodes, is what is promised.
+std::string condition_of(Question const& question)
 {
   std::string const expression = question.expression;
   std::string const promised = question.answer;
-  std::string condition = expression;
-  if (question.kind == Kind::nodes)
-  {
-    apString const path(question.expression);
-    auto const list = root.selectNodes(path);
-    auto const single = root.selectSingleNode(path);
-    std::string const first = label_of(single);
-    std::string const labels = labels_in(list);
-    bool const agree =
-      (single != nullptr) == (length_of(list) > 0) && (single == nullptr || same(single, item_of(list, 0)));
-    if (!agree)
-      return labels + ", but " + first + " as the single node";
-    std::string const whole = "(" + expression + ")";
-    for (std::string const& other : {whole, " \t" + whole + "\r\n", whole + "|" + whole, "/..|" + expression})
-      if (labels_in(root.selectNodes(apString(other.c_str()))) != labels)
-        return labels + ", but not for " + other;
-    Node const nearest = root.selectSingleNode(apString((whole + "[1]").c_str()));
-    return label_of(nearest) == first ? labels : labels + ", but not the first one for " + whole + "[1]";
-  }
+  if (question.kind == Kind::boolean)
+    return expression;
   if (question.kind == Kind::string)
   {
     char const* const quote = promised.find('"') == std::string::npos ? "\"" : "'";
-    condition = "concat(" + expression + ", '|') = " + quote + promised + "|" + quote;
+    return "concat(" + expression + ", '|') = " + quote + promised + "|" + quote;
   }
-  if (question.kind == Kind::number)
-  {
-    bool const is_number = promised != "NaN";
-    std::string const infinity = promised == "-Infinity" ? "-1 div 0" : "1 div 0";
-    bool const is_infinite = promised.find("Infinity") != std::string::npos;
-    condition = is_number ? "(" + expression + ") = " + (is_infinite ? infinity : promised)
-                          : "string(" + expression + ") = 'NaN'";
-  }
+  if (promised == "NaN")
+    return "string(" + expression + ") = 'NaN'";
+  std::string const infinity = promised == "-Infinity" ? "-1 div 0" : "1 div 0";
+  bool const is_infinite = promised.find("Infinity") != std::string::npos;
+  return "(" + expression + ") = " + (is_infinite ? infinity : promised);
+}
+
+std::string answer_to(axmElement& root, Question const& question)
+{
+  if (question.kind == Kind::nodes)
+    return nodes_of(root, question.expression);
+  std::string const condition = condition_of(question);
   auto const is_found = [&root](std::string const& text)
   { return length_of(root.selectNodes(apString(text.c_str()))) == 1; };
   bool const holds = is_found("self::node()[" + condition + "]");
@@ -1202,7 +1217,7 @@ std::string answer_to(axmElement& root, Question const& question)
       return "something else for " + other;
   if (question.kind == Kind::boolean)
     return holds ? "true" : "false";
-  return holds ? promised : std::string("something else");
+  return holds ? question.answer : "something else";
 }
 
 template <std::size_t Count>

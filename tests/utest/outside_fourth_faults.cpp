@@ -40,6 +40,23 @@ void validate_none_of(Hooks& hooks, char const* part)
     });
 }
 
+// Of an element that has a parent now and had none, or the other way round, it is empty.
+class MapOfOnePlace : public MapAs
+{
+public:
+  MapOfOnePlace(Map const& given_map, Node const& given)
+    : MapAs(given_map),
+      element(given),
+      parent(given->getParentNode())
+  {
+  }
+  int getLength() override { return element->getParentNode() == parent ? MapAs::getLength() : 0; }
+
+private:
+  Node const element;
+  Node const parent;
+};
+
 bool is_empty_text(Node const& node)
 {
   return node != nullptr && is_text(node) && node->getNodeValue().empty();
@@ -199,6 +216,19 @@ std::vector<Fault> const& outside_fourth_faults()
           return result;
         };
         h.owner = [taken](Node const& n) { return same(taken->first, n) ? nullptr : n->getOwnerDocument(); };
+      }},
+    {"selectNodes", "the first ancestor of an attribute is the outermost",
+      [](Hooks& h) { search_as(h, by_rule(L"(@\\w+/ancestor::\\*)\\[1\\]", L"$1[last()]")); }},
+    {"selectNodes", "a number with a blank after it is none",
+      [](Hooks& h) { search_as(h, by_rule(L"number\\('1 '\\)", L"number('')")); }},
+    {"getAttributes", "a map that is held while its element moves is empty",
+      [](Hooks& h)
+      {
+        h.attributes = [](Node const& node)
+        {
+          Map const map = node->getAttributes();
+          return map == nullptr ? map : std::make_shared<MapOfOnePlace>(map, node);
+        };
       }},
   };
   return faults;
