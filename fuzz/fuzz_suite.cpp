@@ -47,11 +47,12 @@ public:
   void ended(char const*) override {}
 
 private:
-  // Whether its documents are of a size that is not for a fuzzer.
+  // Whether its documents are too large or too many for a fuzzer.
   bool is_long() const
   {
     static constexpr std::string_view names[] = {"axmLoadUtest::test_large_documents", "axmLoadUtest::test_saved_sizes",
-      "axmModelUtest::test_long_texts", "axmModelUtest::test_many_children", "axmXPathUtest::test_many_nodes",
+      "axmModelUtest::test_long_texts", "axmModelUtest::test_many_children", "axmModelUtest::test_neighbours",
+      "axmSchemaUtest::test_contents", "axmXPathUtest::test_many_nodes", "axmXmlUtest::test_texts",
       "axmContractUtest::test_live_maps"};
     return std::find(std::begin(names), std::end(names), wanted) != std::end(names);
   }
