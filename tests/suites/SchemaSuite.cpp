@@ -220,10 +220,12 @@ SchemaResult run_schema_suite(std::vector<SchemaTest> const& tests, KnownExcepti
 
   for (std::size_t i = 0; i < tests.size(); ++i)
   {
-    if (found[i].empty())
-      continue;
     SchemaTest const& test = tests[i];
     auto const reason = known.find(test.name);
+    if (found[i].empty() && reason != known.end())
+      result.outdated.push_back(test.name);
+    if (found[i].empty())
+      continue;
     result.unexplained += reason == known.end() ? 1 : 0;
     disagreements << (test.instance.empty() ? "schema" : "instance") << '\t' << test.set << '\t' << test.name << '\t'
                   << (test.valid ? "valid" : "invalid") << '\t' << joined(test.schemas) << '\t' << test.instance << '\t'

@@ -49,6 +49,13 @@ apString lower_case(apString const& text)
   return apString(std::wstring_view(result));
 }
 
+apString written(double value, int digits)
+{
+  char text[40];
+  std::snprintf(text, sizeof text, "%.*g", digits, value);
+  return apString(text);
+}
+
 bool is_element(Node const& node)
 {
   return std::dynamic_pointer_cast<axmElement>(node) != nullptr;

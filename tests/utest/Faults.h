@@ -63,6 +63,9 @@ apString trimmed(apString const& text);
 
 apString lower_case(apString const& text);
 
+// With so many digits.
+apString written(double value, int digits);
+
 bool is_element(Node const& node);
 bool is_text(Node const& node);
 

@@ -269,6 +269,11 @@ bool is_attribute(Node const& node)
          !is<axmProcessingInstruction>(node);
 }
 
+bool is_empty_text(Node const& node)
+{
+  return node != nullptr && is_text(node) && node->getNodeValue().empty();
+}
+
 bool has(apString const& text, std::wstring_view part)
 {
   return text.view().find(part) != std::wstring_view::npos;

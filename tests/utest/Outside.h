@@ -15,6 +15,7 @@ using WideChange = std::function<std::wstring(std::wstring text)>;
 bool same(Node const& left, Node const& right);
 bool is_child(Node const& parent, Node const& child);
 bool is_attribute(Node const& node);
+bool is_empty_text(Node const& node);
 bool has(apString const& text, std::wstring_view part);
 std::vector<Node> children_of(Node const& node);
 std::vector<apString> names_of_attributes(Element const& element);

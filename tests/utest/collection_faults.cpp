@@ -118,24 +118,10 @@ public:
   }
 };
 
-class MapOver : public axmNamedNodeMap
+class Snapshot : public MapAs
 {
 public:
-  explicit MapOver(Map given) : inner(std::move(given)) {}
-  int getLength() override { return inner->getLength(); }
-  Node item(int index) override { return inner->item(index); }
-  Node getNamedItem(apString const& name) override { return inner->getNamedItem(name); }
-  Node removeNamedItem(apString const& name) override { return inner->removeNamedItem(name); }
-  Node setNamedItem(Node node) override { return inner->setNamedItem(node); }
-
-protected:
-  Map const inner;
-};
-
-class Snapshot : public MapOver
-{
-public:
-  explicit Snapshot(Map const& given) : MapOver(given)
+  explicit Snapshot(Map const& given) : MapAs(given)
   {
     for (int index = 0; index < given->getLength(); ++index)
       items.push_back(given->item(index));
@@ -154,136 +140,136 @@ private:
   std::vector<Node> items;
 };
 
-class OneAttributeShort : public MapOver
+class OneAttributeShort : public MapAs
 {
 public:
-  using MapOver::MapOver;
-  int getLength() override { return std::max(inner->getLength() - 1, 0); }
+  using MapAs::MapAs;
+  int getLength() override { return std::max(map->getLength() - 1, 0); }
 };
 
-class CountStays : public MapOver
+class CountStays : public MapAs
 {
 public:
-  explicit CountStays(Map const& given) : MapOver(given), count(given->getLength()) {}
-  int getLength() override { return std::max(count, inner->getLength()); }
-  Node item(int index) override { return index < inner->getLength() ? inner->item(index) : nullptr; }
+  explicit CountStays(Map const& given) : MapAs(given), count(given->getLength()) {}
+  int getLength() override { return std::max(count, map->getLength()); }
+  Node item(int index) override { return index < map->getLength() ? map->item(index) : nullptr; }
 
 private:
   int count;
 };
 
-class AlwaysTheFirst : public MapOver
+class AlwaysTheFirst : public MapAs
 {
 public:
-  using MapOver::MapOver;
-  Node item(int) override { return inner->item(0); }
+  using MapAs::MapAs;
+  Node item(int) override { return map->item(0); }
 };
 
-class ItemsAreMissing : public MapOver
+class ItemsAreMissing : public MapAs
 {
 public:
-  using MapOver::MapOver;
+  using MapAs::MapAs;
   Node item(int) override { return nullptr; }
 };
 
-class AnyCase : public MapOver
+class AnyCase : public MapAs
 {
 public:
-  using MapOver::MapOver;
+  using MapAs::MapAs;
   Node getNamedItem(apString const& name) override
   {
-    for (int index = 0; index < inner->getLength(); ++index)
-      if (lower_case(inner->item(index)->getNodeName()) == lower_case(name))
-        return inner->item(index);
+    for (int index = 0; index < map->getLength(); ++index)
+      if (lower_case(map->item(index)->getNodeName()) == lower_case(name))
+        return map->item(index);
     return nullptr;
   }
 };
 
-class AbsentIsTheFirst : public MapOver
+class AbsentIsTheFirst : public MapAs
 {
 public:
-  using MapOver::MapOver;
+  using MapAs::MapAs;
   Node getNamedItem(apString const& name) override
   {
-    Node const found = inner->getNamedItem(name);
-    return found == nullptr && inner->getLength() > 0 ? inner->item(0) : found;
+    Node const found = map->getNamedItem(name);
+    return found == nullptr && map->getLength() > 0 ? map->item(0) : found;
   }
 };
 
-class FindsNothing : public MapOver
+class FindsNothing : public MapAs
 {
 public:
-  using MapOver::MapOver;
+  using MapAs::MapAs;
   Node getNamedItem(apString const&) override { return nullptr; }
 };
 
-class SetReturnsTheNewNode : public MapOver
+class SetReturnsTheNewNode : public MapAs
 {
 public:
-  using MapOver::MapOver;
+  using MapAs::MapAs;
   Node setNamedItem(Node node) override
   {
-    inner->setNamedItem(node);
+    map->setNamedItem(node);
     return node;
   }
 };
 
-class SetReturnsNothing : public MapOver
+class SetReturnsNothing : public MapAs
 {
 public:
-  using MapOver::MapOver;
+  using MapAs::MapAs;
   Node setNamedItem(Node node) override
   {
-    inner->setNamedItem(node);
+    map->setNamedItem(node);
     return nullptr;
   }
 };
 
-class SetKeepsTheOldNode : public MapOver
+class SetKeepsTheOldNode : public MapAs
 {
 public:
-  using MapOver::MapOver;
+  using MapAs::MapAs;
   Node setNamedItem(Node node) override
   {
-    Node const found = inner->getNamedItem(node->getNodeName());
-    return found != nullptr ? found : inner->setNamedItem(node);
+    Node const found = map->getNamedItem(node->getNodeName());
+    return found != nullptr ? found : map->setNamedItem(node);
   }
 };
 
-class SetAddsNothing : public MapOver
+class SetAddsNothing : public MapAs
 {
 public:
-  using MapOver::MapOver;
-  Node setNamedItem(Node node) override { return inner->getNamedItem(node->getNodeName()); }
+  using MapAs::MapAs;
+  Node setNamedItem(Node node) override { return map->getNamedItem(node->getNodeName()); }
 };
 
-class RemoveRemovesNothing : public MapOver
+class RemoveRemovesNothing : public MapAs
 {
 public:
-  using MapOver::MapOver;
-  Node removeNamedItem(apString const& name) override { return inner->getNamedItem(name); }
+  using MapAs::MapAs;
+  Node removeNamedItem(apString const& name) override { return map->getNamedItem(name); }
 };
 
-class RemoveReturnsNothing : public MapOver
+class RemoveReturnsNothing : public MapAs
 {
 public:
-  using MapOver::MapOver;
+  using MapAs::MapAs;
   Node removeNamedItem(apString const& name) override
   {
-    inner->removeNamedItem(name);
+    map->removeNamedItem(name);
     return nullptr;
   }
 };
 
-class RemoveTakesAll : public MapOver
+class RemoveTakesAll : public MapAs
 {
 public:
-  using MapOver::MapOver;
+  using MapAs::MapAs;
   Node removeNamedItem(apString const& name) override
   {
-    Node const removed = inner->removeNamedItem(name);
-    while (inner->getLength() > 0)
-      inner->removeNamedItem(inner->item(0)->getNodeName());
+    Node const removed = map->removeNamedItem(name);
+    while (map->getLength() > 0)
+      map->removeNamedItem(map->item(0)->getNodeName());
     return removed;
   }
 };

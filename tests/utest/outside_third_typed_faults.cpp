@@ -5,7 +5,6 @@
 #include <climits>
 #include <clocale>
 #include <cmath>
-#include <cstdio>
 #include <string_view>
 
 namespace
@@ -107,17 +106,6 @@ std::vector<Fault> const& outside_third_typed_faults()
           return is_read;
         };
       }},
-    {"get_attribute", "zero below zero is above it",
-      [](Hooks& h)
-      {
-        h.get_double = [](Node const& n, apString const& name, double& value)
-        {
-          bool const is_read = n->get_attribute(name, value);
-          if (is_read && value == 0)
-            value = 0;
-          return is_read;
-        };
-      }},
     {"get_attribute", "a bool may have a plus",
       [](Hooks& h)
       {
@@ -181,11 +169,7 @@ std::vector<Fault> const& outside_third_typed_faults()
       [](Hooks& h)
       {
         h.set_locale = [](Node const& n, apString const& name, double value)
-        {
-          char text[64];
-          std::snprintf(text, sizeof text, "%.15g", value);
-          return n->set_attribute(name, apString(text));
-        };
+        { return n->set_attribute(name, written(value, 15)); };
       }},
     {"set_attribute", "an infinity below zero is written without its sign",
       [](Hooks& h)

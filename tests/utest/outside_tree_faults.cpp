@@ -13,11 +13,6 @@
 
 namespace
 {
-bool is_empty_text(Node const& node)
-{
-  return node != nullptr && is_text(node) && node->getNodeValue().empty();
-}
-
 apString after_colon(apString const& name)
 {
   return apString(name.view().substr(name.view().find(L':') + 1));

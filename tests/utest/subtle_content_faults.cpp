@@ -690,21 +690,13 @@ std::vector<Fault> const& subtle_content_faults()
       [](Hooks& h)
       {
         h.set_double = [](Node const& n, apString const& name, double value)
-        {
-          char text[40];
-          std::snprintf(text, sizeof text, "%.15g", value);
-          return n->set_attribute(name, apString(text));
-        };
+        { return n->set_attribute(name, written(value, 15)); };
       }},
     {"set_attribute", "a double has seventeen digits",
       [](Hooks& h)
       {
         h.set_double = [](Node const& n, apString const& name, double value)
-        {
-          char text[40];
-          std::snprintf(text, sizeof text, "%.17g", value);
-          return n->set_attribute(name, apString(text));
-        };
+        { return n->set_attribute(name, written(value, 17)); };
       }},
     {"set_attribute", "minus zero loses its sign",
       [](Hooks& h)
